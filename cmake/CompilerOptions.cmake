@@ -1,0 +1,25 @@
+# Warnings for our own code, and the sanitizers for all of it.
+add_library(plix_options INTERFACE)
+
+if(MSVC)
+    target_compile_options(plix_options INTERFACE /W4 /permissive- /utf-8 /EHsc)
+    if(PLIX_WARNINGS_AS_ERRORS)
+        target_compile_options(plix_options INTERFACE /WX)
+    endif()
+else()
+    target_compile_options(plix_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align)
+    if(PLIX_WARNINGS_AS_ERRORS)
+        target_compile_options(plix_options INTERFACE -Werror)
+    endif()
+endif()
+target_compile_definitions(plix_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
+
+if(PLIX_SANITIZE)
+    # Every object of the build, Yoga included: a fault in a callback of ours
+    # may show only there.
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

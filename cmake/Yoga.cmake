@@ -1,0 +1,55 @@
+# Yoga, the layout engine, as the target `plix_yoga`.
+#
+# An installed `yoga` CMake package is preferred. Otherwise the sources come
+# out of the npm package that carries them, pinned by version and checksum,
+# and are unpacked into build/cache, shared by all presets.
+add_library(plix_yoga INTERFACE)
+
+find_package(yoga CONFIG QUIET)
+if(yoga_FOUND)
+    target_link_libraries(plix_yoga INTERFACE yoga::yogacore)
+    return()
+endif()
+
+set(PLIX_YOGA_PACKAGE react-native)
+set(PLIX_YOGA_VERSION 0.88.1)
+string(CONCAT PLIX_YOGA_SHA512
+    c1a8d670b67ddc608dee4e14c21e024b82f6021f2885cbe43979ef2189a1e18b
+    eeaa1a398f700f67daa8ccafa742b1d64a06aeab887c0f71cde4328af384ab1c)
+set(PLIX_CACHE_DIR ${PROJECT_SOURCE_DIR}/build/cache CACHE PATH "Where downloaded sources are kept")
+set(yoga_dir ${PLIX_CACHE_DIR}/yoga-${PLIX_YOGA_VERSION})
+set(yoga_subdir package/ReactCommon/yoga)
+
+# Unpacks into a scratch folder and moves it into place last, so that an
+# interrupted run is not taken for a finished one.
+function(plix_fetch_yoga)
+    find_program(NPM npm REQUIRED)
+    set(scratch ${yoga_dir}.part)
+    file(REMOVE_RECURSE ${scratch})
+    file(MAKE_DIRECTORY ${scratch})
+    message(STATUS "Fetching Yoga (${PLIX_YOGA_PACKAGE} ${PLIX_YOGA_VERSION})")
+    execute_process(
+        COMMAND ${NPM} pack --silent ${PLIX_YOGA_PACKAGE}@${PLIX_YOGA_VERSION}
+        WORKING_DIRECTORY ${scratch}
+        OUTPUT_VARIABLE archive OUTPUT_STRIP_TRAILING_WHITESPACE
+        COMMAND_ERROR_IS_FATAL ANY)
+    set(archive ${scratch}/${PLIX_YOGA_PACKAGE}-${PLIX_YOGA_VERSION}.tgz)
+    file(SHA512 ${archive} sum)
+    if(NOT sum STREQUAL PLIX_YOGA_SHA512)
+        message(FATAL_ERROR "${archive} has the SHA-512 ${sum}, not the pinned one")
+    endif()
+    file(ARCHIVE_EXTRACT INPUT ${archive} DESTINATION ${scratch} PATTERNS ${yoga_subdir}/*)
+    file(REMOVE ${archive})
+    file(RENAME ${scratch} ${yoga_dir})
+endfunction()
+
+if(NOT EXISTS ${yoga_dir}/${yoga_subdir}/yoga/Yoga.h)
+    plix_fetch_yoga()
+endif()
+
+add_subdirectory(${yoga_dir}/${yoga_subdir}/yoga ${PROJECT_BINARY_DIR}/yoga EXCLUDE_FROM_ALL SYSTEM)
+# Its own build asks for link-time optimisation and warnings as errors: the one
+# would bring our objects' link to a crawl, the other breaks on new compilers.
+set_target_properties(yogacore PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF)
+target_compile_options(yogacore PRIVATE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX-,-Wno-error>)
+target_link_libraries(plix_yoga INTERFACE yogacore)

@@ -1,0 +1,58 @@
+# Sourced by ./run and ./test: from a bare Debian 12 to a built preset.
+# Says what it does on stderr; stdout belongs to the command itself.
+
+readonly PLIX_PACKAGES=(
+    g++ cmake ninja-build ca-certificates
+    qtbase5-dev libjsoncpp-dev libgtest-dev
+    fonts-dejavu-core fonts-dejavu-extra fonts-noto-cjk fonts-noto-color-emoji)
+
+say() { printf '%s\n' "$*" >&2; }
+
+# Prints those of the named packages that are not installed.
+missing_packages() {
+    local package
+    for package in "$@"; do
+        dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed ||
+            printf '%s\n' "$package"
+    done
+}
+
+install_packages() {
+    local missing
+    mapfile -t missing < <(missing_packages "$@")
+    ((${#missing[@]})) || return 0
+    say "Installing ${missing[*]}"
+    {
+        apt-get update -q
+        DEBIAN_FRONTEND=noninteractive apt-get install -qy --no-install-recommends "${missing[@]}"
+    } >&2
+}
+
+# Any npm will do, to fetch Yoga with; Debian's is installed where there is none.
+install_npm() {
+    command -v npm >/dev/null || install_packages npm
+}
+
+# build_preset PRESET: configures where that was not done yet, and builds what
+# has changed.
+build_preset() {
+    local preset=$1 dir=$root/build/$1
+    install_packages "${PLIX_PACKAGES[@]}"
+    if [[ ! -e $dir/build.ninja ]]; then
+        [[ -e $root/build/cache ]] || install_npm
+        say "Configuring $preset"
+        (cd "$root" && cmake --preset "$preset") >&2
+    fi
+    # Quiet when there is nothing to do.
+    ninja -C "$dir" -n 2>/dev/null | grep -q 'no work to do' || {
+        say "Building $preset"
+        cmake --build "$dir" >&2
+    }
+}
+
+# The surroundings in which pictures and measures are the same everywhere.
+use_fixed_surroundings() {
+    export QT_QPA_PLATFORM=offscreen
+    export FONTCONFIG_FILE=$root/build/$1/fonts.conf
+    export LC_ALL=C.UTF-8
+}
