@@ -1,0 +1,117 @@
+#include "layout/PlixStyleValues.h"
+
+#include "layout/PlixKeywordTable.h"
+
+#include <QString>
+
+namespace {
+
+using Pixels = PlixKeyword<int>;
+
+constexpr std::array kLengths =
+    std::to_array<Pixels>({{"xs", 2}, {"sm", 4}, {"md", 8}, {"lg", 12}, {"xl", 16}, {"xxl", 20}});
+
+constexpr std::array kCornerRadii =
+    std::to_array<Pixels>({{"xs", 1}, {"sm", 2}, {"md", 3}, {"lg", 4}, {"xl", 5}, {"xxl", 6}});
+
+constexpr std::array kBorderWidths = std::to_array<Pixels>(
+    {{"light", 1}, {"normal", 2}, {"medium", 3}, {"semibold", 4}, {"bold", 5}});
+
+constexpr std::array kImageSizes = std::to_array<PlixKeyword<float>>({{"xxs", 40},
+                                                                      {"xs", 60},
+                                                                      {"sm", 80},
+                                                                      {"md", 100},
+                                                                      {"lg", 120},
+                                                                      {"xl", 140},
+                                                                      {"xxl", 160},
+                                                                      {"3xl", 180},
+                                                                      {"4xl", 200},
+                                                                      {"5xl", 220},
+                                                                      {"full", kFullImageWidth}});
+
+constexpr int kDefaultSpacer = 8;
+constexpr float kDefaultImageSize = 100;
+constexpr int kNotGiven = -1;
+
+// The whole number left when every `unit` is taken out; 0 when none is left.
+int NumberWithout(const QString& unit, const std::string& text)
+{
+    QString number = QString::fromStdString(text);
+    return number.remove(unit, Qt::CaseInsensitive).toInt();
+}
+
+int PixelNumber(const std::string& text)
+{
+    return NumberWithout(QStringLiteral("px"), text);
+}
+
+template <std::size_t Size>
+int WordOrPixels(const std::array<Pixels, Size>& words, const std::string& text, int whenEmpty)
+{
+    if (text.empty())
+        return whenEmpty;
+    const auto word = FindKeyword(words, text);
+    return word ? *word : PixelNumber(text);
+}
+
+} // namespace
+
+int ToLengthPixels(const std::string& text)
+{
+    return WordOrPixels(kLengths, text, 0);
+}
+
+int ToPercent(const std::string& text)
+{
+    return NumberWithout(QStringLiteral("%"), text);
+}
+
+void ParseLength(const std::string& text, PlixLength& length)
+{
+    if (text.empty()) {
+        length = PlixLength();
+        return;
+    }
+    length.px = ToLengthPixels(text);
+    if (length.px == 0)
+        length.percent = ToPercent(text);
+}
+
+int ToSpacingPixels(const std::string& text)
+{
+    return FindKeyword(kLengths, text).value_or(0);
+}
+
+int ToCornerRadius(const std::string& text)
+{
+    return WordOrPixels(kCornerRadii, text, kNotGiven);
+}
+
+int ToBorderWidth(const std::string& text)
+{
+    return WordOrPixels(kBorderWidths, text, kNotGiven);
+}
+
+int ToSpacerPixels(const std::string& text)
+{
+    return FindKeyword(kLengths, text).value_or(kDefaultSpacer);
+}
+
+float ToImageSize(const std::string& text)
+{
+    return FindKeyword(kImageSizes, text).value_or(kDefaultImageSize);
+}
+
+QColor ToColor(const std::string& text)
+{
+    const QString name = QString::fromLatin1(text.c_str());
+    return QColor::isValidColor(name) ? QColor(name) : QColor();
+}
+
+std::string ToAlphaFirst(const std::string& color)
+{
+    constexpr std::size_t kLength = 9;
+    if (color.size() != kLength)
+        return color;
+    return std::string().append(1, '#').append(color, 7, 2).append(color, 1, 6);
+}

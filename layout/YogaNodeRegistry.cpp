@@ -1,0 +1,24 @@
+#include "layout/YogaNodeRegistry.h"
+
+YogaNodeRegistry& YogaNodeRegistry::GetInstance()
+{
+    // Never destroyed: items of a host may go after static objects.
+    static auto* const instance = new YogaNodeRegistry;
+    return *instance;
+}
+
+void YogaNodeRegistry::Add(YGNodeConstRef node, YogaLayoutItem* item)
+{
+    items_[node] = item;
+}
+
+void YogaNodeRegistry::Remove(YGNodeConstRef node)
+{
+    items_.erase(node);
+}
+
+YogaLayoutItem* YogaNodeRegistry::Find(YGNodeConstRef node) const
+{
+    const auto found = items_.find(node);
+    return found == items_.end() ? nullptr : found->second;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <yoga/Yoga.h>
+
+#include <map>
+
+class YogaLayoutItem;
+
+// Finds the item of a node, process-wide, for Yoga's callbacks and for walks
+// over the node tree. Holds every item that is a child of another.
+class YogaNodeRegistry {
+public:
+    static YogaNodeRegistry& GetInstance();
+
+    void Add(YGNodeConstRef node, YogaLayoutItem* item);
+    void Remove(YGNodeConstRef node);
+    // Null for a node that is not registered, and for no node.
+    YogaLayoutItem* Find(YGNodeConstRef node) const;
+
+private:
+    YogaNodeRegistry() = default;
+
+    std::map<YGNodeConstRef, YogaLayoutItem*> items_;
+};

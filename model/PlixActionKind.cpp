@@ -1,0 +1,15 @@
+#include "model/PlixActionKind.h"
+
+#include "layout/PlixKeywordTable.h"
+
+namespace {
+
+constexpr std::array kActionWords = std::to_array<PlixKeyword<PlixActionKind>>(
+    {{"uri", PlixActionUri}, {"message", PlixActionMessage}, {"postback", PlixActionPostback}});
+
+} // namespace
+
+PlixActionKind ToActionKind(const std::string& word)
+{
+    return FindKeyword(kActionWords, word).value_or(PlixActionNone);
+}

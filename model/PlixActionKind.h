@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+// What an action's "type" word asks for. Only actions of a known kind make a
+// text or an image clickable.
+enum PlixActionKind : int {
+    PlixActionNone = 0,
+    PlixActionMessage = 1,
+    PlixActionUri = 2,
+    PlixActionPostback = 3,
+};
+
+PlixActionKind ToActionKind(const std::string& word);

@@ -1,0 +1,70 @@
+#include "model/PlixDataBox.h"
+
+namespace {
+
+void ReadPadding(const std::string& text, PlixPadding& padding)
+{
+    if (text.empty()) {
+        padding.px = -1;
+        return;
+    }
+    padding.px = ToLengthPixels(text);
+    if (padding.px == 0)
+        padding.percent = ToPercent(text);
+}
+
+// Unlike other lengths, a box's size keeps what it has when given nothing.
+void ReadSize(const std::string& text, PlixLength& length)
+{
+    if (!text.empty())
+        ParseLength(text, length);
+}
+
+} // namespace
+
+PlixDataBox::PlixDataBox()
+    : PlixDataItemCommon(PlixKindBox)
+{
+}
+
+void PlixDataBox::SetWidth(const std::string& width)
+{
+    width_ = width;
+    ReadSize(width, widthLength_);
+}
+
+void PlixDataBox::SetHeight(const std::string& height)
+{
+    height_ = height;
+    ReadSize(height, heightLength_);
+}
+
+void PlixDataBox::SetPaddingAll(const std::string& padding)
+{
+    ReadPadding(padding, paddingAll_);
+}
+
+void PlixDataBox::SetPaddingTop(const std::string& padding)
+{
+    ReadPadding(padding, paddingTop_);
+}
+
+void PlixDataBox::SetPaddingBottom(const std::string& padding)
+{
+    ReadPadding(padding, paddingBottom_);
+}
+
+void PlixDataBox::SetPaddingStart(const std::string& padding)
+{
+    ReadPadding(padding, paddingStart_);
+}
+
+void PlixDataBox::SetPaddingEnd(const std::string& padding)
+{
+    ReadPadding(padding, padding.empty() ? paddingStart_ : paddingEnd_);
+}
+
+void PlixDataBox::SetContainer(std::shared_ptr<PlixDataContainer> container)
+{
+    container_ = std::move(container);
+}

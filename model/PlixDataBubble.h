@@ -1,0 +1,79 @@
+#pragma once
+
+#include "model/PlixDataContainer.h"
+#include "model/PlixDataItem.h"
+
+#include <array>
+#include <string>
+
+// How a zone is painted: the keys of "styles".
+struct PlixZoneStyle {
+    std::string backgroundColor;
+    bool separator = false;
+    std::string separatorColor;
+
+    void SetBackgroundColor(const std::string& color) { backgroundColor = color; }
+    void SetSeparator(bool on) { separator = on; }
+    void SetSeparatorColor(const std::string& color) { separatorColor = color; }
+};
+
+// The root of a card message.
+class PlixDataBubble : public PlixDataItem {
+public:
+    PlixDataBubble();
+
+    // A zone with its style, for walking all four in order.
+    struct Zone {
+        std::shared_ptr<PlixDataContainer> container;
+        const PlixZoneStyle& style;
+    };
+
+    int GetGrow() const override { return 0; }
+    // The root has no siblings.
+    void SetIndex(int) override { }
+    int GetIndex() const override { return 0; }
+
+    // Makes the four zones. Throws std::bad_weak_ptr when the bubble is not
+    // held by a shared pointer yet, since the zones hold it.
+    void InitZones();
+
+    std::string GetDirection() const { return direction_; }
+    void SetDirection(const std::string& direction) { direction_ = direction; }
+    bool IsRightToLeft() const { return direction_ == "rtl"; }
+
+    std::string GetSize() const { return size_; }
+    void SetSize(const std::string& size) { size_ = size; }
+
+    std::shared_ptr<PlixDataHeader> GetHeader() const { return header_; }
+    std::shared_ptr<PlixDataHero> GetHero() const { return hero_; }
+    std::shared_ptr<PlixDataBody> GetBody() const { return body_; }
+    std::shared_ptr<PlixDataFooter> GetFooter() const { return footer_; }
+    // Header, hero, body, footer; the containers are null before InitZones.
+    std::array<Zone, 4> GetZones() const;
+
+    PlixZoneStyle& GetHeaderStyle() { return headerStyle_; }
+    PlixZoneStyle& GetHeroStyle() { return heroStyle_; }
+    PlixZoneStyle& GetBodyStyle() { return bodyStyle_; }
+    PlixZoneStyle& GetFooterStyle() { return footerStyle_; }
+
+    // The card's width by its size word; looked up once, except for the
+    // default width, which is also the mark for "not looked up yet".
+    float GetWidth();
+
+    // The inset of the zones, and that of the body's bottom.
+    float GetSizeSpacing() const;
+    float GetFooterSpacing() const;
+
+private:
+    std::string direction_;
+    std::string size_;
+    float width_;
+    std::shared_ptr<PlixDataHeader> header_;
+    std::shared_ptr<PlixDataHero> hero_;
+    std::shared_ptr<PlixDataBody> body_;
+    std::shared_ptr<PlixDataFooter> footer_;
+    PlixZoneStyle headerStyle_;
+    PlixZoneStyle heroStyle_;
+    PlixZoneStyle bodyStyle_;
+    PlixZoneStyle footerStyle_;
+};

@@ -1,0 +1,27 @@
+#include "model/PlixDataImage.h"
+
+#include "layout/PlixStyleValues.h"
+
+namespace {
+
+constexpr float kDefaultSize = 100;
+
+} // namespace
+
+PlixDataImage::PlixDataImage()
+    : PlixDataItemCommon(PlixKindImage)
+    , sizePixels_(kDefaultSize)
+{
+}
+
+float PlixDataImage::GetSizePixels()
+{
+    if (sizePixels_ == kDefaultSize)
+        sizePixels_ = ToImageSize(size_);
+    return sizePixels_;
+}
+
+PlixDataIcon::PlixDataIcon()
+    : PlixDataItemCommon(PlixKindIcon)
+{
+}

@@ -1,0 +1,29 @@
+#include "model/PlixDataItemCommon.h"
+
+#include "model/PlixDataBox.h"
+#include "model/PlixDataTree.h"
+
+PlixDataItemCommon::~PlixDataItemCommon() = default;
+
+int PlixDataItemCommon::GetGrow() const
+{
+    return growIsDefault_ && IsInVerticalBox(*this) ? 0 : grow_;
+}
+
+void PlixDataItemCommon::SetGrow(int grow)
+{
+    grow_ = grow;
+    growIsDefault_ = false;
+}
+
+bool PlixDataItemCommon::IsAbsolute() const
+{
+    std::shared_ptr<PlixDataItem> parent;
+    for (const PlixDataItemCommon* item = this; item;
+         item = dynamic_cast<const PlixDataItemCommon*>(parent.get())) {
+        if (item->position_ == "absolute")
+            return true;
+        parent = item->GetParent();
+    }
+    return false;
+}

@@ -1,0 +1,6 @@
+#include "model/PlixDataText.h"
+
+PlixDataText::PlixDataText()
+    : PlixDataItemCommon(PlixKindText)
+{
+}

@@ -1,0 +1,23 @@
+#include "model/PlixItemKind.h"
+
+#include "layout/PlixKeywordTable.h"
+
+namespace {
+
+constexpr std::array kTypeWords =
+    std::to_array<PlixKeyword<PlixItemKind>>({{"bubble", PlixKindBubble},
+                                              {"box", PlixKindBox},
+                                              {"image", PlixKindImage},
+                                              {"text", PlixKindText},
+                                              {"filler", PlixKindFiller},
+                                              {"separator", PlixKindSeparator},
+                                              {"icon", PlixKindIcon},
+                                              {"spacer", PlixKindSpacer},
+                                              {"button", PlixKindButton}});
+
+} // namespace
+
+PlixItemKind ToItemKind(const std::string& word)
+{
+    return FindKeyword(kTypeWords, word).value_or(PlixKindNone);
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+// The kinds of data items. The numbers key the factories and the reader.
+enum PlixItemKind : int {
+    PlixKindNone = 0,
+    PlixKindBubble = 1,
+    PlixKindImage = 2,
+    PlixKindBox = 3,
+    PlixKindText = 4,
+    PlixKindIcon = 5,
+    PlixKindButton = 6,
+    PlixKindSpacer = 7,
+    PlixKindFiller = 8,
+    PlixKindSeparator = 9,
+};
+
+// The kind that a "type" word names, PlixKindNone for any other word.
+PlixItemKind ToItemKind(const std::string& word);

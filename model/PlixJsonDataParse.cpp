@@ -1,0 +1,147 @@
+#include "model/PlixJsonDataParse.h"
+
+#include "api/PlixDataMgr.h"
+#include "api/PlixLog.h"
+#include "model/PlixJsonTables.h"
+
+#include <json/reader.h>
+
+namespace {
+
+// Runs the body of a Parse operation; what it throws ends that operation only.
+template <typename Body> int Guarded(const char* operation, Body body)
+{
+    try {
+        body();
+        return 0;
+    } catch (const std::exception& error) {
+        LogFailure(std::string("PlixJsonDataParse::") + operation, error);
+        return -1;
+    }
+}
+
+// What every component's Parse operation does with its table.
+template <typename Item, std::size_t Size>
+int ParseComponent(const char* operation, const std::array<PlixJsonKey<Item>, Size>& keys,
+                   PlixJsonDataParse& parse, const Json::Value& node,
+                   const std::shared_ptr<PlixDataItem>& item)
+{
+    return Guarded(operation, [&] { ReadKeys(keys, parse, node, dynamic_cast<Item&>(*item)); });
+}
+
+} // namespace
+
+PlixJsonDataParse::PlixJsonDataParse()
+    : parseTable_ {{PlixKindImage, &PlixJsonDataParse::ParseImage},
+                   {PlixKindBox, &PlixJsonDataParse::ParseBox},
+                   {PlixKindText, &PlixJsonDataParse::ParseText},
+                   {PlixKindIcon, &PlixJsonDataParse::ParseIcon},
+                   {PlixKindButton, &PlixJsonDataParse::ParseButton},
+                   {PlixKindSpacer, &PlixJsonDataParse::ParseSpacer},
+                   {PlixKindFiller, &PlixJsonDataParse::ParseFiller},
+                   {PlixKindSeparator, &PlixJsonDataParse::ParseSeparator}}
+    , creater_(std::make_shared<PlixDataItemCreater>())
+{
+}
+
+int PlixJsonDataParse::Parse(const std::string& text, PlixDataMgr& root)
+{
+    int result = 0;
+    const int parsed = Guarded("Parse", [&] {
+        Json::Value node;
+        Json::Reader().parse(text, node);
+        if (TypeWord(node) != "bubble")
+            return;
+        root.SetMessageType("bubble");
+        result = ParseBubble(node, root.GetBubble());
+    });
+    return parsed == 0 ? result : parsed;
+}
+
+int PlixJsonDataParse::ParseBubble(const Json::Value& node,
+                                   const std::shared_ptr<PlixDataItem>& item)
+{
+    return Guarded("ParseBubble", [&] {
+        item->SetIndex(0);
+        ReadKeys(kBubbleKeys, *this, node, dynamic_cast<PlixDataBubble&>(*item));
+    });
+}
+
+int PlixJsonDataParse::ParseZone(const PlixJsonMember& zone,
+                                 const std::shared_ptr<PlixDataContainer>& container)
+{
+    return Guarded("ParseZone", [&] { AddComponent(RequireObject(zone), 0, *container); });
+}
+
+void PlixJsonDataParse::AddComponent(const Json::Value& node, int index,
+                                     PlixDataContainer& container)
+{
+    const int kind = ToItemKind(TypeWord(node));
+    const std::shared_ptr<PlixDataItem> item = creater_->Create(kind);
+    const auto operation = parseTable_.find(kind);
+    if (!item || operation == parseTable_.end())
+        return;
+    (this->*operation->second)(node, item);
+    item->SetIndex(index);
+    container.AddChild(item);
+}
+
+int PlixJsonDataParse::ParseBox(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
+{
+    return ParseComponent("ParseBox", kBoxKeys, *this, node, item);
+}
+
+int PlixJsonDataParse::ParseText(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
+{
+    return ParseComponent("ParseText", kTextKeys, *this, node, item);
+}
+
+int PlixJsonDataParse::ParseImage(const Json::Value& node,
+                                  const std::shared_ptr<PlixDataItem>& item)
+{
+    return ParseComponent("ParseImage", kImageKeys, *this, node, item);
+}
+
+int PlixJsonDataParse::ParseIcon(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
+{
+    return ParseComponent("ParseIcon", kIconKeys, *this, node, item);
+}
+
+int PlixJsonDataParse::ParseButton(const Json::Value& node,
+                                   const std::shared_ptr<PlixDataItem>& item)
+{
+    return ParseComponent("ParseButton", kButtonKeys, *this, node, item);
+}
+
+int PlixJsonDataParse::ParseSpacer(const Json::Value& node,
+                                   const std::shared_ptr<PlixDataItem>& item)
+{
+    return ParseComponent("ParseSpacer", kSpacerKeys, *this, node, item);
+}
+
+int PlixJsonDataParse::ParseFiller(const Json::Value& node,
+                                   const std::shared_ptr<PlixDataItem>& item)
+{
+    return ParseComponent("ParseFiller", kFillerKeys, *this, node, item);
+}
+
+int PlixJsonDataParse::ParseSeparator(const Json::Value& node,
+                                      const std::shared_ptr<PlixDataItem>& item)
+{
+    return ParseComponent("ParseSeparator", kSeparatorKeys, *this, node, item);
+}
+
+int PlixJsonDataParse::ParseAction(const PlixJsonMember& member, ST_ACTION& action)
+{
+    return Guarded("ParseAction",
+                   [&] { ReadKeys(kActionKeys, *this, RequireObject(member), action); });
+}
+
+int PlixJsonDataParse::ParseMultiLang(const PlixJsonMember& member, PlixLanguageMap& texts)
+{
+    return Guarded("ParseMultiLang", [&] {
+        const Json::Value& variants = RequireObject(member);
+        for (const std::string& code : variants.getMemberNames())
+            texts.texts[code] = ToString({code.c_str(), variants[code]});
+    });
+}

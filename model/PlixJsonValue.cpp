@@ -1,0 +1,103 @@
+#include "model/PlixJsonValue.h"
+
+#include <QString>
+
+namespace {
+
+// Short enough for a log line, cut between characters.
+std::string Quoted(const std::string& text)
+{
+    constexpr int kLongest = 40;
+    QString shown = QString::fromStdString(text);
+    if (shown.size() > kLongest) {
+        shown.truncate(shown.at(kLongest - 1).isHighSurrogate() ? kLongest - 1 : kLongest);
+        shown += QStringLiteral("...");
+    }
+    return '"' + shown.toStdString() + '"';
+}
+
+std::string Describe(const Json::Value& value)
+{
+    switch (value.type()) {
+    case Json::nullValue:
+        return "null";
+    case Json::booleanValue:
+        return value.asBool() ? "true" : "false";
+    case Json::intValue:
+    case Json::uintValue:
+    case Json::realValue:
+        return "the number " + value.asString();
+    case Json::stringValue:
+        return "the string " + Quoted(value.asString());
+    case Json::arrayValue:
+        return "an array";
+    case Json::objectValue:
+        return "an object";
+    }
+    return "an unknown value";
+}
+
+} // namespace
+
+PlixJsonTypeError::PlixJsonTypeError(const PlixJsonMember& member, const char* needed)
+    : std::runtime_error(Quoted(member.name) + " must be " + needed + ", but is "
+                         + Describe(member.value))
+{
+}
+
+std::string ToString(const PlixJsonMember& member)
+{
+    switch (member.value.type()) {
+    case Json::nullValue:
+        return {};
+    case Json::booleanValue:
+        return member.value.asBool() ? "true" : "false";
+    case Json::stringValue:
+        return member.value.asString();
+    default:
+        throw PlixJsonTypeError(member, "a string");
+    }
+}
+
+int ToInteger(const PlixJsonMember& member)
+{
+    const bool converts =
+        member.value.isNull() || member.value.isBool() || member.value.isNumeric();
+    if (!converts)
+        throw PlixJsonTypeError(member, "a whole number");
+    try {
+        return member.value.asInt();
+    } catch (const Json::Exception&) {
+        throw PlixJsonTypeError(member, "a whole number from -2147483648 to 2147483647");
+    }
+}
+
+bool ToBoolean(const PlixJsonMember& member)
+{
+    if (member.value.isString())
+        return !member.value.asString().empty();
+    if (member.value.isArray() || member.value.isObject())
+        return !member.value.empty();
+    return member.value.asBool();
+}
+
+const Json::Value& RequireObject(const PlixJsonMember& member)
+{
+    if (!member.value.isObject() && !member.value.isNull())
+        throw PlixJsonTypeError(member, "an object");
+    return member.value;
+}
+
+const Json::Value& RequireArray(const PlixJsonMember& member)
+{
+    if (!member.value.isArray() && !member.value.isNull())
+        throw PlixJsonTypeError(member, "an array");
+    return member.value;
+}
+
+std::string TypeWord(const Json::Value& node)
+{
+    if (!node.isObject() || !node["type"].isString())
+        return {};
+    return node["type"].asString();
+}
