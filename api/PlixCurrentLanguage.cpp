@@ -1,0 +1,21 @@
+#include "api/PlixCurrentLanguage.h"
+
+namespace {
+
+std::string& CurrentLanguage()
+{
+    static std::string language = "en";
+    return language;
+}
+
+} // namespace
+
+void SetCurrentLanguage(const std::string& language)
+{
+    CurrentLanguage() = language;
+}
+
+std::string GetCurrentLanguage()
+{
+    return CurrentLanguage();
+}

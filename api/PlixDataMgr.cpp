@@ -1,0 +1,242 @@
+#include "api/PlixDataMgr.h"
+
+#include "api/PlixLog.h"
+#include "layout/YogaLayoutItem.h"
+#include "model/PlixDataBox.h"
+#include "model/PlixDataBubble.h"
+#include "model/PlixDataTree.h"
+#include "model/PlixItemRegistry.h"
+#include "model/PlixJsonDataParse.h"
+#include "ui/PlixBubbleUI.h"
+#include "ui/PlixUICreater.h"
+
+namespace {
+
+constexpr double kFooterInset = 10;
+constexpr double kNoInset = -1;
+
+// The height that the first layout pass offers. It bounds what is measured
+// against a height; the second pass lets the card be as high as it needs.
+constexpr double kFirstPassHeight = 500;
+
+} // namespace
+
+PlixDataMgr::PlixDataMgr()
+    : bubble_(std::make_shared<PlixDataBubble>())
+{
+    bubble_->InitZones();
+}
+
+PlixDataMgr::~PlixDataMgr()
+{
+    // Once built, the data stays behind for the graphics items. Data that no
+    // graphics item knows goes with its controller.
+    const bool wasBuilt =
+        PlixItemRegistry::GetInstance().Find(PlixItemRegistry::KeyOf(bubble_.get())) != nullptr;
+    if (!wasBuilt)
+        DiscardDataTree(bubble_);
+}
+
+int PlixDataMgr::InitData(const std::string& json)
+{
+    return PlixJsonDataParse().Parse(json, *this);
+}
+
+QGraphicsItem* PlixDataMgr::GetRootItem() const
+{
+    return rootItem_.data();
+}
+
+void PlixDataMgr::CreateUI()
+{
+    try {
+        sideInset_ = bubble_->GetSizeSpacing();
+        bodyBottomInset_ = bubble_->GetFooterSpacing();
+        PlixBaseUI* root = CreateUIItem(bubble_, nullptr, nullptr);
+        if (!root)
+            return;
+        rootItem_ = root->GetGraphicsItem()->toGraphicsObject();
+        PlixBubbleUI* bubble = RootBubble();
+        if (!bubble)
+            return;
+        bubble->arrangeZones();
+        LayOut(*bubble);
+    } catch (const std::exception& error) {
+        LogFailure("PlixDataMgr::CreateUI", error);
+    }
+}
+
+void PlixDataMgr::LayOut(PlixBubbleUI& bubble)
+{
+    if (!rootLayout_) {
+        rootLayout_ = std::make_unique<YogaLayoutItem>(true);
+        rootLayout_->setOrientation(Qt::Vertical);
+        rootLayout_->addChild(&bubble);
+    }
+    rootLayout_->setLayoutDirection(Qt::LeftToRight);
+    YGUnit unit = YGUnitUndefined;
+    const double width = bubble.styleWidth(unit);
+    rootLayout_->setWidth(width);
+
+    rootLayout_->calculateLayout(width, kFirstPassHeight);
+    bubble.applyLayoutRecursive();
+    rootLayout_->calculateLayout();
+    bubble.applyLayoutRecursive();
+}
+
+PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
+                                      QGraphicsItem* parentItem, QGraphicsLayoutItem* parentLayout)
+{
+    data->SetAttributes(displayParam_);
+    PlixBaseUI* ui = PlixUICreater::GetInstance().Create(data->GetType(), parentItem, parentLayout,
+                                                         displayParam_);
+    if (!ui)
+        return nullptr;
+    const qlonglong key = PlixItemRegistry::GetInstance().Add(data);
+    ui->GetGraphicsItem()->setData(kDataItemRole, key);
+    // Children belong to their parent item; what is built without a parent, or
+    // fails half way, is nobody's yet.
+    std::unique_ptr<QGraphicsItem> unfinished(ui->GetGraphicsItem());
+    ui->SetOwner(this);
+    ui->SetClickFunc([this](ST_ACTION& action) { OnClick(action); });
+    ui->SetDownloadFunc([this](const std::string& url) { return DownloadFile(url); });
+    ui->SetFrom(from_);
+    ui->Init();
+
+    if (const auto* bubble = dynamic_cast<const PlixDataBubble*>(data.get()))
+        CreateZones(*bubble, *ui);
+    else if (const auto* box = dynamic_cast<const PlixDataBox*>(data.get()))
+        CreateBoxChildren(*box->GetContainer(), *ui);
+    unfinished.release();
+    return ui;
+}
+
+void PlixDataMgr::CreateZones(const PlixDataBubble& bubble, PlixBaseUI& bubbleUI)
+{
+    CreateZone(*bubble.GetHeader(), bubbleUI, sideInset_, sideInset_);
+    CreateZone(*bubble.GetHero(), bubbleUI, kNoInset, kNoInset);
+    CreateZone(*bubble.GetBody(), bubbleUI, sideInset_, bodyBottomInset_);
+    CreateZone(*bubble.GetFooter(), bubbleUI, kFooterInset, kFooterInset);
+}
+
+void PlixDataMgr::CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI, double insets,
+                             double bottomInset)
+{
+    for (const auto& data : zone.GetChildren()) {
+        PlixBaseUI* ui =
+            CreateUIItem(data, bubbleUI.GetGraphicsItem(), bubbleUI.GetChildParentLayout());
+        if (!ui)
+            continue;
+        YogaLayoutItem* node = ui->GetYogaItem();
+        if (!node->hasPadding())
+            node->setPaddings(insets, insets, insets, bottomInset);
+        node->applyPaddingToAbsoluteChildren();
+        bubbleUI.GetYogaItem()->addChild(node);
+    }
+}
+
+void PlixDataMgr::CreateBoxChildren(const PlixDataContainer& children, PlixBaseUI& boxUI)
+{
+    for (const auto& data : children.GetChildren()) {
+        PlixBaseUI* ui = CreateUIItem(data, boxUI.GetGraphicsItem(), boxUI.GetChildParentLayout());
+        if (ui)
+            boxUI.GetYogaItem()->addChild(ui->GetYogaItem());
+    }
+}
+
+PlixBubbleUI* PlixDataMgr::RootBubble() const
+{
+    return dynamic_cast<PlixBubbleUI*>(rootItem_.data());
+}
+
+int PlixDataMgr::ModifyHeight(int height)
+{
+    PlixBubbleUI* bubble = RootBubble();
+    if (!bubble)
+        return 0;
+    const int result = bubble->modifyHeight(height);
+    if (rootLayout_) {
+        rootLayout_->calculateLayout();
+        rootLayout_->applyLayoutRecursive();
+    }
+    return result;
+}
+
+void PlixDataMgr::RefreshLayout()
+{
+    const PlixBubbleUI* bubble = RootBubble();
+    if (!bubble || !rootLayout_)
+        return;
+    rootLayout_->calculateLayout(bubble->size().width(), bubble->size().height());
+    rootLayout_->applyLayoutRecursive();
+}
+
+void PlixDataMgr::SetBubbleBkColor(const std::string& color)
+{
+    if (PlixBubbleUI* bubble = RootBubble())
+        bubble->setBackgroundColor(color);
+}
+
+void PlixDataMgr::ResumeBubbleBkColor()
+{
+    if (PlixBubbleUI* bubble = RootBubble())
+        bubble->resumeBackgroundColor();
+}
+
+int PlixDataMgr::SetHighLightText(const std::list<std::string>& words)
+{
+    PlixBubbleUI* bubble = RootBubble();
+    if (!bubble)
+        return 0;
+    QStringList list;
+    for (const std::string& word : words)
+        list.append(QString::fromStdString(word));
+    return bubble->setHighlightText(list);
+}
+
+void PlixDataMgr::SetClickCallBack(PlixClickCallback callback, void* userData)
+{
+    clickCallBack_ = callback;
+    clickUserData_ = userData;
+}
+
+void PlixDataMgr::SetDownloadCallBack(PlixDownloadCallback callback, void* userData)
+{
+    downloadCallBack_ = callback;
+    downloadUserData_ = userData;
+}
+
+void PlixDataMgr::SetMentionHandleCallback(PlixMentionCallback callback, void* userData)
+{
+    mentionCallBack_ = callback;
+    mentionUserData_ = userData;
+}
+
+void PlixDataMgr::SetBotMentionHandleCallback(PlixBotMentionCallback callback, void* userData)
+{
+    botMentionCallBack_ = callback;
+    botMentionUserData_ = userData;
+}
+
+void PlixDataMgr::OnClick(ST_ACTION& action)
+{
+    if (clickCallBack_)
+        clickCallBack_(this, action, clickUserData_);
+}
+
+std::string PlixDataMgr::DownloadFile(const std::string& url)
+{
+    return downloadCallBack_ ? downloadCallBack_(this, url, downloadUserData_) : std::string();
+}
+
+void PlixDataMgr::OnMention(std::int64_t userNo)
+{
+    if (mentionCallBack_)
+        mentionCallBack_(userNo, mentionUserData_);
+}
+
+void PlixDataMgr::OnBotMention(std::int64_t userNo)
+{
+    if (botMentionCallBack_)
+        botMentionCallBack_(userNo, botMentionUserData_);
+}

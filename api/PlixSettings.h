@@ -1,0 +1,28 @@
+#pragma once
+
+#include <plix/Plix.h>
+
+#include <string>
+
+// The host's process-wide callbacks.
+class PlixSettings {
+public:
+    static PlixSettings& GetInstance();
+
+    // Null switches the feature off.
+    void SetMultiLangGetCallback(PlixMultiLangCallback callback);
+    void SetWiteLogCallback(PlixLogCallback callback);
+
+    // Passes `text` to the host as it stands. A log callback that throws is
+    // not allowed to disturb the work it is told about.
+    void WriteLog(const char* text) const noexcept;
+
+    // The host's wording for `key`, UTF-8; empty without a callback.
+    std::string GetMultiLangText(const std::string& key) const;
+
+private:
+    PlixSettings() = default;
+
+    PlixMultiLangCallback multiLangCallback_ = nullptr;
+    PlixLogCallback logCallback_ = nullptr;
+};

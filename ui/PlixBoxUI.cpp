@@ -1,0 +1,262 @@
+#include "ui/PlixBoxUI.h"
+
+#include "layout/PlixStyleValues.h"
+#include "model/PlixDataBox.h"
+#include "model/PlixDataTree.h"
+#include "ui/PlixContainer.h"
+#include "ui/PlixLeadingMargin.h"
+
+#include <QCursor>
+#include <QGraphicsSceneMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOptionGraphicsItem>
+
+#include <algorithm>
+
+namespace {
+
+// One padding given as a percentage, and how the node takes it.
+struct PercentPadding {
+    PlixPadding (PlixDataBox::*padding)() const;
+    void (YogaLayoutItem::*setPercent)(double);
+};
+
+constexpr PercentPadding kPercentPaddings[] = {
+    {&PlixDataBox::GetPaddingAll, &YogaLayoutItem::setPaddingPercent},
+    {&PlixDataBox::GetPaddingTop, &YogaLayoutItem::setPaddingTopPercent},
+    {&PlixDataBox::GetPaddingBottom, &YogaLayoutItem::setPaddingBottomPercent},
+    {&PlixDataBox::GetPaddingStart, &YogaLayoutItem::setPaddingLeftPercent},
+    {&PlixDataBox::GetPaddingEnd, &YogaLayoutItem::setPaddingRightPercent},
+};
+
+} // namespace
+
+PlixBoxUI::PlixBoxUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
+    : PlixWidgetUI(parent, parentLayout)
+{
+    setOrientation(Qt::Vertical);
+}
+
+bool PlixBoxUI::Init()
+{
+    const auto data = FindData<PlixDataBox>();
+    if (!data)
+        return false;
+    InitMouse(*data);
+    horizontal_ = data->IsHorizontal() || data->IsBaseline();
+    baseline_ = data->IsBaseline();
+    rightToLeft_ = IsInRightToLeftBubble(*data);
+    if (!data->GetBackgroundColor().empty())
+        setBackground(ToColor(data->GetBackgroundColor()));
+    cornerRadius_ = ToCornerRadius(data->GetCornerRadius());
+    grow_ = data->GetGrow();
+    setGrowFactor(grow_);
+    InitDirection(*data);
+    InitSize(*data);
+    InitBorder(*data);
+    InitPaddings(*data);
+    spacing_ = ToSpacingPixels(data->GetSpacing());
+    ApplyPlacement(IsInVerticalBox(*data));
+    InitPercentSize(*data);
+    setFlags(flags() | ItemClipsChildrenToShape | ItemClipsToShape);
+    return true;
+}
+
+void PlixBoxUI::InitMouse(const PlixDataBox& data)
+{
+    if (data.IsAppOnlyAction()) {
+        clickOwnedAbove_ = true;
+        actionSuppressed_ = true;
+    }
+    if (clickOwnedAbove_ || !data.GetAction()) {
+        setAcceptedMouseButtons(Qt::NoButton);
+        return;
+    }
+    hasOwnAction_ = true;
+    clickable_ = true;
+    setCursor(Qt::PointingHandCursor);
+}
+
+void PlixBoxUI::InitDirection(const PlixDataBox& data)
+{
+    if (data.IsBaseline()) {
+        setOrientation(Qt::Horizontal);
+        setAlignment(Qt::AlignBaseline, true);
+    } else if (data.IsHorizontal()) {
+        setOrientation(Qt::Horizontal);
+    } else {
+        setHeightAuto();
+    }
+}
+
+void PlixBoxUI::InitSize(const PlixDataBox& data)
+{
+    const double width = static_cast<double>(data.GetWidthLength().px);
+    const double height = static_cast<double>(data.GetHeightLength().px);
+    if (width >= 0) {
+        setWidth(width);
+        hasFixedWidth_ = true;
+    }
+    if (height >= 0)
+        setHeight(height);
+
+    const bool hasMainSize = horizontal_ ? width > 0 : height > 0;
+    if (hasMainSize)
+        setGrowFactor(0);
+    // Boxes that grow in a row share its free space from nothing, whatever
+    // they hold.
+    if (horizontal_ && grow_ > 0 && width <= 0 && !data.IsAbsolute()) {
+        setWidth(0);
+        hasFixedWidth_ = false;
+    }
+}
+
+void PlixBoxUI::InitBorder(const PlixDataBox& data)
+{
+    const int width = ToBorderWidth(data.GetBorderWidth());
+    if (width < 1 || data.GetBorderColor().empty())
+        return;
+    // The pen runs along the edge and loses its outer half to the clip.
+    border_.emplace(ToColor(data.GetBorderColor()), width + 1.0);
+    borderWidth_ = width;
+}
+
+void PlixBoxUI::InitPaddings(const PlixDataBox& data)
+{
+    const int all = data.GetPaddingAll().px;
+    if (all >= 0)
+        setPadding(all);
+    // Content stays clear of the border.
+    const auto edge = [&](const PlixPadding& padding) -> double {
+        if (padding.px >= 0)
+            return static_cast<double>(padding.px) + borderWidth_;
+        return all < 0 ? borderWidth_ : -1;
+    };
+    setPaddings(edge(data.GetPaddingStart()), edge(data.GetPaddingTop()),
+                edge(data.GetPaddingEnd()), edge(data.GetPaddingBottom()));
+    for (const PercentPadding& row : kPercentPaddings) {
+        const PlixPadding padding = (data.*row.padding)();
+        if (padding.px == 0 && padding.percent > 0)
+            (this->*row.setPercent)(padding.percent);
+    }
+}
+
+void PlixBoxUI::InitPercentSize(const PlixDataBox& data)
+{
+    if (data.GetWidthLength().percent > 0) {
+        setWidthPercent(static_cast<double>(data.GetWidthLength().percent));
+        setWidthIsPercent(true);
+    }
+    if (data.GetHeightLength().percent > 0)
+        setHeightPercent(static_cast<double>(data.GetHeightLength().percent));
+}
+
+void PlixBoxUI::SetClickFunc(const ClickFunc& func)
+{
+    clickFunc_ = func;
+}
+
+void PlixBoxUI::addChild(YogaLayoutItem* child)
+{
+    if (!child)
+        return;
+    if (!horizontal_)
+        StretchInColumn(child);
+    if (childCount() > 0 && spacing_ > 0)
+        ApplySpacing(*child);
+    if (baseline_)
+        child->setAlignment(Qt::AlignBaseline, horizontal_);
+    child->insetInto(*this);
+    if (hasOwnAction_)
+        child->setClickable(true);
+    if (cornerRadius_ > 0)
+        child->inheritCornerRadius(cornerRadius_);
+    YogaLayoutItem::addChild(child);
+}
+
+void PlixBoxUI::ApplySpacing(YogaLayoutItem& child)
+{
+    if (!child.hasMargin())
+        SetLeadingMargin(child, spacing_, !horizontal_, rightToLeft_);
+}
+
+int PlixBoxUI::setHighlightText(const QStringList& words)
+{
+    return HighlightChildren(*this, words);
+}
+
+void PlixBoxUI::setClickable(bool on)
+{
+    if (!on)
+        return;
+    setCursor(Qt::PointingHandCursor);
+    for (int i = 0; i < childCount(); ++i) {
+        if (YogaLayoutItem* child = childAt(i))
+            child->setClickable(true);
+    }
+}
+
+void PlixBoxUI::inheritCornerRadius(int radius)
+{
+    cornerRadius_ = std::max(cornerRadius_, radius);
+}
+
+void PlixBoxUI::setBackground(const QColor& color)
+{
+    background_.emplace(color, Qt::SolidPattern);
+    update();
+}
+
+void PlixBoxUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    // Qt delivers the release only to the item that took the press.
+    event->setAccepted(hasOwnAction_ && event->button() == Qt::LeftButton);
+}
+
+void PlixBoxUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    handleRelease(event);
+}
+
+void PlixBoxUI::handleRelease(QGraphicsSceneMouseEvent* event)
+{
+    if (clickOwnedAbove_)
+        return;
+    if (hasOwnAction_) {
+        if (event->button() == Qt::LeftButton)
+            DeliverClick();
+        return;
+    }
+    if (auto* box = dynamic_cast<PlixBoxUI*>(YogaLayoutItem::parentItem()))
+        box->handleRelease(event);
+}
+
+QPainterPath PlixBoxUI::OutlinePath(const QStyleOptionGraphicsItem& option) const
+{
+    QPainterPath path;
+    if (cornerRadius_ < 1) {
+        path.addRect(option.exposedRect);
+        return path;
+    }
+    const int half = static_cast<int>(size().height()) / 2;
+    const int radius = std::min(cornerRadius_, half);
+    path.addRoundedRect(rect(), radius, radius, Qt::AbsoluteSize);
+    return path;
+}
+
+void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*)
+{
+    if (!background_ && !border_)
+        return;
+    painter->save();
+    painter->setBrush(background_.value_or(QBrush(Qt::NoBrush)));
+    painter->setPen(border_.value_or(QPen(Qt::NoPen)));
+    painter->setRenderHint(QPainter::Antialiasing);
+    const QPainterPath path = OutlinePath(*option);
+    if (background_)
+        painter->fillPath(path, *background_);
+    if (border_)
+        painter->drawPath(path);
+    painter->restore();
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "ui/PlixWidgetUI.h"
+
+#include <QBrush>
+#include <QPen>
+
+#include <optional>
+
+class PlixDataBox;
+
+// A container that lays its children out in a column, in a row, or in a row
+// aligned on the texts' baselines.
+class PlixBoxUI : public PlixWidgetUI {
+    Q_OBJECT
+
+public:
+    explicit PlixBoxUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout = nullptr);
+
+    bool Init() override;
+    void SetClickFunc(const ClickFunc& func) override;
+
+    void addChild(YogaLayoutItem* child) override;
+    int setHighlightText(const QStringList& words) override;
+    // Shows that a click anywhere in the box leads somewhere; once on, stays.
+    void setClickable(bool on) override;
+    void inheritCornerRadius(int radius) override;
+
+    bool hasBackground() const { return background_.has_value(); }
+    void setBackground(const QColor& color);
+
+    // A click that a child did not want: delivers the box's action, or passes
+    // the event on to the box around it.
+    void handleRelease(QGraphicsSceneMouseEvent* event);
+
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+
+private:
+    void InitMouse(const PlixDataBox& data);
+    void InitDirection(const PlixDataBox& data);
+    void InitSize(const PlixDataBox& data);
+    void InitBorder(const PlixDataBox& data);
+    void InitPaddings(const PlixDataBox& data);
+    void InitPercentSize(const PlixDataBox& data);
+    void ApplySpacing(YogaLayoutItem& child);
+    QPainterPath OutlinePath(const QStyleOptionGraphicsItem& option) const;
+
+    bool clickOwnedAbove_ = false;
+    bool hasOwnAction_ = false;
+    std::optional<QBrush> background_;
+    bool horizontal_ = false;
+    bool baseline_ = false;
+    bool rightToLeft_ = false;
+    int grow_ = 0;
+    std::optional<QPen> border_;
+    int cornerRadius_ = -1;
+    int spacing_ = 0;
+    int borderWidth_ = 0;
+    bool hasFixedWidth_ = false;
+};

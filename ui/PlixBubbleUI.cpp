@@ -1,0 +1,155 @@
+#include "ui/PlixBubbleUI.h"
+
+#include "layout/PlixStyleValues.h"
+#include "model/PlixDataBubble.h"
+#include "ui/PlixBoxUI.h"
+#include "ui/PlixContainer.h"
+#include "ui/PlixSeparatorUI.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr char kOthersColor[] = "#F1F3F7";
+constexpr char kOwnColor[] = "#C0EAFC";
+constexpr int kFromMyself = 1;
+constexpr char kZoneSeparatorColor[] = "#CCCCCC";
+constexpr int kCornerRadius = 12;
+
+} // namespace
+
+PlixBubbleUI::PlixBubbleUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
+    : PlixWidgetUI(parent, parentLayout)
+    , background_(ToColor(kOthersColor), Qt::SolidPattern)
+{
+    setOrientation(Qt::Vertical);
+}
+
+bool PlixBubbleUI::Init()
+{
+    const auto data = FindData<PlixDataBubble>();
+    if (!data)
+        return false;
+    setWidth(data->GetWidth());
+    if (data->IsRightToLeft())
+        YogaLayoutItem::setLayoutDirection(Qt::RightToLeft);
+    setFlags(flags() | ItemClipsChildrenToShape | ItemClipsToShape);
+    return true;
+}
+
+void PlixBubbleUI::SetFrom(int from)
+{
+    from_ = from;
+    if (from_ == kFromMyself)
+        setBackgroundColor(kOwnColor);
+}
+
+void PlixBubbleUI::addChild(YogaLayoutItem* child)
+{
+    StretchInColumn(child);
+    YogaLayoutItem::addChild(child);
+}
+
+int PlixBubbleUI::setHighlightText(const QStringList& words)
+{
+    return HighlightChildren(*this, words);
+}
+
+void PlixBubbleUI::arrangeZones()
+{
+    const auto data = FindData<PlixDataBubble>();
+    if (!data)
+        return;
+    const PlixDataContainer* const header = data->GetHeader().get();
+    const PlixDataContainer* const body = data->GetBody().get();
+    int index = 0;
+    for (const PlixDataBubble::Zone& zone : data->GetZones()) {
+        const int items = zone.container ? ShownItems(*zone.container, index) : 0;
+        if (items == 0)
+            continue;
+        if (zone.container.get() == body)
+            bodyItem_ = childAt(index);
+        FillBackground(index, zone.style);
+        if (zone.container.get() != header && zone.style.separator && index > 0) {
+            InsertSeparator(index, zone.style);
+            ++index;
+        }
+        index += items;
+    }
+}
+
+int PlixBubbleUI::ShownItems(const PlixDataContainer& zone, int index) const
+{
+    int items = 0;
+    for (const auto& data : zone.GetChildren()) {
+        auto* const ui = dynamic_cast<PlixBaseUI*>(childAt(index + items));
+        if (!ui)
+            break;
+        const qlonglong key = ui->GetGraphicsItem()->data(kDataItemRole).toLongLong();
+        if (key == PlixItemRegistry::KeyOf(data.get()))
+            ++items;
+    }
+    return items;
+}
+
+void PlixBubbleUI::FillBackground(int index, const PlixZoneStyle& style)
+{
+    auto* const box = dynamic_cast<PlixBoxUI*>(childAt(index));
+    if (box && !box->hasBackground() && !style.backgroundColor.empty())
+        box->setBackground(ToColor(style.backgroundColor));
+}
+
+void PlixBubbleUI::InsertSeparator(int index, const PlixZoneStyle& style)
+{
+    auto* const separator = new PlixSeparatorUI(this);
+    separator->setColor(style.separatorColor.empty() ? kZoneSeparatorColor : style.separatorColor);
+    insertChild(separator, index);
+    separator->setWidthPercent(100);
+    separator->setHeight(1);
+}
+
+void PlixBubbleUI::setBackgroundColor(const std::string& color)
+{
+    background_.setColor(ToColor(color));
+    update();
+}
+
+void PlixBubbleUI::resumeBackgroundColor()
+{
+    setBackgroundColor(from_ == kFromMyself ? kOwnColor : kOthersColor);
+}
+
+int PlixBubbleUI::modifyHeight(int height)
+{
+    const double current = size().height();
+    if (current >= height)
+        return 0;
+    if (!bodyItem_)
+        return -1;
+    bodyItem_->setHeight(height - current + std::trunc(bodyItem_->layoutHeight()));
+    return 0;
+}
+
+QPainterPath PlixBubbleUI::shape() const
+{
+    const QRectF rect = boundingRect();
+    const int radius =
+        rect.height() < 2 * kCornerRadius ? static_cast<int>(rect.height() * 0.5) : kCornerRadius;
+    QPainterPath path;
+    path.addRoundedRect(rect, radius, radius, Qt::AbsoluteSize);
+    return path;
+}
+
+void PlixBubbleUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
+{
+    painter->save();
+    painter->setBrush(background_);
+    painter->setPen(Qt::NoPen);
+    const QRectF rect = boundingRect();
+    painter->drawRects(&rect, 1);
+    painter->restore();
+}

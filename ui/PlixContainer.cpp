@@ -1,0 +1,22 @@
+#include "ui/PlixContainer.h"
+
+#include "layout/YogaLayoutItem.h"
+
+void StretchInColumn(YogaLayoutItem* child)
+{
+    YGUnit unit = YGUnitUndefined;
+    const bool hasWidth = child->styleWidth(unit) >= 1; // not so for NaN, a width not set
+    if (!hasWidth && !child->widthIsPercent())
+        child->setWidthPercent(100);
+}
+
+int HighlightChildren(const YogaLayoutItem& parent, const QStringList& words)
+{
+    int found = -1;
+    for (int i = 0; i < parent.childCount(); ++i) {
+        YogaLayoutItem* const child = parent.childAt(i);
+        if (child && child->setHighlightText(words) >= 0)
+            found = 1;
+    }
+    return found;
+}

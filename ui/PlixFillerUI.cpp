@@ -1,0 +1,37 @@
+#include "ui/PlixFillerUI.h"
+
+#include "model/PlixDataLeaves.h"
+#include "model/PlixDataTree.h"
+
+namespace {
+
+constexpr double kThickness = 5;
+constexpr double kCollapsed = 1;
+
+} // namespace
+
+PlixFillerUI::PlixFillerUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
+    : PlixWidgetUI(parent, parentLayout)
+{
+}
+
+bool PlixFillerUI::Init()
+{
+    const auto data = FindData<PlixDataFiller>();
+    if (!data)
+        return false;
+    const std::shared_ptr<PlixDataBox> box = ParentBox(*data);
+    const bool inColumn = box && box->IsVertical();
+    const int grow = data->IsFlexDefault() && inColumn ? 0 : data->GetGrow();
+    if (inColumn) {
+        if (grow == 0)
+            setHeight(kCollapsed);
+        setWidth(kThickness);
+    } else if (box && box->IsHorizontal()) {
+        if (grow == 0)
+            setWidth(kCollapsed);
+        setHeight(kThickness);
+    }
+    setGrowFactor(grow);
+    return true;
+}

@@ -1,0 +1,421 @@
+#include "ui/text/PlixTextUI.h"
+
+#include "api/PlixCurrentLanguage.h"
+#include "api/PlixDataMgr.h"
+#include "api/PlixSettings.h"
+#include "layout/PlixStyleValues.h"
+#include "model/PlixActionKind.h"
+#include "model/PlixDataText.h"
+#include "model/PlixDataTree.h"
+#include "model/PlixLanguageText.h"
+#include "ui/PlixBoxUI.h"
+#include "ui/text/PlixTextFont.h"
+
+#include <kestro_control/KestroControlManager.h>
+#include <kestro_control/KestroControlSupport.h>
+
+#include <QCursor>
+#include <QFontMetrics>
+#include <QGraphicsSceneMouseEvent>
+#include <QTextCharFormat>
+#include <QTextDocument>
+#include <QTextFrame>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr char kOthersColor[] = "#767676";
+constexpr char kOwnColor[] = "#0087EE";
+constexpr int kFromMyself = 1;
+constexpr char kUnsupportedKey[] = "chat_room_check_on_mobile";
+
+// A box that is as wide as its content asks for. Its texts must not wait for
+// free space to grow into, since they are all that could make some.
+bool IsShrinkWrapped(const PlixDataBox& box)
+{
+    const std::shared_ptr<PlixDataBox> parent = ParentBox(box);
+    const bool stretches = !parent || parent->IsVertical();
+    const PlixLength width = box.GetWidthLength();
+    return !stretches && box.GetGrow() <= 0 && width.px <= 0 && width.percent <= 0;
+}
+
+bool HasKnownAction(const PlixDataItem& data)
+{
+    const std::shared_ptr<ST_ACTION> action = data.GetAction();
+    return action && ToActionKind(action->type) != PlixActionNone;
+}
+
+QTextOption::WrapMode ToWrapMode(int value)
+{
+    const bool known =
+        value >= QTextOption::NoWrap && value <= QTextOption::WrapAtWordBoundaryOrAnywhere;
+    return known ? static_cast<QTextOption::WrapMode>(value)
+                 : QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
+
+} // namespace
+
+PlixTextUI::PlixTextUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout,
+                       const PlixDisplayParam&)
+    : TextItem(parent, parentLayout)
+    , YogaLayoutItem(false)
+{
+    setGeometryTarget(this);
+    setHasMeasureFunc(true);
+    connect(this, &TextItem::MentionClicked, this, &PlixTextUI::OnMentionClicked);
+    connect(this, &TextItem::BotMentionClicked, this, &PlixTextUI::OnBotMentionClicked);
+}
+
+PlixDataMgr* PlixTextUI::Manager() const
+{
+    return dynamic_cast<PlixDataMgr*>(GetOwner());
+}
+
+bool PlixTextUI::Init()
+{
+    const auto data = FindData<PlixDataText>();
+    if (!data)
+        return false;
+    InitWrapMode();
+    SetElide(true);
+    document()->setDocumentMargin(0);
+    InitColor(*data);
+    InitAction(*data);
+    InitFont(*data);
+    const std::shared_ptr<PlixDataBox> box = ParentBox(*data);
+    baseline_ = box && box->IsBaseline();
+    wrap_ = data->GetWrap();
+    InitAlignment(*data);
+    InitGravity(*data);
+    InsertContent(*data);
+    InitWidth(*data);
+    if (data->GetPosition() == "absolute")
+        gravity_ = Gravity::Top;
+    ApplyPlacement(box && box->IsVertical());
+    setHasBaselineFunc(baseline_);
+    InitLines(*data);
+    return true;
+}
+
+void PlixTextUI::InitWrapMode()
+{
+    const PlixDataMgr* manager = Manager();
+    const PlixDisplayParam param = manager ? manager->GetDisplayParam() : PlixDisplayParam();
+    SetWrapMode(ToWrapMode(param.wrapMode));
+}
+
+void PlixTextUI::InitColor(const PlixDataText& data)
+{
+    if (!data.GetColor().empty())
+        setDefaultTextColor(ToColor(data.GetColor()));
+    else
+        setDefaultTextColor(ToColor(colorMode_ == kFromMyself ? kOwnColor : kOthersColor));
+}
+
+void PlixTextUI::InitAction(const PlixDataText& data)
+{
+    if (data.IsAppOnlyAction()) {
+        unsupported_ = true;
+        setAcceptedMouseButtons(Qt::NoButton);
+    } else if (!unsupported_ && HasKnownAction(data)) {
+        setClickable(true);
+    }
+}
+
+void PlixTextUI::InitFont(PlixDataText& data)
+{
+    QFont itemFont = font();
+    ApplyFontWords(itemFont, data.GetWeight(), data.GetDecoration(), data.GetStyle());
+    data.SetPixelSize(ToTextPixels(data.GetSize()));
+    itemFont.setPixelSize(data.GetPixelSize());
+    setFont(itemFont);
+}
+
+void PlixTextUI::InitAlignment(const PlixDataText& data)
+{
+    const std::shared_ptr<PlixDataBox> box = ParentBox(data);
+    const bool parentIsHorizontal = box && !box->IsVertical();
+    const bool rightToLeft = IsInRightToLeftBubble(data);
+    Qt::Alignment alignment = Qt::AlignLeft;
+    if (data.GetAlign() == "center") {
+        alignment = Qt::AlignHCenter;
+        YogaLayoutItem::setAlignment(Qt::AlignHCenter, parentIsHorizontal);
+    } else if (data.GetAlign() == "end") {
+        alignment = Qt::AlignRight;
+        YogaLayoutItem::setAlignment(Qt::AlignRight, parentIsHorizontal);
+    }
+    QTextOption option = document()->defaultTextOption();
+    option.setAlignment(alignment);
+    if (rightToLeft)
+        option.setTextDirection(Qt::RightToLeft);
+    document()->setDefaultTextOption(option);
+}
+
+void PlixTextUI::InitGravity(const PlixDataText& data)
+{
+    const std::shared_ptr<PlixDataBox> box = ParentBox(data);
+    const bool parentIsHorizontal = box && !box->IsVertical();
+    if (data.GetGravity() == "center") {
+        YogaLayoutItem::setAlignment(Qt::AlignVCenter, parentIsHorizontal);
+        gravity_ = Gravity::Center;
+    } else if (data.GetGravity() == "top") {
+        YogaLayoutItem::setAlignment(Qt::AlignTop, parentIsHorizontal);
+    } else if (data.GetGravity() == "bottom") {
+        YogaLayoutItem::setAlignment(Qt::AlignBottom, parentIsHorizontal);
+        gravity_ = Gravity::Bottom;
+    }
+}
+
+void PlixTextUI::InsertContent(const PlixDataText& data)
+{
+    if (unsupported_) {
+        ClearText();
+        InsertText(PlixSettings::GetInstance().GetMultiLangText(kUnsupportedKey));
+        return;
+    }
+    if (data.GetSpans().empty())
+        InsertText(ChooseText(data.GetTexts(), GetCurrentLanguage(), data.GetText()));
+    for (const PlixDataSpan& span : data.GetSpans())
+        InsertSpan(span);
+}
+
+void PlixTextUI::InsertSpan(const PlixDataSpan& span)
+{
+    const std::string source = ChooseText(span.GetTexts(), GetCurrentLanguage(), span.GetText());
+    QFont spanFont = font();
+    ApplyFontWords(spanFont, span.GetWeight(), span.GetDecoration(), span.GetStyle());
+    if (!span.GetSize().empty())
+        spanFont.setPixelSize(ToTextPixels(span.GetSize()));
+    QTextCharFormat format;
+    format.setFont(spanFont);
+    format.setForeground(span.GetColor().empty() ? defaultTextColor() : ToColor(span.GetColor()));
+    const bool vanishes = !source.empty() && QString::fromStdString(source).isEmpty();
+    InsertText(vanishes ? " " : source, &format);
+}
+
+void PlixTextUI::InsertText(const std::string& text, const QTextCharFormat* format)
+{
+    InsertRichText(QString::fromStdString(text), true, format);
+}
+
+void PlixTextUI::InitWidth(const PlixDataText& data)
+{
+    const int grow = data.GetGrow();
+    const std::shared_ptr<PlixDataBox> box = ParentBox(data);
+    const bool sharesRow =
+        box && !box->IsVertical() && grow >= 1 && !data.IsAbsolute() && !IsShrinkWrapped(*box);
+    if (sharesRow) {
+        setWidth(0);
+    } else if (box) {
+        // Layouts are rounded to whole pixels: a fraction lost there would
+        // cost the text its last word.
+        setWidth(std::ceil(boundingRect().width()));
+    } else {
+        setWidthPercent(100);
+        setWidthIsPercent(true);
+    }
+    setMaxWidthPercent(100);
+    setGrowFactor(grow);
+    markDirty();
+}
+
+void PlixTextUI::InitLines(const PlixDataText& data)
+{
+    if (data.GetSpans().empty()) {
+        maxLines_ = data.GetMaxLines();
+        if (maxLines_ > 0)
+            SetMaxLineCount(maxLines_);
+    }
+    if (!wrap_)
+        SetMaxLineCount(1);
+}
+
+void PlixTextUI::SetClickFunc(const ClickFunc& func)
+{
+    clickFunc_ = func;
+}
+
+void PlixTextUI::SetFrom(int from)
+{
+    colorMode_ = from;
+}
+
+void PlixTextUI::setClickable(bool on)
+{
+    if (!on)
+        return;
+    clickable_ = true;
+    setCursor(Qt::PointingHandCursor);
+    SetReadOnly(true);
+}
+
+void PlixTextUI::OnMentionClicked(qint64 userNo)
+{
+    if (PlixDataMgr* manager = Manager())
+        manager->OnMention(userNo);
+}
+
+void PlixTextUI::OnBotMentionClicked(qint64 userNo)
+{
+    if (PlixDataMgr* manager = Manager())
+        manager->OnBotMention(userNo);
+}
+
+void PlixTextUI::OnFontChanged()
+{
+    FontChanged();
+}
+
+void PlixTextUI::FontChanged()
+{
+    const KestroControlSupport* support =
+        KestroControlManager::GetInstance()->GetKestroControlSupport();
+    if (!IsUseFontBonding() || !support)
+        return;
+    QFont itemFont = font();
+    itemFont.setFamily(support->GetFontFamily());
+    setFont(itemFont);
+    updateGeometry();
+    markDirty();
+}
+
+double PlixTextUI::ParentInnerWidth() const
+{
+    const YogaLayoutItem* parent = YogaLayoutItem::parentItem();
+    const float width = parent ? parent->layoutWidth() : 0;
+    if (!(width > 0))
+        return 0;
+    return std::trunc(width) - std::trunc(parent->paddingLeft())
+        - std::trunc(parent->paddingRight());
+}
+
+QSizeF PlixTextUI::measure(double width, YGMeasureMode, double, YGMeasureMode)
+{
+    double offered = width;
+    const double inner = ParentInnerWidth();
+    if (inner > 0 && !(width <= inner))
+        width = inner;
+    SetFixedItemWidth(width);
+    if (std::isnan(width))
+        width = boundingRect().width();
+    if (wrap_) {
+        if (width != offered)
+            ChangeWidth(width);
+        if (width == 0)
+            setPlainText(QString());
+    }
+    return {width, std::trunc(boundingRect().height())};
+}
+
+void PlixTextUI::ChangeWidth(double width)
+{
+    YGUnit unit = YGUnitUndefined;
+    const bool isSame = styleWidth(unit) == static_cast<float>(width) && unit == YGUnitPoint;
+    if (isSame)
+        return;
+    setWidth(width);
+    if (YogaLayoutItem* parent = YogaLayoutItem::parentItem())
+        parent->setRelayoutPending();
+}
+
+float PlixTextUI::baseline(double, double)
+{
+    // Of the first line: taller glyphs than the font's own push it down.
+    return static_cast<float>(std::trunc(topOffset_ + FirstLineAscent()));
+}
+
+QSizeF PlixTextUI::sizeHint(Qt::SizeHint which, const QSizeF&) const
+{
+    const bool known =
+        which == Qt::MinimumSize || which == Qt::PreferredSize || which == Qt::MaximumSize;
+    return {-1, known ? boundingRect().height() : -1};
+}
+
+QRectF PlixTextUI::ClippedToParent(const QRectF& rect) const
+{
+    const YogaLayoutItem* parent = YogaLayoutItem::parentItem();
+    if (!parent)
+        return rect;
+    const QRectF content = QRectF(QPointF(0, 0), parent->geometry().size())
+                               .adjusted(parent->paddingLeft(), parent->paddingTop(),
+                                         -parent->paddingRight(), -parent->paddingBottom());
+    return content.intersected(rect);
+}
+
+void PlixTextUI::setGeometry(const QRectF& rect)
+{
+    // Only a zone's own top item has paddings; everywhere else this is `rect`.
+    const QRectF given =
+        rect.adjusted(YogaLayoutItem::paddingLeft(), YogaLayoutItem::paddingTop(),
+                      -YogaLayoutItem::paddingRight(), -YogaLayoutItem::paddingBottom());
+    const int lineHeight = QFontMetrics(font()).height();
+    const double missing = std::max(0.0, lineHeight - given.height());
+    const QRectF clipped = ClippedToParent(given).adjusted(0, -missing * 0.5, 0, 0);
+    topOffset_ = -missing * 0.5;
+    setPos(given.left(), given.top() + topOffset_);
+
+    const double shown = boundingRect().width();
+    if (shown > given.width()) {
+        SetFixedItemWidth(clipped.width());
+        ChangeWidth(clipped.width());
+    } else if (wrap_ && shown < given.width()) {
+        // Measured last for another width than the layout settled on.
+        SetFixedItemWidth(clipped.width());
+    } else {
+        SetFixedItemWidth(shown);
+    }
+    PlaceVertically(given.height());
+    QGraphicsLayoutItem::setGeometry(rect);
+
+    YogaLayoutItem* parent = YogaLayoutItem::parentItem();
+    if (parent && parent->isRelayoutPending() && FindData<PlixDataText>()) {
+        markDirty();
+        parent->relayoutInPlace();
+    }
+}
+
+void PlixTextUI::PlaceVertically(double available)
+{
+    textHeight_ =
+        std::max(static_cast<int>(boundingRect().height()), QFontMetrics(font()).height());
+    QTextFrame* const root = document()->rootFrame();
+    QTextFrameFormat format = root->frameFormat();
+    // What an earlier placement has set does not count.
+    format.clearProperty(QTextFormat::FrameHeight);
+    format.setTopMargin(document()->documentMargin());
+    if (!baseline_ && available > textHeight_) {
+        const double free = available - format.topMargin() - textHeight_ - format.bottomMargin();
+        const double share = gravity_ == Gravity::Center ? 0.5 : 1;
+        format.setHeight(available);
+        format.setBorder(0);
+        if (gravity_ != Gravity::Top)
+            format.setTopMargin(format.topMargin() + free * share);
+    }
+    if (format != root->frameFormat())
+        root->setFrameFormat(format);
+}
+
+void PlixTextUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (clickable_)
+        event->ignore();
+    else
+        TextItem::mousePressEvent(event);
+}
+
+void PlixTextUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (unsupported_)
+        return;
+    if (clickable_) {
+        const auto data = FindData<PlixDataText>();
+        if (event->button() == Qt::LeftButton && data && HasKnownAction(*data))
+            DeliverClick();
+        return;
+    }
+    TextItem::mouseReleaseEvent(event);
+    if (auto* box = dynamic_cast<PlixBoxUI*>(YogaLayoutItem::parentItem()))
+        box->handleRelease(event);
+}

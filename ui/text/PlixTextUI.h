@@ -1,0 +1,86 @@
+#pragma once
+
+#include "layout/YogaLayoutItem.h"
+#include "ui/PlixBaseUI.h"
+
+#include <kestro_control/TextItem.h>
+
+class PlixDataMgr;
+class PlixDataSpan;
+class PlixDataText;
+
+// A text of a card, in one format or in spans.
+class PlixTextUI : public TextItem, public YogaLayoutItem, public PlixBaseUI {
+    Q_OBJECT
+
+public:
+    PlixTextUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout,
+               const PlixDisplayParam& param);
+
+    QGraphicsItem* GetGraphicsItem() override { return this; }
+    QGraphicsLayoutItem* GetLayoutItem() override { return this; }
+    YogaLayoutItem* GetYogaItem() override { return this; }
+
+    bool Init() override;
+    void SetClickFunc(const ClickFunc& func) override;
+    void SetFrom(int from) override;
+
+    // Shows that a click leads somewhere; false changes nothing.
+    void setClickable(bool on) override;
+
+    // Follows the host's font family while font binding is on.
+    void FontChanged() override;
+
+    // A wrapped text that is measured at width 0 is emptied for good.
+    QSizeF measure(double width, YGMeasureMode widthMode, double height,
+                   YGMeasureMode heightMode) override;
+    float baseline(double width, double height) override;
+
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF& constraint = QSizeF()) const override;
+    void setGeometry(const QRectF& rect) override;
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+
+private Q_SLOTS:
+    void OnMentionClicked(qint64 userNo);
+    void OnBotMentionClicked(qint64 userNo);
+    void OnFontChanged();
+
+private:
+    enum class Gravity { Top, Center, Bottom };
+
+    PlixDataMgr* Manager() const;
+
+    void InitWrapMode();
+    void InitColor(const PlixDataText& data);
+    void InitAction(const PlixDataText& data);
+    void InitFont(PlixDataText& data);
+    void InitAlignment(const PlixDataText& data);
+    void InitGravity(const PlixDataText& data);
+    void InsertContent(const PlixDataText& data);
+    void InitWidth(const PlixDataText& data);
+    void InitLines(const PlixDataText& data);
+
+    // Every insertion goes through here; null: the item's own format.
+    void InsertText(const std::string& text, const QTextCharFormat* format = nullptr);
+    void InsertSpan(const PlixDataSpan& span);
+
+    // The parent's width inside its paddings, 0 while it is not known.
+    double ParentInnerWidth() const;
+    QRectF ClippedToParent(const QRectF& rect) const;
+    // Sets the node's width while the card is being laid out.
+    void ChangeWidth(double width);
+    void PlaceVertically(double available);
+
+    bool unsupported_ = false;
+    int colorMode_ = 0;
+    bool baseline_ = false;
+    bool wrap_ = false;
+    int maxLines_ = 0;
+    Gravity gravity_ = Gravity::Top;
+    int textHeight_ = 0;
+    // How far the item stands below the top of its rectangle.
+    double topOffset_ = 0;
+};
