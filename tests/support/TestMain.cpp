@@ -1,0 +1,91 @@
+// The one main() of all Qt tests: fixed fonts, no display, and a failure for
+// every log line or Qt warning that a test did not ask for.
+#include "support/ExpectedLog.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QByteArray>
+
+#include <deque>
+#include <mutex>
+
+namespace {
+
+std::mutex messagesMutex;
+std::deque<std::string> logLines;
+std::deque<std::string> qtMessages;
+
+void collectQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    if (type == QtDebugMsg || type == QtInfoMsg)
+        return;
+    const std::lock_guard lock(messagesMutex);
+    qtMessages.push_back(text.toStdString());
+}
+
+class UnexpectedMessages : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { clear(); }
+
+    void OnTestEnd(const testing::TestInfo&) override
+    {
+        for (const std::string& line : logLines)
+            ADD_FAILURE() << "unexpected log line: " << line;
+        for (const std::string& message : qtMessages)
+            ADD_FAILURE() << "unexpected Qt message: " << message;
+        clear();
+    }
+
+    static void clear()
+    {
+        const std::lock_guard lock(messagesMutex);
+        logLines.clear();
+        qtMessages.clear();
+    }
+};
+
+} // namespace
+
+namespace plix::test {
+
+std::string takeLogLine()
+{
+    if (logLines.empty())
+        return {};
+    std::string line = std::move(logLines.front());
+    logLines.pop_front();
+    return line;
+}
+
+int pendingLogLines()
+{
+    return static_cast<int>(logLines.size());
+}
+
+void ignoreLog()
+{
+    logLines.clear();
+}
+
+void collectLogLine(const char* text)
+{
+    logLines.emplace_back(text);
+}
+
+} // namespace plix::test
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("FONTCONFIG_FILE", PLIX_TEST_FONTS_CONF);
+    // Offscreen, nothing has a scale factor or a style of the user's desktop.
+    for (const char* name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI",
+                             "QT_STYLE_OVERRIDE", "QT_LOGGING_RULES"})
+        qunsetenv(name);
+
+    qInstallMessageHandler(collectQtMessage);
+    QApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    testing::UnitTest::GetInstance()->listeners().Append(new UnexpectedMessages);
+    return RUN_ALL_TESTS();
+}
