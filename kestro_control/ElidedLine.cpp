@@ -1,0 +1,147 @@
+#include "ElidedLine.h"
+
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QChar ellipsis(0x2026);
+constexpr QChar popDirectionalFormatting(0x202C);
+constexpr QChar popDirectionalIsolate(0x2069);
+
+// More characters than any line shows. Without a bound, a text of marks that
+// take no width would be tried out at its full length again and again.
+constexpr int mostCharacters = 4096;
+
+// Wider than any line, and well within what the text engine can count.
+constexpr qreal unlimitedWidth = 1 << 22;
+
+// Where the text may be cut, in ascending order, both its ends included.
+std::vector<int> cutPositions(const QString& text)
+{
+    std::vector<int> positions {0};
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    for (int at = finder.toNextBoundary(); at > 0; at = finder.toNextBoundary())
+        positions.push_back(at);
+    return positions;
+}
+
+int lengthWithoutTrailingSpace(const QString& text, int length)
+{
+    while (length > 0 && text.at(length - 1).isSpace())
+        --length;
+    return length;
+}
+
+// Ends what the text may leave open of explicit directions, so that the
+// ellipsis stands at the end of the line and not inside of them. Ends without
+// a beginning mean nothing, so what the text has ended itself needs no care.
+QString directionEnds(const QString& text)
+{
+    QString ends;
+    for (const QChar character : text) {
+        const QChar::Direction direction = character.direction();
+        if (direction == QChar::DirLRE || direction == QChar::DirRLE || direction == QChar::DirLRO
+            || direction == QChar::DirRLO)
+            ends.append(popDirectionalFormatting);
+        else if (direction == QChar::DirLRI || direction == QChar::DirRLI
+                 || direction == QChar::DirFSI)
+            ends.append(popDirectionalIsolate);
+    }
+    std::reverse(ends.begin(), ends.end());
+    return ends;
+}
+
+// The formats of the first `length` characters, and of `tailLength` more that
+// look like the last of them.
+QVector<QTextLayout::FormatRange> formatsWithTail(const QVector<QTextLayout::FormatRange>& formats,
+                                                  int length, int tailLength)
+{
+    QVector<QTextLayout::FormatRange> result;
+    const int last = std::max(length - 1, 0);
+    for (QTextLayout::FormatRange range : formats) {
+        if (range.start > last)
+            break;
+        if (range.start + range.length > last)
+            range.length = length + tailLength - range.start;
+        result.push_back(range);
+    }
+    return result;
+}
+
+QTextOption oneLine(QTextOption option, bool aligned)
+{
+    option.setWrapMode(QTextOption::NoWrap);
+    if (!aligned)
+        option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+    return option;
+}
+
+} // namespace
+
+ElidedLine::ElidedLine(ElisionSource source, std::optional<qreal> width)
+    : source_(std::move(source))
+    , width_(width)
+{
+    layout_.setFont(source_.font);
+    layout_.setTextOption(oneLine(source_.option, width_.has_value()));
+    // The line is drawn more often than it is made.
+    layout_.setCacheEnabled(true);
+
+    LayOut(width_ ? LongestFittingLength() : source_.text.size());
+}
+
+QTextLine ElidedLine::Line() const
+{
+    return layout_.lineAt(0);
+}
+
+// The widths of the starts of a text grow with their length (but for what
+// ligatures and kerning take back), so the longest one that fits is searched
+// by halving, from near where it is expected.
+int ElidedLine::LongestFittingLength()
+{
+    const std::vector<int> cuts = cutPositions(source_.text.left(mostCharacters));
+    const auto expected = std::lower_bound(cuts.begin(), cuts.end(), source_.expectedLength);
+
+    std::size_t fitting = 0; // The bare ellipsis, which is shown in any case.
+    std::size_t tooLong = cuts.size();
+    auto probe = static_cast<std::size_t>(expected - cuts.begin());
+    for (std::size_t step = 1; tooLong - fitting > 1; step *= 2) {
+        if (probe <= fitting || probe >= tooLong)
+            probe = fitting + (tooLong - fitting) / 2;
+        if (Fits(cuts[probe])) {
+            fitting = probe;
+            probe = fitting + step;
+        } else {
+            tooLong = probe;
+            probe = tooLong - std::min(step, tooLong);
+        }
+    }
+    return cuts[fitting];
+}
+
+bool ElidedLine::Fits(int length)
+{
+    LayOut(length);
+    return Line().naturalTextWidth() <= *width_;
+}
+
+void ElidedLine::LayOut(int length)
+{
+    const int kept = lengthWithoutTrailingSpace(source_.text, length);
+    if (layout_.lineCount() > 0 && kept == laidOutLength_)
+        return;
+    laidOutLength_ = kept;
+
+    const QString start = source_.text.left(kept);
+    const QString tail = directionEnds(start) + ellipsis;
+    layout_.setText(start + tail);
+    layout_.setFormats(formatsWithTail(source_.formats, kept, tail.size()));
+    layout_.beginLayout();
+    QTextLine line = layout_.createLine();
+    line.setLeadingIncluded(true);
+    line.setLineWidth(width_.value_or(unlimitedWidth));
+    layout_.endLayout();
+}

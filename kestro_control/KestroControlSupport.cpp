@@ -1,0 +1,3 @@
+#include "kestro_control/KestroControlSupport.h"
+
+KestroControlSupport::~KestroControlSupport() = default;

@@ -1,0 +1,231 @@
+// What a TextItem leaves on paper.
+#include "Ink.h"
+
+#include <kestro_control/TextItem.h>
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <QTextDocument>
+#include <QTextFrame>
+
+#include <ostream>
+#include <string>
+
+namespace {
+
+void useFont(TextItem& item, int pixelSize = 20)
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(pixelSize);
+    item.setFont(font);
+}
+
+template <class Row> std::string rowName(const testing::TestParamInfo<Row>& row)
+{
+    return row.param.name;
+}
+
+struct ScriptRow {
+    const char* name;
+    const char* text;
+
+    friend std::ostream& operator<<(std::ostream& out, const ScriptRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class TextItemInk : public testing::TestWithParam<ScriptRow> { };
+
+TEST_P(TextItemInk, LiesInTheBoundingRectangle)
+{
+    for (qreal scale : {1.0, 2.0}) {
+        for (qreal width : {-1.0, 300.0, 95.0}) {
+            TextItem item;
+            useFont(item);
+            item.InsertRichText(QString::fromUtf8(GetParam().text), true);
+            item.SetFixedItemWidth(width);
+            const QRectF ink = Ink(item, scale).Rect();
+            ASSERT_FALSE(ink.isEmpty());
+            // Glyphs may stick out by the odd pixel of their smooth edges.
+            const QRectF rect = item.boundingRect().adjusted(-2, -2, 2, 2);
+            EXPECT_TRUE(rect.contains(ink)) << "width " << width << ", scale " << scale;
+            EXPECT_GT(ink.height(), item.boundingRect().height() / 2);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Scripts, TextItemInk,
+    testing::Values(ScriptRow {"Latin", "Dinner is ready, come over"},
+                    ScriptRow {"Chinese", "晚上一起吃饭吗我们等你"},
+                    ScriptRow {"Arabic", "العشاء جاهز تعالوا إلينا"},
+                    ScriptRow {"Hebrew", "ארוחת הערב מוכנה בואו"},
+                    ScriptRow {"Emoji",
+                               "👨‍👩‍👧👍🏽🇩🇪😀👨‍👩‍👧👍🏽"},
+                    ScriptRow {"Mixed", "Dinner ארוחת הערב at 7"}),
+    rowName<ScriptRow>);
+
+TEST(TextItemRendering, DrawsNothingBeyondTheLineLimit)
+{
+    TextItem item;
+    useFont(item);
+    item.InsertRichText(QStringLiteral("H\nH\nH"), true);
+    const QRectF all = Ink(item).Rect();
+    item.SetMaxLineCount(2);
+    const QRectF limited = Ink(item).Rect();
+    EXPECT_EQ(limited.topLeft(), all.topLeft());
+    EXPECT_LT(limited.bottom(), item.boundingRect().bottom());
+    EXPECT_GT(limited.bottom(), item.boundingRect().bottom() - 10);
+}
+
+TEST(TextItemRendering, UsesTheDefaultColourUnlessASpanHasOne)
+{
+    TextItem item;
+    useFont(item, 60);
+    QTextCharFormat red;
+    red.setForeground(QColor(200, 0, 0));
+    item.setDefaultTextColor(QColor(0, 0, 200));
+    item.InsertRichText(QStringLiteral("H"), true);
+    item.InsertRichText(QStringLiteral("H"), true, &red);
+    EXPECT_TRUE(Ink(item).Has(QColor(0, 0, 200)));
+    EXPECT_TRUE(Ink(item).Has(QColor(200, 0, 0)));
+
+    item.setDefaultTextColor(QColor(0, 150, 0));
+    EXPECT_FALSE(Ink(item).Has(QColor(0, 0, 200)));
+    EXPECT_TRUE(Ink(item).Has(QColor(0, 150, 0)));
+    EXPECT_TRUE(Ink(item).Has(QColor(200, 0, 0)));
+}
+
+TEST(TextItemRendering, DrawsInvalidColoursInBlack)
+{
+    TextItem item;
+    useFont(item, 60);
+    item.setDefaultTextColor(QColor());
+    item.InsertRichText(QStringLiteral("H"), true);
+    EXPECT_TRUE(Ink(item).Has(Qt::black));
+}
+
+TEST(TextItemRendering, DrawsTheLinesAndBackgroundsOfSpans)
+{
+    // Spaces leave no ink but that of their format.
+    const QString spaces = QString(5, QChar::Nbsp);
+    TextItem plain;
+    useFont(plain, 30);
+    plain.InsertRichText(spaces, true);
+    ASSERT_TRUE(Ink(plain).Rect().isEmpty());
+
+    QTextCharFormat underline;
+    underline.setFontUnderline(true);
+    QTextCharFormat strikeOut;
+    strikeOut.setFontStrikeOut(true);
+    QTextCharFormat background;
+    background.setBackground(Qt::yellow);
+    for (const QTextCharFormat* format : {&underline, &strikeOut, &background}) {
+        TextItem item;
+        useFont(item, 30);
+        item.InsertRichText(spaces, true, format);
+        EXPECT_GT(Ink(item).Rect().width(), item.boundingRect().width() - 3);
+    }
+}
+
+TEST(TextItemRendering, LeavesThePenAsItWas)
+{
+    TextItem item;
+    useFont(item);
+    item.setDefaultTextColor(Qt::red);
+    item.InsertRichText(QStringLiteral("H"), true);
+    QImage image(10, 10, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setPen(QPen(Qt::green, 3));
+    item.paint(&painter, nullptr, nullptr);
+    EXPECT_EQ(painter.pen(), QPen(Qt::green, 3));
+}
+
+struct AlignmentRow {
+    const char* name;
+    const char* text;
+    Qt::Alignment alignment;
+    Qt::LayoutDirection direction;
+    // Where the text is in the free width: 0 left, 0.5 centre, 1 right.
+    qreal place;
+
+    friend std::ostream& operator<<(std::ostream& out, const AlignmentRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class TextItemAlignment : public testing::TestWithParam<AlignmentRow> {
+protected:
+    void SetUp() override
+    {
+        useFont(item_);
+        QTextOption option = item_.document()->defaultTextOption();
+        option.setAlignment(GetParam().alignment);
+        option.setTextDirection(GetParam().direction);
+        item_.document()->setDefaultTextOption(option);
+        item_.InsertRichText(QString::fromUtf8(GetParam().text), true);
+    }
+
+    TextItem item_;
+};
+
+TEST_P(TextItemAlignment, PlacesTheTextInTheFixedWidth)
+{
+    item_.SetFixedItemWidth(300);
+    const QRectF ink = Ink(item_).Rect();
+    ASSERT_FALSE(ink.isEmpty());
+    EXPECT_NEAR(ink.left(), (300 - ink.width()) * GetParam().place, 3);
+}
+
+// The short line moves within the width of the wide one, also when the widest
+// line of the text is not shown.
+TEST_P(TextItemAlignment, PlacesShortLinesInTheNaturalWidth)
+{
+    const QString wide = QString::fromUtf8(GetParam().text).repeated(4);
+    item_.InsertRichText(QLatin1Char('\n') + wide + QLatin1Char('\n') + wide.repeated(3), true);
+    item_.SetMaxLineCount(2);
+    const QRectF rect = item_.boundingRect();
+    const QRectF firstLine(rect.left(), rect.top(), rect.width(), rect.height() / 2);
+    const QRectF ink = Ink(item_).RectIn(firstLine);
+    ASSERT_FALSE(ink.isEmpty());
+    EXPECT_LT(ink.width(), rect.width() / 2);
+    EXPECT_NEAR(ink.left(), (rect.width() - ink.width()) * GetParam().place, 3);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, TextItemAlignment,
+    testing::Values(
+        AlignmentRow {"LatinLeft", "HHH", Qt::AlignLeft, Qt::LayoutDirectionAuto, 0},
+        AlignmentRow {"LatinCentre", "HHH", Qt::AlignHCenter, Qt::LayoutDirectionAuto, 0.5},
+        AlignmentRow {"LatinRight", "HHH", Qt::AlignRight, Qt::LayoutDirectionAuto, 1},
+        AlignmentRow {"LatinInRightToLeftText", "HHH", Qt::AlignLeft, Qt::RightToLeft, 1},
+        AlignmentRow {"HebrewStartsAtTheRight", "םםם", Qt::AlignLeft, Qt::LayoutDirectionAuto, 1},
+        AlignmentRow {"HebrewCentre", "םםם", Qt::AlignHCenter, Qt::LayoutDirectionAuto, 0.5},
+        AlignmentRow {"HebrewEndsAtTheLeft", "םםם", Qt::AlignRight, Qt::LayoutDirectionAuto, 0},
+        AlignmentRow {"HebrewInLeftToRightText", "םםם", Qt::AlignLeft, Qt::LeftToRight, 0}),
+    rowName<AlignmentRow>);
+
+TEST(TextItemRendering, DrawsTheTextWhereAFrameMarginMovesIt)
+{
+    TextItem item;
+    useFont(item);
+    item.InsertRichText(QStringLiteral("H"), true);
+    const QRectF before = Ink(item).Rect();
+    QTextFrameFormat format = item.document()->rootFrame()->frameFormat();
+    format.setTopMargin(100);
+    item.document()->rootFrame()->setFrameFormat(format);
+    EXPECT_EQ(Ink(item).Rect(), before.translated(0, 100));
+}
+
+TEST(TextItemRendering, SetsCapitalsOnTheBaseline)
+{
+    TextItem item;
+    useFont(item, 60);
+    item.InsertRichText(QStringLiteral("H"), true);
+    EXPECT_NEAR(Ink(item).Rect().bottom(), item.boundingRect().top() + item.FirstLineAscent(), 1.5);
+}
+
+} // namespace

@@ -1,0 +1,506 @@
+// The text a TextItem holds, and the lines and rectangle it shows of it.
+#include <kestro_control/TextItem.h>
+
+#include <gtest/gtest.h>
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QGraphicsScene>
+#include <QGraphicsView>
+#include <QTextDocument>
+#include <QTextFrame>
+
+#include <cmath>
+#include <limits>
+#include <ostream>
+#include <string>
+#include <utility>
+
+namespace {
+
+constexpr int pixelSize = 16;
+
+struct TestItem : TextItem {
+    TestItem()
+    {
+        QFont testFont(QStringLiteral("DejaVu Sans"));
+        testFont.setPixelSize(pixelSize);
+        setFont(testFont);
+    }
+
+    explicit TestItem(const QString& text)
+        : TestItem()
+    {
+        InsertRichText(text, true);
+    }
+
+    qreal LineHeight() const { return QFontMetricsF(font()).height(); }
+};
+
+const QString threeWords = QStringLiteral("alpha beta gamma");
+
+// As narrow as its widest word, so that every word is a line.
+qreal oneWordWidth(const TextItem& item)
+{
+    return std::ceil(QFontMetricsF(item.font()).horizontalAdvance(QStringLiteral("gamma"))) + 1;
+}
+
+TEST(TextItemShown, NothingOfAnEmptyText)
+{
+    const TestItem item;
+    EXPECT_EQ(item.ShownLineCount(), 0);
+    EXPECT_EQ(item.boundingRect(), QRectF(0, 0, 0, 0));
+    EXPECT_FALSE(item.IsElided());
+    EXPECT_EQ(item.FirstLineAscent(), QFontMetricsF(item.font()).ascent());
+}
+
+TEST(TextItemShown, AnEmptyTextKeepsItsFixedWidth)
+{
+    TestItem item;
+    item.SetFixedItemWidth(120);
+    EXPECT_EQ(item.boundingRect(), QRectF(0, 0, 120, 0));
+}
+
+TEST(TextItemShown, OneLineInItsNaturalWidth)
+{
+    const TestItem item(threeWords);
+    EXPECT_EQ(item.ShownLineCount(), 1);
+    EXPECT_EQ(item.boundingRect().topLeft(), QPointF(0, 0));
+    EXPECT_NEAR(item.boundingRect().width(),
+                QFontMetricsF(item.font()).horizontalAdvance(threeWords), 1);
+    EXPECT_NEAR(item.boundingRect().height(), item.LineHeight(), 1);
+}
+
+TEST(TextItemShown, TheWidestShownLineMakesTheNaturalWidth)
+{
+    TestItem item(QStringLiteral("ab\nabcd\nabcdefghijkl"));
+    const qreal all = item.boundingRect().width();
+    item.SetMaxLineCount(2);
+    EXPECT_LT(item.boundingRect().width(), all);
+    EXPECT_EQ(item.boundingRect().width(), TestItem(QStringLiteral("abcd")).boundingRect().width());
+}
+
+TEST(TextItemShown, LinesWrapInTheFixedWidth)
+{
+    TestItem item(threeWords);
+    const qreal lineHeight = item.boundingRect().height();
+    item.SetFixedItemWidth(oneWordWidth(item));
+    EXPECT_EQ(item.ShownLineCount(), 3);
+    EXPECT_EQ(item.boundingRect().width(), oneWordWidth(item));
+    EXPECT_NEAR(item.boundingRect().height(), 3 * lineHeight, 3);
+}
+
+TEST(TextItemShown, EmptyParagraphsAreLines)
+{
+    EXPECT_EQ(TestItem(QStringLiteral("\n")).ShownLineCount(), 2);
+    EXPECT_EQ(TestItem(QStringLiteral("a\n\nb")).ShownLineCount(), 3);
+    EXPECT_GT(TestItem(QStringLiteral("a\n\nb")).boundingRect().height(),
+              TestItem(QStringLiteral("a\nb")).boundingRect().height());
+}
+
+TEST(TextItemShown, TheLineLimitCutsTheRectangle)
+{
+    TestItem item(QStringLiteral("a\nb\nc"));
+    const QRectF all = item.boundingRect();
+    item.SetMaxLineCount(1);
+    EXPECT_EQ(item.ShownLineCount(), 1);
+    EXPECT_NEAR(item.boundingRect().height(), all.height() / 3, 1);
+    EXPECT_FALSE(item.IsElided());
+    EXPECT_EQ(item.toPlainText(), QStringLiteral("a\nb\nc"));
+}
+
+TEST(TextItemShown, NoLineLimitByZeroAndLess)
+{
+    TestItem item(QStringLiteral("a\nb\nc"));
+    for (int limit : {0, -1, std::numeric_limits<int>::min()}) {
+        item.SetMaxLineCount(1);
+        item.SetMaxLineCount(limit);
+        EXPECT_EQ(item.ShownLineCount(), 3) << limit;
+    }
+}
+
+TEST(TextItemShown, ALimitBeyondTheTextChangesNothing)
+{
+    TestItem item(QStringLiteral("a\nb"));
+    const QRectF all = item.boundingRect();
+    item.SetMaxLineCount(std::numeric_limits<int>::max());
+    EXPECT_EQ(item.boundingRect(), all);
+}
+
+class TextItemNoWidth : public testing::TestWithParam<qreal> { };
+
+TEST_P(TextItemNoWidth, BringsBackTheNaturalWidth)
+{
+    TestItem item(threeWords);
+    const QRectF natural = item.boundingRect();
+    item.SetFixedItemWidth(oneWordWidth(item));
+    item.SetFixedItemWidth(GetParam());
+    EXPECT_EQ(item.boundingRect(), natural);
+    EXPECT_EQ(item.textWidth(), -1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Widths, TextItemNoWidth,
+                         testing::Values(0.0, -0.0, -1.0, -1e300,
+                                         std::numeric_limits<qreal>::quiet_NaN(),
+                                         std::numeric_limits<qreal>::infinity(),
+                                         -std::numeric_limits<qreal>::infinity()));
+
+TEST(TextItemWidth, AHugeOneIsCutToWhatTheEngineCanCount)
+{
+    TestItem item(threeWords);
+    item.SetFixedItemWidth(1e300);
+    EXPECT_EQ(item.ShownLineCount(), 1);
+    EXPECT_LT(item.boundingRect().width(), 1e7);
+    EXPECT_GT(item.boundingRect().width(), 1e5);
+}
+
+TEST(TextItemWidth, ATinyOneStillShowsTheText)
+{
+    TestItem item(threeWords);
+    item.SetFixedItemWidth(0.001);
+    EXPECT_GT(item.ShownLineCount(), 3);
+    EXPECT_EQ(item.boundingRect().width(), 0.001);
+}
+
+struct NamedText {
+    const char* name;
+    const char* text;
+
+    friend std::ostream& operator<<(std::ostream& out, const NamedText& row)
+    {
+        return out << row.name;
+    }
+};
+
+std::string rowName(const testing::TestParamInfo<NamedText>& info)
+{
+    return info.param.name;
+}
+
+// A text must not wrap in the very width it asked for.
+class TextItemNaturalWidth : public testing::TestWithParam<NamedText> { };
+
+TEST_P(TextItemNaturalWidth, IsEnoughForTheTextOnOneLine)
+{
+    for (bool italic : {false, true}) {
+        TestItem item(QString::fromUtf8(GetParam().text));
+        QFont font = item.font();
+        font.setItalic(italic);
+        item.setFont(font);
+        item.SetElide(true);
+        const QRectF natural = item.boundingRect();
+        item.SetFixedItemWidth(natural.width());
+        EXPECT_EQ(item.ShownLineCount(), 1);
+        EXPECT_FALSE(item.IsElided());
+        EXPECT_EQ(item.boundingRect(), natural);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scripts, TextItemNaturalWidth,
+                         testing::Values(NamedText {"Latin", "Waffles for Taffy, off"},
+                                         NamedText {"LatinWithTrailingSpaces", "off   "},
+                                         NamedText {"Chinese", "晚上一起吃饭吗"},
+                                         NamedText {"Arabic", "مرحبا بكم جميعا"},
+                                         NamedText {"Hebrew", "שלום לכולם"},
+                                         NamedText {"Emoji", "👨‍👩‍👧👍🏽🇩🇪"}),
+                         rowName);
+
+TEST(TextItemText, IsInsertedAtTheEndOrAtTheStart)
+{
+    TestItem item;
+    item.InsertRichText(QStringLiteral("b"), true);
+    item.InsertRichText(QStringLiteral("c"), true);
+    item.InsertRichText(QStringLiteral("a"), false);
+    EXPECT_EQ(item.toPlainText(), QStringLiteral("abc"));
+}
+
+TEST(TextItemText, IsNeverTakenForHtml)
+{
+    const QString html = QStringLiteral("<b>&amp;</b><br/><img src=\"x\">");
+    const TestItem item(html);
+    EXPECT_EQ(item.toPlainText(), html);
+    EXPECT_EQ(item.ShownLineCount(), 1);
+}
+
+TEST(TextItemText, IsReplacedBySetPlainText)
+{
+    TestItem item(QStringLiteral("a\nb\nc"));
+    item.setPlainText(QStringLiteral("x\ny"));
+    EXPECT_EQ(item.toPlainText(), QStringLiteral("x\ny"));
+    EXPECT_EQ(item.ShownLineCount(), 2);
+}
+
+TEST(TextItemText, IsAllThatClearTextRemoves)
+{
+    TestItem item(threeWords);
+    const QFont font = item.font();
+    item.SetFixedItemWidth(90);
+    QTextFrameFormat format = item.document()->rootFrame()->frameFormat();
+    format.setTopMargin(30);
+    item.document()->rootFrame()->setFrameFormat(format);
+
+    item.ClearText();
+    EXPECT_EQ(item.toPlainText(), QString());
+    EXPECT_EQ(item.boundingRect().size(), QSizeF(90, 0));
+
+    item.InsertRichText(threeWords, true);
+    EXPECT_EQ(item.font(), font);
+    EXPECT_EQ(item.boundingRect().top(), 30);
+}
+
+TEST(TextItemText, DoesNotPassTheFormatOfRemovedTextOn)
+{
+    QTextCharFormat big;
+    big.setFontPointSize(60);
+    QTextBlockFormat spaced;
+    spaced.setTopMargin(40);
+    TestItem item;
+    item.InsertRichText(QStringLiteral("a\nb"), true, &big);
+    QTextCursor cursor = item.textCursor();
+    cursor.select(QTextCursor::Document);
+    cursor.setBlockCharFormat(big);
+    cursor.setBlockFormat(spaced);
+    item.ClearText();
+    item.InsertRichText(QStringLiteral("\na"), true);
+    EXPECT_EQ(item.boundingRect(), TestItem(QStringLiteral("\na")).boundingRect());
+}
+
+TEST(TextItemText, OfUnusualCharactersDoesNoHarm)
+{
+    const QChar nul(0);
+    const QChar highSurrogate(0xD83D);
+    const QChar lowSurrogate(0xDE00);
+    const QChar noncharacter(0xFFFF);
+    const QChar inlineObject(QChar::ObjectReplacementCharacter);
+    for (QChar unusual : {nul, QChar(1), QChar(0x1B), QChar(0x7F), highSurrogate, lowSurrogate,
+                          noncharacter, inlineObject}) {
+        TestItem item(QStringLiteral("a") + unusual + QStringLiteral("b "));
+        item.InsertRichText(QString(40, unusual), true);
+        EXPECT_EQ(item.toPlainText(),
+                  QStringLiteral("a") + unusual + QStringLiteral("b ") + QString(40, unusual));
+        EXPECT_EQ(item.ShownLineCount(), 1);
+        item.SetElide(true);
+        item.SetMaxLineCount(1);
+        item.SetFixedItemWidth(12);
+        EXPECT_EQ(item.ShownLineCount(), 1);
+    }
+}
+
+TEST(TextItemFormats, OfASpanOverrideTheFont)
+{
+    QTextCharFormat big;
+    QFont bigFont = TestItem().font();
+    bigFont.setPixelSize(3 * pixelSize);
+    big.setFont(bigFont);
+    TestItem item(QStringLiteral("small "));
+    const QRectF small = item.boundingRect();
+    item.InsertRichText(QStringLiteral("big"), true, &big);
+    EXPECT_NEAR(item.boundingRect().height(), 3 * small.height(), 3);
+}
+
+TEST(TextItemFormats, TextWithoutOneFollowsTheFont)
+{
+    TestItem item(threeWords);
+    const QRectF before = item.boundingRect();
+    QFont font = item.font();
+    font.setPixelSize(2 * pixelSize);
+    item.setFont(font);
+    EXPECT_NEAR(item.boundingRect().width(), 2 * before.width(), 2);
+}
+
+TEST(TextItemWrapMode, NoWrapKeepsTheLine)
+{
+    TestItem item(threeWords);
+    item.SetFixedItemWidth(oneWordWidth(item));
+    item.SetWrapMode(QTextOption::NoWrap);
+    EXPECT_EQ(item.ShownLineCount(), 1);
+    item.SetWrapMode(QTextOption::WordWrap);
+    EXPECT_EQ(item.ShownLineCount(), 3);
+}
+
+TEST(TextItemWrapMode, UnknownOnesChangeNothing)
+{
+    TestItem item(threeWords);
+    item.SetFixedItemWidth(oneWordWidth(item));
+    item.SetWrapMode(static_cast<QTextOption::WrapMode>(7));
+    EXPECT_EQ(item.ShownLineCount(), 3);
+    EXPECT_EQ(item.document()->defaultTextOption().wrapMode(),
+              QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+TEST(TextItemDocument, AFrameMarginMovesTheTextDown)
+{
+    TestItem item(threeWords);
+    const QRectF before = item.boundingRect();
+    const qreal ascent = item.FirstLineAscent();
+
+    QTextFrameFormat format = item.document()->rootFrame()->frameFormat();
+    format.setBorder(0);
+    format.setHeight(200);
+    format.setTopMargin(70);
+    item.document()->rootFrame()->setFrameFormat(format);
+    EXPECT_EQ(item.boundingRect(), before.translated(0, 70));
+    EXPECT_EQ(item.FirstLineAscent(), ascent);
+}
+
+TEST(TextItemDocument, IsLaidOutOncePerWidth)
+{
+    TestItem item(threeWords);
+    item.SetFixedItemWidth(70);
+    item.boundingRect();
+
+    int layouts = 0;
+    QObject::connect(item.document()->documentLayout(), &QAbstractTextDocumentLayout::update,
+                     [&layouts] { ++layouts; });
+    item.SetFixedItemWidth(70);
+    item.SetMaxLineCount(1);
+    item.SetElide(true);
+    item.setFont(item.font());
+    item.SetWrapMode(item.document()->defaultTextOption().wrapMode());
+    item.boundingRect();
+    item.sizeHint(Qt::PreferredSize);
+    EXPECT_EQ(layouts, 0);
+
+    item.SetFixedItemWidth(80);
+    item.boundingRect();
+    EXPECT_EQ(layouts, 1);
+}
+
+TEST(TextItemProperties, TellWhatIsShown)
+{
+    TestItem item(QStringLiteral("one\ntwo\nthree"));
+    item.SetMaxLineCount(2);
+    item.SetElide(true);
+    EXPECT_EQ(item.property("plainText").toString(), QStringLiteral("one\ntwo\nthree"));
+    EXPECT_EQ(item.property("shownLineCount").toInt(), 2);
+    EXPECT_TRUE(item.property("elided").toBool());
+    EXPECT_EQ(item.property("font").value<QFont>(), item.font());
+}
+
+TEST(TextItemLayoutItem, WishesForItsHeightOnly)
+{
+    TestItem item(threeWords);
+    const QSizeF wish(-1, item.boundingRect().height());
+    EXPECT_EQ(item.sizeHint(Qt::MinimumSize), wish);
+    EXPECT_EQ(item.sizeHint(Qt::PreferredSize), wish);
+    EXPECT_EQ(item.sizeHint(Qt::MaximumSize), wish);
+    EXPECT_EQ(item.sizeHint(Qt::MinimumDescent), QSizeF(-1, -1));
+}
+
+TEST(TextItemLayoutItem, ForgetsOldWishesWhenTheTextChanges)
+{
+    TestItem item(QStringLiteral("a"));
+    const qreal oneLine = item.effectiveSizeHint(Qt::PreferredSize).height();
+    item.InsertRichText(QStringLiteral("\nb"), true);
+    EXPECT_GT(item.effectiveSizeHint(Qt::PreferredSize).height(), oneLine);
+}
+
+TEST(TextItemLayoutItem, IsMovedToItsGeometry)
+{
+    TestItem item(threeWords);
+    const QRectF shown = item.boundingRect();
+    item.setGeometry(QRectF(30, 40, 500, 60));
+    EXPECT_EQ(item.pos(), QPointF(30, 40));
+    EXPECT_EQ(item.geometry().topLeft(), QPointF(30, 40));
+    EXPECT_EQ(item.boundingRect(), shown);
+}
+
+TEST(TextItemLayoutItem, IsTheGraphicsItemOfItself)
+{
+    TestItem item;
+    EXPECT_EQ(item.graphicsItem(), &item);
+    EXPECT_EQ(qobject_cast<QGraphicsLayoutItem*>(&item), static_cast<QGraphicsLayoutItem*>(&item));
+}
+
+TEST(TextItemScene, FindsTheItemWhereItsTextIsNow)
+{
+    QGraphicsScene scene(-1000, -1000, 2000, 2000);
+    auto* const item = new TestItem(QStringLiteral("a"));
+    scene.addItem(item);
+    // Enough items for the scene to keep them by place.
+    for (int i = 0; i < 400; ++i)
+        scene.addRect(QRectF(-900 + 4 * i, -500, 3, 3));
+    const QPointF later(2, 30 * item->boundingRect().height());
+    QApplication::processEvents();
+    ASSERT_FALSE(scene.items(later).contains(item));
+    item->InsertRichText(QStringLiteral("\nb").repeated(40), true);
+    QApplication::processEvents();
+    EXPECT_TRUE(scene.items(later).contains(item));
+    EXPECT_TRUE(item->shape().contains(later));
+    EXPECT_TRUE(item->contains(later));
+    item->SetMaxLineCount(1);
+    QApplication::processEvents();
+    EXPECT_FALSE(scene.items(later).contains(item));
+    EXPECT_FALSE(item->shape().contains(later));
+    EXPECT_FALSE(item->contains(later));
+}
+
+class PaintCounter : public TestItem {
+public:
+    using TestItem::TestItem;
+
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override
+    {
+        ++paints_;
+        TestItem::paint(painter, option, widget);
+    }
+
+    // Whether anything was painted since the last call.
+    bool IsPainted()
+    {
+        for (int i = 0; i < 5; ++i)
+            QApplication::processEvents();
+        return std::exchange(paints_, 0) > 0;
+    }
+
+private:
+    int paints_ = 0;
+};
+
+TEST(TextItemScene, PaintsTheItemWhenItsLooksChangeAndOnlyThen)
+{
+    QGraphicsScene scene(0, 0, 300, 300);
+    PaintCounter item(QStringLiteral("aa"));
+    scene.addItem(&item);
+    QGraphicsView view(&scene);
+    view.show();
+    ASSERT_TRUE(item.IsPainted());
+    EXPECT_FALSE(item.IsPainted());
+
+    item.setPlainText(QStringLiteral("bb"));
+    EXPECT_TRUE(item.IsPainted());
+    item.setDefaultTextColor(Qt::red);
+    EXPECT_TRUE(item.IsPainted());
+    item.SetFixedItemWidth(100);
+    EXPECT_TRUE(item.IsPainted());
+    QTextOption option = item.document()->defaultTextOption();
+    option.setAlignment(Qt::AlignRight);
+    item.document()->setDefaultTextOption(option);
+    EXPECT_TRUE(item.IsPainted());
+
+    item.setDefaultTextColor(Qt::red);
+    item.SetFixedItemWidth(100);
+    item.SetElide(false);
+    item.SetMaxLineCount(0);
+    item.SetWrapMode(option.wrapMode());
+    item.setFont(item.font());
+    item.SetReadOnly(true);
+    EXPECT_FALSE(item.IsPainted());
+}
+
+TEST(TextItemScene, PaintsACachedItemAnewWhenItsTextChanges)
+{
+    QGraphicsScene scene(0, 0, 300, 300);
+    PaintCounter item(QStringLiteral("ab"));
+    item.setCacheMode(QGraphicsItem::DeviceCoordinateCache);
+    scene.addItem(&item);
+    QGraphicsView view(&scene);
+    view.show();
+    ASSERT_TRUE(item.IsPainted());
+
+    item.setPlainText(QStringLiteral("ba"));
+    EXPECT_TRUE(item.IsPainted());
+}
+
+} // namespace
