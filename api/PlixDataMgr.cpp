@@ -107,7 +107,7 @@ PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
         CreateZones(*bubble, *ui);
     else if (const auto* box = dynamic_cast<const PlixDataBox*>(data.get()))
         CreateBoxChildren(*box->GetContainer(), *ui);
-    unfinished.release();
+    static_cast<void>(unfinished.release());
     return ui;
 }
 

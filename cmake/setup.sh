@@ -33,21 +33,19 @@ install_npm() {
     command -v npm >/dev/null || install_packages npm
 }
 
-# build_preset PRESET: configures where that was not done yet, and builds what
-# has changed.
+# build_preset PRESET TARGET: configures where that was not done yet, and builds
+# what has changed.
 build_preset() {
-    local preset=$1 dir=$root/build/$1
+    local preset=$1 target=$2 dir=$root/build/$1
     install_packages "${PLIX_PACKAGES[@]}"
     if [[ ! -e $dir/build.ninja ]]; then
         [[ -e $root/build/cache ]] || install_npm
         say "Configuring $preset"
         (cd "$root" && cmake --preset "$preset") >&2
     fi
-    # Quiet when there is nothing to do.
-    ninja -C "$dir" -n 2>/dev/null | grep -q 'no work to do' || {
-        say "Building $preset"
-        cmake --build "$dir" >&2
-    }
+    # Says nothing when there is nothing to do.
+    cmake --build "$dir" --target "$target" |
+        sed -u -e '/Re-checking globbed/d' -e '/no work to do/d' >&2
 }
 
 # The surroundings in which pictures and measures are the same everywhere.

@@ -31,8 +31,8 @@ void SilenceDefaultConfig()
 // outlive whoever would free it.
 YGConfigConstRef WebConfig()
 {
-    static const YGConfigRef config = [] {
-        const YGConfigRef made = YGConfigNew();
+    static YGConfigRef config = [] {
+        YGConfigRef made = YGConfigNew();
         YGConfigSetUseWebDefaults(made, true);
         YGConfigSetLogger(made, &Silence);
         return made;
@@ -755,4 +755,13 @@ QRectF YogaLayoutItem::geometry() const
         return {};
     return {YGNodeLayoutGetLeft(node_), YGNodeLayoutGetTop(node_), YGNodeLayoutGetWidth(node_),
             YGNodeLayoutGetHeight(node_)};
+}
+
+QMarginsF YogaLayoutItem::layoutPaddings() const
+{
+    if (!node_)
+        return {};
+    return {YGNodeLayoutGetPadding(node_, YGEdgeLeft), YGNodeLayoutGetPadding(node_, YGEdgeTop),
+            YGNodeLayoutGetPadding(node_, YGEdgeRight),
+            YGNodeLayoutGetPadding(node_, YGEdgeBottom)};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMarginsF>
 #include <QRectF>
 #include <QSizeF>
 #include <QStringList>
@@ -148,8 +149,10 @@ public:
     YogaLayoutItem* childAt(int index) const;
     int childCount() const;
     YogaLayoutItem* parentItem() const;
-    // The computed rectangle, relative to the parent's.
+    // The computed rectangle, relative to the parent's, and the paddings inside
+    // it: percentages are pixels here.
     QRectF geometry() const;
+    QMarginsF layoutPaddings() const;
 
     void setGeometryTarget(QGraphicsLayoutItem* target) { geometryTarget_ = target; }
     QGraphicsLayoutItem* geometryTarget() const { return geometryTarget_; }

@@ -256,7 +256,11 @@ void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
     const QPainterPath path = OutlinePath(*option);
     if (background_)
         painter->fillPath(path, *background_);
-    if (border_)
+    if (border_) {
+        // The straight edges lose the outer half of the pen to the item's clip;
+        // so must the rounded corners.
+        painter->setClipPath(path, Qt::IntersectClip);
         painter->drawPath(path);
+    }
     painter->restore();
 }

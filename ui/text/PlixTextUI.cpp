@@ -284,11 +284,11 @@ void PlixTextUI::FontChanged()
 double PlixTextUI::ParentInnerWidth() const
 {
     const YogaLayoutItem* parent = YogaLayoutItem::parentItem();
-    const float width = parent ? parent->layoutWidth() : 0;
-    if (!(width > 0))
+    if (!parent || !(parent->layoutWidth() > 0))
         return 0;
-    return std::trunc(width) - std::trunc(parent->paddingLeft())
-        - std::trunc(parent->paddingRight());
+    const QMarginsF paddings = parent->layoutPaddings();
+    return std::trunc(parent->layoutWidth()) - std::trunc(paddings.left())
+        - std::trunc(paddings.right());
 }
 
 QSizeF PlixTextUI::measure(double width, YGMeasureMode, double, YGMeasureMode)
@@ -338,9 +338,8 @@ QRectF PlixTextUI::ClippedToParent(const QRectF& rect) const
     const YogaLayoutItem* parent = YogaLayoutItem::parentItem();
     if (!parent)
         return rect;
-    const QRectF content = QRectF(QPointF(0, 0), parent->geometry().size())
-                               .adjusted(parent->paddingLeft(), parent->paddingTop(),
-                                         -parent->paddingRight(), -parent->paddingBottom());
+    const QRectF content =
+        QRectF(QPointF(0, 0), parent->geometry().size()) - parent->layoutPaddings();
     return content.intersected(rect);
 }
 
@@ -367,7 +366,8 @@ void PlixTextUI::setGeometry(const QRectF& rect)
         SetFixedItemWidth(shown);
     }
     PlaceVertically(given.height());
-    QGraphicsLayoutItem::setGeometry(rect);
+    // Not TextItem's, which would move the item to the rectangle's corner.
+    QGraphicsLayoutItem::setGeometry(rect); // NOLINT(bugprone-parent-virtual-call)
 
     YogaLayoutItem* parent = YogaLayoutItem::parentItem();
     if (parent && parent->isRelayoutPending() && FindData<PlixDataText>()) {
