@@ -359,8 +359,9 @@ void PlixTextUI::setGeometry(const QRectF& rect)
     if (shown > given.width()) {
         SetFixedItemWidth(clipped.width());
         ChangeWidth(clipped.width());
-    } else if (wrap_ && shown < given.width()) {
-        // Measured last for another width than the layout settled on.
+    } else if (shown < given.width()) {
+        // Measured last for another width than the layout settled on, or, its
+        // size being fixed, never.
         SetFixedItemWidth(clipped.width());
     } else {
         SetFixedItemWidth(shown);

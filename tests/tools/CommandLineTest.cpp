@@ -1,0 +1,142 @@
+#include "ToolRun.h"
+
+#include <gtest/gtest.h>
+
+namespace plix::test {
+namespace {
+
+struct HelpRow {
+    const char* name;
+    Arguments arguments;
+    Arguments expected;
+};
+
+class Help : public testing::TestWithParam<HelpRow> { };
+
+TEST_P(Help, IsPrinted)
+{
+    const ToolResult result = runTool(GetParam().arguments);
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, "");
+    for (const std::string& text : GetParam().expected) {
+        EXPECT_TRUE(contains(result.output, text)) << text << "\nis missing in\n" << result.output;
+    }
+}
+
+const Arguments cardOptions {
+    "--output",          "--dpi",       "--lang",       "--from",
+    "--height",          "--highlight", "--background", "--markup",
+    "--no-mobile-check", "--wrap-mode", "--text",       "Examples:",
+    "Exit codes:",
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Tool, Help,
+    testing::Values(
+        HelpRow {"Tool",
+                 {"--help"},
+                 {"render", "layout", "gallery", "plix render receipt.json -o receipt.png",
+                  "Exit codes:"}},
+        HelpRow {"ToolShortly", {"-h"}, {"Commands:"}},
+        HelpRow {"Render", {"render", "--help"}, Arguments {"--scale", "CARD.json"} + cardOptions},
+        HelpRow {"Layout", {"layout", "--help"}, Arguments {"standard output"} + cardOptions},
+        HelpRow {"Gallery",
+                 {"gallery", "-h"},
+                 Arguments {"--scale", "OUTDIR/gallery.png"} + cardOptions},
+        HelpRow {"Version", {"--version"}, {"plix " PLIX_VERSION}}),
+    [](const auto& row) { return row.param.name; });
+
+class EveryOption : public testing::TestWithParam<Arguments> { };
+
+TEST_P(EveryOption, IsTaken)
+{
+    const ToolFolder folder;
+    folder.write("in/card.json", cardOf(R"({"type": "text", "text": "Some words"})"));
+    const ToolResult result = folder.run(
+        GetParam()
+        + Arguments {"--dpi", "1.5", "--lang", "ko", "--from", "1", "--height", "200",
+                     "--highlight", "some", "--highlight=words", "--background", "#80FF0000",
+                     "--markup", "--no-mobile-check", "--wrap-mode", "3", "--text", "key=value"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tool, EveryOption,
+    testing::Values(Arguments {"render", "in/card.json", "-o", "out.png", "--scale", "1.5"},
+                    Arguments {"layout", "in/card.json", "--output", "out.json"},
+                    Arguments {"gallery", "in", "--output", "out", "--scale=0.5"}),
+    [](const auto& row) { return row.param.front(); });
+
+struct RefusalRow {
+    const char* name;
+    Arguments arguments;
+    std::string error;
+};
+
+class Refusal : public testing::TestWithParam<RefusalRow> { };
+
+TEST_P(Refusal, EndsWithTwoAndSaysWhy)
+{
+    const ToolFolder folder;
+    folder.write("card.json", cardOf(""));
+    const ToolResult result = folder.run(GetParam().arguments);
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_TRUE(result.errors.starts_with("plix: error: ")) << result.errors;
+    EXPECT_TRUE(contains(result.errors, GetParam().error)) << result.errors;
+    EXPECT_TRUE(contains(result.errors, "--help"));
+    EXPECT_FALSE(folder.contains("out.png"));
+}
+
+Arguments render(const Arguments& options)
+{
+    return Arguments {"render", "card.json", "-o", "out.png"} + options;
+}
+
+RefusalRow value(const char* name, const char* option, const char* given, const char* wanted)
+{
+    return {name, render({option, given}), std::string(option) + " takes " + wanted};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, Refusal,
+    testing::Values(value("ScaleIsAWord", "--scale", "big", "a number from 0.25 to 8"),
+                    value("ScaleIsTooSmall", "--scale", "0.2", "a number from 0.25 to 8"),
+                    value("ScaleIsTooLarge", "--scale", "8.5", "a number from 0.25 to 8"),
+                    value("ScaleIsNoNumber", "--scale", "nan", "a number from 0.25 to 8"),
+                    value("DpiIsZero", "--dpi", "0", "a number from 0.01 to 16"),
+                    value("DpiIsInfinite", "--dpi", "inf", "a number from 0.01 to 16"),
+                    value("FromIsAWord", "--from", "me", "an integer"),
+                    value("HeightIsNegative", "--height", "-1", "an integer from 0 to 100000"),
+                    value("HeightIsAFraction", "--height", "1.5", "an integer from 0 to 100000"),
+                    value("HeightIsTooLarge", "--height", "100001", "an integer from 0 to 100000"),
+                    value("BackgroundIsNoColour", "--background", "#12345", "a colour"),
+                    value("BackgroundIsAnUnknownName", "--background", "reddish", "a colour"),
+                    value("BackgroundIsEmpty", "--background", "", "a colour"),
+                    value("WrapModeIsNegative", "--wrap-mode", "-1", "an integer from 0 to 4"),
+                    value("WrapModeIsTooLarge", "--wrap-mode", "5", "an integer from 0 to 4"),
+                    value("TextHasNoEquals", "--text", "key", "KEY=VALUE"),
+                    value("TextHasNoKey", "--text", "=value", "KEY=VALUE")),
+    [](const auto& row) { return row.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Usage, Refusal,
+    testing::Values(
+        RefusalRow {"NoCommand", {}, "a command is missing"},
+        RefusalRow {"UnknownCommand", {"draw"}, "there is no command \"draw\""},
+        RefusalRow {"UnknownOption", render({"--size"}), "Unknown option 'size'"},
+        RefusalRow {"OptionOfAnotherCommand",
+                    {"layout", "card.json", "--scale", "2"},
+                    "Unknown option 'scale'"},
+        RefusalRow {"ValueMissing", render({"--lang"}), "Missing value after '--lang'"},
+        RefusalRow {"CardMissing", {"render", "-o", "out.png"}, "CARD.json is missing"},
+        RefusalRow {"TwoCards", render({"other.json"}), "\"other.json\" is one too many"},
+        RefusalRow {"RenderWithoutOutput", {"render", "card.json"}, "-o OUT.png is missing"},
+        RefusalRow {"GalleryWithoutOutput", {"gallery", "."}, "-o OUTDIR is missing"},
+        RefusalRow {
+            "LayoutWithEmptyOutput", {"layout", "card.json", "-o", ""}, "-o OUT.json is missing"}),
+    [](const auto& row) { return row.param.name; });
+
+} // namespace
+} // namespace plix::test

@@ -1,0 +1,73 @@
+// Every example card is laid out as it was when its golden file was written.
+#include "ToolRun.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include <set>
+
+namespace plix::test {
+namespace {
+
+const QString cardsFolder = QStringLiteral(PLIX_CARDS);
+const QString goldenFolder = QStringLiteral(PLIX_GOLDEN);
+
+// Of cards and goldens alike, so that neither goes without the other.
+std::set<std::string> allNames()
+{
+    std::set<std::string> names;
+    for (const QString& folder : {cardsFolder, goldenFolder}) {
+        for (const QFileInfo& file : QDir(folder).entryInfoList({QStringLiteral("*.json")}))
+            names.insert(file.completeBaseName().toStdString());
+    }
+    return names;
+}
+
+QString fileIn(const QString& folder, const std::string& name)
+{
+    return QStringLiteral("%1/%2.json").arg(folder, QString::fromStdString(name));
+}
+
+std::string firstDifference(const std::string& golden, const std::string& actual)
+{
+    const std::vector<std::string> goldenLines = linesOf(golden);
+    const std::vector<std::string> actualLines = linesOf(actual);
+    std::size_t line = 0;
+    while (line < goldenLines.size() && line < actualLines.size()
+           && goldenLines[line] == actualLines[line])
+        ++line;
+    const auto shown = [line](const std::vector<std::string>& lines) {
+        return line < lines.size() ? lines[line] : std::string("(the end)");
+    };
+    return "first difference, in line " + std::to_string(line + 1) + ":\n- " + shown(goldenLines)
+        + "\n+ " + shown(actualLines);
+}
+
+class Golden : public testing::TestWithParam<std::string> { };
+
+TEST_P(Golden, IsWhatTheCardIsLaidOutLike)
+{
+    const QString card = fileIn(cardsFolder, GetParam());
+    ASSERT_TRUE(QFile::exists(card)) << "this golden has no card: delete it, or rebaseline";
+    QFile golden(fileIn(goldenFolder, GetParam()));
+    ASSERT_TRUE(golden.open(QIODevice::ReadOnly)) << "this card has no golden yet: rebaseline";
+
+    const ToolResult result = runTool({"layout", card.toStdString()});
+    ASSERT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, "");
+    const std::string expected = golden.readAll().toStdString();
+    EXPECT_TRUE(result.output == expected) << firstDifference(expected, result.output);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cards, Golden, testing::ValuesIn(allNames()),
+                         [](const auto& row) { return row.param; });
+
+TEST(GoldenCards, AreThere)
+{
+    EXPECT_GE(allNames().size(), 14u);
+}
+
+} // namespace
+} // namespace plix::test

@@ -1,0 +1,108 @@
+#include "ToolRun.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <sstream>
+
+namespace plix::test {
+namespace {
+
+QProcessEnvironment environment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.insert(QStringLiteral("FONTCONFIG_FILE"), QStringLiteral(PLIX_TEST_FONTS_CONF));
+    // What a bare container has.
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    return environment;
+}
+
+} // namespace
+
+Arguments operator+(Arguments first, const Arguments& more)
+{
+    first.insert(first.end(), more.begin(), more.end());
+    return first;
+}
+
+ToolResult runTool(const Arguments& arguments, const QString& folder)
+{
+    QStringList words;
+    for (const std::string& argument : arguments)
+        words.append(QString::fromStdString(argument));
+
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.setWorkingDirectory(folder);
+    process.start(QStringLiteral(PLIX_TOOL), words);
+    EXPECT_TRUE(process.waitForFinished(-1)) << process.errorString().toStdString();
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << "the tool crashed";
+    return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString()};
+}
+
+QString ToolFolder::path(const std::string& name) const
+{
+    return m_folder.filePath(QString::fromStdString(name));
+}
+
+void ToolFolder::write(const std::string& name, const QByteArray& bytes) const
+{
+    QDir().mkpath(QFileInfo(path(name)).path());
+    QFile file(path(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << name;
+    file.write(bytes);
+}
+
+QByteArray ToolFolder::read(const std::string& name) const
+{
+    QFile file(path(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+    return file.isOpen() ? file.readAll() : QByteArray();
+}
+
+bool ToolFolder::contains(const std::string& name) const
+{
+    return QFileInfo::exists(path(name));
+}
+
+ToolResult ToolFolder::run(const Arguments& arguments) const
+{
+    return runTool(arguments, m_folder.path());
+}
+
+QByteArray cardOf(const QByteArray& components)
+{
+    return R"({"type": "bubble", "body": {"type": "box", "layout": "vertical", "contents": [)"
+        + components + "]}}";
+}
+
+bool contains(const std::string& text, const std::string& part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+std::vector<std::string> linesOf(const std::string& text)
+{
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+int countOf(const std::string& text, const std::string& part)
+{
+    int count = 0;
+    for (auto i = text.find(part); i != std::string::npos; i = text.find(part, i + part.size()))
+        ++count;
+    return count;
+}
+
+} // namespace plix::test

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <string>
+#include <vector>
+
+namespace plix::test {
+
+using Arguments = std::vector<std::string>;
+
+Arguments operator+(Arguments first, const Arguments& more);
+
+struct ToolResult {
+    int exitCode = -1;
+    std::string output;
+    std::string errors;
+};
+
+// Runs the built tool as a user would, in `folder`.
+ToolResult runTool(const Arguments& arguments, const QString& folder = QString());
+
+// A folder of its own for each test, in which the tool runs: file names in its
+// messages are then the bare ones.
+class ToolFolder {
+public:
+    QString path(const std::string& name) const;
+    void write(const std::string& name, const QByteArray& bytes) const;
+    QByteArray read(const std::string& name) const;
+    bool contains(const std::string& name) const;
+    ToolResult run(const Arguments& arguments) const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+// A card whose body shows these components, given as JSON.
+QByteArray cardOf(const QByteArray& components);
+
+bool contains(const std::string& text, const std::string& part);
+std::vector<std::string> linesOf(const std::string& text);
+int countOf(const std::string& text, const std::string& part);
+
+} // namespace plix::test

@@ -1,0 +1,84 @@
+#include "CardFile.h"
+
+#include "JsonPosition.h"
+#include "JsonText.h"
+#include "ToolError.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace plix::tool {
+namespace {
+
+// Qt's parser stops behind the token it cannot use, except where it looks at
+// single characters.
+int offendingOffset(const QJsonParseError& error, int size)
+{
+    switch (error.error) {
+    case QJsonParseError::GarbageAtEnd:
+    case QJsonParseError::IllegalNumber:
+    case QJsonParseError::IllegalUTF8String:
+    case QJsonParseError::TerminationByNumber:
+    case QJsonParseError::UnterminatedString:
+        return std::min(error.offset, size);
+    default:
+        return std::clamp(error.offset - 1, 0, size);
+    }
+}
+
+} // namespace
+
+CardFile::CardFile(const QString& path)
+    : path_(path)
+{
+    read();
+    check();
+}
+
+void CardFile::read()
+{
+    QFile file(path_);
+    if (file.open(QIODevice::ReadOnly))
+        json_ = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw fileError(path_, file.errorString());
+    // A byte order mark belongs to the file, not to the message in it.
+    if (json_.startsWith("\xEF\xBB\xBF"))
+        json_.remove(0, 3);
+}
+
+void CardFile::check() const
+{
+    const QByteArray plain = withoutComments(json_);
+    const JsonPosition position(plain);
+    if (position.start() == plain.size() || plain.at(position.start()) != '{')
+        refuse(position.start(), QStringLiteral("a card is a JSON object"));
+
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(plain, &error);
+    if (error.error != QJsonParseError::NoError)
+        refuse(offendingOffset(error, plain.size()), error.errorString());
+
+    const QString key = QStringLiteral("type");
+    const QJsonValue type = document.object().value(key);
+    if (type.isUndefined())
+        refuse(position.start(), QStringLiteral("the card has no \"type\""));
+    if (type != QJsonValue(QStringLiteral("bubble"))) {
+        refuse(position.rootMember(key).value_or(position.start()),
+               QStringLiteral("the \"type\" of a card is \"bubble\""));
+    }
+}
+
+void CardFile::refuse(int offset, const QString& reason) const
+{
+    const TextPlace place = placeAt(json_, offset);
+    throw ToolError {
+        ExitCode::NotACard,
+        QStringLiteral("%1:%2:%3: error: %4")
+            .arg(path_, QString::number(place.line), QString::number(place.column), reason)};
+}
+
+} // namespace plix::tool

@@ -1,0 +1,36 @@
+#include "Console.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdio>
+
+namespace plix::tool::console {
+namespace {
+
+void writeLine(std::FILE* stream, const QString& line)
+{
+    const QByteArray bytes = line.toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+    // Progress has to show up while the next card is drawn, also in a pipe.
+    std::fflush(stream);
+}
+
+} // namespace
+
+void print(const QString& line)
+{
+    writeLine(stdout, line);
+}
+
+void printError(const QString& line)
+{
+    writeLine(stderr, line);
+}
+
+void warn(const QString& path, const QString& text)
+{
+    printError(QStringLiteral("%1: warning: %2").arg(path, text));
+}
+
+} // namespace plix::tool::console

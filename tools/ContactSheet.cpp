@@ -1,0 +1,85 @@
+#include "ContactSheet.h"
+
+#include "PictureLimits.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace plix::tool {
+namespace {
+
+constexpr int widestSheet = 2000;
+constexpr int margin = 40;
+constexpr int gap = 40;
+constexpr int captionHeight = 32;
+constexpr int narrowestCaption = 120;
+// One endless card shall not make a sheet that nobody can look at.
+constexpr int highestThumbnail = 3000;
+
+const QColor sheetColour(0xE4, 0xE8, 0xED);
+const QColor captionColour(0x5B, 0x66, 0x75);
+
+QFont captionFont()
+{
+    QFont font;
+    font.setPixelSize(15);
+    return font;
+}
+
+QSize cellSize(const QImage& thumbnail)
+{
+    return {std::max(thumbnail.width(), narrowestCaption) + gap,
+            captionHeight + thumbnail.height() + gap};
+}
+
+} // namespace
+
+void ContactSheet::add(const QString& name, const QImage& picture)
+{
+    const QSize size = (QSizeF(picture.size()) / picture.devicePixelRatio()).toSize();
+    QImage thumbnail =
+        picture.scaled(size.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    thumbnail.setDevicePixelRatio(1);
+    if (thumbnail.height() > highestThumbnail)
+        thumbnail = thumbnail.copy(0, 0, thumbnail.width(), highestThumbnail);
+    entries_.append({name, thumbnail});
+}
+
+QImage ContactSheet::paint() const
+{
+    const ColumnLayout layout = columns();
+    const QSize size = layout.size() + QSize(2 * margin - gap, 2 * margin - gap);
+    QImage sheet(withinPictureLimits(size), QImage::Format_RGB32);
+    sheet.fill(sheetColour);
+
+    QPainter painter(&sheet);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.setFont(captionFont());
+    painter.setPen(captionColour);
+    painter.translate(margin, margin);
+    for (int i = 0; i < entries_.size(); ++i)
+        paintEntry(painter, entries_.at(i), layout.places().at(i));
+    return sheet;
+}
+
+ColumnLayout ContactSheet::columns() const
+{
+    QVector<QSize> cells;
+    for (const Entry& entry : entries_)
+        cells.append(cellSize(entry.thumbnail));
+    return ColumnLayout(cells, widestSheet - 2 * margin + gap);
+}
+
+void ContactSheet::paintEntry(QPainter& painter, const Entry& entry, const QPoint& place) const
+{
+    const QRect caption(place, QSize(cellSize(entry.thumbnail).width() - gap, captionHeight));
+    const QString name =
+        painter.fontMetrics().elidedText(entry.name, Qt::ElideRight, caption.width());
+    painter.drawText(caption, Qt::AlignLeft | Qt::AlignVCenter, name);
+    painter.drawImage(place + QPoint(0, captionHeight), entry.thumbnail);
+}
+
+} // namespace plix::tool

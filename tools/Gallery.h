@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ContactSheet.h"
+#include "Options.h"
+#include "ToolError.h"
+
+#include <QDir>
+
+namespace plix::tool {
+
+// Draws all cards of a folder into another one.
+class Gallery {
+public:
+    explicit Gallery(const Options& options);
+
+    // Cards that fail are reported and left out; the result is the worst of
+    // what happened to them. Throws ToolError when there can be no gallery.
+    ExitCode draw();
+
+private:
+    QStringList cardFiles() const;
+    void makeFolders() const;
+    void drawCards(const QStringList& files);
+    QImage drawOne(const QString& file);
+    void writeSheet() const;
+
+    Options options_;
+    QDir input_;
+    QDir output_;
+    ContactSheet sheet_;
+    int drawn_ = 0;
+    ExitCode worst_ = ExitCode::Done;
+};
+
+} // namespace plix::tool

@@ -1,0 +1,29 @@
+#include "HostWordings.h"
+
+#include <plix/Plix.h>
+
+namespace plix::tool {
+namespace {
+
+// The callback has no argument that could carry them.
+QMap<QString, QString> currentWordings;
+
+std::string PLIX_CALL wording(const char* key)
+{
+    return currentWordings.value(QString::fromUtf8(key)).toStdString();
+}
+
+} // namespace
+
+HostWordings::HostWordings(const QMap<QString, QString>& wordings)
+{
+    currentWordings = wordings;
+    Plix_SetMultiLangGetCallback(&wording);
+}
+
+HostWordings::~HostWordings()
+{
+    Plix_SetMultiLangGetCallback(nullptr);
+}
+
+} // namespace plix::tool

@@ -1,0 +1,123 @@
+#include "LayoutDump.h"
+
+#include <QFont>
+#include <QGraphicsObject>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QVariant>
+#include <QVector>
+
+#include <cmath>
+
+namespace plix::tool {
+namespace {
+
+QByteArray quoted(const QString& text)
+{
+    const QByteArray array = QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact);
+    return array.mid(1, array.size() - 2);
+}
+
+// Two decimals: finer differences cannot be seen, and would not be the same on
+// the next machine.
+QByteArray rounded(double value)
+{
+    if (!std::isfinite(value))
+        return "null";
+    const double hundredths = std::round(value * 100);
+    // Adding zero turns a negative zero into a plain one.
+    QByteArray digits = QByteArray::number(hundredths / 100 + 0.0, 'f', 2);
+    while (digits.endsWith('0'))
+        digits.chop(1);
+    if (digits.endsWith('.'))
+        digits.chop(1);
+    return digits;
+}
+
+QVector<const QGraphicsObject*> childObjects(const QGraphicsItem& item)
+{
+    QVector<const QGraphicsObject*> objects;
+    for (const QGraphicsItem* child : item.childItems()) {
+        if (const QGraphicsObject* object = child->toGraphicsObject())
+            objects.append(object);
+    }
+    return objects;
+}
+
+class LayoutWriter {
+public:
+    void write(const QGraphicsObject& item, int depth);
+
+    QByteArray takeText() { return std::move(text_); }
+
+private:
+    void writeRectangle(const QGraphicsObject& item);
+    void writeText(const QGraphicsObject& item);
+    void writeChildren(const QGraphicsObject& item, int depth);
+    void member(const char* name, const QByteArray& value);
+
+    QByteArray text_;
+};
+
+// Recursive: cards nest a few hundred levels deep at most, because their JSON
+// must not nest deeper than 1024.
+void LayoutWriter::write(const QGraphicsObject& item, int depth)
+{
+    text_ += QByteArray(2 * depth, ' ')
+        + "{\"type\": " + quoted(QString::fromLatin1(item.metaObject()->className()));
+    writeRectangle(item);
+    if (item.property("plainText").isValid())
+        writeText(item);
+    writeChildren(item, depth);
+    text_ += '}';
+}
+
+void LayoutWriter::writeRectangle(const QGraphicsObject& item)
+{
+    const QRectF rect = item.mapRectToParent(item.boundingRect());
+    member("x", rounded(rect.x()));
+    member("y", rounded(rect.y()));
+    member("width", rounded(rect.width()));
+    member("height", rounded(rect.height()));
+}
+
+void LayoutWriter::writeText(const QGraphicsObject& item)
+{
+    member("text", quoted(item.property("plainText").toString()));
+    member("fontSize", QByteArray::number(item.property("font").value<QFont>().pixelSize()));
+    member("lines", QByteArray::number(item.property("shownLineCount").toInt()));
+    if (item.property("elided").toBool())
+        member("elided", "true");
+}
+
+void LayoutWriter::writeChildren(const QGraphicsObject& item, int depth)
+{
+    const QVector<const QGraphicsObject*> children = childObjects(item);
+    if (children.isEmpty())
+        return;
+    text_ += ", \"children\": [\n";
+    for (const QGraphicsObject* child : children) {
+        write(*child, depth + 1);
+        text_ += child == children.last() ? "\n" : ",\n";
+    }
+    text_ += QByteArray(2 * depth, ' ') + ']';
+}
+
+void LayoutWriter::member(const char* name, const QByteArray& value)
+{
+    text_ += QByteArray(", \"") + name + "\": " + value;
+}
+
+} // namespace
+
+QByteArray dumpLayout(const QGraphicsItem& card)
+{
+    const QGraphicsObject* object = card.toGraphicsObject();
+    if (!object)
+        return "null\n";
+    LayoutWriter writer;
+    writer.write(*object, 0);
+    return writer.takeText() + '\n';
+}
+
+} // namespace plix::tool

@@ -1,0 +1,31 @@
+#include "LibraryLog.h"
+
+#include "Console.h"
+
+#include <plix/Plix.h>
+
+namespace plix::tool {
+namespace {
+
+// The callback has no argument that could carry it.
+QString currentPath;
+
+void PLIX_CALL warn(const char* text)
+{
+    console::warn(currentPath, QString::fromUtf8(text).trimmed());
+}
+
+} // namespace
+
+LibraryLog::LibraryLog(const QString& path)
+{
+    currentPath = path;
+    Plix_SetWiteLogCallback(&warn);
+}
+
+LibraryLog::~LibraryLog()
+{
+    Plix_SetWiteLogCallback(nullptr);
+}
+
+} // namespace plix::tool

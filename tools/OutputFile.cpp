@@ -1,0 +1,72 @@
+#include "OutputFile.h"
+
+#include "ToolError.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QImageWriter>
+#include <QSaveFile>
+
+#include <cstdio>
+
+namespace plix::tool {
+namespace {
+
+constexpr int dotsPerMeter = 3780; // 96 an inch
+
+bool writeAll(QFileDevice& file, const QByteArray& bytes)
+{
+    return file.write(bytes) == bytes.size() && file.flush();
+}
+
+void replaceFile(const QString& path, const QByteArray& bytes)
+{
+    QSaveFile file(path);
+    const bool isDone = file.open(QIODevice::WriteOnly) && writeAll(file, bytes) && file.commit();
+    if (!isDone)
+        throw fileError(path, file.errorString());
+}
+
+void writeToDevice(const QString& path, const QByteArray& bytes)
+{
+    QFile device(path);
+    if (!device.open(QIODevice::WriteOnly) || !writeAll(device, bytes))
+        throw fileError(path, device.errorString());
+}
+
+} // namespace
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    // Replacing a device or a pipe by a finished file would destroy it.
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile())
+        writeToDevice(path, bytes);
+    else
+        replaceFile(path, bytes);
+}
+
+void writePng(const QString& path, const QImage& image)
+{
+    // Qt would write down the resolution of the screen, which is not the picture's.
+    QImage picture = image;
+    picture.setDotsPerMeterX(dotsPerMeter);
+    picture.setDotsPerMeterY(dotsPerMeter);
+
+    QBuffer buffer;
+    QImageWriter writer(&buffer, "png");
+    if (!writer.write(picture))
+        throw fileError(path, writer.errorString());
+    writeFile(path, buffer.data());
+}
+
+void writeStandardOutput(const QByteArray& bytes)
+{
+    QFile output;
+    if (!output.open(stdout, QIODevice::WriteOnly) || !writeAll(output, bytes))
+        throw fileError(QStringLiteral("standard output"), output.errorString());
+}
+
+} // namespace plix::tool
