@@ -49,6 +49,8 @@ QGraphicsItem* PlixDataMgr::GetRootItem() const
 
 void PlixDataMgr::CreateUI()
 {
+    // An earlier item is its host's; what this build yields starts from nothing.
+    rootItem_.clear();
     try {
         sideInset_ = bubble_->GetSizeSpacing();
         bodyBottomInset_ = bubble_->GetFooterSpacing();

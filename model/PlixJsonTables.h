@@ -18,6 +18,8 @@ template <typename Item> constexpr PlixJsonKey<Item> ActionKey()
 {
     return {"action", PlixJsonType::Object,
             [](PlixJsonDataParse& parse, const PlixJsonMember& member, Item& item) {
+                if (member.value.isNull())
+                    return;
                 auto action = std::make_shared<ST_ACTION>();
                 parse.ParseAction(member, *action);
                 item.SetAction(std::move(action));

@@ -67,4 +67,14 @@ std::string box(const std::string& layout, const std::string& contents, const st
         + contents + "]}";
 }
 
+std::string component(const std::string& type, const std::string& more)
+{
+    return "{" + more + R"("type": ")" + type + R"("})";
+}
+
+std::string text(const std::string& words, const std::string& more)
+{
+    return component("text", R"("text": ")" + words + R"(", )" + more);
+}
+
 } // namespace plix::test

@@ -74,4 +74,11 @@ std::string bubbleWithBody(const std::string& body, const std::string& more = {}
 std::string box(const std::string& layout, const std::string& contents,
                 const std::string& more = {});
 
+// A component with members of its own, each followed by a comma:
+// component("separator", R"("margin": "md",)").
+std::string component(const std::string& type, const std::string& more = {});
+
+// A text component; `words` as they stand in JSON.
+std::string text(const std::string& words, const std::string& more = {});
+
 } // namespace plix::test

@@ -83,9 +83,13 @@ int main(int argc, char** argv)
                              "QT_STYLE_OVERRIDE", "QT_LOGGING_RULES"})
         qunsetenv(name);
 
+    testing::InitGoogleTest(&argc, argv);
+    // The build lists the tests without the environment that they run in.
+    if (testing::GTEST_FLAG(list_tests))
+        return RUN_ALL_TESTS();
+
     qInstallMessageHandler(collectQtMessage);
     QApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
     testing::UnitTest::GetInstance()->listeners().Append(new UnexpectedMessages);
     return RUN_ALL_TESTS();
 }

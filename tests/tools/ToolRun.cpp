@@ -49,7 +49,7 @@ ToolResult runTool(const Arguments& arguments, const QString& folder)
 
 QString ToolFolder::path(const std::string& name) const
 {
-    return m_folder.filePath(QString::fromStdString(name));
+    return folder_.filePath(QString::fromStdString(name));
 }
 
 void ToolFolder::write(const std::string& name, const QByteArray& bytes) const
@@ -74,7 +74,7 @@ bool ToolFolder::contains(const std::string& name) const
 
 ToolResult ToolFolder::run(const Arguments& arguments) const
 {
-    return runTool(arguments, m_folder.path());
+    return runTool(arguments, folder_.path());
 }
 
 QByteArray cardOf(const QByteArray& components)

@@ -33,7 +33,7 @@ public:
     ToolResult run(const Arguments& arguments) const;
 
 private:
-    QTemporaryDir m_folder;
+    QTemporaryDir folder_;
 };
 
 // A card whose body shows these components, given as JSON.

@@ -1,0 +1,25 @@
+#pragma once
+
+// Written as a host's: knows Plix by its header only.
+#include <plix/Plix.h>
+
+// The export table, in its order.
+#define PLIX_FOR_EACH_EXPORT(apply)                                                                \
+    apply(Plix_CreateController) apply(Plix_CreateQGraphicsItem) apply(Plix_Free)                  \
+        apply(Plix_HasAction) apply(Plix_InitData) apply(Plix_InitSetFrom)                         \
+            apply(Plix_ModifyHeight) apply(Plix_RefreshLayout) apply(Plix_ResumeBubbleBkColor)     \
+                apply(Plix_SetBotMentionHandleCallback) apply(Plix_SetBubbleBkColor)               \
+                    apply(Plix_SetClickCallBack) apply(Plix_SetCurrentLanguage)                    \
+                        apply(Plix_SetDisplayParam) apply(Plix_SetDownloadCallBack)                \
+                            apply(Plix_SetDpi) apply(Plix_SetHighLightText)                        \
+                                apply(Plix_SetMentionHandleCallback)                               \
+                                    apply(Plix_SetMultiLangGetCallback)                            \
+                                        apply(Plix_SetKestroControlSupport)                        \
+                                            apply(Plix_SetWiteLogCallback)
+
+// The exports as a host gets hold of them: linked, or looked up by name.
+struct HostExports {
+#define PLIX_MEMBER(name) decltype(&::name) name;
+    PLIX_FOR_EACH_EXPORT(PLIX_MEMBER)
+#undef PLIX_MEMBER
+};

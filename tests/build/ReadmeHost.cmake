@@ -1,0 +1,6 @@
+file(READ ${SOURCE}/README.md readme)
+file(READ ${SOURCE}/examples/minimal_host/main.cpp host)
+string(FIND "${readme}" "```cpp\n${host}```" place)
+if(place EQUAL -1)
+    message(FATAL_ERROR "README.md does not show examples/minimal_host/main.cpp as it stands")
+endif()

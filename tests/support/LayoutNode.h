@@ -1,0 +1,25 @@
+#pragma once
+
+#include "layout/YogaLayoutItem.h"
+
+#include <yoga/Yoga.h>
+
+namespace plix::test {
+
+// A layout item whose node the test can look into.
+class LayoutNode : public YogaLayoutItem {
+public:
+    LayoutNode();
+    // Takes over `node`, which may be null.
+    explicit LayoutNode(YGNodeRef node);
+
+    YGNodeRef node() const { return ownNode_; }
+
+private:
+    YGNodeRef ownNode_;
+};
+
+// The node of an item of a card. `item` must be a container or be in one.
+YGNodeRef nodeOf(YogaLayoutItem& item);
+
+} // namespace plix::test
