@@ -1,5 +1,7 @@
 #include "ElidedLine.h"
 
+#include "EmojiPicture.h"
+
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -78,10 +80,17 @@ QTextOption oneLine(QTextOption option, bool aligned)
     return option;
 }
 
+ElisionSource withoutPictures(ElisionSource source)
+{
+    EmojiPicture::Replace(source.text, source.formats);
+    return source;
+}
+
 } // namespace
 
 ElidedLine::ElidedLine(ElisionSource source, std::optional<qreal> width)
-    : source_(std::move(source))
+    : source_(withoutPictures(std::move(source)))
+    , pictures_(EmojiPicture::Among(source_.formats))
     , width_(width)
 {
     layout_.setFont(source_.font);
@@ -97,6 +106,20 @@ QTextLine ElidedLine::Line() const
     return layout_.lineAt(0);
 }
 
+void ElidedLine::DrawPictures(QPainter* painter, const QPointF& origin) const
+{
+    const QTextLine line = Line();
+    const qreal baseline = origin.y() + line.y() + line.ascent();
+    for (const QTextLayout::FormatRange& range : pictures_) {
+        const int end = std::min(range.start + range.length, laidOutLength_);
+        for (int at = range.start; at < end; ++at) {
+            const qreal left = std::min(line.cursorToX(at, QTextLine::Leading),
+                                        line.cursorToX(at, QTextLine::Trailing));
+            EmojiPicture::Draw(painter, {origin.x() + left, baseline}, range.format);
+        }
+    }
+}
+
 // The widths of the starts of a text grow with their length (but for what
 // ligatures and kerning take back), so the longest one that fits is searched
 // by halving, from near where it is expected.
@@ -106,7 +129,8 @@ int ElidedLine::LongestFittingLength()
     const auto expected = std::lower_bound(cuts.begin(), cuts.end(), source_.expectedLength);
 
     std::size_t fitting = 0; // The bare ellipsis, which is shown in any case.
-    std::size_t tooLong = cuts.size();
+    const bool isAllTooWide = source_.isTooWide && cuts.back() == source_.text.size();
+    std::size_t tooLong = isAllTooWide ? cuts.size() - 1 : cuts.size();
     auto probe = static_cast<std::size_t>(expected - cuts.begin());
     for (std::size_t step = 1; tooLong - fitting > 1; step *= 2) {
         if (probe <= fitting || probe >= tooLong)

@@ -1,5 +1,9 @@
 #include "kestro_control/KestroControlManager.h"
 
+#include "kestro_control/KestroFontBindSupport.h"
+
+#include <vector>
+
 KestroControlManager* KestroControlManager::GetInstance()
 {
     static auto* const instance = new KestroControlManager;
@@ -9,9 +13,36 @@ KestroControlManager* KestroControlManager::GetInstance()
 void KestroControlManager::SetKestroControlSupport(KestroControlSupport* support)
 {
     support_ = support;
+    FontFamilyChanged();
 }
 
 KestroControlSupport* KestroControlManager::GetKestroControlSupport() const
 {
     return support_;
+}
+
+void KestroControlManager::FontFamilyChanged()
+{
+    const std::vector<KestroFontBindSupport*> told(items_.begin(), items_.end());
+    for (KestroFontBindSupport* item : told) {
+        // An item that was told before may have deleted this one.
+        if (items_.count(item) > 0 && item->IsUseFontBonding())
+            item->FontChanged();
+    }
+}
+
+void KestroControlManager::Forget(const KestroControlSupport* support)
+{
+    if (support_ == support)
+        support_ = nullptr;
+}
+
+void KestroControlManager::Register(KestroFontBindSupport* item)
+{
+    items_.insert(item);
+}
+
+void KestroControlManager::Unregister(KestroFontBindSupport* item)
+{
+    items_.erase(item);
 }

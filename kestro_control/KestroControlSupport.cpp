@@ -1,3 +1,13 @@
 #include "kestro_control/KestroControlSupport.h"
 
-KestroControlSupport::~KestroControlSupport() = default;
+#include "kestro_control/KestroControlManager.h"
+
+KestroControlSupport::~KestroControlSupport()
+{
+    KestroControlManager::GetInstance()->Forget(this);
+}
+
+QImage KestroControlSupport::GetEmojiImage(const QString&) const
+{
+    return {};
+}

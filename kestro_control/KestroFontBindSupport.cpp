@@ -1,6 +1,16 @@
 #include "kestro_control/KestroFontBindSupport.h"
 
-KestroFontBindSupport::~KestroFontBindSupport() = default;
+#include "kestro_control/KestroControlManager.h"
+
+KestroFontBindSupport::KestroFontBindSupport()
+{
+    KestroControlManager::GetInstance()->Register(this);
+}
+
+KestroFontBindSupport::~KestroFontBindSupport()
+{
+    KestroControlManager::GetInstance()->Unregister(this);
+}
 
 void KestroFontBindSupport::FontChanged() { }
 

@@ -1,8 +1,12 @@
 #include "ShownLines.h"
 
 #include "ElidedLine.h"
+#include "EmojiPicture.h"
+#include "HighlightWords.h"
+#include "ParagraphText.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QGlyphRun>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -67,6 +71,9 @@ qreal trailingSpaceWidth(const QTextBlock& block, const QTextLine& line)
     while (textEnd > line.textStart()
            && document.characterAt(block.position() + textEnd - 1).isSpace())
         --textEnd;
+    // Places in long lines are dear, and most lines end in no space.
+    if (textEnd == end)
+        return 0;
     return std::abs(line.cursorToX(end) - line.cursorToX(textEnd));
 }
 
@@ -76,14 +83,48 @@ int expectedLength(const QTextLine& line, qreal width)
     return static_cast<int>(line.textLength() * share);
 }
 
+// Farther than ink stands out from any line.
+constexpr qreal farAway = 4096;
+
+// As the eye weighs the colours, from 0 for black to 1 for white.
+qreal luminance(const QColor& color)
+{
+    const auto linear = [](qreal part) { return std::pow(part, 2.2); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
+}
+
+// Black on light grounds and white on dark ones, as they look on white paper.
+// The threshold has the same contrast to both.
+QColor textColorOn(const QBrush& ground)
+{
+    const qreal alpha = ground.color().alphaF();
+    const qreal light = alpha * luminance(ground.color()) + (1 - alpha);
+    return light > 0.179 ? Qt::black : Qt::white;
+}
+
+// A format for all of a line.
+QTextLayout::FormatRange onGround(const QBrush& ground, const QTextLine& line)
+{
+    QTextLayout::FormatRange range;
+    range.start = line.textStart();
+    range.length = line.textLength();
+    range.format.setForeground(textColorOn(ground));
+    // The grounds of spans would cover the highlight.
+    range.format.setBackground(Qt::NoBrush);
+    return range;
+}
+
 } // namespace
 
 class ShownLines::Builder {
 public:
-    Builder(const QTextDocument& document, int maxCount, bool elide, std::vector<Line>& lines)
+    Builder(const QTextDocument& document, int maxCount, bool elide, bool goesOn,
+            std::vector<Line>& lines)
         : document_(document)
         , maxCount_(maxCount)
         , elide_(elide)
+        , goesOn_(goesOn)
         , lines_(lines)
     {
     }
@@ -101,19 +142,26 @@ private:
     void AddLinesOf(const QTextBlock& block)
     {
         const QPointF origin = document_.documentLayout()->blockBoundingRect(block).topLeft();
-        const QTextLayout& layout = *block.layout();
+        QTextLayout& layout = *block.layout();
+        // What is shown is drawn and asked for places again and again.
+        layout.setCacheEnabled(true);
         std::optional<Paragraph> paragraph;
         for (int i = 0; i < layout.lineCount() && !IsFull(); ++i) {
-            AddLine(layout.lineAt(i), layout.textOption().alignment(), origin);
+            AddLine(layout.lineAt(i), block, origin);
             if (elide_)
                 ElideIfNeeded(block, paragraph);
         }
     }
 
-    void AddLine(const QTextLine& line, Qt::Alignment alignment, const QPointF& blockOrigin)
+    void AddLine(const QTextLine& line, const QTextBlock& block, const QPointF& blockOrigin)
     {
-        const QPointF origin = blockOrigin + QPointF(0, movedDown_);
-        lines_.push_back({line, origin, TextRect(line, origin), alignment, nullptr});
+        Line shown;
+        shown.line = line;
+        shown.origin = blockOrigin + QPointF(0, movedDown_);
+        shown.rect = TextRect(line, shown.origin);
+        shown.alignment = block.layout()->textOption().alignment();
+        shown.layoutStart = block.position();
+        lines_.push_back(std::move(shown));
     }
 
     // Both concern the line that was added last.
@@ -122,19 +170,27 @@ private:
     {
         const QTextLine& line = lines_.back().line;
         const int end = line.textStart() + line.textLength();
-        const bool isCut = IsFull() && hasTextFrom(document_, block.position() + end);
+        const bool isCut = IsCutAt(block.position() + end);
         if (!isCut && !IsTooWide(block, line))
             return;
         if (!paragraph)
             paragraph.emplace(block);
-        Elide(block, *paragraph, isCut ? forcedLineEnd(paragraph->text, line.textStart()) : end);
+        Elide(block, *paragraph, isCut);
     }
 
-    void Elide(const QTextBlock& block, const Paragraph& paragraph, int end)
+    bool IsCutAt(int position) const
+    {
+        const bool isLast = position == document_.characterCount() - 1;
+        return (IsFull() && hasTextFrom(document_, position)) || (goesOn_ && (IsFull() || isLast));
+    }
+
+    // `isCut`: text is left over behind the line. Else the line is too wide.
+    void Elide(const QTextBlock& block, const Paragraph& paragraph, bool isCut)
     {
         Line& shown = lines_.back();
         const QTextLine line = shown.line;
         const int start = line.textStart();
+        const int end = isCut ? forcedLineEnd(paragraph.text, start) : start + line.textLength();
         const std::optional<qreal> width = AvailableWidth(block, line);
 
         ElisionSource source;
@@ -144,9 +200,11 @@ private:
         source.option = block.layout()->textOption();
         if (width)
             source.expectedLength = expectedLength(line, *width);
+        source.isTooWide = !isCut;
 
         shown.elided = std::make_unique<ElidedLine>(std::move(source), width);
         shown.line = shown.elided->Line();
+        shown.layoutStart += start;
         shown.origin += line.position();
         shown.rect = TextRect(shown.line, shown.origin);
         movedDown_ += shown.line.height() - line.height();
@@ -179,6 +237,7 @@ private:
     const QTextDocument& document_;
     const int maxCount_;
     const bool elide_;
+    const bool goesOn_;
     std::vector<Line>& lines_;
     // How much higher than in the document the lines above have become: an
     // ellipsis can bring tall text into its line, or drive it out.
@@ -190,10 +249,10 @@ ShownLines::~ShownLines() = default;
 ShownLines::ShownLines(ShownLines&&) noexcept = default;
 ShownLines& ShownLines::operator=(ShownLines&&) noexcept = default;
 
-ShownLines::ShownLines(const QTextDocument& document, int maxCount, bool elide)
+ShownLines::ShownLines(const QTextDocument& document, int maxCount, bool elide, bool goesOn)
 {
     if (!document.isEmpty())
-        Builder(document, maxCount, elide, lines_).AddLines();
+        Builder(document, maxCount, elide, goesOn, lines_).AddLines();
 
     const bool hasWidth = document.textWidth() >= 0;
     const qreal width = hasWidth ? document.textWidth() : WidestLine();
@@ -248,13 +307,159 @@ qreal ShownLines::FirstAscent() const
     return lines_.front().line.ascent();
 }
 
-void ShownLines::Draw(QPainter* painter, const QRectF& exposed) const
+void ShownLines::Draw(QPainter* painter, const QRectF& exposed, const QBrush& highlight) const
 {
     for (const Line& line : lines_) {
         // Ink may stand out from its line, but not as far as the next but one.
         const qreal overhang = line.rect.height();
         if (line.rect.top() - overhang <= exposed.bottom()
             && line.rect.bottom() + overhang >= exposed.top())
-            line.line.draw(painter, line.origin);
+            line.Draw(painter, highlight);
     }
+}
+
+std::vector<QRectF> ShownLines::GlyphRects(int start, int end) const
+{
+    std::vector<QRectF> rects;
+    for (auto line = FirstLineWith(start); line < lines_.size() && lines_[line].Start() < end;
+         ++line)
+        lines_[line].AddGlyphRects(start, end, rects);
+    return rects;
+}
+
+std::size_t ShownLines::FirstLineWith(int position) const
+{
+    const auto first =
+        std::partition_point(lines_.begin(), lines_.end(),
+                             [position](const Line& line) { return line.End() <= position; });
+    return static_cast<std::size_t>(first - lines_.begin());
+}
+
+void ShownLines::Highlight(const QTextDocument& document, const HighlightWords& words)
+{
+    for (Line& line : lines_)
+        line.highlighted.clear();
+    if (words.IsEmpty() || lines_.empty())
+        return;
+    const int shownEnd = lines_.back().End();
+    for (QTextBlock block = document.begin(); block.isValid() && block.position() < shownEnd;
+         block = block.next()) {
+        const ParagraphText text(block);
+        const auto pictures = EmojiPicture::Among(block.textFormats());
+        for (const auto& [start, end] : words.Cover(text.Characters()))
+            Highlight(text.DocumentPosition(start), text.DocumentPosition(end), pictures);
+    }
+    for (Line& line : lines_)
+        line.MergeHighlights();
+}
+
+void ShownLines::Highlight(int start, int end, const FormatRanges& pictures)
+{
+    for (auto i = FirstLineWith(start); i < lines_.size() && lines_[i].Start() < end; ++i) {
+        Line& line = lines_[i];
+        std::vector<QRectF> rects;
+        line.AddGlyphRects(start, end, rects);
+        if (!line.elided)
+            line.AddPictureRects(pictures, start, end, rects);
+        // As far as the text engine draws the grounds of spans.
+        for (const QRectF& rect : rects)
+            line.highlighted.emplace_back(std::floor(rect.left()), std::ceil(rect.right()));
+    }
+}
+
+int ShownLines::Line::Start() const
+{
+    return layoutStart + line.textStart();
+}
+
+int ShownLines::Line::End() const
+{
+    return elided ? layoutStart + elided->Length()
+                  : layoutStart + line.textStart() + line.textLength();
+}
+
+void ShownLines::Line::AddGlyphRects(int start, int end, std::vector<QRectF>& rects) const
+{
+    const int first = std::max(start, Start());
+    const int last = std::min(end, End());
+    if (first >= last)
+        return;
+    // Of one direction each, so that they are where the text is seen.
+    for (const QGlyphRun& run : line.glyphRuns(first - layoutStart, last - first))
+        rects.push_back(run.boundingRect().translated(origin));
+}
+
+// Pictures have no glyphs, but the struts behind them have.
+void ShownLines::Line::AddPictureRects(const FormatRanges& pictures, int start, int end,
+                                       std::vector<QRectF>& rects) const
+{
+    for (const QTextLayout::FormatRange& range : pictures) {
+        const int first = std::max({start, Start(), layoutStart + range.start}) - layoutStart;
+        const int last =
+            std::min({end, End(), layoutStart + range.start + range.length}) - layoutStart;
+        const qreal width = EmojiPicture::Width(range.format);
+        for (int at = first; at < last; ++at) {
+            for (const QGlyphRun& strut : line.glyphRuns(at + 1, 1)) {
+                const qreal x = strut.boundingRect().left();
+                const QRectF cell(strut.isRightToLeft() ? x : x - width, 0, width, rect.height());
+                rects.push_back(cell.translated(origin));
+            }
+        }
+    }
+}
+
+void ShownLines::Line::MergeHighlights()
+{
+    std::sort(highlighted.begin(), highlighted.end());
+    std::vector<Span> merged;
+    for (const Span& span : highlighted) {
+        if (!merged.empty() && span.first <= merged.back().second)
+            merged.back().second = std::max(merged.back().second, span.second);
+        else
+            merged.push_back(span);
+    }
+    highlighted = std::move(merged);
+}
+
+QPainterPath ShownLines::Line::HighlightedPath() const
+{
+    QPainterPath path;
+    const qreal top = std::floor(rect.top());
+    const qreal bottom = std::ceil(rect.bottom());
+    for (const auto& [left, right] : highlighted)
+        path.addRect(left, top, right - left, bottom - top);
+    return path;
+}
+
+// What is highlighted is drawn apart from the rest, so that it can have another
+// colour without another layout.
+void ShownLines::Line::Draw(QPainter* painter, const QBrush& highlight) const
+{
+    if (highlighted.empty() || highlight.style() == Qt::NoBrush) {
+        DrawText(painter);
+        return;
+    }
+    const QPainterPath inside = HighlightedPath();
+    QPainterPath outside;
+    outside.addRect(rect.adjusted(-farAway, -farAway, farAway, farAway));
+    outside.addPath(inside);
+
+    painter->save();
+    painter->setClipPath(outside, Qt::IntersectClip);
+    DrawText(painter);
+    painter->restore();
+
+    painter->save();
+    painter->setClipPath(inside, Qt::IntersectClip);
+    painter->fillRect(inside.boundingRect(), highlight);
+    const QTextLayout::FormatRange range = onGround(highlight, line);
+    DrawText(painter, &range);
+    painter->restore();
+}
+
+void ShownLines::Line::DrawText(QPainter* painter, const QTextLayout::FormatRange* format) const
+{
+    line.draw(painter, origin, format);
+    if (elided)
+        elided->DrawPictures(painter, origin);
 }

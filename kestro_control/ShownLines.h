@@ -1,15 +1,18 @@
 #pragma once
 
+#include <QBrush>
+#include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
 #include <QTextLayout>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 class ElidedLine;
+class HighlightWords;
 class QPainter;
-class QTextBlock;
 class QTextDocument;
 
 // The lines of a document that are shown under a line limit: which, where, and
@@ -19,8 +22,9 @@ class ShownLines {
 public:
     // No line.
     ShownLines();
-    // `maxCount` 0: no limit.
-    ShownLines(const QTextDocument& document, int maxCount, bool elide);
+    // `maxCount` 0: no limit. `goesOn`: there is more text than the document
+    // holds.
+    ShownLines(const QTextDocument& document, int maxCount, bool elide, bool goesOn);
     ~ShownLines();
     ShownLines(ShownLines&&) noexcept;
     ShownLines& operator=(ShownLines&&) noexcept;
@@ -32,10 +36,22 @@ public:
     // From the top of the first line to its baseline. There must be a line.
     qreal FirstAscent() const;
 
-    // Draws the lines that may leave ink in `exposed`.
-    void Draw(QPainter* painter, const QRectF& exposed) const;
+    // What the shown glyphs of the text between two positions of the document
+    // take up, from their fonts' ascents to their descents.
+    std::vector<QRectF> GlyphRects(int start, int end) const;
+
+    // Replaces the earlier highlight.
+    void Highlight(const QTextDocument& document, const HighlightWords& words);
+
+    // Draws the lines that may leave ink in `exposed`, and what is highlighted
+    // on a ground of `highlight`.
+    void Draw(QPainter* painter, const QRectF& exposed, const QBrush& highlight) const;
 
 private:
+    // From left to right.
+    using Span = std::pair<qreal, qreal>;
+    using FormatRanges = QVector<QTextLayout::FormatRange>;
+
     struct Line {
         QTextLine line;
         // Where the line's own coordinates have their origin.
@@ -44,8 +60,27 @@ private:
         QRectF rect;
         Qt::Alignment alignment;
         std::unique_ptr<ElidedLine> elided;
+        // Where the document has the first character of the line's layout.
+        int layoutStart = 0;
+        // Without overlaps, in ascending order.
+        std::vector<Span> highlighted;
+
+        // The text of the document that is shown.
+        int Start() const;
+        int End() const;
+
+        void AddGlyphRects(int start, int end, std::vector<QRectF>& rects) const;
+        void AddPictureRects(const FormatRanges& pictures, int start, int end,
+                             std::vector<QRectF>& rects) const;
+        void MergeHighlights();
+        void Draw(QPainter* painter, const QBrush& highlight) const;
+        void DrawText(QPainter* painter, const QTextLayout::FormatRange* format = nullptr) const;
+        QPainterPath HighlightedPath() const;
     };
     class Builder;
+
+    std::size_t FirstLineWith(int position) const;
+    void Highlight(int start, int end, const FormatRanges& pictures);
 
     qreal WidestLine() const;
     void AlignLinesIn(qreal width);

@@ -1,8 +1,18 @@
 #include "kestro_control/TextItem.h"
 
+#include "DisplayBudget.h"
+#include "EmojiPicture.h"
+#include "HighlightWords.h"
+#include "MarkupReader.h"
+#include "MentionAreas.h"
+#include "ParagraphText.h"
 #include "ShownLines.h"
 
+#include "kestro_control/KestroControlManager.h"
+#include "kestro_control/KestroControlSupport.h"
+
 #include <QAbstractTextDocumentLayout>
+#include <QCursor>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneHoverEvent>
 #include <QGraphicsSceneMouseEvent>
@@ -17,6 +27,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -25,6 +37,8 @@ namespace {
 constexpr qreal widestItem = 1 << 20;
 
 constexpr qreal naturalWidth = -1;
+
+const QColor defaultMentionColor(0x11, 0x8D, 0xFF);
 
 qreal documentWidth(qreal itemWidth)
 {
@@ -53,25 +67,71 @@ public:
     explicit Private(TextItem& textItem);
     ~Private();
 
+    // Inserts at `cursor`, as far as the display limit lets it.
+    void Insert(QTextCursor& cursor, const MarkupRun& run, const QTextCharFormat& format);
+
+    // Without a format of its own.
+    void ReplaceText(const QString& text);
+
+    QString PlainText() const;
+
+    // Whether `text` can be shown besides all that is there.
+    bool HasRoomFor(const QString& text) const;
+
+    void TakeFontFamily();
+
     // The lines on show, laid out when they are asked for first.
     const ShownLines& Shown();
+
+    const ShownLines& ShownHighlighted();
+
+    std::optional<Mention> MentionAt(const QPointF& point);
+
+    void Press(QGraphicsSceneMouseEvent* event);
+    void Release(QGraphicsSceneMouseEvent* event);
+    void Hover(QGraphicsSceneHoverEvent* event);
+    void SetHandShown(bool shown);
 
     // What is shown is about to change, or has just changed in the document.
     void Invalidate();
 
+    // Outlives the document, which holds on to it.
+    EmojiPicture emojiPictures;
     QTextDocument document;
     QColor textColor = QGuiApplication::palette().color(QPalette::Text);
+    QColor mentionColor = defaultMentionColor;
     int maxLineCount = 0;
     bool elide = false;
     bool readOnly = true;
+    bool markupEnabled = false;
+    bool hasMentions = false;
+    HighlightWords highlightWords;
+    QBrush highlightBrush;
+    bool isHighlightValid = true;
+    // The mention that the left button went down on.
+    std::optional<int> pressedMention;
 
 private:
     void WatchLayout();
+    void InsertText(QTextCursor& cursor, const QString& text, const QTextCharFormat& format);
+    void InsertMention(QTextCursor& cursor, const MarkupRun& run, QTextCharFormat format);
+    void InsertEmoji(QTextCursor& cursor, const MarkupRun& run, const QTextCharFormat& format);
+    void Hide(const QString& text);
 
     TextItem& item_;
     ShownLines shown_;
     bool isShownValid_ = false;
+    std::optional<MentionAreas> mentions_;
     QPointer<QAbstractTextDocumentLayout> watchedLayout_;
+
+    DisplayBudget budget_;
+    // What of the text is beyond the display limit.
+    QString hiddenText_;
+    bool hasPictures_ = false;
+    int lastMentionId_ = 0;
+
+    // The cursor of the item, if any, while there is a hand in its place.
+    std::optional<std::optional<QCursor>> cursorBeneathHand_;
 };
 
 TextItem::Private::Private(TextItem& textItem)
@@ -89,15 +149,188 @@ TextItem::Private::~Private()
         watchedLayout_->disconnect(&item_);
 }
 
+void TextItem::Private::Insert(QTextCursor& cursor, const MarkupRun& run,
+                               const QTextCharFormat& format)
+{
+    switch (run.kind) {
+    case MarkupRun::Kind::Text:
+        InsertText(cursor, run.text, format);
+        break;
+    case MarkupRun::Kind::UserMention:
+    case MarkupRun::Kind::BotMention:
+        InsertMention(cursor, run, format);
+        break;
+    case MarkupRun::Kind::Emoji:
+        InsertEmoji(cursor, run, format);
+        break;
+    }
+}
+
+void TextItem::Private::InsertText(QTextCursor& cursor, const QString& text,
+                                   const QTextCharFormat& format)
+{
+    if (text.isEmpty())
+        return;
+    const int shown = hiddenText_.isEmpty() ? budget_.Take(text) : 0;
+    if (shown > 0)
+        cursor.insertText(text.left(shown), format);
+    if (shown < text.size())
+        Hide(text.mid(shown));
+}
+
+void TextItem::Private::InsertMention(QTextCursor& cursor, const MarkupRun& run,
+                                      QTextCharFormat format)
+{
+    const bool isBot = run.kind == MarkupRun::Kind::BotMention;
+    Mention {isBot, run.number, ++lastMentionId_}.WriteTo(format);
+    format.setForeground(mentionColor);
+    InsertText(cursor, run.text, format);
+    hasMentions = true;
+    item_.setAcceptHoverEvents(true);
+}
+
+void TextItem::Private::InsertEmoji(QTextCursor& cursor, const MarkupRun& run,
+                                    const QTextCharFormat& format)
+{
+    const KestroControlSupport* support =
+        KestroControlManager::GetInstance()->GetKestroControlSupport();
+    const QImage picture = support ? support->GetEmojiImage(run.emojiCode) : QImage();
+    const QString object(QChar::ObjectReplacementCharacter);
+    if (picture.isNull()) {
+        InsertText(cursor, run.text, format);
+    } else if (!hiddenText_.isEmpty() || budget_.Take(object) == 0) {
+        Hide(run.text);
+    } else {
+        document.documentLayout()->registerHandler(EmojiPicture::objectType, &emojiPictures);
+        EmojiPicture::Insert(cursor, format, run.text, picture);
+        hasPictures_ = true;
+    }
+}
+
+void TextItem::Private::Hide(const QString& text)
+{
+    hiddenText_ += asPlainText(text);
+}
+
+void TextItem::Private::ReplaceText(const QString& text)
+{
+    budget_ = DisplayBudget();
+    hiddenText_.clear();
+    hasPictures_ = false;
+    hasMentions = false;
+    item_.setAcceptHoverEvents(!readOnly);
+
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.removeSelectedText();
+    cursor.setBlockFormat(QTextBlockFormat());
+    cursor.setBlockCharFormat(QTextCharFormat());
+    InsertText(cursor, text, QTextCharFormat());
+    cursor.endEditBlock();
+}
+
+QString TextItem::Private::PlainText() const
+{
+    return (hasPictures_ ? plainTextOf(document) : document.toPlainText()) + hiddenText_;
+}
+
+bool TextItem::Private::HasRoomFor(const QString& text) const
+{
+    return hiddenText_.isEmpty() && DisplayBudget(budget_).Take(text) == text.size();
+}
+
+void TextItem::Private::TakeFontFamily()
+{
+    const KestroControlSupport* support =
+        KestroControlManager::GetInstance()->GetKestroControlSupport();
+    const QString family = support ? support->GetFontFamily() : QString();
+    if (family.isEmpty())
+        return;
+    QFont font = item_.font();
+    font.setFamily(family);
+    item_.setFont(font);
+}
+
 const ShownLines& TextItem::Private::Shown()
 {
     if (!isShownValid_) {
         WatchLayout();
-        shown_ =
-            readOnly ? ShownLines(document, maxLineCount, elide) : ShownLines(document, 0, false);
+        shown_ = readOnly ? ShownLines(document, maxLineCount, elide, !hiddenText_.isEmpty())
+                          : ShownLines(document, 0, false, false);
         isShownValid_ = true;
+        isHighlightValid = highlightWords.IsEmpty();
     }
     return shown_;
+}
+
+const ShownLines& TextItem::Private::ShownHighlighted()
+{
+    Shown();
+    if (!isHighlightValid) {
+        shown_.Highlight(document, highlightWords);
+        isHighlightValid = true;
+    }
+    return shown_;
+}
+
+std::optional<Mention> TextItem::Private::MentionAt(const QPointF& point)
+{
+    if (!hasMentions || !readOnly)
+        return std::nullopt;
+    const ShownLines& shown = Shown();
+    if (!mentions_)
+        mentions_.emplace(document, shown);
+    return mentions_->At(point);
+}
+
+void TextItem::Private::Press(QGraphicsSceneMouseEvent* event)
+{
+    const std::optional<Mention> mention = MentionAt(event->pos());
+    if (event->button() == Qt::LeftButton && mention)
+        pressedMention = mention->id;
+    else
+        event->ignore();
+}
+
+void TextItem::Private::Release(QGraphicsSceneMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || !pressedMention) {
+        event->ignore();
+        return;
+    }
+    const int pressed = *std::exchange(pressedMention, std::nullopt);
+    const std::optional<Mention> mention = MentionAt(event->pos());
+    if (!mention || mention->id != pressed)
+        return;
+    // Whoever hears of it may delete the item.
+    if (mention->isBot)
+        Q_EMIT item_.BotMentionClicked(mention->userNo);
+    else
+        Q_EMIT item_.MentionClicked(mention->userNo);
+}
+
+void TextItem::Private::Hover(QGraphicsSceneHoverEvent* event)
+{
+    SetHandShown(MentionAt(event->pos()).has_value());
+    event->ignore();
+}
+
+void TextItem::Private::SetHandShown(bool shown)
+{
+    if (shown == cursorBeneathHand_.has_value())
+        return;
+    if (shown) {
+        cursorBeneathHand_.emplace(item_.hasCursor() ? std::optional(item_.cursor())
+                                                     : std::nullopt);
+        item_.setCursor(Qt::PointingHandCursor);
+        return;
+    }
+    const std::optional<QCursor> before = *std::exchange(cursorBeneathHand_, std::nullopt);
+    if (before)
+        item_.setCursor(*before);
+    else
+        item_.unsetCursor();
 }
 
 // The layout tells of changes of which the document says nothing: of its
@@ -120,6 +353,8 @@ void TextItem::Private::Invalidate()
     item_.prepareGeometryChange();
     isShownValid_ = false;
     shown_ = ShownLines();
+    mentions_.reset();
+    SetHandShown(false);
     item_.update();
     item_.updateGeometry();
 }
@@ -132,6 +367,7 @@ TextItem::TextItem(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
     setGraphicsItem(this);
     setAcceptDrops(false);
     setAcceptHoverEvents(false);
+    private_->TakeFontFamily();
 }
 
 TextItem::~TextItem()
@@ -143,10 +379,30 @@ TextItem::~TextItem()
 
 void TextItem::InsertRichText(const QString& text, bool append, const QTextCharFormat* format)
 {
+    QString behind;
+    if (!append && !private_->HasRoomFor(text)) {
+        behind = toPlainText();
+        ClearText();
+    }
+    const QTextCharFormat runFormat = format ? *format : QTextCharFormat();
     QTextCursor cursor(document());
     if (append)
         cursor.movePosition(QTextCursor::End);
-    cursor.insertText(text, format ? *format : QTextCharFormat());
+    cursor.beginEditBlock();
+    if (private_->markupEnabled) {
+        for (const MarkupRun& run : readMarkup(text))
+            private_->Insert(cursor, run, runFormat);
+    } else {
+        private_->Insert(cursor, {MarkupRun::Kind::Text, text, 0, {}}, runFormat);
+    }
+    if (!behind.isEmpty())
+        private_->Insert(cursor, {MarkupRun::Kind::Text, behind, 0, {}}, QTextCharFormat());
+    cursor.endEditBlock();
+}
+
+void TextItem::SetMarkupEnabled(bool enabled)
+{
+    private_->markupEnabled = enabled;
 }
 
 void TextItem::ClearText()
@@ -156,19 +412,12 @@ void TextItem::ClearText()
 
 void TextItem::setPlainText(const QString& text)
 {
-    QTextCursor cursor(document());
-    cursor.beginEditBlock();
-    cursor.select(QTextCursor::Document);
-    cursor.removeSelectedText();
-    cursor.setBlockFormat(QTextBlockFormat());
-    cursor.setBlockCharFormat(QTextCharFormat());
-    cursor.insertText(text, QTextCharFormat());
-    cursor.endEditBlock();
+    private_->ReplaceText(text);
 }
 
 QString TextItem::toPlainText() const
 {
-    return private_->document.toPlainText();
+    return private_->PlainText();
 }
 
 QTextDocument* TextItem::document() const
@@ -206,6 +455,27 @@ void TextItem::setDefaultTextColor(const QColor& color)
     private_->textColor = color;
     if (!IsReadOnly())
         QGraphicsTextItem::setDefaultTextColor(color);
+    update();
+}
+
+QColor TextItem::MentionColor() const
+{
+    return private_->mentionColor;
+}
+
+void TextItem::SetMentionColor(const QColor& color)
+{
+    private_->mentionColor = color;
+}
+
+void TextItem::HighlightText(const QStringList& words, const QBrush& brush)
+{
+    HighlightWords newWords(words);
+    if (newWords == private_->highlightWords && brush == private_->highlightBrush)
+        return;
+    private_->highlightWords = std::move(newWords);
+    private_->highlightBrush = brush;
+    private_->isHighlightValid = false;
     update();
 }
 
@@ -290,7 +560,7 @@ void TextItem::SetReadOnly(bool readOnly)
     QGraphicsTextItem::setDefaultTextColor(defaultTextColor());
     document()->setUndoRedoEnabled(!readOnly);
     setAcceptDrops(!readOnly);
-    setAcceptHoverEvents(!readOnly);
+    setAcceptHoverEvents(!readOnly || private_->hasMentions);
     update();
 }
 
@@ -301,7 +571,8 @@ bool TextItem::IsReadOnly() const
 
 void TextItem::FontChanged()
 {
-    KestroFontBindSupport::FontChanged();
+    if (IsUseFontBonding())
+        private_->TakeFontFamily();
 }
 
 QSizeF TextItem::sizeHint(Qt::SizeHint which, const QSizeF&) const
@@ -348,7 +619,8 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
     const QPen pen = painter->pen();
     painter->setPen(private_->textColor);
     const bool isPart = option && option->exposedRect.isValid();
-    private_->Shown().Draw(painter, isPart ? option->exposedRect : boundingRect());
+    private_->ShownHighlighted().Draw(painter, isPart ? option->exposedRect : boundingRect(),
+                                      private_->highlightBrush);
     painter->setPen(pen);
 }
 
@@ -362,22 +634,24 @@ bool TextItem::sceneEvent(QEvent* event)
 
 void TextItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
-    IsReadOnly() ? event->ignore() : QGraphicsTextItem::mousePressEvent(event);
+    IsReadOnly() ? private_->Press(event) : QGraphicsTextItem::mousePressEvent(event);
 }
 
 void TextItem::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
 {
-    IsReadOnly() ? event->ignore() : QGraphicsTextItem::mouseMoveEvent(event);
+    IsReadOnly() ? event->setAccepted(private_->pressedMention.has_value())
+                 : QGraphicsTextItem::mouseMoveEvent(event);
 }
 
 void TextItem::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
-    IsReadOnly() ? event->ignore() : QGraphicsTextItem::mouseReleaseEvent(event);
+    IsReadOnly() ? private_->Release(event) : QGraphicsTextItem::mouseReleaseEvent(event);
 }
 
+// A double click is two clicks.
 void TextItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
 {
-    IsReadOnly() ? event->ignore() : QGraphicsTextItem::mouseDoubleClickEvent(event);
+    IsReadOnly() ? private_->Press(event) : QGraphicsTextItem::mouseDoubleClickEvent(event);
 }
 
 void TextItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
@@ -387,16 +661,17 @@ void TextItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
 
 void TextItem::hoverEnterEvent(QGraphicsSceneHoverEvent* event)
 {
-    IsReadOnly() ? event->ignore() : QGraphicsTextItem::hoverEnterEvent(event);
+    IsReadOnly() ? private_->Hover(event) : QGraphicsTextItem::hoverEnterEvent(event);
 }
 
 void TextItem::hoverMoveEvent(QGraphicsSceneHoverEvent* event)
 {
-    IsReadOnly() ? event->ignore() : QGraphicsTextItem::hoverMoveEvent(event);
+    IsReadOnly() ? private_->Hover(event) : QGraphicsTextItem::hoverMoveEvent(event);
 }
 
 void TextItem::hoverLeaveEvent(QGraphicsSceneHoverEvent* event)
 {
+    private_->SetHandShown(false);
     IsReadOnly() ? event->ignore() : QGraphicsTextItem::hoverLeaveEvent(event);
 }
 

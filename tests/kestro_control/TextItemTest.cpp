@@ -367,6 +367,26 @@ TEST(TextItemDocument, IsLaidOutOncePerWidth)
     EXPECT_EQ(layouts, 1);
 }
 
+TEST(TextItemDocument, IsLaidOutOnceWhenSpansAreInsertedFirst)
+{
+    TestItem item;
+    for (int i = 0; i < 10; ++i)
+        item.InsertRichText(threeWords, true);
+    int layouts = 0;
+    // Asking for the layout makes it, and lays the text out for the first time.
+    QObject::connect(item.document()->documentLayout(), &QAbstractTextDocumentLayout::update,
+                     [&layouts] { ++layouts; });
+    item.boundingRect();
+    EXPECT_EQ(layouts, 0);
+    for (qreal width : {100.0, 100.0, 60.0, 60.0, -1.0, -1.0}) {
+        item.SetFixedItemWidth(width);
+        item.boundingRect();
+        item.ShownLineCount();
+        item.sizeHint(Qt::PreferredSize);
+    }
+    EXPECT_EQ(layouts, 3);
+}
+
 TEST(TextItemProperties, TellWhatIsShown)
 {
     TestItem item(QStringLiteral("one\ntwo\nthree"));

@@ -2,9 +2,13 @@
 
 #include "kestro_control/KestroControlExport.h"
 
-// A mix-in for items whose font can follow the application's font.
+#include <QtGlobal>
+
+// A mix-in for items whose font can follow the application's font. For as long
+// as it lives, KestroControlManager knows it and tells it of changes.
 class KESTRO_CONTROL_API KestroFontBindSupport {
 public:
+    KestroFontBindSupport();
     virtual ~KestroFontBindSupport();
 
     // The application's font has changed: an item that follows it overrides
@@ -17,5 +21,7 @@ public:
     void SetUseFontBonding(bool use);
 
 private:
+    Q_DISABLE_COPY(KestroFontBindSupport)
+
     bool useFontBonding_ = true;
 };

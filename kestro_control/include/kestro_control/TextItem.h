@@ -1,5 +1,5 @@
-// A graphics item that shows text in spans of different formats, with a line
-// limit and elision.
+// A graphics item that shows text in spans of different formats, with mentions,
+// emoji and highlighted words, a line limit and elision.
 //
 //     auto* item = new TextItem(parent);
 //     item->SetFixedItemWidth(200);
@@ -21,15 +21,60 @@
 //   boundingRect() and paint(), act on the text.
 //
 //   SetReadOnly(false) hands the document to the base's control, which from
-//   then on draws and edits it: all of it, without line limit or elision.
-//   SetReadOnly(true) takes it back.
+//   then on draws and edits it: without line limit, elision, highlight and
+//   clicks on mentions. SetReadOnly(true) takes it back.
+//
+// Markup
+//
+//   With SetMarkupEnabled(true), text that is inserted may hold elements:
+//
+//     <m user="123">shown name</m>    a mention of the user with that number
+//     <m bot="77">shown name</m>      a mention of a bot
+//     <e code="1F600"/>               an emoji, by its code point
+//     <e code="1F469-200D-1F4BB">any text</e>
+//                                     an emoji of several code points; the
+//                                     text is for those who do not know it
+//
+//   Numbers are decimal, with or without a minus, and have 64 bits. Code points
+//   are hexadecimal, in either case, at most 16 of them and such as make up one
+//   emoji. Names are not empty. "&lt;", "&gt;" and "&amp;" stand for their
+//   characters in names and in the text outside of elements; each is undone
+//   once. Elements are written exactly as above and hold no elements. Whatever
+//   is not such an element is shown as it stands, tags and all, and what is
+//   inside of it is read like any other text. Nothing is ever taken for HTML.
+//
+//   A mention has MentionColor() and otherwise the format of its text. It
+//   shows a hand to the mouse and is clicked when the left button goes down
+//   and up on its glyphs; an ellipsis belongs to no mention. All other presses
+//   are for the items below.
+//
+//   An emoji is its Unicode characters, unless the application has a picture
+//   for it (see KestroControlSupport) when it is inserted. The picture is as
+//   high as a line of the text; toPlainText() has the characters in its place,
+//   document() an object character.
+//
+// Display limit
+//
+//   The text engine's time grows with the square of the length of some texts,
+//   so the start of a text is shown only, up to a cost of 16,000 for all of it
+//   and of 2,000 for any stretch in which lines cannot break between words.
+//   A character costs 1. It costs 8 more if it ends a line, if it follows text
+//   of another script or direction, if it is the third mark or more on a letter
+//   or a zero width joiner; and so does every call of InsertRichText() and each
+//   element in it.
+//   The rest, which real messages do not have, is held as plain text only.
+//   With SetElide(true) an ellipsis takes its place.
+//
+//   Text that is put into document() by other means has no limit.
 #pragma once
 
 #include "kestro_control/KestroControlExport.h"
 #include "kestro_control/KestroFontBindSupport.h"
 
+#include <QBrush>
 #include <QGraphicsLayoutItem>
 #include <QGraphicsTextItem>
+#include <QStringList>
 #include <QTextCursor>
 #include <QTextOption>
 
@@ -56,21 +101,27 @@ public:
     // ----- Text
 
     // Inserts `text` at the end of the document (`append`) or at its start.
-    // Every character stands for itself: nothing in it is taken for HTML.
+    // Every character stands for itself, but for markup while that is enabled.
     // "\n" starts a new paragraph. Without `format` the text has the item's
     // font and default colour, as they are at any time; `format` is copied.
     // Control characters and broken surrogates are harmless, and keep their
-    // place in the text.
+    // place in the text. An insertion at the start that takes the text past the
+    // display limit costs the earlier text its formats.
     void InsertRichText(const QString& text, bool append, const QTextCharFormat* format = nullptr);
+
+    // Whether text that is inserted from now on may hold markup. Off at first.
+    void SetMarkupEnabled(bool enabled);
 
     // Removes the text. Font, colour, widths, limits and the formats of the
     // document's root frame stay.
     void ClearText();
 
-    // Replaces the text by `text`, without a format of its own.
+    // Replaces the text by `text`, without a format of its own and without
+    // markup.
     void setPlainText(const QString& text);
 
-    // All of the text, also what is not shown.
+    // All of the text, also what is not shown. No-break spaces are spaces, as
+    // with QTextDocument.
     QString toPlainText() const;
 
     // The text that is shown; the item's own for as long as it lives. It may be
@@ -93,6 +144,11 @@ public:
     // drawn as an invalid QPen colour is: in black.
     QColor defaultTextColor() const;
     void setDefaultTextColor(const QColor& color);
+
+    // The colour of the mentions that are inserted from now on; "#118dff" at
+    // first.
+    QColor MentionColor() const;
+    void SetMentionColor(const QColor& color);
 
     // Where lines break when there is a fixed width. Without one they break
     // at line and paragraph separators only. Values that are none of
@@ -122,6 +178,17 @@ public:
     // Off at first: then the line limit just cuts, and wide lines stick out.
     void SetElide(bool elide);
 
+    // ----- Highlight
+
+    // Draws `brush` behind all occurrences of all `words` in what is shown,
+    // whatever their case, over the borders of spans, overlapping ones too; the
+    // text on it is black or white, whichever reads better on the colour of the
+    // brush. Words do not reach from one paragraph into another. Replaces the
+    // earlier highlight; no words, or empty ones only: there is none. The
+    // document and its layout stay as they are; when they change, the highlight
+    // follows. At most 1,000 words count.
+    void HighlightText(const QStringList& words, const QBrush& brush);
+
     // ----- What is shown
 
     // Lines on show: 0 for an empty document.
@@ -137,13 +204,14 @@ public:
     // ----- Editing
 
     // Read-only items leave every mouse, hover and key event to the items
-    // below them; subclasses may decide otherwise.
+    // below them, but for clicks on mentions; subclasses may decide otherwise.
     void SetReadOnly(bool readOnly);
     bool IsReadOnly() const;
 
     // ----- KestroFontBindSupport
 
-    // Does nothing: subclasses decide whether and how they follow the font.
+    // Takes over the family that the application's support object names while
+    // the item follows it, as it does at its creation.
     void FontChanged() override;
 
     // ----- QGraphicsLayoutItem
@@ -175,7 +243,7 @@ public:
 
 Q_SIGNALS:
     // The user has clicked the mention of a user, or of a bot, that carries
-    // this number.
+    // this number. Receivers may delete the item.
     void MentionClicked(qint64 userNo);
     void BotMentionClicked(qint64 userNo);
 

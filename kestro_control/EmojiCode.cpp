@@ -1,0 +1,117 @@
+#include "EmojiCode.h"
+
+#include <QStringList>
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+
+namespace {
+
+constexpr int mostDigits = 6;
+constexpr uint keycap = 0x20E3;
+
+struct CodePoints {
+    uint first;
+    uint last;
+
+    bool Contains(uint codePoint) const { return codePoint >= first && codePoint <= last; }
+};
+
+// What shows something by itself: the blocks that emoji are taken from, with
+// room for those that Unicode has yet to add.
+constexpr std::array<CodePoints, 17> pictures {{
+    {0xA9, 0xA9},
+    {0xAE, 0xAE},
+    {0x203C, 0x203C},
+    {0x2049, 0x2049},
+    {0x2122, 0x2122},
+    {0x2139, 0x2139},
+    {0x2190, 0x21FF},
+    {0x2300, 0x23FF},
+    {0x24C2, 0x24C2},
+    {0x25A0, 0x27BF},
+    {0x2934, 0x2935},
+    {0x2B00, 0x2BFF},
+    {0x3030, 0x3030},
+    {0x303D, 0x303D},
+    {0x3297, 0x3297},
+    {0x3299, 0x3299},
+    {0x1F000, 0x1FAFF},
+}};
+
+// What begins a keycap.
+constexpr std::array<CodePoints, 3> keys {{{'#', '#'}, {'*', '*'}, {'0', '9'}}};
+
+// What joins and varies: the joiner, the variation selectors, the keycap and
+// the tags that spell the names of flags.
+constexpr std::array<CodePoints, 4> modifiers {{
+    {0x200D, 0x200D},
+    {0xFE0E, 0xFE0F},
+    {keycap, keycap},
+    {0xE0020, 0xE007F},
+}};
+
+template <std::size_t count> bool isIn(const std::array<CodePoints, count>& table, uint codePoint)
+{
+    return std::any_of(table.begin(), table.end(),
+                       [codePoint](CodePoints range) { return range.Contains(codePoint); });
+}
+
+std::optional<uint> hexadecimalNumber(QStringView digits)
+{
+    if (digits.isEmpty() || digits.size() > mostDigits)
+        return std::nullopt;
+    for (const QChar digit : digits) {
+        if (!std::isxdigit(static_cast<unsigned char>(digit.toLatin1())))
+            return std::nullopt;
+    }
+    return digits.toUInt(nullptr, 16);
+}
+
+bool areEmoji(const QVector<uint>& codePoints)
+{
+    const uint first = codePoints.front();
+    const bool isKeycap = isIn(keys, first) && codePoints.back() == keycap;
+    return (isKeycap || isIn(pictures, first))
+        && std::all_of(codePoints.begin() + 1, codePoints.end(), [](uint codePoint) {
+               return isIn(pictures, codePoint) || isIn(modifiers, codePoint);
+           });
+}
+
+bool isOneCharacter(const QString& characters)
+{
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, characters);
+    return finder.toNextBoundary() == characters.size();
+}
+
+} // namespace
+
+EmojiCode::EmojiCode(QString characters)
+    : characters_(std::move(characters))
+{
+}
+
+std::optional<EmojiCode> EmojiCode::Read(QStringView name)
+{
+    QVector<uint> codePoints;
+    for (const QStringView part : name.split(QLatin1Char('-'))) {
+        const auto codePoint = hexadecimalNumber(part);
+        if (!codePoint || codePoints.size() == mostCodePoints)
+            return std::nullopt;
+        codePoints.push_back(*codePoint);
+    }
+    if (!areEmoji(codePoints))
+        return std::nullopt;
+    const QString characters = QString::fromUcs4(codePoints.constData(), codePoints.size());
+    return isOneCharacter(characters) ? std::optional(EmojiCode(characters)) : std::nullopt;
+}
+
+QString EmojiCode::Name() const
+{
+    QStringList parts;
+    for (const uint codePoint : characters_.toUcs4())
+        parts.append(QString::number(codePoint, 16).toUpper());
+    return parts.join(QLatin1Char('-'));
+}

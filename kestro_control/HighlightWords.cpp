@@ -1,0 +1,91 @@
+#include "HighlightWords.h"
+
+#include <algorithm>
+
+namespace {
+
+// Character by character, as QString compares without case: positions stay.
+QString withoutCase(const QString& text)
+{
+    QString folded = text;
+    for (int at = 0; at < folded.size(); ++at) {
+        if (at + 1 < folded.size() && folded.at(at).isHighSurrogate()
+            && folded.at(at + 1).isLowSurrogate()) {
+            const uint character =
+                QChar::toCaseFolded(QChar::surrogateToUcs4(folded.at(at), folded.at(at + 1)));
+            folded[at] = QChar::highSurrogate(character);
+            folded[++at] = QChar::lowSurrogate(character);
+        } else {
+            folded[at] = folded.at(at).toCaseFolded();
+        }
+    }
+    return folded;
+}
+
+// For every start of a word, the length of the longest shorter start of the
+// word that it ends with: where the search goes on when the next character
+// does not match (Knuth, Morris and Pratt).
+std::vector<int> fallbacksOf(const QString& word)
+{
+    std::vector<int> fallbacks(static_cast<std::size_t>(word.size()) + 1, 0);
+    int matched = 0;
+    for (int at = 1; at < word.size(); ++at) {
+        while (matched > 0 && word.at(at) != word.at(matched))
+            matched = fallbacks[static_cast<std::size_t>(matched)];
+        if (word.at(at) == word.at(matched))
+            ++matched;
+        fallbacks[static_cast<std::size_t>(at) + 1] = matched;
+    }
+    return fallbacks;
+}
+
+void coverWord(const QString& word, const QString& text, std::vector<bool>& covered)
+{
+    const std::vector<int> fallbacks = fallbacksOf(word);
+    int matched = 0;
+    int coveredEnd = 0;
+    for (int at = 0; at < text.size(); ++at) {
+        while (matched > 0 && (matched == word.size() || text.at(at) != word.at(matched)))
+            matched = fallbacks[static_cast<std::size_t>(matched)];
+        if (text.at(at) == word.at(matched))
+            ++matched;
+        if (matched < word.size())
+            continue;
+        for (int i = std::max(coveredEnd, at + 1 - matched); i <= at; ++i)
+            covered[static_cast<std::size_t>(i)] = true;
+        coveredEnd = at + 1;
+    }
+}
+
+} // namespace
+
+HighlightWords::HighlightWords(const QStringList& words)
+{
+    for (const QString& word : words) {
+        if (!word.isEmpty())
+            words_.push_back(withoutCase(word));
+        if (words_.size() == mostWords)
+            break;
+    }
+    std::sort(words_.begin(), words_.end());
+    words_.erase(std::unique(words_.begin(), words_.end()), words_.end());
+}
+
+std::vector<std::pair<int, int>> HighlightWords::Cover(const QString& text) const
+{
+    std::vector<bool> covered(static_cast<std::size_t>(text.size()), false);
+    const QString folded = withoutCase(text);
+    for (const QString& word : words_) {
+        if (word.size() <= folded.size())
+            coverWord(word, folded, covered);
+    }
+
+    std::vector<std::pair<int, int>> stretches;
+    auto start = std::find(covered.begin(), covered.end(), true);
+    while (start != covered.end()) {
+        const auto end = std::find(start, covered.end(), false);
+        stretches.emplace_back(start - covered.begin(), end - covered.begin());
+        start = std::find(end, covered.end(), true);
+    }
+    return stretches;
+}

@@ -1,0 +1,196 @@
+#include "MarkupReader.h"
+
+#include "EmojiCode.h"
+
+#include <QLatin1String>
+#include <QStringView>
+
+#include <array>
+#include <optional>
+
+namespace {
+
+// "-" and as many digits as the smallest number has.
+constexpr int longestNumber = 20;
+
+struct Entity {
+    QLatin1String name;
+    QChar character;
+};
+
+const std::array<Entity, 3> entities {{
+    {QLatin1String("&lt;"), QLatin1Char('<')},
+    {QLatin1String("&gt;"), QLatin1Char('>')},
+    {QLatin1String("&amp;"), QLatin1Char('&')},
+}};
+
+struct MentionTag {
+    QLatin1String start;
+    MarkupRun::Kind kind;
+};
+
+const std::array<MentionTag, 2> mentionTags {{
+    {QLatin1String("<m user=\""), MarkupRun::Kind::UserMention},
+    {QLatin1String("<m bot=\""), MarkupRun::Kind::BotMention},
+}};
+
+const QLatin1String mentionEnd("</m>");
+const QLatin1String emojiStart("<e code=\"");
+const QLatin1String emojiEnd("</e>");
+
+QString withoutEntities(QStringView text)
+{
+    QString result;
+    result.reserve(static_cast<int>(text.size()));
+    while (!text.isEmpty()) {
+        QChar character = text.front();
+        qsizetype length = 1;
+        if (character == QLatin1Char('&')) {
+            for (const Entity& entity : entities) {
+                if (text.startsWith(entity.name)) {
+                    character = entity.character;
+                    length = entity.name.size();
+                    break;
+                }
+            }
+        }
+        result.append(character);
+        text = text.mid(length);
+    }
+    return result;
+}
+
+// Only the digits that numbers are written with in the markup: QString would
+// also take "+1" and " 1".
+std::optional<qint64> decimalNumber(QStringView digits)
+{
+    const QStringView unsignedDigits = digits.startsWith(QLatin1Char('-')) ? digits.mid(1) : digits;
+    for (const QChar digit : unsignedDigits) {
+        if (digit < QLatin1Char('0') || digit > QLatin1Char('9'))
+            return std::nullopt;
+    }
+    bool isNumber = false;
+    const qint64 number = digits.toLongLong(&isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+class Reader {
+public:
+    explicit Reader(QStringView text)
+        : text_(text)
+    {
+    }
+
+    std::vector<MarkupRun> Runs()
+    {
+        while (at_ < text_.size()) {
+            if (text_[at_] != QLatin1Char('<') || !ReadElement())
+                ++at_;
+        }
+        EndText(at_);
+        return std::move(runs_);
+    }
+
+private:
+    bool ReadElement()
+    {
+        const qsizetype start = at_;
+        std::optional<MarkupRun> run = ReadMention();
+        if (!run) {
+            at_ = start;
+            run = ReadEmoji();
+        }
+        if (!run) {
+            at_ = start;
+            return false;
+        }
+        const qsizetype end = at_;
+        EndText(start);
+        runs_.push_back(std::move(*run));
+        at_ = textStart_ = end;
+        return true;
+    }
+
+    std::optional<MarkupRun> ReadMention()
+    {
+        for (const MentionTag& tag : mentionTags) {
+            if (!Skip(tag.start))
+                continue;
+            const auto number = decimalNumber(ReadAttribute(longestNumber));
+            if (!number || !Skip(QLatin1String("\">")))
+                return std::nullopt;
+            const QStringView name = ReadContent();
+            if (name.isEmpty() || !Skip(mentionEnd))
+                return std::nullopt;
+            return MarkupRun {tag.kind, withoutEntities(name), *number, {}};
+        }
+        return std::nullopt;
+    }
+
+    std::optional<MarkupRun> ReadEmoji()
+    {
+        if (!Skip(emojiStart))
+            return std::nullopt;
+        const auto emoji = EmojiCode::Read(ReadAttribute(EmojiCode::longestName));
+        if (!emoji)
+            return std::nullopt;
+        if (!Skip(QLatin1String("\"/>"))) {
+            if (!Skip(QLatin1String("\">")))
+                return std::nullopt;
+            ReadContent();
+            if (!Skip(emojiEnd))
+                return std::nullopt;
+        }
+        return MarkupRun {MarkupRun::Kind::Emoji, emoji->Characters(), 0, emoji->Name()};
+    }
+
+    bool Skip(QLatin1String expected)
+    {
+        if (!text_.mid(at_).startsWith(expected))
+            return false;
+        at_ += expected.size();
+        return true;
+    }
+
+    // What is longer cannot be right and is not looked at.
+    QStringView ReadAttribute(int longest)
+    {
+        const qsizetype start = at_;
+        while (at_ < text_.size() && at_ - start < longest && text_[at_] != QLatin1Char('"'))
+            ++at_;
+        return text_.mid(start, at_ - start);
+    }
+
+    // Up to the next tag, whichever it is. Where that is not the one that ends
+    // the element, reading goes on behind the element's start, so that nothing
+    // is read more than twice.
+    QStringView ReadContent()
+    {
+        const qsizetype start = at_;
+        while (at_ < text_.size() && text_[at_] != QLatin1Char('<'))
+            ++at_;
+        return text_.mid(start, at_ - start);
+    }
+
+    void EndText(qsizetype end)
+    {
+        if (end > textStart_)
+            runs_.push_back({MarkupRun::Kind::Text,
+                             withoutEntities(text_.mid(textStart_, end - textStart_)),
+                             0,
+                             {}});
+    }
+
+    const QStringView text_;
+    qsizetype at_ = 0;
+    // Where the text begins that no run holds yet.
+    qsizetype textStart_ = 0;
+    std::vector<MarkupRun> runs_;
+};
+
+} // namespace
+
+std::vector<MarkupRun> readMarkup(const QString& text)
+{
+    return Reader(text).Runs();
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Mention.h"
+
+#include <QRectF>
+
+#include <optional>
+#include <vector>
+
+class QPointF;
+class QTextDocument;
+class ShownLines;
+
+// Where the mentions of a document are on show. As ShownLines, a picture of the
+// document as it is laid out at the time.
+class MentionAreas {
+public:
+    MentionAreas() = default;
+    MentionAreas(const QTextDocument& document, const ShownLines& shown);
+
+    std::optional<Mention> At(const QPointF& point) const;
+
+private:
+    struct Area {
+        QRectF rect;
+        Mention mention;
+    };
+
+    std::vector<Area> areas_;
+};

@@ -1,0 +1,67 @@
+#include "ParagraphText.h"
+
+#include "TextProperty.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <numeric>
+
+ParagraphText::ParagraphText(const QTextBlock& block)
+    : characters_(block.text())
+    , start_(block.position())
+{
+    if (!characters_.contains(QChar::ObjectReplacementCharacter))
+        return;
+    const QString text = std::exchange(characters_, QString());
+    for (const QTextLayout::FormatRange& range : block.textFormats()) {
+        const bool isEmoji = range.format.hasProperty(TextProperty::EmojiCharacters);
+        for (int at = range.start; at < range.start + range.length; ++at) {
+            const QString shown = isEmoji
+                ? range.format.stringProperty(TextProperty::EmojiCharacters)
+                : QString(text.at(at));
+            characters_ += shown;
+            positions_.insert(positions_.end(), static_cast<std::size_t>(shown.size()), at);
+        }
+    }
+    positions_.push_back(text.size());
+}
+
+int ParagraphText::DocumentPosition(int index) const
+{
+    return start_ + (positions_.empty() ? index : positions_[static_cast<std::size_t>(index)]);
+}
+
+QString asPlainText(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    for (QChar& character : text) {
+        switch (character.unicode()) {
+        case '\r':
+        case 0xFDD0: // Where QTextDocument begins and
+        case 0xFDD1: // ends a frame.
+        case QChar::ParagraphSeparator:
+        case QChar::LineSeparator:
+            character = QLatin1Char('\n');
+            break;
+        case QChar::Nbsp:
+            character = QLatin1Char(' ');
+            break;
+        default:
+            break;
+        }
+    }
+    return text;
+}
+
+QString plainTextOf(const QTextDocument& document)
+{
+    QString text;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block != document.begin())
+            text += QLatin1Char('\n');
+        text += ParagraphText(block).Characters();
+    }
+    return asPlainText(text);
+}

@@ -1,0 +1,220 @@
+// How much of a text is laid out. Work is counted here, in characters.
+#include "Ink.h"
+
+#include <kestro_control/KestroControlManager.h>
+#include <kestro_control/KestroControlSupport.h>
+#include <kestro_control/TextItem.h>
+
+#include <gtest/gtest.h>
+
+#include <QTextDocument>
+
+#include <ostream>
+#include <string>
+
+namespace {
+
+constexpr int million = 1'000'000;
+
+int displayed(const TextItem& item)
+{
+    return item.document()->characterCount() - 1;
+}
+
+struct LimitItem : TextItem {
+    explicit LimitItem(const QString& text = QString()) { InsertRichText(text, true); }
+};
+
+QString repeated(const char* unit, int length)
+{
+    const QString text = QString::fromUtf8(unit);
+    return text.repeated(length / text.size());
+}
+
+struct LimitRow {
+    const char* name;
+    QString text;
+    int least;
+    int most;
+
+    friend std::ostream& operator<<(std::ostream& out, const LimitRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class DisplayLimit : public testing::TestWithParam<LimitRow> { };
+
+TEST_P(DisplayLimit, BoundsWhatIsLaidOut)
+{
+    const LimitItem item(GetParam().text);
+    EXPECT_GE(displayed(item), GetParam().least);
+    EXPECT_LE(displayed(item), GetParam().most);
+    EXPECT_TRUE(item.toPlainText().startsWith(item.document()->toPlainText()));
+}
+
+TEST_P(DisplayLimit, LosesNothing)
+{
+    const LimitItem item(GetParam().text);
+    QString all = GetParam().text;
+    all.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    EXPECT_EQ(item.toPlainText(), all);
+    EXPECT_EQ(item.property("plainText").toString(), all);
+}
+
+TEST_P(DisplayLimit, HoldsForTextInPieces)
+{
+    LimitItem item;
+    for (int at = 0; at < 50000; at += 97)
+        item.InsertRichText(GetParam().text.mid(at, 97), true);
+    EXPECT_LE(displayed(item), GetParam().most + 2000);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    PathologicalTexts, DisplayLimit,
+    testing::Values(
+        LimitRow {"Unbroken", repeated("a", million), 1900, 2000},
+        LimitRow {"Words", repeated("some words ", million), 15900, 16000},
+        LimitRow {"Chinese", repeated("晚上", million), 15900, 16000},
+        LimitRow {"AlternatingDirections", repeated("aש", million), 200, 300},
+        LimitRow {"AlternatingDirectionsOfWords", repeated("a ש ", million), 2800, 3300},
+        LimitRow {"AlternatingScripts", repeated("aя", million), 200, 300},
+        LimitRow {"DigitsInHebrew", repeated("ש1", million), 200, 300},
+        LimitRow {"ExplicitDirections", repeated("\u202a\u2069", million), 200, 2000},
+        LimitRow {"Marks", QLatin1Char('a') + repeated("\u0301", million / 10), 200, 300},
+        LimitRow {"Nuls", QString(million, QChar(0)), 1000, 16000},
+        LimitRow {"LoneSurrogates", QString(million, QChar(0xD83D)), 1000, 16000},
+        LimitRow {"LineEnds", QString(million, QLatin1Char('\n')), 1700, 1800},
+        LimitRow {"WindowsLineEnds", repeated("\r\n", million), 800, 1800},
+        LimitRow {"Emoji", repeated("😀", million), 10000, 16000}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(DisplayLimit, IsFarAboveRealTexts)
+{
+    for (const char* sentence :
+         {"Dinner is ready at seven, please bring some juice. ",
+          "晚上一起吃饭吗？我们等你 at seven。", "夕食は７時です。ジュースを持ってきてください。",
+          "العَشَاءُ جَاهِزٌ فِي السَّاعَةِ 7، تَعَالَوْا. ", "ארוחת הערב מוכנה ב-7, בואו. ",
+          "อาหารเย็นพร้อมแล้วตอนเจ็ดโมง ", "रात का खाना सात बजे तैयार है। ",
+          "https://example.org/a/path?with=parameters&and=more "}) {
+        const QString text = repeated(sentence, 4000);
+        EXPECT_EQ(displayed(LimitItem(text)), text.size()) << sentence;
+    }
+}
+
+TEST(DisplayLimit, IsFarAboveRealSpans)
+{
+    for (const char* span : {"word ", "some words ", "晚上", "שלום "}) {
+        LimitItem item;
+        for (int i = 0; i < 600; ++i)
+            item.InsertRichText(QString::fromUtf8(span), true);
+        EXPECT_EQ(displayed(item), QString::fromUtf8(span).size() * 600) << span;
+    }
+}
+
+TEST(DisplayLimit, EndsInAnEllipsis)
+{
+    for (int lines : {0, 3}) {
+        LimitItem item(repeated("some words ", million));
+        item.SetMaxLineCount(lines);
+        item.SetFixedItemWidth(300);
+        EXPECT_FALSE(item.IsElided());
+        item.SetElide(true);
+        EXPECT_TRUE(item.IsElided());
+    }
+    LimitItem fits(repeated("some words ", 5000));
+    fits.SetElide(true);
+    fits.SetFixedItemWidth(300);
+    EXPECT_FALSE(fits.IsElided());
+}
+
+TEST(DisplayLimit, IsForTheWholeItem)
+{
+    const QString half = repeated("some words ", 9000);
+    LimitItem item(half);
+    EXPECT_EQ(displayed(item), half.size());
+    item.InsertRichText(half, true);
+    EXPECT_LE(displayed(item), 16000);
+    const int before = displayed(item);
+    item.InsertRichText(QStringLiteral("more"), true);
+    EXPECT_EQ(displayed(item), before) << "nothing is shown behind what is not";
+    EXPECT_EQ(item.toPlainText(), half + half + QStringLiteral("more"));
+}
+
+TEST(DisplayLimit, ShowsWhatIsInsertedAtTheStart)
+{
+    LimitItem item(repeated("some words ", 20000));
+    const QString all = item.toPlainText();
+    item.InsertRichText(QStringLiteral("start "), false);
+    EXPECT_EQ(item.toPlainText(), QStringLiteral("start ") + all);
+    EXPECT_TRUE(item.document()->toPlainText().startsWith(QLatin1String("start some words")));
+    EXPECT_LE(displayed(item), 16000);
+    EXPECT_GT(displayed(item), 15000);
+}
+
+TEST(DisplayLimit, StartsAnewWithTheText)
+{
+    const QString text = repeated("some words ", 9000);
+    LimitItem item(repeated("some words ", million));
+    item.ClearText();
+    EXPECT_EQ(item.toPlainText(), QString());
+    item.InsertRichText(text, true);
+    EXPECT_EQ(displayed(item), text.size());
+    EXPECT_EQ(item.toPlainText(), text);
+    item.setPlainText(text.repeated(3));
+    EXPECT_LE(displayed(item), 16000);
+    EXPECT_EQ(item.toPlainText(), text.repeated(3));
+}
+
+TEST(DisplayLimit, KeepsMarkupInOrder)
+{
+    LimitItem item;
+    item.SetMarkupEnabled(true);
+    item.InsertRichText(repeated("some words &amp; ", 20000)
+                            + QStringLiteral("<m user=\"1\">Ada</m><e code=\"1F600\"/>"),
+                        true);
+    EXPECT_TRUE(item.toPlainText().endsWith(QString::fromUtf8("some words & Ada😀")));
+    EXPECT_LE(displayed(item), 16000);
+}
+
+TEST(DisplayLimit, DoesNotSplitASurrogatePairOrALineEnd)
+{
+    for (int spaces = 0; spaces < 4; ++spaces) {
+        const QString start(spaces, QLatin1Char(' '));
+        const LimitItem emoji(start + repeated("😀", 40000));
+        EXPECT_FALSE(emoji.document()->toRawText().at(displayed(emoji) - 1).isHighSurrogate());
+        const LimitItem lines(start + repeated("a\r\n", 40000));
+        EXPECT_FALSE(lines.toPlainText().contains(QLatin1String("\n\n")));
+    }
+}
+
+TEST(DisplayLimit, HoldsForEmojiPictures)
+{
+    class Support : public KestroControlSupport {
+    public:
+        Support() { KestroControlManager::GetInstance()->SetKestroControlSupport(this); }
+        QString GetFontFamily() const override { return {}; }
+        QImage GetEmojiImage(const QString&) const override
+        {
+            return QImage(4, 4, QImage::Format_RGB32);
+        }
+    } const support;
+    LimitItem item;
+    item.SetMarkupEnabled(true);
+    item.InsertRichText(repeated("<e code=\"1F600\"/>", 200000), true);
+    EXPECT_LE(displayed(item), 16000);
+    EXPECT_EQ(item.toPlainText().size(), 200000 / 17 * 2);
+}
+
+// A text that never ends must not take endless lines either.
+TEST(DisplayLimit, BoundsTheLines)
+{
+    for (const char* unit : {"a\n", "\u2028", "a b "}) {
+        LimitItem item(repeated(unit, million));
+        item.SetElide(true);
+        item.SetFixedItemWidth(1);
+        EXPECT_LE(item.ShownLineCount(), 16001) << unit;
+    }
+}
+
+} // namespace

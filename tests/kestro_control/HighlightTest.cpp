@@ -1,0 +1,379 @@
+// What is drawn behind highlighted words. Where it must be is told by an item
+// whose words have a background of their own.
+#include "HighlightWords.h"
+#include "Ink.h"
+
+#include <kestro_control/TextItem.h>
+
+#include <gtest/gtest.h>
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextDocument>
+
+#include <ostream>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+const QColor ground(255, 255, 0);
+
+using Stretches = std::vector<std::pair<int, int>>;
+
+// Every word at every position.
+Stretches coverNaively(const QString& text, const QStringList& words)
+{
+    std::vector<bool> covered(static_cast<std::size_t>(text.size()) + 1, false);
+    for (const QString& word : words) {
+        if (word.isEmpty())
+            continue;
+        for (int at = text.indexOf(word, 0, Qt::CaseInsensitive); at >= 0;
+             at = text.indexOf(word, at + 1, Qt::CaseInsensitive))
+            std::fill_n(covered.begin() + at, word.size(), true);
+    }
+    Stretches stretches;
+    for (int at = 0; at < text.size(); ++at) {
+        if (!covered[static_cast<std::size_t>(at)])
+            continue;
+        if (stretches.empty() || stretches.back().second != at)
+            stretches.emplace_back(at, at);
+        stretches.back().second = at + 1;
+    }
+    return stretches;
+}
+
+TEST(HighlightWords, CoverWhatANaiveSearchFinds)
+{
+    const char* const letters[] = {"a", "A", "b", "B", "ab", " ", "é", "É", "ς", "σ", "𐐀", "𐐨"};
+    std::mt19937 random(11);
+    std::uniform_int_distribution<std::size_t> letter(0, std::size(letters) - 1);
+    const auto generated = [&](int length) {
+        QString text;
+        while (length-- > 0)
+            text += QString::fromUtf8(letters[letter(random)]);
+        return text;
+    };
+    int found = 0;
+    for (int i = 0; i < 5000; ++i) {
+        const QString text = generated(static_cast<int>(random() % 30));
+        QStringList words;
+        for (int count = static_cast<int>(random() % 4); count > 0; --count)
+            words.append(generated(static_cast<int>(random() % 5)));
+        const Stretches expected = coverNaively(text, words);
+        ASSERT_EQ(HighlightWords(words).Cover(text), expected)
+            << text.toStdString() << ": " << words.join(QLatin1Char('|')).toStdString();
+        found += !expected.empty();
+    }
+    EXPECT_GT(found, 1000);
+}
+
+TEST(HighlightWords, AreBoundedInNumber)
+{
+    QStringList words;
+    for (std::size_t i = 0; i <= HighlightWords::mostWords; ++i)
+        words.append(QStringLiteral("<%1>").arg(i));
+    const HighlightWords kept(words);
+    EXPECT_FALSE(kept.Cover(words.at(words.size() - 2)).empty());
+    EXPECT_TRUE(kept.Cover(words.last()).empty());
+}
+
+TEST(HighlightWords, OfOneLetterInALongTextAreFound)
+{
+    const QString text(200000, QLatin1Char('a'));
+    QStringList words;
+    for (int length = 1; length < 100; ++length)
+        words.append(text.left(length * 1000));
+    EXPECT_EQ(HighlightWords(words).Cover(text), Stretches({{0, text.size()}}));
+}
+
+// ----- In an item
+
+struct HighlightItem : TextItem {
+    explicit HighlightItem(const QString& text = QString())
+    {
+        QFont itemFont(QStringLiteral("DejaVu Sans"));
+        itemFont.setPixelSize(20);
+        setFont(itemFont);
+        setDefaultTextColor(QColor(0, 0, 160));
+        InsertRichText(text, true);
+    }
+};
+
+struct HighlightRow {
+    const char* name;
+    // In spans, separated by "|".
+    const char* text;
+    // Separated by "|".
+    const char* words;
+    qreal width;
+
+    friend std::ostream& operator<<(std::ostream& out, const HighlightRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class Highlight : public testing::TestWithParam<HighlightRow> {
+protected:
+    QStringList Spans() const { return QString::fromUtf8(GetParam().text).split(QLatin1Char('|')); }
+
+    QStringList Words() const
+    {
+        return QString::fromUtf8(GetParam().words).split(QLatin1Char('|'));
+    }
+
+    void Fill(TextItem& item) const
+    {
+        int number = 0;
+        for (const QString& span : Spans()) {
+            QTextCharFormat format;
+            format.setForeground(QColor(++number % 2 ? 200 : 0, 100, 0));
+            item.InsertRichText(span, true, &format);
+        }
+        item.SetFixedItemWidth(GetParam().width);
+    }
+
+    // Gives the words their ground by means of formats.
+    void Mark(TextItem& item) const
+    {
+        QTextCharFormat marked;
+        marked.setBackground(ground);
+        QTextCursor cursor(item.document());
+        for (const auto& [start, end] : coverNaively(item.toPlainText(), Words())) {
+            cursor.setPosition(start);
+            cursor.setPosition(end, QTextCursor::KeepAnchor);
+            cursor.mergeCharFormat(marked);
+        }
+    }
+};
+
+// The stretches of ground along a row of pixels.
+Stretches groundAlong(const QImage& picture, int y)
+{
+    Stretches stretches;
+    for (int x = 0; x < picture.width(); ++x) {
+        if (picture.pixelColor(x, y) != ground)
+            continue;
+        if (stretches.empty() || stretches.back().second != x)
+            stretches.emplace_back(x, x);
+        stretches.back().second = x + 1;
+    }
+    return stretches;
+}
+
+TEST_P(Highlight, IsWhereTheWordsAre)
+{
+    for (qreal scale : {1.0, 1.5, 2.0}) {
+        HighlightItem item;
+        Fill(item);
+        item.HighlightText(Words(), ground);
+        HighlightItem expected;
+        Fill(expected);
+        Mark(expected);
+
+        const qreal lineHeight = item.boundingRect().height() / item.ShownLineCount();
+        const QImage picture = Ink(item, scale).Picture();
+        const QImage expectedPicture = Ink(expected, scale).Picture();
+        int pixels = 0;
+        for (int line = 0; line < item.ShownLineCount(); ++line) {
+            // Close to the top of the line, above its letters.
+            const int y = static_cast<int>((50 + line * lineHeight + 1.5) * scale);
+            const Stretches found = groundAlong(picture, y);
+            const Stretches wanted = groundAlong(expectedPicture, y);
+            ASSERT_EQ(found.size(), wanted.size()) << "line " << line;
+            for (std::size_t i = 0; i < found.size(); ++i) {
+                // Formats take the kerning away at the ends of the words.
+                EXPECT_NEAR(found[i].first, wanted[i].first, scale) << "line " << line;
+                EXPECT_NEAR(found[i].second, wanted[i].second, scale) << "line " << line;
+                pixels += found[i].second - found[i].first;
+            }
+        }
+        EXPECT_GT(pixels, 0);
+    }
+}
+
+TEST_P(Highlight, ChangesNothingBesidesTheWords)
+{
+    HighlightItem item;
+    Fill(item);
+    const QImage before = Ink(item).Picture();
+    item.HighlightText(Words(), ground);
+    const QImage during = Ink(item).Picture();
+    ASSERT_NE(during, before);
+
+    item.HighlightText(Words(), QColor(0, 255, 255));
+    const QImage otherGround = Ink(item).Picture();
+    for (int y = 0; y < before.height(); ++y) {
+        for (int x = 0; x < before.width(); ++x) {
+            // What depends on the ground is highlighted, and nothing else.
+            if (during.pixel(x, y) == otherGround.pixel(x, y)
+                && during.pixelColor(x, y) != QColor(Qt::black)) {
+                ASSERT_EQ(during.pixel(x, y), before.pixel(x, y)) << x << ", " << y;
+            }
+        }
+    }
+}
+
+TEST_P(Highlight, LeavesNoTraceWhenItIsGone)
+{
+    for (const QStringList& none : {QStringList(), QStringList {QString(), QString()}}) {
+        HighlightItem item;
+        Fill(item);
+        const QImage before = Ink(item).Picture();
+        item.HighlightText(Words(), ground);
+        EXPECT_NE(Ink(item).Picture(), before);
+        item.HighlightText(none, ground);
+        EXPECT_EQ(Ink(item).Picture(), before);
+    }
+}
+
+TEST_P(Highlight, LaysNothingOut)
+{
+    HighlightItem item;
+    Fill(item);
+    const QRectF rect = item.boundingRect();
+    int layouts = 0;
+    int changes = 0;
+    QObject::connect(item.document()->documentLayout(), &QAbstractTextDocumentLayout::update,
+                     [&layouts] { ++layouts; });
+    QObject::connect(item.document(), &QTextDocument::contentsChange, [&changes] { ++changes; });
+    item.HighlightText(Words(), ground);
+    Ink(item).Rect();
+    item.HighlightText({}, ground);
+    Ink(item).Rect();
+    EXPECT_EQ(layouts, 0);
+    EXPECT_EQ(changes, 0);
+    EXPECT_EQ(item.boundingRect(), rect);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Highlight,
+    testing::Values(
+        HighlightRow {"OneWord", "some words on a line", "words", -1},
+        HighlightRow {"AllOccurrences", "a banana and a bandana", "an", -1},
+        HighlightRow {"AllWords", "some words on a line", "line|some", -1},
+        HighlightRow {"AnotherCase", "Some ÉTÉ woRds", "soME|été|WORDS", -1},
+        HighlightRow {"Overlapping", "bananas", "ana|nas", -1},
+        HighlightRow {"OverlappingItself", "xaaaax", "aa", -1},
+        HighlightRow {"OneInsideTheOther", "some words", "words|or", -1},
+        HighlightRow {"AcrossSpans", "so|me wo|rds on a line", "ome w|ds o", -1},
+        HighlightRow {"AcrossLines", "some words on a line", "words on a", 110},
+        HighlightRow {"PartsOfLongWords", "someverylongwordthatisbroken", "longword", 90},
+        HighlightRow {"InSeveralParagraphs", "some words\nmore words\n\nwords", "words", -1},
+        HighlightRow {"EmptyWordsAmongOthers", "some words", "|words|", -1},
+        HighlightRow {"WholeText", "some words", "some words", -1},
+        HighlightRow {"Hebrew", "שלום לכולם כאן", "לכ|לום", -1},
+        HighlightRow {"HebrewWrapped", "שלום לכולם כאן ועוד", "לום לכ|עוד", 100},
+        HighlightRow {"HebrewInLatin", "see שלום לכולם now", "ee של|ם", -1},
+        HighlightRow {"LatinInHebrew", "שלום words כאן", "ord|ם w", -1},
+        HighlightRow {"NumbersInHebrew", "בשעה 1234 כאן", "23", -1},
+        HighlightRow {"Chinese", "晚上一起吃饭吗我们等你", "一起|吃饭吗|等", 110}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(HighlightOfItem, ReplacesTheEarlierOne)
+{
+    HighlightItem item(QStringLiteral("some words"));
+    HighlightItem expected(QStringLiteral("some words"));
+    item.HighlightText({QStringLiteral("some")}, Qt::green);
+    item.HighlightText({QStringLiteral("words")}, ground);
+    expected.HighlightText({QStringLiteral("words")}, ground);
+    EXPECT_EQ(Ink(item).Picture(), Ink(expected).Picture());
+    EXPECT_FALSE(Ink(item).Has(Qt::green));
+}
+
+TEST(HighlightOfItem, FollowsTheText)
+{
+    HighlightItem item(QStringLiteral("some"));
+    item.HighlightText({QStringLiteral("word")}, ground);
+    EXPECT_FALSE(Ink(item).Has(ground));
+    item.InsertRichText(QStringLiteral(" words"), true);
+    EXPECT_TRUE(Ink(item).Has(ground));
+    item.SetFixedItemWidth(50);
+    EXPECT_TRUE(Ink(item).Has(ground));
+    item.ClearText();
+    EXPECT_FALSE(Ink(item).Has(ground));
+}
+
+TEST(HighlightOfItem, GivesTheTextAColourThatCanBeRead)
+{
+    for (const QColor& background :
+         {QColor(255, 255, 0), QColor(0, 0, 90), QColor(0x11, 0x8D, 0xFF), QColor(0, 0, 0),
+          QColor(255, 255, 255)}) {
+        HighlightItem item(QStringLiteral("HHHH"));
+        item.setDefaultTextColor(background);
+        item.HighlightText({QStringLiteral("HHHH")}, background);
+        const Ink ink(item, 3);
+        const bool isDark = background.lightness() < 60;
+        EXPECT_TRUE(ink.Has(isDark ? Qt::white : Qt::black)) << background.name().toStdString();
+    }
+}
+
+TEST(HighlightOfItem, CoversTheGroundsOfSpans)
+{
+    QTextCharFormat format;
+    format.setBackground(Qt::green);
+    HighlightItem item;
+    item.InsertRichText(QStringLiteral("word"), true, &format);
+    ASSERT_TRUE(Ink(item).Has(Qt::green));
+    item.HighlightText({QStringLiteral("word")}, ground);
+    EXPECT_FALSE(Ink(item).Has(Qt::green));
+    EXPECT_TRUE(Ink(item).Has(ground));
+}
+
+TEST(HighlightOfItem, IsNoneWithoutABrush)
+{
+    HighlightItem item(QStringLiteral("word"));
+    const QImage before = Ink(item).Picture();
+    item.HighlightText({QStringLiteral("word")}, Qt::NoBrush);
+    EXPECT_EQ(Ink(item).Picture(), before);
+}
+
+TEST(HighlightOfElidedLine, IsOnWhatIsShown)
+{
+    for (const char* text : {"some words and more and more", "שלום words ועוד ועוד ועוד"}) {
+        HighlightItem item(QString::fromUtf8(text));
+        item.SetElide(true);
+        item.SetMaxLineCount(1);
+        item.SetFixedItemWidth(150);
+        ASSERT_TRUE(item.IsElided());
+        item.HighlightText({QStringLiteral("word")}, ground);
+        const QImage picture = Ink(item).Picture();
+        HighlightItem whole(QString::fromUtf8(text));
+        whole.SetFixedItemWidth(1000);
+        whole.HighlightText({QStringLiteral("word")}, ground);
+        const QImage wholePicture = Ink(whole).Picture();
+
+        const Stretches found = groundAlong(picture, 52);
+        const Stretches wanted = groundAlong(wholePicture, 52);
+        ASSERT_EQ(found.size(), 1U);
+        ASSERT_EQ(wanted.size(), 1U);
+        EXPECT_NEAR(found[0].second - found[0].first, wanted[0].second - wanted[0].first, 1);
+    }
+}
+
+TEST(HighlightOfElidedLine, IsNotOnWhatIsLeftOut)
+{
+    HighlightItem item(QStringLiteral("some words and more and more"));
+    item.SetElide(true);
+    item.SetMaxLineCount(1);
+    item.SetFixedItemWidth(150);
+    item.HighlightText({QStringLiteral("more"), QString(QChar(0x2026))}, ground);
+    EXPECT_FALSE(Ink(item).Has(ground));
+}
+
+TEST(HighlightOfElidedLine, IsOnTheShownPartOfAWord)
+{
+    HighlightItem item(QStringLiteral("wordswordswordswords"));
+    item.SetElide(true);
+    item.SetMaxLineCount(1);
+    item.SetFixedItemWidth(150);
+    item.HighlightText({item.toPlainText()}, ground);
+    const Stretches found = groundAlong(Ink(item).Picture(), 52);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].first, 50);
+    EXPECT_LT(found[0].second, 200) << "the ellipsis belongs to no word";
+    EXPECT_GT(found[0].second, 150);
+}
+
+} // namespace
