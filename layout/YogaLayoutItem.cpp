@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <stdexcept>
 
 namespace {
@@ -448,8 +449,12 @@ int YogaLayoutItem::growFactor() const
 {
     if (!node_)
         return -1;
-    const float factor = YGNodeStyleGetFlexGrow(node_);
-    return std::isnan(factor) ? 0 : static_cast<int>(factor);
+    const double factor = YGNodeStyleGetFlexGrow(node_);
+    if (std::isnan(factor))
+        return 0;
+    // As floats, the largest integers are rounded up to one too many.
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(std::clamp<double>(factor, Limits::min(), Limits::max()));
 }
 
 QSizeF YogaLayoutItem::measure(double width, YGMeasureMode, double height, YGMeasureMode)
@@ -664,12 +669,23 @@ float YogaLayoutItem::BaselineCallback(YGNodeConstRef node, float width, float h
 
 void YogaLayoutItem::calculateLayout(double width, double height)
 {
-    if (!node_)
-        return;
-    Quietly([&] {
-        YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height),
-                              YGNodeStyleGetDirection(node_));
-    });
+    if (node_)
+        calculateLayout(width, height, YGNodeStyleGetDirection(node_));
+}
+
+void YogaLayoutItem::calculateLayout(double width, double height, YGDirection direction)
+{
+    Quietly([&] { YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height), direction); });
+    forgetKeptPositions();
+}
+
+void YogaLayoutItem::forgetKeptPositions()
+{
+    keptPosition_.reset();
+    for (int i = 0; i < childCount(); ++i) {
+        if (YogaLayoutItem* child = childAt(i))
+            child->forgetKeptPositions();
+    }
 }
 
 void YogaLayoutItem::calculateLayout()
@@ -700,6 +716,20 @@ void YogaLayoutItem::applyChildrenLayout()
     }
 }
 
+void YogaLayoutItem::changeWidthOnRelayout(double width)
+{
+    pendingWidth_ = width;
+    if (YogaLayoutItem* parent = parentItem())
+        parent->setRelayoutPending();
+}
+
+void YogaLayoutItem::takePendingWidth()
+{
+    if (pendingWidth_)
+        setWidth(*pendingWidth_);
+    pendingWidth_.reset();
+}
+
 void YogaLayoutItem::setRelayoutPending()
 {
     if (!settling && !relaidOut_)
@@ -714,19 +744,27 @@ void YogaLayoutItem::relayoutInPlace()
     if (settling || !node_ || std::isnan(width) || std::isnan(height))
         return;
 
+    for (int i = 0; i < childCount(); ++i) {
+        if (YogaLayoutItem* child = childAt(i))
+            child->takePendingWidth();
+    }
+
     // Yoga computes from a node downwards as if it were a root: fix its size
-    // so that neither its margins nor a percentage apply a second time. The
-    // style changes also leave the card dirty, so that its next layout puts
-    // this node, whose own position Yoga has reset, back in its place.
+    // so that neither its margins nor a percentage apply a second time, hand
+    // down the direction that it inherits, and keep its position, which Yoga
+    // resets. The style changes also leave the card dirty, so that its next
+    // layout puts this node back in its place.
+    const QPointF position = geometry().topLeft();
     const YGValue styleWidth = YGNodeStyleGetWidth(node_);
     const YGValue styleHeight = YGNodeStyleGetHeight(node_);
     setWidth(width);
     setHeight(height);
-    calculateLayout(width, height);
+    calculateLayout(width, height, YGNodeLayoutGetDirection(node_));
     RestoreDimension(node_, styleWidth, &YGNodeStyleSetWidth, &YGNodeStyleSetWidthPercent,
                      &YGNodeStyleSetWidthAuto);
     RestoreDimension(node_, styleHeight, &YGNodeStyleSetHeight, &YGNodeStyleSetHeightPercent,
                      &YGNodeStyleSetHeightAuto);
+    keptPosition_ = position;
     relayoutPending_ = false;
     relaidOut_ = true;
 }
@@ -753,8 +791,9 @@ QRectF YogaLayoutItem::geometry() const
 {
     if (!node_)
         return {};
-    return {YGNodeLayoutGetLeft(node_), YGNodeLayoutGetTop(node_), YGNodeLayoutGetWidth(node_),
-            YGNodeLayoutGetHeight(node_)};
+    const QPointF computed(YGNodeLayoutGetLeft(node_), YGNodeLayoutGetTop(node_));
+    return {keptPosition_.value_or(computed),
+            QSizeF(YGNodeLayoutGetWidth(node_), YGNodeLayoutGetHeight(node_))};
 }
 
 QMarginsF YogaLayoutItem::layoutPaddings() const

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QMarginsF>
+#include <QPointF>
 #include <QRectF>
 #include <QSizeF>
 #include <QStringList>
 #include <Qt>
 
 #include <yoga/Yoga.h>
+
+#include <optional>
 
 class QGraphicsLayoutItem;
 
@@ -138,8 +141,13 @@ public:
     void calculateLayout();
     void applyLayoutRecursive();
 
-    // The relayout mark: a child has changed its own style while it was being
-    // measured or placed. The child's placement then calls relayoutInPlace.
+    // Changes the width of an item that is being measured. Yoga loses track of a
+    // style that changes while it computes, so the width waits for the parent's
+    // relayoutInPlace, for which the parent is marked.
+    void changeWidthOnRelayout(double width);
+
+    // The relayout mark. Whoever places a child of a marked item calls
+    // relayoutInPlace.
     void setRelayoutPending();
     bool isRelayoutPending() const { return relayoutPending_; }
     // Clears the mark and computes this subtree again at the size it has.
@@ -174,6 +182,9 @@ private:
     float margin(YGEdge edge) const;
     float position(YGEdge edge, bool isSet) const;
     void applyChildrenLayout();
+    void calculateLayout(double width, double height, YGDirection direction);
+    void forgetKeptPositions();
+    void takePendingWidth();
 
     YGNodeRef node_ = nullptr;
     QGraphicsLayoutItem* geometryTarget_ = nullptr;
@@ -186,4 +197,7 @@ private:
     bool bottomSet_ = false;
     bool relayoutPending_ = false;
     bool relaidOut_ = false;
+    // Where the item stood when it was computed again in its place.
+    std::optional<QPointF> keptPosition_;
+    std::optional<double> pendingWidth_;
 };

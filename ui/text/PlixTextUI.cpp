@@ -10,13 +10,13 @@
 #include "model/PlixLanguageText.h"
 #include "ui/PlixBoxUI.h"
 #include "ui/text/PlixTextFont.h"
-
-#include <kestro_control/KestroControlManager.h>
-#include <kestro_control/KestroControlSupport.h>
+#include "ui/text/PlixTextMarkup.h"
 
 #include <QCursor>
 #include <QFontMetrics>
 #include <QGraphicsSceneMouseEvent>
+#include <QPointer>
+#include <QTextBlock>
 #include <QTextCharFormat>
 #include <QTextDocument>
 #include <QTextFrame>
@@ -29,6 +29,11 @@ namespace {
 constexpr char kOthersColor[] = "#767676";
 constexpr char kOwnColor[] = "#0087EE";
 constexpr int kFromMyself = 1;
+// Rectangles are rounded outwards to whole pixels, by less than this on either
+// side. A text keeps the fractions that it was measured with, since in another
+// width, however little, it may break into other lines.
+constexpr double kRounding = 1;
+constexpr char kHighlightColor[] = "#118DFF";
 constexpr char kUnsupportedKey[] = "chat_room_check_on_mobile";
 
 // A box that is as wide as its content asks for. Its texts must not wait for
@@ -58,12 +63,13 @@ QTextOption::WrapMode ToWrapMode(int value)
 } // namespace
 
 PlixTextUI::PlixTextUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout,
-                       const PlixDisplayParam&)
+                       const PlixDisplayParam& param)
     : TextItem(parent, parentLayout)
     , YogaLayoutItem(false)
 {
     setGeometryTarget(this);
     setHasMeasureFunc(true);
+    SetMarkupEnabled(param.markupEnabled);
     connect(this, &TextItem::MentionClicked, this, &PlixTextUI::OnMentionClicked);
     connect(this, &TextItem::BotMentionClicked, this, &PlixTextUI::OnBotMentionClicked);
 }
@@ -90,6 +96,7 @@ bool PlixTextUI::Init()
     InitAlignment(*data);
     InitGravity(*data);
     InsertContent(*data);
+    KeepEndSide(*data);
     InitWidth(*data);
     if (data->GetPosition() == "absolute")
         gravity_ = Gravity::Top;
@@ -197,7 +204,31 @@ void PlixTextUI::InsertSpan(const PlixDataSpan& span)
 
 void PlixTextUI::InsertText(const std::string& text, const QTextCharFormat* format)
 {
-    InsertRichText(QString::fromStdString(text), true, format);
+    const QString inserted = QString::fromStdString(text);
+    InsertRichText(NeedsEscaping(inserted) ? EscapeMarkup(inserted) : inserted, true, format);
+}
+
+// In a bubble that reads from left to right, a paragraph that reads the other way
+// by its own letters starts where its reader starts; but "end" is the bubble's
+// side, where the other values of a column end.
+void PlixTextUI::KeepEndSide(const PlixDataText& data)
+{
+    if (data.GetAlign() != "end" || IsInRightToLeftBubble(data))
+        return;
+    bool readsRightToLeft = false;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        readsRightToLeft = readsRightToLeft || block.textDirection() == Qt::RightToLeft;
+    if (!readsRightToLeft)
+        return;
+    QTextOption option = document()->defaultTextOption();
+    option.setAlignment(option.alignment() | Qt::AlignAbsolute);
+    document()->setDefaultTextOption(option);
+}
+
+bool PlixTextUI::NeedsEscaping(const QString& text) const
+{
+    const PlixDataMgr* manager = Manager();
+    return manager && manager->GetDisplayParam().markupEnabled && !HasMarkup(text);
 }
 
 void PlixTextUI::InitWidth(const PlixDataText& data)
@@ -209,16 +240,26 @@ void PlixTextUI::InitWidth(const PlixDataText& data)
     if (sharesRow) {
         setWidth(0);
     } else if (box) {
-        // Layouts are rounded to whole pixels: a fraction lost there would
-        // cost the text its last word.
-        setWidth(std::ceil(boundingRect().width()));
+        hasNaturalWidth_ = true;
+        SetNaturalWidth();
     } else {
         setWidthPercent(100);
         setWidthIsPercent(true);
     }
-    setMaxWidthPercent(100);
+    // Not for those that share a row: where a bound equals the share but for the
+    // rounding of floats, Yoga gives the item no width at all, for good.
+    if (!sharesRow)
+        setMaxWidthPercent(100);
     setGrowFactor(grow);
     markDirty();
+}
+
+void PlixTextUI::SetNaturalWidth()
+{
+    SetFixedItemWidth(-1);
+    // Layouts are rounded to whole pixels: a fraction lost there would cost the
+    // text its last word.
+    setWidth(std::ceil(boundingRect().width()));
 }
 
 void PlixTextUI::InitLines(const PlixDataText& data)
@@ -270,15 +311,23 @@ void PlixTextUI::OnFontChanged()
 
 void PlixTextUI::FontChanged()
 {
-    const KestroControlSupport* support =
-        KestroControlManager::GetInstance()->GetKestroControlSupport();
-    if (!IsUseFontBonding() || !support)
+    TextItem::FontChanged();
+    if (!IsUseFontBonding())
         return;
-    QFont itemFont = font();
-    itemFont.setFamily(support->GetFontFamily());
-    setFont(itemFont);
+    if (hasNaturalWidth_)
+        SetNaturalWidth();
     updateGeometry();
     markDirty();
+}
+
+int PlixTextUI::setHighlightText(const QStringList& words)
+{
+    HighlightText(words, QBrush(ToColor(kHighlightColor), Qt::SolidPattern));
+    const QString text = toPlainText();
+    const bool isFound = std::any_of(words.begin(), words.end(), [&](const QString& word) {
+        return text.indexOf(word, 0, Qt::CaseInsensitive) >= 0;
+    });
+    return isFound ? 1 : -1;
 }
 
 double PlixTextUI::ParentInnerWidth() const
@@ -295,29 +344,24 @@ QSizeF PlixTextUI::measure(double width, YGMeasureMode, double, YGMeasureMode)
 {
     double offered = width;
     const double inner = ParentInnerWidth();
-    if (inner > 0 && !(width <= inner))
+    if (inner > 0 && !(width - inner < kRounding))
         width = inner;
     SetFixedItemWidth(width);
     if (std::isnan(width))
         width = boundingRect().width();
     if (wrap_) {
-        if (width != offered)
-            ChangeWidth(width);
+        if (width != offered && !HasStyleWidth(width))
+            changeWidthOnRelayout(width);
         if (width == 0)
             setPlainText(QString());
     }
     return {width, std::trunc(boundingRect().height())};
 }
 
-void PlixTextUI::ChangeWidth(double width)
+bool PlixTextUI::HasStyleWidth(double width) const
 {
     YGUnit unit = YGUnitUndefined;
-    const bool isSame = styleWidth(unit) == static_cast<float>(width) && unit == YGUnitPoint;
-    if (isSame)
-        return;
-    setWidth(width);
-    if (YogaLayoutItem* parent = YogaLayoutItem::parentItem())
-        parent->setRelayoutPending();
+    return styleWidth(unit) == static_cast<float>(width) && unit == YGUnitPoint;
 }
 
 float PlixTextUI::baseline(double, double)
@@ -358,8 +402,8 @@ void PlixTextUI::setGeometry(const QRectF& rect)
     const double shown = boundingRect().width();
     if (shown > given.width()) {
         SetFixedItemWidth(clipped.width());
-        ChangeWidth(clipped.width());
-    } else if (shown < given.width()) {
+        TakeWidth(clipped.width());
+    } else if (given.width() - shown >= 2 * kRounding) {
         // Measured last for another width than the layout settled on, or, its
         // size being fixed, never.
         SetFixedItemWidth(clipped.width());
@@ -375,6 +419,15 @@ void PlixTextUI::setGeometry(const QRectF& rect)
         markDirty();
         parent->relayoutInPlace();
     }
+}
+
+void PlixTextUI::TakeWidth(double width)
+{
+    if (HasStyleWidth(width))
+        return;
+    setWidth(width);
+    if (YogaLayoutItem* parent = YogaLayoutItem::parentItem())
+        parent->setRelayoutPending();
 }
 
 void PlixTextUI::PlaceVertically(double available)
@@ -416,7 +469,10 @@ void PlixTextUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
             DeliverClick();
         return;
     }
+    const QPointer<PlixTextUI> self(this); // the host may do anything about a mention
     TextItem::mouseReleaseEvent(event);
+    if (!self)
+        return;
     if (auto* box = dynamic_cast<PlixBoxUI*>(YogaLayoutItem::parentItem()))
         box->handleRelease(event);
 }

@@ -28,7 +28,12 @@ public:
     // Shows that a click leads somewhere; false changes nothing.
     void setClickable(bool on) override;
 
-    // Follows the host's font family while font binding is on.
+    // 1 when one of the words occurs in the text, shown or not, else -1.
+    int setHighlightText(const QStringList& words) override;
+    int SetHighLightText(const QStringList& words) { return setHighlightText(words); }
+
+    // Follows the host's font family while font binding is on; the card shows
+    // it from its next layout on.
     void FontChanged() override;
 
     // A wrapped text that is measured at width 0 is emptied for good.
@@ -62,6 +67,10 @@ private:
     void InsertContent(const PlixDataText& data);
     void InitWidth(const PlixDataText& data);
     void InitLines(const PlixDataText& data);
+    void KeepEndSide(const PlixDataText& data);
+    void SetNaturalWidth();
+    // Whether `text` has to be escaped to be shown as it stands.
+    bool NeedsEscaping(const QString& text) const;
 
     // Every insertion goes through here; null: the item's own format.
     void InsertText(const std::string& text, const QTextCharFormat* format = nullptr);
@@ -70,14 +79,16 @@ private:
     // The parent's width inside its paddings, 0 while it is not known.
     double ParentInnerWidth() const;
     QRectF ClippedToParent(const QRectF& rect) const;
-    // Sets the node's width while the card is being laid out.
-    void ChangeWidth(double width);
+    bool HasStyleWidth(double width) const;
+    // Sets the width of a node that is being placed.
+    void TakeWidth(double width);
     void PlaceVertically(double available);
 
     bool unsupported_ = false;
     int colorMode_ = 0;
     bool baseline_ = false;
     bool wrap_ = false;
+    bool hasNaturalWidth_ = false;
     int maxLines_ = 0;
     Gravity gravity_ = Gravity::Top;
     int textHeight_ = 0;

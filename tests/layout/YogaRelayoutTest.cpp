@@ -1,0 +1,309 @@
+// Items that change their own style while they are placed: the parent computes
+// its subtree again, once.
+#include "support/LayoutNode.h"
+#include "support/PlixTest.h"
+
+#include <QGraphicsLayoutItem>
+
+#include <memory>
+#include <ostream>
+#include <vector>
+
+namespace plix::test {
+namespace {
+
+// Behaves like a text that takes another width than it was given: changes its
+// width style each time it is placed, and asks for the layout of its parent.
+class Restless : public LayoutNode, public QGraphicsLayoutItem {
+public:
+    explicit Restless(double step = -1)
+        : step_(step)
+    {
+        setGeometryTarget(this);
+        setHasMeasureFunc(true);
+        LayoutNode::setWidth(kWidth);
+    }
+
+    QSizeF measure(double width, YGMeasureMode, double, YGMeasureMode) override
+    {
+        ++measured;
+        return {width, 1000 / width};
+    }
+
+    void setGeometry(const QRectF& rect) override
+    {
+        ++placed;
+        last = rect;
+        LayoutNode::setWidth(rect.width() + step_);
+        YogaLayoutItem* const parent = parentItem();
+        if (!parent)
+            return;
+        parent->setRelayoutPending();
+        if (parent->isRelayoutPending()) {
+            ++relayouts;
+            parent->relayoutInPlace();
+        }
+    }
+
+    QSizeF sizeHint(Qt::SizeHint, const QSizeF&) const override { return {}; }
+
+    int measured = 0;
+    int placed = 0;
+    int relayouts = 0;
+    QRectF last;
+
+    static constexpr double kWidth = 50;
+
+private:
+    double step_;
+};
+
+// The calls of a round of layout, for a card that is not a single item.
+struct Calls {
+    long measured = 0;
+    long placed = 0;
+    long relayouts = 0;
+};
+
+Calls callsOf(const std::vector<std::unique_ptr<Restless>>& items)
+{
+    Calls calls;
+    for (const auto& item : items) {
+        calls.measured += item->measured;
+        calls.placed += item->placed;
+        calls.relayouts += item->relayouts;
+    }
+    return calls;
+}
+
+using Relayout = PlixTest;
+
+TEST_F(Relayout, IsPendingOnceAChildHasAskedForIt)
+{
+    LayoutNode item;
+    EXPECT_FALSE(item.isRelayoutPending());
+    item.setRelayoutPending();
+    EXPECT_TRUE(item.isRelayoutPending());
+    item.relayoutInPlace();
+    EXPECT_FALSE(item.isRelayoutPending());
+}
+
+TEST_F(Relayout, KeepsTheSizeOfTheSubtree)
+{
+    LayoutNode root;
+    LayoutNode box;
+    LayoutNode child;
+    root.addChild(&box);
+    box.addChild(&child);
+    box.setHeightPercent(50);
+    box.setMargins(10, 0, 0, 0);
+    child.setHeight(10);
+    root.calculateLayout(100, 80);
+    ASSERT_EQ(box.geometry(), QRectF(10, 0, 90, 40));
+
+    child.setHeight(30);
+    box.relayoutInPlace();
+    EXPECT_EQ(box.geometry().size(), QSizeF(90, 40));
+    EXPECT_EQ(child.geometry().height(), 30);
+}
+
+TEST_F(Relayout, LeavesTheStyleAsItWas)
+{
+    LayoutNode root;
+    LayoutNode box;
+    root.addChild(&box);
+    box.setWidthPercent(60);
+    box.setHeightAuto();
+    root.calculateLayout(100, 80);
+    box.relayoutInPlace();
+    EXPECT_EQ(YGNodeStyleGetWidth(box.node()).unit, YGUnitPercent);
+    EXPECT_EQ(YGNodeStyleGetWidth(box.node()).value, 60);
+    EXPECT_EQ(YGNodeStyleGetHeight(box.node()).unit, YGUnitAuto);
+    box.setWidth(33);
+    box.setHeight(22);
+    root.calculateLayout(100, 80);
+    box.relayoutInPlace();
+    EXPECT_EQ(YGNodeStyleGetWidth(box.node()).unit, YGUnitPoint);
+    EXPECT_EQ(YGNodeStyleGetWidth(box.node()).value, 33);
+    EXPECT_EQ(YGNodeStyleGetHeight(box.node()).value, 22);
+}
+
+TEST_F(Relayout, KeepsThePlaceOfTheSubtree)
+{
+    LayoutNode root;
+    LayoutNode above;
+    LayoutNode box;
+    above.setHeight(30);
+    root.addChild(&above);
+    root.addChild(&box);
+    box.setMargins(10, 20, 0, 0);
+    root.calculateLayout(100, 80);
+    box.relayoutInPlace();
+    EXPECT_EQ(box.geometry().topLeft(), QPointF(10, 50));
+    above.setHeight(35);
+    root.calculateLayout(100, 80);
+    EXPECT_EQ(box.geometry().topLeft(), QPointF(10, 55)) << "until the next layout";
+}
+
+TEST_F(Relayout, KeepsTheDirectionOfTheCard)
+{
+    LayoutNode root;
+    LayoutNode row;
+    LayoutNode child;
+    root.setLayoutDirection(Qt::RightToLeft);
+    row.setOrientation(Qt::Horizontal);
+    child.setWidth(30);
+    root.addChild(&row);
+    row.addChild(&child);
+    root.calculateLayout(100, 80);
+    ASSERT_EQ(child.geometry().left(), 70);
+    child.setWidth(40);
+    row.relayoutInPlace();
+    EXPECT_EQ(child.geometry().left(), 60);
+}
+
+// Takes another width the first time that it is measured.
+class SecondThought : public LayoutNode {
+public:
+    SecondThought()
+    {
+        setHasMeasureFunc(true);
+        LayoutNode::setWidth(80);
+    }
+
+    QSizeF measure(double width, YGMeasureMode, double, YGMeasureMode) override
+    {
+        if (width > 40)
+            LayoutNode::setWidth(40);
+        return {width, 10};
+    }
+};
+
+TEST_F(Relayout, IsNotNeededForStylesThatChangeWhileTheyAreMeasured)
+{
+    LayoutNode root;
+    LayoutNode outer;
+    LayoutNode inner;
+    SecondThought item;
+    root.addChild(&outer);
+    outer.addChild(&inner);
+    inner.addChild(&item);
+    root.calculateLayout(100, 80);
+    root.calculateLayout(100, 80);
+    EXPECT_EQ(item.layoutWidth(), 40);
+}
+
+TEST_F(Relayout, IsTakenUpByTheNextLayoutFromDeepBelow)
+{
+    // Two boxes that were computed again, one in the other.
+    LayoutNode root;
+    LayoutNode outer;
+    LayoutNode inner;
+    SecondThought item;
+    outer.setMargins(0, 7, 0, 0);
+    inner.setMargins(0, 5, 0, 0);
+    root.addChild(&outer);
+    outer.addChild(&inner);
+    inner.addChild(&item);
+    for (int round = 0; round < 3; ++round) {
+        root.calculateLayout(100, 80);
+        inner.relayoutInPlace();
+        outer.relayoutInPlace();
+        inner.relayoutInPlace();
+        EXPECT_EQ(inner.geometry().top(), 5);
+        EXPECT_EQ(outer.geometry().top(), 7);
+    }
+    root.calculateLayout(100, 80);
+    EXPECT_EQ(inner.geometry().top(), 5);
+    EXPECT_EQ(outer.geometry().top(), 7);
+}
+
+TEST_F(Relayout, PlacesTheSiblingsThatWerePlacedBefore)
+{
+    LayoutNode root;
+    LayoutNode row;
+    row.setOrientation(Qt::Horizontal);
+    Restless first(0);
+    Restless second(-10);
+    Restless third(0);
+    root.addChild(&row);
+    for (Restless* child : {&first, &second, &third})
+        row.addChild(child);
+    root.calculateLayout(200, 100);
+    root.applyLayoutRecursive();
+    for (const Restless* child : {&first, &second, &third})
+        EXPECT_EQ(child->last, child->YogaLayoutItem::geometry());
+}
+
+TEST_F(Relayout, HappensOncePerRoundHoweverOftenItIsAskedFor)
+{
+    LayoutNode root;
+    LayoutNode row;
+    row.setOrientation(Qt::Horizontal);
+    root.addChild(&row);
+    std::vector<std::unique_ptr<Restless>> children;
+    for (int i = 0; i < 10; ++i) {
+        children.push_back(std::make_unique<Restless>());
+        row.addChild(children.back().get());
+    }
+    root.calculateLayout(1000, 100);
+    root.applyLayoutRecursive();
+    EXPECT_EQ(callsOf(children).relayouts, 1);
+    EXPECT_EQ(callsOf(children).placed, 20);
+
+    root.calculateLayout(1000, 100);
+    root.applyLayoutRecursive();
+    EXPECT_EQ(callsOf(children).relayouts, 2) << "the next round has one of its own";
+    EXPECT_EQ(callsOf(children).placed, 40);
+}
+
+struct TreeRow {
+    const char* name;
+    int depth;
+    int width;
+
+    friend std::ostream& operator<<(std::ostream& out, const TreeRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class RelayoutTree : public PlixTest, public testing::WithParamInterface<TreeRow> { };
+
+TEST_P(RelayoutTree, CostsAFewCallsAnItem)
+{
+    // Boxes inside each other, `width` restless items before the inner one.
+    LayoutNode root;
+    std::vector<std::unique_ptr<LayoutNode>> boxes;
+    std::vector<std::unique_ptr<Restless>> items;
+    LayoutNode* parent = &root;
+    for (int level = 0; level < GetParam().depth; ++level) {
+        boxes.push_back(std::make_unique<LayoutNode>());
+        parent->addChild(boxes.back().get());
+        parent = boxes.back().get();
+        for (int i = 0; i < GetParam().width; ++i) {
+            items.push_back(std::make_unique<Restless>());
+            parent->addChild(items.back().get());
+        }
+    }
+    root.calculateLayout(300, 500);
+    root.applyLayoutRecursive();
+    root.calculateLayout();
+    root.applyLayoutRecursive();
+
+    // Two rounds, each places an item at most twice for each of the boxes
+    // around it that settles; settling does not nest.
+    const long count = static_cast<long>(items.size());
+    const Calls calls = callsOf(items);
+    EXPECT_LE(calls.relayouts, 2 * GetParam().depth);
+    EXPECT_LE(calls.placed, 2 * count * (1 + GetParam().depth));
+    EXPECT_GE(calls.placed, 2 * count);
+}
+
+INSTANTIATE_TEST_SUITE_P(Trees, RelayoutTree,
+                         testing::Values(TreeRow {"Wide", 1, 2000}, TreeRow {"Deep", 60, 1},
+                                         TreeRow {"DeepAndWide", 30, 10}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+} // namespace
+} // namespace plix::test

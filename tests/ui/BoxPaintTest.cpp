@@ -1,0 +1,210 @@
+// Boxes and lines on rendered pixels.
+#include "support/Picture.h"
+#include "support/PlixTest.h"
+#include "ui/PlixBoxUI.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOptionGraphicsItem>
+
+#include <ostream>
+
+namespace plix::test {
+namespace {
+
+const QColor kGround(0xF1, 0xF3, 0xF7);
+const QColor kRed(Qt::red);
+const QColor kBlue(Qt::blue);
+
+// A card of one box of 100 x 60 at (0, 0), in a zone without insets.
+class PaintedBox {
+public:
+    explicit PaintedBox(const std::string& properties, double height = 60)
+        : card_(R"({"type": "bubble", "hero": )"
+                + box("vertical",
+                      box("vertical", "",
+                          R"("width": "100px", "height": ")" + std::to_string(int(height)) + "px\","
+                              + properties)
+                          + "," + box("vertical", "", R"("height": "100px",)"),
+                      R"("paddingAll": "20px",)")
+                + "}")
+        , picture_(*card_.root())
+    {
+    }
+
+    // In the box's coordinates.
+    QColor at(double x, double y) const { return picture_.at({x + 20, y + 20}); }
+
+private:
+    TestCard card_;
+    Picture picture_;
+};
+
+using BoxPaint = PlixTest;
+
+TEST_F(BoxPaint, ShowsNothingWithoutGroundAndBorder)
+{
+    const PaintedBox box("");
+    for (const double x : {0.0, 50.0, 99.0})
+        EXPECT_EQ(box.at(x, 30), kGround);
+}
+
+TEST_F(BoxPaint, FillsTheBox)
+{
+    const PaintedBox box(R"("backgroundColor": "#FF0000",)");
+    for (const QPointF inside :
+         {QPointF(0, 0), QPointF(99, 0), QPointF(0, 59), QPointF(99, 59), QPointF(50, 30)})
+        EXPECT_EQ(box.at(inside.x(), inside.y()), kRed);
+    for (const QPointF outside :
+         {QPointF(-1, 30), QPointF(100, 30), QPointF(50, -1), QPointF(50, 60)})
+        EXPECT_EQ(box.at(outside.x(), outside.y()), kGround);
+}
+
+TEST_F(BoxPaint, ReadsTheAlphaOfAGroundLast)
+{
+    const PaintedBox box(R"("backgroundColor": "#FF000080",)");
+    const QColor mixed = box.at(50, 30);
+    EXPECT_NEAR(mixed.red(), (0xFF + 0xF1) / 2, 2);
+    EXPECT_NEAR(mixed.green(), 0xF3 / 2, 2);
+    EXPECT_NEAR(mixed.blue(), 0xF7 / 2, 2);
+}
+
+TEST_F(BoxPaint, FillsAnInvalidGroundWithBlack)
+{
+    EXPECT_EQ(PaintedBox(R"("backgroundColor": "dark",)").at(50, 30), QColor(Qt::black));
+}
+
+struct CornerRow {
+    const char* name;
+    const char* radius;
+    double height;
+    int painted;
+
+    friend std::ostream& operator<<(std::ostream& out, const CornerRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class BoxCorner : public PlixTest, public testing::WithParamInterface<CornerRow> { };
+
+TEST_P(BoxCorner, IsRoundedByTheRadiusButByNoMoreThanHalfTheHeight)
+{
+    const PaintedBox painted(std::string(R"("backgroundColor": "#FF0000", "cornerRadius": ")")
+                                 + GetParam().radius + "\",",
+                             GetParam().height);
+    // The same by Qt, on the same ground.
+    QImage expected(100, static_cast<int>(GetParam().height), QImage::Format_ARGB32_Premultiplied);
+    expected.fill(kGround);
+    QPainter painter(&expected);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath path;
+    path.addRoundedRect(QRectF(expected.rect()), GetParam().painted, GetParam().painted);
+    painter.fillPath(path, kRed);
+    painter.end();
+    for (int y = 0; y < expected.height(); ++y) {
+        for (int x = 0; x < 30; ++x)
+            ASSERT_EQ(painted.at(x, y), expected.pixelColor(x, y)) << x << ", " << y;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Boxes, BoxCorner,
+    testing::Values(CornerRow {"Pixels", "20px", 60, 20},
+                    CornerRow {"HigherThanTheBoxAllows", "20px", 30, 15},
+                    CornerRow {"OddHeight", "20px", 31, 15}, CornerRow {"JustFits", "15px", 30, 15},
+                    CornerRow {"Word", "xxl", 60, 6}, CornerRow {"Zero", "0", 60, 0},
+                    CornerRow {"Negative", "-9px", 60, 0}, CornerRow {"NotGiven", "", 60, 0}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(BoxPaint, GivesTheCornersOfABoxToTheBoxesInIt)
+{
+    const TestCard card(
+        R"({"type": "bubble", "hero": )"
+        + box("vertical",
+              box("vertical",
+                  box("vertical", "", R"("height": "60px", "backgroundColor": "#FF0000",)"),
+                  R"("cornerRadius": "20px",)"),
+              R"("paddingAll": "20px",)")
+        + "}");
+    const Picture picture(*card.root());
+    EXPECT_EQ(picture.at({22, 22}), kGround);
+    EXPECT_EQ(picture.at({50, 50}), kRed);
+}
+
+struct BorderRow {
+    const char* name;
+    const char* width;
+    int visible; // the inner half of the pen, which is one pixel wider
+
+    friend std::ostream& operator<<(std::ostream& out, const BorderRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class BoxBorder : public PlixTest, public testing::WithParamInterface<BorderRow> { };
+
+TEST_P(BoxBorder, IsHalfAPenInside)
+{
+    const PaintedBox box(std::string(R"("borderColor": "#FF0000", "borderWidth": ")")
+                         + GetParam().width + "\",");
+    EXPECT_EQ(box.at(-1, 30), kGround) << "the outer half is clipped";
+    for (int i = 0; i < GetParam().visible; ++i) {
+        EXPECT_EQ(box.at(i, 30), kRed) << i;
+        EXPECT_EQ(box.at(99 - i, 30), kRed) << i;
+        EXPECT_EQ(box.at(50, i), kRed) << i;
+        EXPECT_EQ(box.at(50, 59 - i), kRed) << i;
+    }
+    EXPECT_EQ(box.at(GetParam().visible + 1, 30), kGround);
+    EXPECT_EQ(box.at(50, 30), kGround) << "nothing is filled";
+}
+
+INSTANTIATE_TEST_SUITE_P(Widths, BoxBorder,
+                         testing::Values(BorderRow {"Light", "light", 1},
+                                         BorderRow {"Medium", "medium", 2},
+                                         BorderRow {"Bold", "bold", 3},
+                                         BorderRow {"Pixels", "9px", 5}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(BoxPaint, DrawsNoBorderWithoutColourOrWidth)
+{
+    for (const char* properties : {R"("borderWidth": "bold",)", R"("borderColor": "#FF0000",)",
+                                   R"("borderColor": "#FF0000", "borderWidth": "none",)",
+                                   R"("borderColor": "#FF0000", "borderWidth": "-3px",)"})
+        EXPECT_EQ(PaintedBox(properties).at(0, 30), kGround) << properties;
+}
+
+TEST_F(BoxPaint, DrawsTheBorderOverTheGround)
+{
+    const PaintedBox box(
+        R"("borderColor": "#FF0000", "borderWidth": "medium", "backgroundColor": "#0000FF",)");
+    EXPECT_EQ(box.at(0, 30), kRed);
+    EXPECT_EQ(box.at(1, 30), kRed);
+    EXPECT_EQ(box.at(2, 30), kBlue);
+    EXPECT_EQ(box.at(50, 30), kBlue);
+}
+
+TEST_F(BoxPaint, LeavesThePainterAsItWas)
+{
+    const TestCard card(bubbleWithBody(
+        box("vertical", "",
+            R"("height": "40px", "backgroundColor": "#FF0000", "borderColor": "#0000FF",
+               "borderWidth": "light", "cornerRadius": "md",)")));
+    QImage image(300, 40, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    const QPen pen(Qt::green, 7);
+    painter.setPen(pen);
+    QStyleOptionGraphicsItem option;
+    option.exposedRect = QRectF(0, 0, 300, 40);
+    for (QGraphicsItem* item : {card.root(), card.item({0})}) {
+        item->paint(&painter, &option, nullptr);
+        EXPECT_EQ(painter.pen(), pen);
+        EXPECT_EQ(painter.brush(), QBrush());
+        EXPECT_FALSE(painter.testRenderHint(QPainter::Antialiasing));
+        EXPECT_FALSE(painter.hasClipping());
+    }
+}
+
+} // namespace
+} // namespace plix::test

@@ -1,0 +1,204 @@
+// What a text and its host say to each other.
+#include "ui/text/PlixTextUI.h"
+
+#include "api/PlixDataMgr.h"
+#include "support/PlixTest.h"
+
+#include <kestro_control/KestroControlSupport.h>
+
+#include <QMetaMethod>
+
+#include <cmath>
+
+namespace plix::test {
+namespace {
+
+constexpr qint64 kUser = 0x123456789ABC;
+
+std::string oneText(const std::string& more = {})
+{
+    return bubbleWithBody(box("vertical", text("words", more)));
+}
+
+using TextMeta = PlixTest;
+
+TEST_F(TextMeta, NamesAllItsFaces)
+{
+    PlixTextUI item(nullptr, nullptr, {});
+    EXPECT_EQ(item.qt_metacast("PlixTextUI"), static_cast<void*>(&item));
+    EXPECT_EQ(item.qt_metacast("YogaLayoutItem"),
+              static_cast<void*>(static_cast<YogaLayoutItem*>(&item)));
+    EXPECT_EQ(item.qt_metacast("PlixBaseUI"), static_cast<void*>(static_cast<PlixBaseUI*>(&item)));
+    EXPECT_EQ(item.qt_metacast("TextItem"), static_cast<void*>(static_cast<TextItem*>(&item)));
+    EXPECT_NE(item.qt_metacast("QGraphicsTextItem"), nullptr);
+    EXPECT_EQ(item.qt_metacast("PlixBoxUI"), nullptr);
+    EXPECT_EQ(item.qt_metacast(nullptr), nullptr);
+}
+
+TEST_F(TextMeta, HasItsSlotsInTheirOrder)
+{
+    const QMetaObject& meta = PlixTextUI::staticMetaObject;
+    ASSERT_EQ(meta.methodCount() - meta.methodOffset(), 3);
+    // The compiler of the meta-objects spells qint64 its own way.
+    const char* const signatures[] = {"OnMentionClicked(qlonglong)",
+                                      "OnBotMentionClicked(qlonglong)", "OnFontChanged()"};
+    for (int i = 0; i < 3; ++i) {
+        const QMetaMethod method = meta.method(meta.methodOffset() + i);
+        EXPECT_EQ(method.methodType(), QMetaMethod::Slot);
+        EXPECT_EQ(method.methodSignature(), QByteArray(signatures[i]));
+    }
+}
+
+// ----- Mentions
+
+struct Mentions {
+    std::vector<std::int64_t> users;
+    std::vector<std::int64_t> bots;
+
+    void listenTo(PlixDataController* controller)
+    {
+        Plix_SetMentionHandleCallback(
+            controller,
+            [](std::int64_t user, void* self) {
+                static_cast<Mentions*>(self)->users.push_back(user);
+            },
+            this);
+        Plix_SetBotMentionHandleCallback(
+            controller,
+            [](std::int64_t bot, void* self) { static_cast<Mentions*>(self)->bots.push_back(bot); },
+            this);
+    }
+};
+
+using Numbers = std::vector<std::int64_t>;
+using TextMentions = PlixTest;
+
+TEST_F(TextMentions, ReachTheHost)
+{
+    const TestCard card(oneText());
+    Mentions mentions;
+    mentions.listenTo(card.controller());
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    Q_EMIT item->MentionClicked(kUser);
+    EXPECT_EQ(mentions.users, Numbers {kUser});
+    EXPECT_TRUE(mentions.bots.empty());
+    Q_EMIT item->BotMentionClicked(-7);
+    EXPECT_EQ(mentions.users, Numbers {kUser});
+    EXPECT_EQ(mentions.bots, Numbers {-7});
+}
+
+TEST_F(TextMentions, GoNowhereWithoutACallback)
+{
+    const TestCard card(oneText());
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    Q_EMIT item->MentionClicked(kUser);
+    Q_EMIT item->BotMentionClicked(kUser);
+    Mentions mentions;
+    mentions.listenTo(card.controller());
+    Plix_SetMentionHandleCallback(card.controller(), nullptr, nullptr);
+    Q_EMIT item->MentionClicked(kUser);
+    EXPECT_TRUE(mentions.users.empty());
+}
+
+TEST_F(TextMentions, GoNowhereWithoutAnOwner)
+{
+    const TestCard card(oneText());
+    Mentions mentions;
+    mentions.listenTo(card.controller());
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    item->SetOwner(nullptr);
+    Q_EMIT item->MentionClicked(kUser);
+    Q_EMIT item->BotMentionClicked(kUser);
+    EXPECT_TRUE(mentions.users.empty());
+    EXPECT_TRUE(mentions.bots.empty());
+}
+
+TEST_F(TextMentions, GoNowhereWithAControllerOfTheHostsOwn)
+{
+    class OtherController : public PlixDataController { };
+    OtherController other;
+    PlixTextUI item(nullptr, nullptr, {});
+    item.SetOwner(&other);
+    Q_EMIT item.MentionClicked(kUser);
+    Q_EMIT item.BotMentionClicked(kUser);
+    EXPECT_EQ(item.GetOwner(), &other);
+}
+
+// ----- Fonts
+
+class Support : public KestroControlSupport {
+public:
+    QString GetFontFamily() const override { return family; }
+
+    QString family;
+};
+
+class TextFollowsFont : public PlixTest {
+protected:
+    TextFollowsFont() { Plix_SetKestroControlSupport(&support_); }
+
+    // A family that no text has before it follows.
+    void SetUp() override { support_.family = QStringLiteral("DejaVu Sans"); }
+
+    void switchFamily() { support_.family = QStringLiteral("Noto Sans CJK SC"); }
+
+    ~TextFollowsFont() override { Plix_SetKestroControlSupport(nullptr); }
+
+    // As the application calls it.
+    static void changeFont(PlixTextUI& item)
+    {
+        EXPECT_TRUE(QMetaObject::invokeMethod(&item, "OnFontChanged"));
+    }
+
+    Support support_;
+};
+
+TEST_F(TextFollowsFont, TakesTheFamilyAndNothingElse)
+{
+    const TestCard card(oneText(R"("weight": "bold", "size": "xl",)"));
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    switchFamily();
+    EXPECT_NE(item->font().family(), support_.family) << "not before it is told";
+    changeFont(*item);
+    EXPECT_EQ(item->font().family(), support_.family);
+    EXPECT_EQ(item->font().pixelSize(), 22);
+    EXPECT_EQ(item->font().weight(), 75);
+}
+
+TEST_F(TextFollowsFont, IsLaidOutAgainInTheNewFamily)
+{
+    const std::string words = "one two three four five six seven eight nine ten";
+    const TestCard card(bubbleWithBody(box("vertical", text(words, R"("wrap": true,)"))));
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    const double before = item->YogaLayoutItem::geometry().height();
+    switchFamily();
+    changeFont(*item);
+    Plix_RefreshLayout(card.controller());
+    const double after = item->YogaLayoutItem::geometry().height();
+    EXPECT_NE(after, before);
+    EXPECT_EQ(after, std::trunc(item->boundingRect().height()));
+}
+
+TEST_F(TextFollowsFont, IsLeftAloneWhileFontBindingIsOff)
+{
+    const TestCard card(oneText());
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    const QFont before = item->font();
+    item->SetUseFontBonding(false);
+    switchFamily();
+    changeFont(*item);
+    EXPECT_EQ(item->font(), before);
+}
+
+TEST_F(TextFollowsFont, IsLeftAloneWithoutASupportObject)
+{
+    const TestCard card(oneText());
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    const QFont before = item->font();
+    Plix_SetKestroControlSupport(nullptr);
+    changeFont(*item);
+    EXPECT_EQ(item->font(), before);
+}
+
+} // namespace
+} // namespace plix::test
