@@ -54,7 +54,7 @@ TEST_P(Golden, IsWhatTheCardIsLaidOutLike)
     QFile golden(fileIn(goldenFolder, GetParam()));
     ASSERT_TRUE(golden.open(QIODevice::ReadOnly)) << "this card has no golden yet: rebaseline";
 
-    const ToolResult result = runTool({"layout", card.toStdString()});
+    const ToolResult result = runTool({"layout", card.toStdString(), "--markup"});
     ASSERT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
     const std::string expected = golden.readAll().toStdString();
