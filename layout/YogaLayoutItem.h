@@ -176,6 +176,9 @@ private:
                                   float height, YGMeasureMode heightMode);
     static float BaselineCallback(YGNodeConstRef node, float width, float height);
 
+    static constexpr float kNoNode = -1;
+    static float ToFloat(double value) { return static_cast<float>(value); }
+
     bool canInsert(const YogaLayoutItem* child) const;
     void insertNode(YogaLayoutItem* child, int index);
     float padding(YGEdge edge) const;

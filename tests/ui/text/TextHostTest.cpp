@@ -4,6 +4,7 @@
 #include "api/PlixDataMgr.h"
 #include "support/PlixTest.h"
 
+#include <kestro_control/KestroControlManager.h>
 #include <kestro_control/KestroControlSupport.h>
 
 #include <QMetaMethod>
@@ -177,6 +178,20 @@ TEST_F(TextFollowsFont, IsLaidOutAgainInTheNewFamily)
     const double after = item->YogaLayoutItem::geometry().height();
     EXPECT_NE(after, before);
     EXPECT_EQ(after, std::trunc(item->boundingRect().height()));
+}
+
+TEST_F(TextFollowsFont, WhenTheManagerIsTold)
+{
+    const std::string words = "one two three four five six seven eight nine ten";
+    const TestCard card(bubbleWithBody(box("vertical", text(words, R"("wrap": true,)"))));
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    const double before = card.root()->boundingRect().height();
+    switchFamily();
+    KestroControlManager::GetInstance()->FontFamilyChanged();
+    EXPECT_EQ(item->font().family(), support_.family);
+    EXPECT_EQ(card.root()->boundingRect().height(), before);
+    Plix_ModifyHeight(card.controller(), 0);
+    EXPECT_GT(card.root()->boundingRect().height(), before);
 }
 
 TEST_F(TextFollowsFont, IsLeftAloneWhileFontBindingIsOff)

@@ -1,0 +1,422 @@
+// The operations of YogaLayoutItem that set and read the node's style.
+#include "layout/YogaLayoutItem.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+void YogaLayoutItem::setOrientation(Qt::Orientation orientation)
+{
+    if (!node_)
+        return;
+    if (orientation == Qt::Vertical)
+        YGNodeStyleSetFlexDirection(node_, YGFlexDirectionColumn);
+    else if (orientation == Qt::Horizontal)
+        YGNodeStyleSetFlexDirection(node_, YGFlexDirectionRow);
+}
+
+Qt::Orientation YogaLayoutItem::orientation() const
+{
+    const bool isRow = node_ && YGNodeStyleGetFlexDirection(node_) == YGFlexDirectionRow;
+    return isRow ? Qt::Horizontal : Qt::Vertical;
+}
+
+void YogaLayoutItem::setAlignment(int qtAlignment, bool mainAxis)
+{
+    if (!node_)
+        return;
+    struct Row {
+        int flag;
+        bool justifiesOnMainAxis;
+        YGJustify justify;
+        YGAlign align;
+    };
+    static constexpr Row rows[] = {
+        {Qt::AlignLeft, true, YGJustifyFlexStart, YGAlignFlexStart},
+        {Qt::AlignRight, true, YGJustifyFlexEnd, YGAlignFlexEnd},
+        {Qt::AlignHCenter, true, YGJustifyCenter, YGAlignCenter},
+        {Qt::AlignTop, false, YGJustifyFlexStart, YGAlignFlexStart},
+        {Qt::AlignBottom, false, YGJustifyFlexEnd, YGAlignFlexEnd},
+        {Qt::AlignVCenter, false, YGJustifyCenter, YGAlignCenter},
+    };
+    if (qtAlignment == Qt::AlignBaseline) {
+        if (mainAxis)
+            YGNodeStyleSetAlignItems(node_, YGAlignBaseline);
+        return;
+    }
+    for (const Row& row : rows) {
+        if (row.flag != qtAlignment)
+            continue;
+        if (mainAxis == row.justifiesOnMainAxis)
+            YGNodeStyleSetJustifyContent(node_, row.justify);
+        else
+            YGNodeStyleSetAlignSelf(node_, row.align);
+    }
+}
+
+void YogaLayoutItem::setLayoutDirection(Qt::LayoutDirection direction)
+{
+    if (!node_)
+        return;
+    if (direction == Qt::LeftToRight)
+        YGNodeStyleSetDirection(node_, YGDirectionLTR);
+    else if (direction == Qt::RightToLeft)
+        YGNodeStyleSetDirection(node_, YGDirectionRTL);
+}
+
+Qt::LayoutDirection YogaLayoutItem::layoutDirection() const
+{
+    const bool isRtl = node_ && YGNodeStyleGetDirection(node_) == YGDirectionRTL;
+    return isRtl ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
+void YogaLayoutItem::setMargins(double left, double top, double right, double bottom)
+{
+    if (!node_)
+        return;
+    YGNodeStyleSetMargin(node_, YGEdgeLeft, ToFloat(left));
+    YGNodeStyleSetMargin(node_, YGEdgeTop, ToFloat(top));
+    YGNodeStyleSetMargin(node_, YGEdgeRight, ToFloat(right));
+    YGNodeStyleSetMargin(node_, YGEdgeBottom, ToFloat(bottom));
+}
+
+void YogaLayoutItem::setMargin(double all)
+{
+    if (node_)
+        YGNodeStyleSetMargin(node_, YGEdgeAll, ToFloat(all));
+}
+
+void YogaLayoutItem::setMarginTop(double margin)
+{
+    if (node_)
+        YGNodeStyleSetMargin(node_, YGEdgeTop, ToFloat(margin));
+}
+
+void YogaLayoutItem::setMarginLeft(double margin)
+{
+    if (node_)
+        YGNodeStyleSetMargin(node_, YGEdgeLeft, ToFloat(margin));
+}
+
+void YogaLayoutItem::setMarginBottom(double margin)
+{
+    if (node_)
+        YGNodeStyleSetMargin(node_, YGEdgeBottom, ToFloat(margin));
+}
+
+float YogaLayoutItem::margin(YGEdge edge) const
+{
+    if (!node_)
+        return kNoNode;
+    const YGValue value = YGNodeStyleGetMargin(node_, edge);
+    return value.unit == YGUnitUndefined ? 0 : value.value;
+}
+
+float YogaLayoutItem::marginTop() const
+{
+    return margin(YGEdgeTop);
+}
+
+float YogaLayoutItem::marginLeft() const
+{
+    return margin(YGEdgeLeft);
+}
+
+float YogaLayoutItem::marginBottom() const
+{
+    return margin(YGEdgeBottom);
+}
+
+void YogaLayoutItem::setPaddings(double left, double top, double right, double bottom)
+{
+    if (!node_)
+        return;
+    const auto setEdge = [this](YGEdge edge, double value) {
+        if (value >= 0)
+            YGNodeStyleSetPadding(node_, edge, ToFloat(value));
+    };
+    setEdge(YGEdgeLeft, left);
+    setEdge(YGEdgeTop, top);
+    setEdge(YGEdgeRight, right);
+    setEdge(YGEdgeBottom, bottom);
+}
+
+void YogaLayoutItem::setPadding(double all)
+{
+    if (!node_)
+        return;
+    YGNodeStyleSetPadding(node_, YGEdgeAll, ToFloat(all));
+    hasPadding_ = true;
+}
+
+bool YogaLayoutItem::hasPadding() const
+{
+    return hasPadding_;
+}
+
+void YogaLayoutItem::setPaddingLeftPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeLeft, ToFloat(percent));
+}
+
+void YogaLayoutItem::setPaddingRightPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeRight, ToFloat(percent));
+}
+
+void YogaLayoutItem::setPaddingTopPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeTop, ToFloat(percent));
+}
+
+void YogaLayoutItem::setPaddingBottomPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeBottom, ToFloat(percent));
+}
+
+void YogaLayoutItem::setPaddingPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeAll, ToFloat(percent));
+}
+
+void YogaLayoutItem::setPaddingBottom(double padding)
+{
+    if (!node_)
+        return;
+    YGNodeStyleSetPadding(node_, YGEdgeBottom, ToFloat(padding));
+    hasPadding_ = true;
+}
+
+float YogaLayoutItem::padding(YGEdge edge) const
+{
+    if (!node_)
+        return kNoNode;
+    for (const YGEdge candidate : {edge, YGEdgeAll}) {
+        const YGValue value = YGNodeStyleGetPadding(node_, candidate);
+        if (value.unit != YGUnitUndefined)
+            return value.value;
+    }
+    return 0;
+}
+
+float YogaLayoutItem::paddingBottom() const
+{
+    return padding(YGEdgeBottom);
+}
+
+float YogaLayoutItem::paddingTop() const
+{
+    return padding(YGEdgeTop);
+}
+
+float YogaLayoutItem::paddingLeft() const
+{
+    return padding(YGEdgeLeft);
+}
+
+float YogaLayoutItem::paddingRight() const
+{
+    return padding(YGEdgeRight);
+}
+
+void YogaLayoutItem::setWidth(double width)
+{
+    if (node_)
+        YGNodeStyleSetWidth(node_, ToFloat(width));
+}
+
+void YogaLayoutItem::setWidthAuto()
+{
+    if (node_)
+        YGNodeStyleSetWidthAuto(node_);
+}
+
+void YogaLayoutItem::setWidthPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetWidthPercent(node_, ToFloat(percent));
+}
+
+void YogaLayoutItem::setHeight(double height)
+{
+    if (node_)
+        YGNodeStyleSetHeight(node_, ToFloat(height));
+}
+
+void YogaLayoutItem::setHeightPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetHeightPercent(node_, ToFloat(percent));
+}
+
+void YogaLayoutItem::setHeightAuto()
+{
+    if (node_)
+        YGNodeStyleSetHeightAuto(node_);
+}
+
+float YogaLayoutItem::styleWidth(YGUnit& unit) const
+{
+    if (!node_)
+        return kNoNode;
+    const YGValue width = YGNodeStyleGetWidth(node_);
+    unit = width.unit;
+    return width.value;
+}
+
+float YogaLayoutItem::styleHeight() const
+{
+    return node_ ? YGNodeStyleGetHeight(node_).value : kNoNode;
+}
+
+void YogaLayoutItem::setBorder(double width)
+{
+    if (node_)
+        YGNodeStyleSetBorder(node_, YGEdgeAll, ToFloat(width));
+}
+
+float YogaLayoutItem::border() const
+{
+    return node_ ? YGNodeStyleGetBorder(node_, YGEdgeAll) : kNoNode;
+}
+
+void YogaLayoutItem::setGrowFactor(double factor)
+{
+    if (node_)
+        YGNodeStyleSetFlexGrow(node_, ToFloat(factor));
+}
+
+int YogaLayoutItem::growFactor() const
+{
+    if (!node_)
+        return -1;
+    const double factor = YGNodeStyleGetFlexGrow(node_);
+    if (std::isnan(factor))
+        return 0;
+    // As floats, the largest integers are rounded up to one too many.
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(std::clamp<double>(factor, Limits::min(), Limits::max()));
+}
+
+void YogaLayoutItem::setTextNode(bool isText)
+{
+    if (node_)
+        YGNodeSetNodeType(node_, isText ? YGNodeTypeText : YGNodeTypeDefault);
+}
+
+void YogaLayoutItem::setAbsolute(bool absolute)
+{
+    if (node_)
+        YGNodeStyleSetPositionType(node_,
+                                   absolute ? YGPositionTypeAbsolute : YGPositionTypeRelative);
+}
+
+bool YogaLayoutItem::isAbsolute() const
+{
+    return node_ && YGNodeStyleGetPositionType(node_) == YGPositionTypeAbsolute;
+}
+
+void YogaLayoutItem::setPositionStart(double position)
+{
+    if (!node_)
+        return;
+    YGNodeStyleSetPosition(node_, YGEdgeStart, ToFloat(position));
+    startSet_ = true;
+}
+
+void YogaLayoutItem::setPositionEnd(double position)
+{
+    if (!node_)
+        return;
+    YGNodeStyleSetPosition(node_, YGEdgeEnd, ToFloat(position));
+    endSet_ = true;
+}
+
+void YogaLayoutItem::setPositionTop(double position)
+{
+    if (!node_)
+        return;
+    YGNodeStyleSetPosition(node_, YGEdgeTop, ToFloat(position));
+    topSet_ = true;
+}
+
+void YogaLayoutItem::setPositionBottom(double position)
+{
+    if (!node_)
+        return;
+    YGNodeStyleSetPosition(node_, YGEdgeBottom, ToFloat(position));
+    bottomSet_ = true;
+}
+
+void YogaLayoutItem::setPositionStartPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetPositionPercent(node_, YGEdgeLeft, ToFloat(percent));
+}
+
+void YogaLayoutItem::setPositionEndPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetPositionPercent(node_, YGEdgeEnd, ToFloat(percent));
+}
+
+void YogaLayoutItem::setPositionTopPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetPositionPercent(node_, YGEdgeTop, ToFloat(percent));
+}
+
+void YogaLayoutItem::setPositionBottomPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetPositionPercent(node_, YGEdgeBottom, ToFloat(percent));
+}
+
+float YogaLayoutItem::position(YGEdge edge, bool isSet) const
+{
+    if (!node_ || !isSet)
+        return -1;
+    const YGValue value = YGNodeStyleGetPosition(node_, edge);
+    return value.unit == YGUnitPoint ? value.value : -1;
+}
+
+float YogaLayoutItem::positionStart() const
+{
+    return position(YGEdgeStart, startSet_);
+}
+
+float YogaLayoutItem::positionEnd() const
+{
+    return position(YGEdgeEnd, endSet_);
+}
+
+float YogaLayoutItem::positionTop() const
+{
+    return position(YGEdgeTop, topSet_);
+}
+
+float YogaLayoutItem::positionBottom() const
+{
+    return position(YGEdgeBottom, bottomSet_);
+}
+
+void YogaLayoutItem::setHasMargin(bool has)
+{
+    hasMargin_ = has;
+}
+
+bool YogaLayoutItem::hasMargin() const
+{
+    return hasMargin_;
+}
+
+void YogaLayoutItem::setMaxWidthPercent(double percent)
+{
+    if (node_)
+        YGNodeStyleSetMaxWidthPercent(node_, ToFloat(percent));
+}
