@@ -629,7 +629,9 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
 
 bool TextItem::sceneEvent(QEvent* event)
 {
-    return IsReadOnly() ? QGraphicsItem::sceneEvent(event) : QGraphicsTextItem::sceneEvent(event);
+    if (IsReadOnly())
+        return QGraphicsItem::sceneEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    return QGraphicsTextItem::sceneEvent(event);
 }
 
 void TextItem::mousePressEvent(QGraphicsSceneMouseEvent* event)

@@ -210,7 +210,7 @@ QString CommandParser::input() const
 
 QString CommandParser::output() const
 {
-    const QString output = parser_.value(outputOption);
+    QString output = parser_.value(outputOption);
     const bool isMissing = description_.outputRequired
         ? output.isEmpty()
         : parser_.isSet(outputOption) && output.isEmpty();

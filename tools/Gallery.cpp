@@ -38,7 +38,7 @@ QStringList Gallery::cardFiles() const
 {
     if (!input_.exists())
         throw fileError(input_.path(), QStringLiteral("No such folder"));
-    const QStringList files = input_.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    QStringList files = input_.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
     if (files.isEmpty())
         throw fileError(input_.path(), QStringLiteral("There is no *.json file in this folder"));
     return files;
@@ -72,7 +72,7 @@ void Gallery::drawCards(const QStringList& files)
 
 QImage Gallery::drawOne(const QString& file)
 {
-    const QImage picture = drawCard(input_.filePath(file), options_);
+    QImage picture = drawCard(input_.filePath(file), options_);
     const QString name = QFileInfo(file).completeBaseName() + QStringLiteral(".png");
     writePng(output_.filePath(pictureFolder + QLatin1Char('/') + name), picture);
     return picture;

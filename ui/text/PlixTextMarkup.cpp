@@ -36,7 +36,7 @@ QString EscapeMarkup(const QString& text)
         QLatin1String after;
     };
     // The order matters: first what was escaped is undone, then all is escaped.
-    static constexpr Replacement replacements[] = {
+    static const Replacement replacements[] = {
         {QLatin1String("&lt;"), QLatin1String("<")},  {QLatin1String("&gt;"), QLatin1String(">")},
         {QLatin1String("&amp;"), QLatin1String("&")}, {QLatin1String("&"), QLatin1String("&amp;")},
         {QLatin1String("<"), QLatin1String("&lt;")},  {QLatin1String(">"), QLatin1String("&gt;")},
