@@ -11,6 +11,7 @@ constexpr int wordLimit = 2000;
 
 constexpr int characterCost = 1;
 constexpr int extraCost = 8;
+constexpr int joinerCost = 40;
 
 // That many on a letter are still common in living languages.
 constexpr int cheapMarks = 2;
@@ -114,8 +115,10 @@ int DisplayBudget::Take(const QString& text)
 int DisplayBudget::CostOf(uint character)
 {
     marksInARow_ = isMark(character) ? marksInARow_ + 1 : 0;
-    const bool isExtra = ChangesWriting(character) || marksInARow_ > cheapMarks
-        || endsLine(character) || character == zeroWidthJoiner;
+    if (character == zeroWidthJoiner)
+        return characterCost + joinerCost;
+    const bool isExtra =
+        ChangesWriting(character) || marksInARow_ > cheapMarks || endsLine(character);
     return characterCost + (isExtra ? extraCost : 0);
 }
 
