@@ -13,6 +13,12 @@ bool IsInVerticalBox(const PlixDataItem& item)
     return box && box->IsVertical();
 }
 
+bool IsInRow(const PlixDataItem& item)
+{
+    const std::shared_ptr<PlixDataBox> box = ParentBox(item);
+    return box && !box->IsVertical();
+}
+
 bool IsInRightToLeftBubble(const PlixDataItem& item)
 {
     for (std::shared_ptr<PlixDataItem> parent = item.GetParent(); parent;

@@ -11,6 +11,8 @@
 std::shared_ptr<PlixDataBox> ParentBox(const PlixDataItem& item);
 
 bool IsInVerticalBox(const PlixDataItem& item);
+// In a box of any other layout word: nothing above a zone is a row.
+bool IsInRow(const PlixDataItem& item);
 
 // Whether the bubble that `item` belongs to reads from right to left.
 bool IsInRightToLeftBubble(const PlixDataItem& item);

@@ -94,10 +94,8 @@ void PlixBoxUI::InitSize(const PlixDataBox& data)
 {
     const double width = static_cast<double>(data.GetWidthLength().px);
     const double height = static_cast<double>(data.GetHeightLength().px);
-    if (width >= 0) {
+    if (width >= 0)
         setWidth(width);
-        hasFixedWidth_ = true;
-    }
     if (height >= 0)
         setHeight(height);
 
@@ -106,10 +104,8 @@ void PlixBoxUI::InitSize(const PlixDataBox& data)
         setGrowFactor(0);
     // Boxes that grow in a row share its free space from nothing, whatever
     // they hold.
-    if (horizontal_ && grow_ > 0 && width <= 0 && !data.IsAbsolute()) {
+    if (horizontal_ && grow_ > 0 && width <= 0 && !data.IsAbsolute())
         setWidth(0);
-        hasFixedWidth_ = false;
-    }
 }
 
 void PlixBoxUI::InitBorder(const PlixDataBox& data)

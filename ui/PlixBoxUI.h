@@ -60,5 +60,4 @@ private:
     int cornerRadius_ = -1;
     int spacing_ = 0;
     int borderWidth_ = 0;
-    bool hasFixedWidth_ = false;
 };

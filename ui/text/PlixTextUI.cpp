@@ -142,8 +142,7 @@ void PlixTextUI::InitFont(PlixDataText& data)
 
 void PlixTextUI::InitAlignment(const PlixDataText& data)
 {
-    const std::shared_ptr<PlixDataBox> box = ParentBox(data);
-    const bool parentIsHorizontal = box && !box->IsVertical();
+    const bool parentIsHorizontal = IsInRow(data);
     const bool rightToLeft = IsInRightToLeftBubble(data);
     Qt::Alignment alignment = Qt::AlignLeft;
     if (data.GetAlign() == "center") {
@@ -162,8 +161,7 @@ void PlixTextUI::InitAlignment(const PlixDataText& data)
 
 void PlixTextUI::InitGravity(const PlixDataText& data)
 {
-    const std::shared_ptr<PlixDataBox> box = ParentBox(data);
-    const bool parentIsHorizontal = box && !box->IsVertical();
+    const bool parentIsHorizontal = IsInRow(data);
     if (data.GetGravity() == "center") {
         YogaLayoutItem::setAlignment(Qt::AlignVCenter, parentIsHorizontal);
         gravity_ = Gravity::Center;
@@ -235,21 +233,19 @@ void PlixTextUI::InitWidth(const PlixDataText& data)
 {
     const int grow = data.GetGrow();
     const std::shared_ptr<PlixDataBox> box = ParentBox(data);
-    const bool sharesRow =
-        box && !box->IsVertical() && grow >= 1 && !data.IsAbsolute() && !IsShrinkWrapped(*box);
-    if (sharesRow) {
+    if (IsInRow(data) && grow >= 1 && !data.IsAbsolute() && !IsShrinkWrapped(*box)) {
+        // Without a bound: where one equals the share of the row but for the
+        // rounding of floats, Yoga gives the item no width at all, for good.
         setWidth(0);
     } else if (box) {
         hasNaturalWidth_ = true;
         SetNaturalWidth();
+        setMaxWidthPercent(100);
     } else {
         setWidthPercent(100);
         setWidthIsPercent(true);
-    }
-    // Not for those that share a row: where a bound equals the share but for the
-    // rounding of floats, Yoga gives the item no width at all, for good.
-    if (!sharesRow)
         setMaxWidthPercent(100);
+    }
     setGrowFactor(grow);
     markDirty();
 }
@@ -264,11 +260,8 @@ void PlixTextUI::SetNaturalWidth()
 
 void PlixTextUI::InitLines(const PlixDataText& data)
 {
-    if (data.GetSpans().empty()) {
-        maxLines_ = data.GetMaxLines();
-        if (maxLines_ > 0)
-            SetMaxLineCount(maxLines_);
-    }
+    if (data.GetSpans().empty() && data.GetMaxLines() > 0)
+        SetMaxLineCount(data.GetMaxLines());
     if (!wrap_)
         SetMaxLineCount(1);
 }

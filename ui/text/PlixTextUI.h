@@ -89,7 +89,6 @@ private:
     bool baseline_ = false;
     bool wrap_ = false;
     bool hasNaturalWidth_ = false;
-    int maxLines_ = 0;
     Gravity gravity_ = Gravity::Top;
     int textHeight_ = 0;
     // How far the item stands below the top of its rectangle.
