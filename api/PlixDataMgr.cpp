@@ -21,8 +21,21 @@ constexpr double kFirstPassHeight = 500;
 
 } // namespace
 
+PlixDataMgr::Use::Use(PlixDataMgr& manager)
+    : manager_(manager)
+{
+    ++manager_.uses_;
+}
+
+PlixDataMgr::Use::~Use()
+{
+    if (--manager_.uses_ == 0 && manager_.freeAfterUse_)
+        delete &manager_;
+}
+
 PlixDataMgr::PlixDataMgr()
-    : bubble_(std::make_shared<PlixDataBubble>())
+    : self_(this, [](PlixDataMgr*) {})
+    , bubble_(std::make_shared<PlixDataBubble>())
 {
     bubble_->InitZones();
 }
@@ -35,6 +48,20 @@ PlixDataMgr::~PlixDataMgr()
         PlixItemRegistry::GetInstance().Find(PlixItemRegistry::KeyOf(bubble_.get())) != nullptr;
     if (!wasBuilt)
         DiscardDataTree(bubble_);
+}
+
+void PlixDataMgr::Free()
+{
+    if (uses_ == 0) {
+        delete this;
+        return;
+    }
+    freeAfterUse_ = true;
+    self_.reset();
+    SetClickCallBack(nullptr, nullptr);
+    SetDownloadCallBack(nullptr, nullptr);
+    SetMentionHandleCallback(nullptr, nullptr);
+    SetBotMentionHandleCallback(nullptr, nullptr);
 }
 
 int PlixDataMgr::InitData(const std::string& json)
@@ -100,8 +127,14 @@ PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
     // fails half way, is nobody's yet.
     std::unique_ptr<QGraphicsItem> unfinished(ui->GetGraphicsItem());
     ui->SetOwner(this);
-    ui->SetClickFunc([this](ST_ACTION& action) { OnClick(action); });
-    ui->SetDownloadFunc([this](const std::string& url) { return DownloadFile(url); });
+    ui->SetClickFunc([watch = Watch()](ST_ACTION& action) {
+        if (const auto manager = watch.lock())
+            manager->OnClick(action);
+    });
+    ui->SetDownloadFunc([watch = Watch()](const std::string& url) {
+        const auto manager = watch.lock();
+        return manager ? manager->DownloadFile(url) : std::string();
+    });
     ui->SetFrom(from_);
     ui->Init();
 
@@ -124,7 +157,10 @@ void PlixDataMgr::CreateZones(const PlixDataBubble& bubble, PlixBaseUI& bubbleUI
 void PlixDataMgr::CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI, double insets,
                              double bottomInset)
 {
-    for (const auto& data : zone.GetChildren()) {
+    // Copied: a host that reads another message from within a callback appends
+    // to the list.
+    const auto children = zone.GetChildren();
+    for (const auto& data : children) {
         PlixBaseUI* ui =
             CreateUIItem(data, bubbleUI.GetGraphicsItem(), bubbleUI.GetChildParentLayout());
         if (!ui)
@@ -137,9 +173,10 @@ void PlixDataMgr::CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI
     }
 }
 
-void PlixDataMgr::CreateBoxChildren(const PlixDataContainer& children, PlixBaseUI& boxUI)
+void PlixDataMgr::CreateBoxChildren(const PlixDataContainer& container, PlixBaseUI& boxUI)
 {
-    for (const auto& data : children.GetChildren()) {
+    const auto children = container.GetChildren();
+    for (const auto& data : children) {
         PlixBaseUI* ui = CreateUIItem(data, boxUI.GetGraphicsItem(), boxUI.GetChildParentLayout());
         if (ui)
             boxUI.GetYogaItem()->addChild(ui->GetYogaItem());

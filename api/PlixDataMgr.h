@@ -24,11 +24,32 @@ class YogaLayoutItem;
 // The graphics items are the host's. They and this object may go in any order.
 class PlixDataMgr : public PlixDataController {
 public:
+    // Held while a call of the controller runs. Whatever it tells its host
+    // meanwhile, the host may answer with Free().
+    class Use {
+    public:
+        explicit Use(PlixDataMgr& manager);
+        ~Use();
+
+        Use(const Use&) = delete;
+        Use& operator=(const Use&) = delete;
+
+    private:
+        PlixDataMgr& manager_;
+    };
+
     PlixDataMgr();
     ~PlixDataMgr() override;
 
     PlixDataMgr(const PlixDataMgr&) = delete;
     PlixDataMgr& operator=(const PlixDataMgr&) = delete;
+
+    // Deletes the controller: now, or when the last call that uses it ends. In
+    // either case the host hears nothing more of it.
+    void Free();
+
+    // How those who may outlive the controller refer to it.
+    std::weak_ptr<PlixDataMgr> Watch() const { return self_; }
 
     int InitData(const std::string& json);
     void CreateUI();
@@ -70,10 +91,14 @@ private:
     void CreateZones(const PlixDataBubble& bubble, PlixBaseUI& bubbleUI);
     void CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI, double insets,
                     double bottomInset);
-    void CreateBoxChildren(const PlixDataContainer& children, PlixBaseUI& boxUI);
+    void CreateBoxChildren(const PlixDataContainer& container, PlixBaseUI& boxUI);
     void LayOut(PlixBubbleUI& bubble);
     PlixBubbleUI* RootBubble() const;
 
+    // Owns nothing: it is there to expire.
+    std::shared_ptr<PlixDataMgr> self_;
+    int uses_ = 0;
+    bool freeAfterUse_ = false;
     std::string messageType_;
     std::shared_ptr<PlixDataBubble> bubble_;
     QPointer<QGraphicsObject> rootItem_;

@@ -41,7 +41,10 @@ Result WithManager(PlixDataController* controller, Result refused, Body body) no
 {
     return Contain(refused, [&] {
         auto* manager = dynamic_cast<PlixDataMgr*>(controller);
-        return manager ? body(*manager) : refused;
+        if (!manager)
+            return refused;
+        const PlixDataMgr::Use use(*manager);
+        return body(*manager);
     });
 }
 
@@ -68,7 +71,12 @@ QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller
 
 void PLIX_CALL Plix_Free(PlixDataController* controller)
 {
-    Contain([&] { delete controller; });
+    Contain([&] {
+        if (auto* manager = dynamic_cast<PlixDataMgr*>(controller))
+            manager->Free();
+        else
+            delete controller;
+    });
 }
 
 bool PLIX_CALL Plix_HasAction(QGraphicsItem* item)

@@ -3,6 +3,9 @@
 #include "layout/PlixKeywordTable.h"
 
 #include <QString>
+#include <QStringList>
+
+#include <cmath>
 
 namespace {
 
@@ -100,6 +103,20 @@ int ToSpacerPixels(const std::string& text)
 float ToImageSize(const std::string& text)
 {
     return FindKeyword(kImageSizes, text).value_or(kDefaultImageSize);
+}
+
+float ToAspectRatio(const std::string& text)
+{
+    constexpr float kSquare = 1;
+    const QStringList sides = QString::fromStdString(text).split(QLatin1Char(':'));
+    if (sides.size() != 2)
+        return kSquare;
+    const float width = sides[0].toFloat();
+    const float height = sides[1].toFloat();
+    const float ratio = width / height;
+    // Also of infinity by infinity, and where one side is too large for the other.
+    const bool isUsable = width > 0 && height > 0 && std::isfinite(ratio) && ratio > 0;
+    return isUsable ? ratio : kSquare;
 }
 
 QColor ToColor(const std::string& text)

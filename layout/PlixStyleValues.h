@@ -43,6 +43,10 @@ int ToSpacerPixels(const std::string& text);
 constexpr float kFullImageWidth = -2.0F;
 float ToImageSize(const std::string& text);
 
+// A picture's "aspectRatio" of width to height, such as "16:9", as the width
+// divided by the height; 1 for anything that gives no positive, finite number.
+float ToAspectRatio(const std::string& text);
+
 // "#RGB", "#RRGGBB", "#AARRGGBB" or an SVG colour name; an invalid QColor for
 // anything else, without the warning that Qt would print for it.
 QColor ToColor(const std::string& text);

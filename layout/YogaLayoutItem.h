@@ -136,6 +136,8 @@ public:
     void setHasBaselineFunc(bool has);
     // A share of the parent's width, which bounds the width however it is set.
     void setMaxWidthPercent(double percent);
+    // Width divided by height; either follows from the other.
+    void setAspectRatio(double ratio);
 
     void calculateLayout(double width, double height);
     void calculateLayout();

@@ -420,3 +420,9 @@ void YogaLayoutItem::setMaxWidthPercent(double percent)
     if (node_)
         YGNodeStyleSetMaxWidthPercent(node_, ToFloat(percent));
 }
+
+void YogaLayoutItem::setAspectRatio(double ratio)
+{
+    if (node_)
+        YGNodeStyleSetAspectRatio(node_, ToFloat(ratio));
+}

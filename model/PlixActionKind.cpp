@@ -1,6 +1,7 @@
 #include "model/PlixActionKind.h"
 
 #include "layout/PlixKeywordTable.h"
+#include "model/PlixDataItem.h"
 
 namespace {
 
@@ -12,4 +13,10 @@ constexpr std::array kActionWords = std::to_array<PlixKeyword<PlixActionKind>>(
 PlixActionKind ToActionKind(const std::string& word)
 {
     return FindKeyword(kActionWords, word).value_or(PlixActionNone);
+}
+
+bool HasKnownAction(const PlixDataItem& data)
+{
+    const std::shared_ptr<ST_ACTION> action = data.GetAction();
+    return action && ToActionKind(action->type) != PlixActionNone;
 }

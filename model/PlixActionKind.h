@@ -2,6 +2,8 @@
 
 #include <string>
 
+class PlixDataItem;
+
 // What an action's "type" word asks for. Only actions of a known kind make a
 // text or an image clickable.
 enum PlixActionKind : int {
@@ -12,3 +14,6 @@ enum PlixActionKind : int {
 };
 
 PlixActionKind ToActionKind(const std::string& word);
+
+// Whether the item has an action, and one of a known kind.
+bool HasKnownAction(const PlixDataItem& data);

@@ -1,5 +1,6 @@
 #include "ui/PlixBaseUI.h"
 
+#include "api/PlixDataMgr.h"
 #include "layout/PlixStyleValues.h"
 #include "layout/YogaLayoutItem.h"
 #include "model/PlixDataItemCommon.h"
@@ -7,37 +8,47 @@
 #include "ui/PlixLeadingMargin.h"
 
 #include <QGraphicsItem>
+#include <QGraphicsScene>
+#include <QGraphicsSceneMouseEvent>
 #include <QVariant>
 
 namespace {
 
-// One offset: where its text is, and how the node takes it.
+// One offset: where its text is, how the node takes it, and which of the
+// parent's lengths a percentage is a share of.
 struct Offset {
     std::string (PlixDataItemCommon::*text)() const;
     void (YogaLayoutItem::*setPixels)(double);
     void (YogaLayoutItem::*setPercent)(double);
+    double (QSizeF::*parentLength)() const;
+
+    PlixLength Length(const PlixDataItemCommon& data) const
+    {
+        PlixLength length;
+        ParseLength((data.*text)(), length);
+        return length;
+    }
 };
 
 constexpr Offset kOffsets[] = {
     {&PlixDataItemCommon::GetOffsetTop, &YogaLayoutItem::setPositionTop,
-     &YogaLayoutItem::setPositionTopPercent},
+     &YogaLayoutItem::setPositionTopPercent, &QSizeF::height},
     {&PlixDataItemCommon::GetOffsetBottom, &YogaLayoutItem::setPositionBottom,
-     &YogaLayoutItem::setPositionBottomPercent},
+     &YogaLayoutItem::setPositionBottomPercent, &QSizeF::height},
     {&PlixDataItemCommon::GetOffsetStart, &YogaLayoutItem::setPositionStart,
-     &YogaLayoutItem::setPositionStartPercent},
+     &YogaLayoutItem::setPositionStartPercent, &QSizeF::width},
     {&PlixDataItemCommon::GetOffsetEnd, &YogaLayoutItem::setPositionEnd,
-     &YogaLayoutItem::setPositionEndPercent},
+     &YogaLayoutItem::setPositionEndPercent, &QSizeF::width},
 };
 
-void ApplyOffset(const Offset& offset, const PlixDataItemCommon& data, YogaLayoutItem& node)
+bool IsPercentage(const PlixLength& length)
 {
-    PlixLength length;
-    ParseLength((data.*offset.text)(), length);
-    if (length.px > 0)
-        (node.*offset.setPixels)(static_cast<double>(length.px));
-    else if (length.percent > 0)
-        (node.*offset.setPercent)(static_cast<double>(length.percent));
+    return length.px <= 0 && length.percent > 0;
 }
+
+// A click may end this far outside of its item: items need not lie on whole
+// pixels of the view, where the mouse is.
+constexpr double kClickMargin = 1;
 
 } // namespace
 
@@ -58,6 +69,18 @@ void PlixBaseUI::SetClickFunc(const ClickFunc&) { }
 void PlixBaseUI::SetDownloadFunc(const DownloadFunc&) { }
 
 void PlixBaseUI::SetFrom(int) { }
+
+void PlixBaseUI::SetOwner(PlixDataController* owner)
+{
+    owner_ = owner;
+    const auto* manager = dynamic_cast<const PlixDataMgr*>(owner);
+    manager_ = manager ? manager->Watch() : std::weak_ptr<PlixDataMgr>();
+}
+
+PlixDataMgr* PlixBaseUI::Manager() const
+{
+    return manager_.lock().get();
+}
 
 bool PlixBaseUI::HasAction()
 {
@@ -88,8 +111,59 @@ void PlixBaseUI::ApplyPlacement(bool parentIsVertical)
     }
     if (data->GetPosition() == "absolute")
         node.setAbsolute(true);
-    for (const Offset& offset : kOffsets)
-        ApplyOffset(offset, *data, node);
+    for (const Offset& offset : kOffsets) {
+        const PlixLength length = offset.Length(*data);
+        if (length.px > 0)
+            (node.*offset.setPixels)(static_cast<double>(length.px));
+    }
+}
+
+void PlixBaseUI::ApplyPercentOffsets()
+{
+    const auto data = FindData<PlixDataItemCommon>();
+    if (!data)
+        return;
+    for (const Offset& offset : kOffsets) {
+        const PlixLength length = offset.Length(*data);
+        if (IsPercentage(length))
+            (GetYogaItem()->*offset.setPercent)(static_cast<double>(length.percent));
+    }
+}
+
+void PlixBaseUI::ResolvePercentOffsets(const QSizeF& parentSize)
+{
+    const auto data = FindData<PlixDataItemCommon>();
+    if (!data)
+        return;
+    for (const Offset& offset : kOffsets) {
+        const PlixLength length = offset.Length(*data);
+        const double share = static_cast<double>(length.percent) / 100;
+        if (IsPercentage(length))
+            (GetYogaItem()->*offset.setPixels)(share * (parentSize.*offset.parentLength)());
+    }
+}
+
+bool PlixBaseUI::IsClick(const QGraphicsSceneMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton)
+        return false;
+    const QGraphicsItem& item = *GetGraphicsItem();
+    const QRectF rect =
+        item.boundingRect().adjusted(-kClickMargin, -kClickMargin, kClickMargin, kClickMargin);
+    const auto isOnItem = [&](const QPointF& scenePos) {
+        return rect.contains(item.mapFromScene(scenePos));
+    };
+    const bool left =
+        isOnItem(event.buttonDownScenePos(Qt::LeftButton)) && !isOnItem(event.scenePos());
+    return !left;
+}
+
+void PlixBaseUI::ReleaseMouse()
+{
+    const QGraphicsScene* scene = GetGraphicsItem()->scene();
+    QGraphicsItem* const grabber = scene ? scene->mouseGrabberItem() : nullptr;
+    if (grabber)
+        grabber->ungrabMouse();
 }
 
 void PlixBaseUI::DeliverClick()
@@ -100,5 +174,6 @@ void PlixBaseUI::DeliverClick()
         return;
     const ClickFunc click = clickFunc_;
     ST_ACTION action = *record;
+    ReleaseMouse();
     click(action);
 }

@@ -8,8 +8,11 @@
 #include <memory>
 #include <string>
 
+class PlixDataMgr;
 class QGraphicsItem;
 class QGraphicsLayoutItem;
+class QGraphicsSceneMouseEvent;
+class QSizeF;
 class YogaLayoutItem;
 
 // What every drawn item of a card is, next to a graphics item and a layout
@@ -47,7 +50,8 @@ public:
     // Whether a click on this item would reach the host.
     virtual bool HasAction();
 
-    void SetOwner(PlixDataController* owner) { owner_ = owner; }
+    // The controller that built the item, and may be freed before it.
+    void SetOwner(PlixDataController* owner);
     PlixDataController* GetOwner() const { return owner_; }
 
 protected:
@@ -57,18 +61,36 @@ protected:
         return std::dynamic_pointer_cast<Data>(FindDataItem());
     }
 
-    // Gives the node the margin, position and offsets of the data item.
+    // The owner, for as long as it is there.
+    PlixDataMgr* Manager() const;
+
+    // Gives the node the margin, position and pixel offsets of the data item.
     void ApplyPlacement(bool parentIsVertical);
+    // Leaves percentage offsets to the layout.
+    void ApplyPercentOffsets();
+    // Fixes percentage offsets as they are in a parent of this size.
+    void ResolvePercentOffsets(const QSizeF& parentSize);
+
+    // Whether the release of a mouse button ends a click on this item: one of
+    // the left button that did not leave the item.
+    bool IsClick(const QGraphicsSceneMouseEvent& event);
+
+    // To be called before the host learns of a mouse event. The host may then
+    // run an event loop, or throw: the scene must not go on sending all mouse
+    // events to this item.
+    void ReleaseMouse();
 
     // Hands the data item's action to the host. The host may do anything
     // meanwhile, so this item may be gone afterwards: return at once.
     void DeliverClick();
 
-    PlixDataController* owner_ = nullptr;
     bool actionSuppressed_ = false;
     bool clickable_ = false;
     ClickFunc clickFunc_;
 
 private:
     std::shared_ptr<PlixDataItem> FindDataItem();
+
+    PlixDataController* owner_ = nullptr;
+    std::weak_ptr<PlixDataMgr> manager_;
 };

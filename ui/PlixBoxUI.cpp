@@ -5,6 +5,7 @@
 #include "model/PlixDataTree.h"
 #include "ui/PlixContainer.h"
 #include "ui/PlixLeadingMargin.h"
+#include "ui/PlixRoundedPath.h"
 
 #include <QCursor>
 #include <QGraphicsSceneMouseEvent>
@@ -58,6 +59,7 @@ bool PlixBoxUI::Init()
     InitPaddings(*data);
     spacing_ = ToSpacingPixels(data->GetSpacing());
     ApplyPlacement(IsInVerticalBox(*data));
+    ApplyPercentOffsets();
     InitPercentSize(*data);
     setFlags(flags() | ItemClipsChildrenToShape | ItemClipsToShape);
     return true;
@@ -220,7 +222,7 @@ void PlixBoxUI::handleRelease(QGraphicsSceneMouseEvent* event)
     if (clickOwnedAbove_)
         return;
     if (hasOwnAction_) {
-        if (event->button() == Qt::LeftButton)
+        if (IsClick(*event))
             DeliverClick();
         return;
     }
@@ -230,14 +232,10 @@ void PlixBoxUI::handleRelease(QGraphicsSceneMouseEvent* event)
 
 QPainterPath PlixBoxUI::OutlinePath(const QStyleOptionGraphicsItem& option) const
 {
+    if (cornerRadius_ >= 1)
+        return RoundedPath(rect(), cornerRadius_);
     QPainterPath path;
-    if (cornerRadius_ < 1) {
-        path.addRect(option.exposedRect);
-        return path;
-    }
-    const int half = static_cast<int>(size().height()) / 2;
-    const int radius = std::min(cornerRadius_, half);
-    path.addRoundedRect(rect(), radius, radius, Qt::AbsoluteSize);
+    path.addRect(option.exposedRect);
     return path;
 }
 

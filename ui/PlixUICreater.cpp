@@ -3,9 +3,12 @@
 #include "model/PlixItemKind.h"
 #include "ui/PlixBoxUI.h"
 #include "ui/PlixBubbleUI.h"
+#include "ui/PlixButtonUI.h"
 #include "ui/PlixFillerUI.h"
 #include "ui/PlixSeparatorUI.h"
 #include "ui/PlixSpacerUI.h"
+#include "ui/image/PlixIconUI.h"
+#include "ui/image/PlixImageUI.h"
 #include "ui/text/PlixTextUI.h"
 
 namespace {
@@ -27,8 +30,11 @@ PlixBaseUI* CreateText(QGraphicsItem* parentItem, QGraphicsLayoutItem* parentLay
 
 PlixUICreater::PlixUICreater()
     : creators_ {{PlixKindBubble, &CreateItem<PlixBubbleUI>},
+                 {PlixKindImage, &CreateItem<PlixImageUI>},
                  {PlixKindBox, &CreateItem<PlixBoxUI>},
                  {PlixKindText, &CreateText},
+                 {PlixKindIcon, &CreateItem<PlixIconUI>},
+                 {PlixKindButton, &CreateItem<PlixButtonUI>},
                  {PlixKindSpacer, &CreateItem<PlixSpacerUI>},
                  {PlixKindFiller, &CreateItem<PlixFillerUI>},
                  {PlixKindSeparator, &CreateItem<PlixSeparatorUI>}}

@@ -46,12 +46,6 @@ bool IsShrinkWrapped(const PlixDataBox& box)
     return !stretches && box.GetGrow() <= 0 && width.px <= 0 && width.percent <= 0;
 }
 
-bool HasKnownAction(const PlixDataItem& data)
-{
-    const std::shared_ptr<ST_ACTION> action = data.GetAction();
-    return action && ToActionKind(action->type) != PlixActionNone;
-}
-
 QTextOption::WrapMode ToWrapMode(int value)
 {
     const bool known =
@@ -72,11 +66,6 @@ PlixTextUI::PlixTextUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout,
     SetMarkupEnabled(param.markupEnabled);
     connect(this, &TextItem::MentionClicked, this, &PlixTextUI::OnMentionClicked);
     connect(this, &TextItem::BotMentionClicked, this, &PlixTextUI::OnBotMentionClicked);
-}
-
-PlixDataMgr* PlixTextUI::Manager() const
-{
-    return dynamic_cast<PlixDataMgr*>(GetOwner());
 }
 
 bool PlixTextUI::Init()
@@ -101,6 +90,7 @@ bool PlixTextUI::Init()
     if (data->GetPosition() == "absolute")
         gravity_ = Gravity::Top;
     ApplyPlacement(box && box->IsVertical());
+    ApplyPercentOffsets();
     setHasBaselineFunc(baseline_);
     InitLines(*data);
     return true;
@@ -127,6 +117,7 @@ void PlixTextUI::InitAction(const PlixDataText& data)
         unsupported_ = true;
         setAcceptedMouseButtons(Qt::NoButton);
     } else if (!unsupported_ && HasKnownAction(data)) {
+        hasOwnAction_ = true;
         setClickable(true);
     }
 }
@@ -287,12 +278,14 @@ void PlixTextUI::setClickable(bool on)
 
 void PlixTextUI::OnMentionClicked(qint64 userNo)
 {
+    ReleaseMouse();
     if (PlixDataMgr* manager = Manager())
         manager->OnMention(userNo);
 }
 
 void PlixTextUI::OnBotMentionClicked(qint64 userNo)
 {
+    ReleaseMouse();
     if (PlixDataMgr* manager = Manager())
         manager->OnBotMention(userNo);
 }
@@ -446,10 +439,21 @@ void PlixTextUI::PlaceVertically(double available)
 
 void PlixTextUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
+    // Qt delivers the release only to the item that took the press. A text that
+    // is clickable because its box is leaves the press to the box.
     if (clickable_)
-        event->ignore();
+        event->setAccepted(hasOwnAction_ && event->button() == Qt::LeftButton);
     else
         TextItem::mousePressEvent(event);
+}
+
+void PlixTextUI::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
+{
+    // The second press of two quick clicks.
+    if (clickable_)
+        mousePressEvent(event);
+    else
+        TextItem::mouseDoubleClickEvent(event);
 }
 
 void PlixTextUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
@@ -457,8 +461,7 @@ void PlixTextUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
     if (unsupported_)
         return;
     if (clickable_) {
-        const auto data = FindData<PlixDataText>();
-        if (event->button() == Qt::LeftButton && data && HasKnownAction(*data))
+        if (hasOwnAction_ && IsClick(*event))
             DeliverClick();
         return;
     }

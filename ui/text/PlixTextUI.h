@@ -5,7 +5,6 @@
 
 #include <kestro_control/TextItem.h>
 
-class PlixDataMgr;
 class PlixDataSpan;
 class PlixDataText;
 
@@ -47,6 +46,7 @@ public:
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) override;
 
 private Q_SLOTS:
     void OnMentionClicked(qint64 userNo);
@@ -55,8 +55,6 @@ private Q_SLOTS:
 
 private:
     enum class Gravity { Top, Center, Bottom };
-
-    PlixDataMgr* Manager() const;
 
     void InitWrapMode();
     void InitColor(const PlixDataText& data);
@@ -85,6 +83,7 @@ private:
     void PlaceVertically(double available);
 
     bool unsupported_ = false;
+    bool hasOwnAction_ = false;
     int colorMode_ = 0;
     bool baseline_ = false;
     bool wrap_ = false;

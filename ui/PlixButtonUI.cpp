@@ -1,0 +1,226 @@
+#include "ui/PlixButtonUI.h"
+
+#include "api/PlixCurrentLanguage.h"
+#include "api/PlixSettings.h"
+#include "layout/PlixKeywordTable.h"
+#include "layout/PlixStyleValues.h"
+#include "model/PlixDataLeaves.h"
+#include "model/PlixDataTree.h"
+#include "ui/text/PlixTextFont.h"
+
+#include <kestro_control/KestroControlManager.h>
+#include <kestro_control/KestroControlSupport.h>
+
+#include <QCursor>
+#include <QFontMetrics>
+#include <QGraphicsSceneMouseEvent>
+#include <QPainter>
+#include <QTextOption>
+
+namespace {
+
+constexpr char kUnavailableKey[] = "chat_room_check_on_mobile";
+constexpr int kSmallHeight = 40;
+constexpr int kHeight = 52;
+constexpr int kPlateRadius = 6;
+// Kept free around the label, both sides together.
+constexpr int kLabelRoom = 30;
+// No button shows more, and shaping it would take longer than anybody waits.
+constexpr int kLongestLabel = 1000;
+
+// What the card's "color" changes.
+enum class Colored { Nothing, Plate, Label };
+
+struct Look {
+    const char* plate;
+    const char* label;
+    Colored colored;
+};
+
+constexpr Look kLink = {"", "#157EFB", Colored::Label};
+constexpr Look kUnknown = {"", "black", Colored::Nothing};
+
+constexpr std::array kLooks =
+    std::to_array<PlixKeyword<Look>>({{"", kLink},
+                                      {"link", kLink},
+                                      {"primary", {"#0dc950", "white", Colored::Plate}},
+                                      {"secondary", {"#d8dee6", "black", Colored::Plate}},
+                                      {"automatic", {"#ffffff", "#0087EE", Colored::Nothing}}});
+
+constexpr std::array kGravities = std::to_array<PlixKeyword<int>>(
+    {{"center", Qt::AlignVCenter}, {"top", Qt::AlignTop}, {"bottom", Qt::AlignBottom}});
+
+QString OnOneLine(QString text)
+{
+    for (QChar& character : text) {
+        const bool endsLine = character == QLatin1Char('\n') || character == QLatin1Char('\r')
+            || character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
+        if (endsLine)
+            character = QLatin1Char(' ');
+    }
+    return text;
+}
+
+} // namespace
+
+PlixButtonUI::PlixButtonUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
+    : PlixWidgetUI(parent, parentLayout)
+{
+    clickable_ = true;
+    TakeFontFamily();
+}
+
+bool PlixButtonUI::Init()
+{
+    const auto data = FindData<PlixDataButton>();
+    if (!data)
+        return false;
+    actionUnavailable_ = data->IsAppOnlyAction();
+    actionSuppressed_ = actionUnavailable_;
+    InitLabel(*data);
+    InitMouse();
+    InitLook(*data);
+    InitFont(*data);
+    InitSize(*data);
+    ApplyPlacement(!IsInRow(*data));
+    const bool isAbsolute = data->GetPosition() == "absolute";
+    // A button that shares out nothing in a row would have no width at all.
+    if (isAbsolute || (IsInRow(*data) && data->GetGrow() <= 0))
+        setWidth(LabelWidth() + kLabelRoom);
+    return true;
+}
+
+void PlixButtonUI::InitLabel(const PlixDataButton& data)
+{
+    std::string text;
+    if (actionUnavailable_) {
+        text = PlixSettings::GetInstance().GetMultiLangText(kUnavailableKey);
+    } else if (const std::shared_ptr<ST_ACTION> action = data.GetAction()) {
+        text = action->label;
+        for (const std::string& language : {GetCurrentLanguage(), std::string("default")}) {
+            const std::string variant = action->i18nLabels.Get(language);
+            if (!variant.empty()) {
+                text = variant;
+                break;
+            }
+        }
+    }
+    label_ = OnOneLine(QString::fromStdString(text));
+}
+
+void PlixButtonUI::InitMouse()
+{
+    if (actionUnavailable_)
+        return;
+    setCursor(Qt::PointingHandCursor);
+    setAcceptHoverEvents(true);
+    setAcceptTouchEvents(true);
+    setAcceptedMouseButtons(Qt::AllButtons);
+}
+
+void PlixButtonUI::InitLook(const PlixDataButton& data)
+{
+    const Look look = FindKeyword(kLooks, data.GetStyle()).value_or(kUnknown);
+    const auto color = [&](Colored part, const char* usual) {
+        const bool isColored = look.colored == part && !data.GetColor().empty();
+        return isColored ? data.GetColor() : std::string(usual);
+    };
+    plateColor_ = color(Colored::Plate, look.plate);
+    textPen_.setColor(ToColor(color(Colored::Label, look.label)));
+}
+
+void PlixButtonUI::InitFont(PlixDataButton& data)
+{
+    data.SetPixelSize(ToTextPixels(data.GetSize()));
+    font_.setWeight(QFont::Bold);
+    font_.setPixelSize(data.GetPixelSize());
+}
+
+void PlixButtonUI::InitSize(const PlixDataButton& data)
+{
+    if (const auto gravity = FindKeyword(kGravities, data.GetGravity()))
+        setAlignment(*gravity, IsInRow(data));
+    setGrowFactor(data.GetGrow());
+    setHeight(data.GetHeight() == "sm" ? kSmallHeight : kHeight);
+}
+
+void PlixButtonUI::SetClickFunc(const ClickFunc& func)
+{
+    clickFunc_ = func;
+}
+
+void PlixButtonUI::SetFrom(int from)
+{
+    from_ = from;
+}
+
+void PlixButtonUI::FontChanged()
+{
+    if (!IsUseFontBonding())
+        return;
+    TakeFontFamily();
+    update();
+}
+
+void PlixButtonUI::TakeFontFamily()
+{
+    const KestroControlSupport* support =
+        KestroControlManager::GetInstance()->GetKestroControlSupport();
+    const QString family = support ? support->GetFontFamily() : QString();
+    if (!family.isEmpty())
+        font_.setFamily(family);
+}
+
+double PlixButtonUI::LabelWidth() const
+{
+    return QFontMetrics(font_).horizontalAdvance(label_.left(kLongestLabel));
+}
+
+QString PlixButtonUI::shownLabel() const
+{
+    const double available = size().width() - kLabelRoom;
+    if (LabelWidth() <= available)
+        return label_.left(kLongestLabel);
+    return QFontMetrics(font_).elidedText(label_.left(kLongestLabel), Qt::ElideRight,
+                                          static_cast<int>(available));
+}
+
+void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
+{
+    painter->save();
+    if (!plateColor_.empty()) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(QBrush(ToColor(plateColor_), Qt::SolidPattern));
+        painter->drawRoundedRect(rect(), kPlateRadius, kPlateRadius, Qt::AbsoluteSize);
+    }
+    painter->setPen(textPen_);
+    painter->setFont(font_);
+    QTextOption option(Qt::AlignHCenter | Qt::AlignVCenter);
+    option.setWrapMode(QTextOption::NoWrap);
+    painter->drawText(rect(), shownLabel(), option);
+    painter->restore();
+}
+
+void PlixButtonUI::setGeometry(const QRectF& rect)
+{
+    PlixWidgetUI::setGeometry(rect);
+    if (!geometryPending_)
+        return;
+    geometryPending_ = false;
+    if (const YogaLayoutItem* parent = YogaLayoutItem::parentItem())
+        ResolvePercentOffsets({parent->layoutWidth(), parent->layoutHeight()});
+}
+
+void PlixButtonUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    // Also of a button whose action is unavailable: it is not a hole through
+    // which the box below is clicked.
+    event->setAccepted(event->button() == Qt::LeftButton);
+}
+
+void PlixButtonUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (!actionUnavailable_ && IsClick(*event))
+        DeliverClick();
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "ui/PlixWidgetUI.h"
+
+#include <kestro_control/KestroFontBindSupport.h>
+
+#include <QColor>
+#include <QFont>
+#include <QPen>
+#include <QString>
+
+#include <string>
+
+class PlixDataButton;
+
+// A one-line label, on a rounded plate or on nothing, that is clicked.
+class PlixButtonUI : public PlixWidgetUI, public KestroFontBindSupport {
+    Q_OBJECT
+    Q_PROPERTY(QString label READ label)
+    Q_PROPERTY(QString shownLabel READ shownLabel)
+    Q_PROPERTY(QFont labelFont READ labelFont)
+
+public:
+    explicit PlixButtonUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout = nullptr);
+
+    bool Init() override;
+    void SetClickFunc(const ClickFunc& func) override;
+    void SetFrom(int from) override;
+
+    // Follows the host's font family while font binding is on.
+    void FontChanged() override;
+
+    QString label() const { return label_; }
+    // The label, elided where the button is too narrow for it.
+    QString shownLabel() const;
+    QFont labelFont() const { return font_; }
+
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+    void setGeometry(const QRectF& rect) override;
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+
+private:
+    void InitLabel(const PlixDataButton& data);
+    void InitMouse();
+    void InitLook(const PlixDataButton& data);
+    void InitFont(PlixDataButton& data);
+    void InitSize(const PlixDataButton& data);
+    void TakeFontFamily();
+    double LabelWidth() const;
+
+    bool actionUnavailable_ = false;
+    QString label_;
+    QPen textPen_ {Qt::black};
+    QFont font_;
+    // No plate while empty.
+    std::string plateColor_;
+    bool geometryPending_ = true;
+    int from_ = 0;
+};

@@ -1,0 +1,30 @@
+#include "ui/image/PlixIconUI.h"
+
+#include "api/PlixCurrentLanguage.h"
+#include "layout/PlixStyleValues.h"
+#include "model/PlixDataImage.h"
+#include "model/PlixLanguageText.h"
+#include "ui/text/PlixTextFont.h"
+
+PlixIconUI::PlixIconUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
+    : PlixPictureUI(parent, parentLayout)
+{
+}
+
+bool PlixIconUI::Init()
+{
+    const auto data = FindData<PlixDataIcon>();
+    if (!data)
+        return false;
+    setAcceptedMouseButtons(Qt::NoButton);
+    Download(ChooseText(data->GetUrls(), GetCurrentLanguage(), data->GetUrl()));
+    data->SetPixelSize(ToTextPixels(data->GetSize()));
+    // Both lengths are given, not one and the ratio: an icon that grows in a row
+    // must not make the row higher.
+    const double width = data->GetPixelSize() * ToAspectRatio(data->GetAspectRatio());
+    setHeight(data->GetPixelSize());
+    setWidth(width);
+    SetFixedWidth(width);
+    InitCommon(*data);
+    return true;
+}

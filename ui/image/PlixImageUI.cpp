@@ -1,0 +1,106 @@
+#include "ui/image/PlixImageUI.h"
+
+#include "api/PlixCurrentLanguage.h"
+#include "layout/PlixKeywordTable.h"
+#include "layout/PlixStyleValues.h"
+#include "model/PlixActionKind.h"
+#include "model/PlixDataImage.h"
+#include "model/PlixDataTree.h"
+#include "model/PlixLanguageText.h"
+
+#include <QCursor>
+#include <QGraphicsSceneMouseEvent>
+
+namespace {
+
+constexpr float kNoFixedWidth = -1;
+
+// How a word aligns the item, and where it puts a picture that fits inside.
+struct Alignment {
+    int flag;
+    double place;
+};
+
+constexpr std::array kAligns =
+    std::to_array<PlixKeyword<Alignment>>({{"start", {Qt::AlignLeft, 0}},
+                                           {"center", {Qt::AlignHCenter, 0.5}},
+                                           {"end", {Qt::AlignRight, 1}}});
+
+constexpr std::array kGravities =
+    std::to_array<PlixKeyword<Alignment>>({{"top", {Qt::AlignTop, 0}},
+                                           {"center", {Qt::AlignVCenter, 0.5}},
+                                           {"bottom", {Qt::AlignBottom, 1}}});
+
+} // namespace
+
+PlixImageUI::PlixImageUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
+    : PlixPictureUI(parent, parentLayout)
+{
+}
+
+bool PlixImageUI::Init()
+{
+    const auto data = FindData<PlixDataImage>();
+    if (!data)
+        return false;
+    InitAction(*data);
+    Download(ChooseText(data->GetUrls(), GetCurrentLanguage(), data->GetUrl()));
+    InitSize(*data);
+    if (data->GetAspectMode() == "cover")
+        SetAspectMode(AspectMode::Cover);
+    InitAlignment(*data);
+    setAspectRatio(ToAspectRatio(data->GetAspectRatio()));
+    SetBackground(data->GetBackgroundColor());
+    InitCommon(*data);
+    return true;
+}
+
+void PlixImageUI::InitAction(const PlixDataImage& data)
+{
+    clickable_ = !data.IsAppOnlyAction() && HasKnownAction(data);
+    if (clickable_)
+        setCursor(Qt::PointingHandCursor);
+    else
+        setAcceptedMouseButtons(Qt::NoButton);
+}
+
+void PlixImageUI::InitSize(PlixDataImage& data)
+{
+    const float width = data.GetSizePixels();
+    if (width <= kNoFixedWidth)
+        return;
+    setWidth(width);
+    SetFixedWidth(width);
+}
+
+void PlixImageUI::InitAlignment(const PlixDataImage& data)
+{
+    const bool parentIsHorizontal = IsInRow(data);
+    Placement placement;
+    const auto align = FindKeyword(kAligns, data.GetAlign());
+    setAlignment(align ? align->flag : Qt::AlignLeft, parentIsHorizontal);
+    if (align)
+        placement.x = IsInRightToLeftBubble(data) ? 1 - align->place : align->place;
+    if (const auto gravity = FindKeyword(kGravities, data.GetGravity())) {
+        setAlignment(gravity->flag, parentIsHorizontal);
+        placement.y = gravity->place;
+    }
+    SetPlacement(placement);
+}
+
+void PlixImageUI::SetClickFunc(const ClickFunc& func)
+{
+    clickFunc_ = func;
+}
+
+void PlixImageUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    // Qt delivers the release only to the item that took the press.
+    event->setAccepted(clickable_ && event->button() == Qt::LeftButton);
+}
+
+void PlixImageUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (clickable_ && IsClick(*event))
+        DeliverClick();
+}

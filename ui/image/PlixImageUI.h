@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ui/image/PlixPictureUI.h"
+
+class PlixDataImage;
+
+// An image of a card.
+class PlixImageUI : public PlixPictureUI {
+    Q_OBJECT
+
+public:
+    explicit PlixImageUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout = nullptr);
+
+    bool Init() override;
+    void SetClickFunc(const ClickFunc& func) override;
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+
+private:
+    void InitAction(const PlixDataImage& data);
+    void InitSize(PlixDataImage& data);
+    void InitAlignment(const PlixDataImage& data);
+};

@@ -1,0 +1,44 @@
+#include "ui/image/PlixMovieBudget.h"
+
+#include "ui/image/PlixMovie.h"
+
+#include <algorithm>
+
+PlixMovieBudget& PlixMovieBudget::GetInstance()
+{
+    // Never destroyed: the host's scene may go last of all.
+    static auto* const instance = new PlixMovieBudget;
+    return *instance;
+}
+
+bool PlixMovieBudget::Join(PlixMovie& movie)
+{
+    if (movie.bytes() > kMaximumMovieBytes || !MakeRoom(movie.bytes()))
+        return false;
+    movies_.push_back(&movie);
+    usedBytes_ += movie.bytes();
+    return true;
+}
+
+bool PlixMovieBudget::MakeRoom(qint64 bytes)
+{
+    while (usedBytes_ + bytes > kMaximumBytes) {
+        const auto idle = std::find_if(movies_.begin(), movies_.end(),
+                                       [](const PlixMovie* movie) { return !movie->isPlaying(); });
+        if (idle == movies_.end())
+            return false;
+        PlixMovie* const movie = *idle;
+        Leave(*movie);
+        Q_EMIT movie->evicted();
+    }
+    return true;
+}
+
+void PlixMovieBudget::Leave(const PlixMovie& movie)
+{
+    const auto found = std::find(movies_.begin(), movies_.end(), &movie);
+    if (found == movies_.end())
+        return;
+    movies_.erase(found);
+    usedBytes_ -= movie.bytes();
+}

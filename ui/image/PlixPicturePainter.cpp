@@ -1,0 +1,72 @@
+#include "ui/image/PlixPicturePainter.h"
+
+#include "ui/image/PlixPicture.h"
+
+#include <QBrush>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// How a picture lies on the painter's device.
+struct Mapping {
+    QRectF area; // in logical pixels
+    bool isExact; // a device pixel for a picture's pixel
+};
+
+Mapping MapToDevice(const QPainter& painter, const QImage& image, const QRectF& area)
+{
+    const QTransform toDevice = painter.deviceTransform();
+    const bool isUpright =
+        toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0 && toDevice.m22() > 0;
+    const QRectF onDevice = toDevice.mapRect(area);
+    const bool isExact = isUpright && std::abs(onDevice.width() - image.width()) < 0.5
+        && std::abs(onDevice.height() - image.height()) < 0.5;
+    if (!isExact)
+        return {area, false};
+    const QPointF corner(std::round(onDevice.x()), std::round(onDevice.y()));
+    return {toDevice.inverted().mapRect(QRectF(corner, QSizeF(image.size()))), true};
+}
+
+} // namespace
+
+PlixPictureTarget::PlixPictureTarget(const QRectF& area, double dpiFactor)
+    : area_(area)
+{
+    // Cards can be of any size. Beyond what anybody sees at once the painter
+    // scales what is visible of it.
+    const double width = area.width() * dpiFactor;
+    const double height = area.height() * dpiFactor;
+    const double excess = std::sqrt(width * height / PlixPicture::kMaximumScaledPixels);
+    const double widest = PlixPicture::kMaximumScaledPixels;
+    const double factor = std::isfinite(excess) ? std::max(excess, 1.0) : 0;
+    size_ = factor > 0 ? QSize(static_cast<int>(std::min(width / factor, widest)),
+                               static_cast<int>(std::min(height / factor, widest)))
+                       : QSize();
+    if (factor == 1)
+        area_.setSize(QSizeF(size_) / dpiFactor);
+}
+
+void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area)
+{
+    const Mapping mapping = MapToDevice(painter, image, area);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !mapping.isExact);
+    painter.drawImage(mapping.area, image);
+}
+
+void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area,
+                 const QPainterPath& outline)
+{
+    const Mapping mapping = MapToDevice(painter, image, area);
+    QTransform onPicture = QTransform::fromTranslate(mapping.area.x(), mapping.area.y());
+    onPicture.scale(mapping.area.width() / image.width(), mapping.area.height() / image.height());
+    QBrush brush(image);
+    brush.setTransform(onPicture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !mapping.isExact);
+    // A brush goes on beside its picture.
+    painter.setClipRect(mapping.area, Qt::IntersectClip);
+    painter.fillPath(outline, brush);
+}

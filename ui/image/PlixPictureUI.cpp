@@ -1,0 +1,127 @@
+#include "ui/image/PlixPictureUI.h"
+
+#include "api/PlixDataMgr.h"
+#include "api/PlixLog.h"
+#include "layout/PlixStyleValues.h"
+#include "model/PlixDataItemCommon.h"
+#include "model/PlixDataTree.h"
+#include "ui/PlixRoundedPath.h"
+#include "ui/image/PlixPicturePainter.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+PlixPictureUI::PlixPictureUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
+    : PlixWidgetUI(parent, parentLayout)
+{
+    connect(&picture_, &PlixPicture::frameChanged, this, [this] { update(); });
+}
+
+void PlixPictureUI::SetDownloadFunc(const DownloadFunc& func)
+{
+    downloadFunc_ = func;
+}
+
+void PlixPictureUI::Download(const std::string& url)
+{
+    if (!downloadFunc_)
+        return;
+    try {
+        FileArrived(downloadFunc_(url));
+    } catch (const std::exception& error) {
+        // The host's failure costs this picture, not the card.
+        LogFailure("PlixDataMgr::CreateUI", error);
+    }
+}
+
+void PlixPictureUI::FileArrived(const std::string& path)
+{
+    OnFileArrived(QString::fromStdString(path));
+}
+
+void PlixPictureUI::OnFileArrived(const QString& path)
+{
+    picture_.setFileName(path);
+    update();
+}
+
+void PlixPictureUI::InitCommon(const PlixDataItemCommon& data)
+{
+    setGrowFactor(data.GetGrow());
+    ApplyPlacement(IsInVerticalBox(data));
+    ApplyPercentOffsets();
+}
+
+void PlixPictureUI::SetBackground(const std::string& color)
+{
+    if (!color.empty())
+        background_.emplace(ToColor(color), Qt::SolidPattern);
+}
+
+void PlixPictureUI::inheritCornerRadius(int radius)
+{
+    cornerRadius_ = std::max(cornerRadius_, radius);
+}
+
+double PlixPictureUI::DpiFactor() const
+{
+    const PlixDataMgr* manager = Manager();
+    const double dpi = manager ? static_cast<double>(manager->GetDpi()) : 1;
+    return std::isfinite(dpi) && dpi > 0 ? dpi : 1;
+}
+
+void PlixPictureUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
+{
+    painter->save();
+    if (background_)
+        PaintBackground(*painter);
+    PaintPicture(*painter);
+    painter->restore();
+}
+
+void PlixPictureUI::PaintBackground(QPainter& painter) const
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(*background_);
+    if (cornerRadius_ < 1) {
+        const QRectF area = rect();
+        painter.drawRects(&area, 1);
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawPath(RoundedPath(rect(), cornerRadius_));
+}
+
+QRectF PlixPictureUI::DrawingArea(const QSize& picture) const
+{
+    QRectF area = rect();
+    if (fixedWidth_ > 0 && fixedWidth_ < area.width()) {
+        const double room = (area.width() - fixedWidth_) / 2;
+        area.adjust(room, 0, -room, 0);
+    }
+    if (aspectMode_ == AspectMode::Cover)
+        return area;
+    const QSizeF size = QSizeF(picture).scaled(area.size(), Qt::KeepAspectRatio);
+    const QPointF corner(area.x() + (area.width() - size.width()) * placement_.x,
+                         area.y() + (area.height() - size.height()) * placement_.y);
+    return {corner, size};
+}
+
+void PlixPictureUI::PaintPicture(QPainter& painter)
+{
+    const QSize size = picture_.size();
+    if (size.isEmpty())
+        return;
+    const QRectF area = DrawingArea(size);
+    const PlixPictureTarget target(area, DpiFactor());
+    const QImage image = picture_.scaledTo(target.size());
+    if (image.isNull())
+        return;
+    if (cornerRadius_ < 1)
+        DrawPicture(painter, image, target.area());
+    else
+        DrawPicture(painter, image, target.area(), RoundedPath(rect(), cornerRadius_));
+}

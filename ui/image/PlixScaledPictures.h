@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QImage>
+
+class PlixPicture;
+
+// The pictures on show, scaled to the size in which they are shown: what is
+// painted again is not scaled again. One size each, a bounded number of bytes
+// for all of the process; those that were not painted for longest go first.
+class PlixScaledPictures {
+public:
+    static constexpr int kMaximumBytes = 128 * 1024 * 1024;
+
+    // Null when it is not there, or of another size.
+    static QImage Find(const PlixPicture& picture, const QSize& size);
+    static void Insert(const PlixPicture& picture, const QImage& image);
+    static void Remove(const PlixPicture& picture);
+};
