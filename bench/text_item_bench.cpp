@@ -1,9 +1,7 @@
-// What a TextItem costs besides the text engine's own work. The counters are
-// ratios: each round does both sides, one after the other, so that what slows
-// the machine down meets both.
-#include <kestro_control/TextItem.h>
+// What a TextItem costs besides the text engine's own work.
+#include "Compare.h"
 
-#include <benchmark/benchmark.h>
+#include <kestro_control/TextItem.h>
 
 #include <QApplication>
 #include <QGraphicsTextItem>
@@ -13,11 +11,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-#include <chrono>
-
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 constexpr qreal width = 180;
 
@@ -28,29 +22,6 @@ QFont textFont()
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(16);
     return font;
-}
-
-template <class Work> double secondsOf(Work work)
-{
-    const auto start = Clock::now();
-    work();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-// Times both kinds of work round by round; the result is the first one's time
-// in units of the second one's.
-template <class Work, class Yardstick>
-void compare(benchmark::State& state, Work work, Yardstick yardstick)
-{
-    double workSeconds = 0;
-    double yardstickSeconds = 0;
-    for (auto _ : state) {
-        const double seconds = secondsOf(work);
-        state.SetIterationTime(seconds);
-        workSeconds += seconds;
-        yardstickSeconds += secondsOf(yardstick);
-    }
-    state.counters["ratio"] = workSeconds / yardstickSeconds;
 }
 
 void fill(TextItem& item, const QString& text)

@@ -25,6 +25,10 @@
 //             std::string and std::list objects cross the boundary.
 //  Exceptions None leaves a function. Failures while a card is read or built
 //             are reported through the log callback.
+//  Callbacks  May do anything: call the functions below, delete the card's
+//             item, free its controller, run an event loop, throw. What a click
+//             or mention callback throws leaves through the Qt event that
+//             caused it; what is thrown while a card is read or built ends here.
 //  Units      Lengths are logical pixels of the graphics scene.
 #ifndef PLIX_PLIX_H
 #define PLIX_PLIX_H
@@ -130,8 +134,24 @@ struct PlixDisplayParam {
 using PlixClickCallback = void(PLIX_CALL*)(PlixDataController* controller, ST_ACTION& action,
                                            void* userData);
 
-// A picture is needed. Returns the path of the local file that holds it (or
-// will hold it), UTF-8; empty when there is none.
+// A picture is needed: asked while the card is built, once for each image and
+// icon. Returns the path of the local file that holds it, or will hold it, UTF-8;
+// empty when there is none.
+//
+// The file is read when the picture is painted, and again when it is painted in
+// another size, so it has to stay. Until it is there the item shows its
+// background. It is looked for whenever the item is painted; a host whose
+// download ends later updates the item, or names the file to it:
+//
+//     QMetaObject::invokeMethod(item->toGraphicsObject(), "OnFileArrived",
+//                               Q_ARG(QString, path));
+//
+// where the item is that of the card's items whose property "pictureFile" is the
+// path that was returned.
+//
+// Shown are PNG, JPEG, GIF, WebP and BMP files, as far as the host's Qt has the
+// plugins, of at most 32 MiB and 16,777,216 pixels. What is larger, or anything
+// else, counts as not there.
 using PlixDownloadCallback = std::string(PLIX_CALL*)(PlixDataController* controller,
                                                      const std::string& url, void* userData);
 
@@ -162,15 +182,17 @@ PLIX_API PlixDataController* PLIX_CALL Plix_CreateController();
 //
 // The returned item has no parent and is the caller's: put it into a scene, or
 // delete it. Deleting it deletes the whole card. It may be deleted before or
-// after Plix_Free, but after Plix_Free no event may reach it. Each call builds
-// a new item; only the first one of a controller is laid out and follows
-// Plix_ModifyHeight and Plix_RefreshLayout as one would wish, so build once.
+// after Plix_Free; in between it is shown as it was, and clicks on it reach
+// nobody. Each call builds a new item; only the first one of a controller is
+// laid out and follows Plix_ModifyHeight and Plix_RefreshLayout as one would
+// wish, so build once.
 //
 // Returns null when the build failed (logged), or for a bad handle.
 PLIX_API QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller);
 
 // Destroys the controller, not the graphics item. Accepts null, and any object
-// derived from PlixDataController. The handle is invalid afterwards.
+// derived from PlixDataController. The handle is invalid afterwards, and no
+// callback is called for it any more; from within a callback, too.
 PLIX_API void PLIX_CALL Plix_Free(PlixDataController* controller);
 
 // Whether a click on `item` - any item of a card's tree - would be delivered
