@@ -16,6 +16,7 @@ void CardHost::Free::operator()(PlixDataController* controller) const
 CardHost::CardHost(const CardFile& file, const CardOptions& options)
     : log_(file.path())
     , wordings_(options.wordings)
+    , images_(options.images, file.path())
     , controller_(Plix_CreateController())
 {
     prepare(options);
@@ -35,6 +36,8 @@ void CardHost::prepare(const CardOptions& options)
         Plix_SetDpi(controller_.get(), *options.dpi);
     if (!options.language.isEmpty())
         Plix_SetCurrentLanguage(options.language.toStdString());
+    if (!options.images.isEmpty())
+        images_.serve(controller_.get());
 }
 
 void CardHost::build(const CardFile& file)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HostWordings.h"
+#include "ImageFolder.h"
 #include "LibraryLog.h"
 #include "Options.h"
 
@@ -34,6 +35,7 @@ private:
 
     LibraryLog log_;
     HostWordings wordings_;
+    ImageFolder images_;
     std::unique_ptr<PlixDataController, Free> controller_;
     // Behind the controller: the card's items go first.
     QGraphicsScene scene_;

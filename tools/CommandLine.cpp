@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -108,6 +109,7 @@ private:
     QString input() const;
     QString output() const;
     CardOptions cardOptions() const;
+    QString images() const;
     QString background() const;
     QMap<QString, QString> wordings() const;
 
@@ -142,8 +144,13 @@ void CommandParser::addOptions()
                QStringLiteral("F"));
     }
     option({QStringLiteral("dpi")},
-           QStringLiteral("The scale factor that the library is told, above 0 and up to 16."),
+           QStringLiteral("The scale that pictures are made for, above 0 and up to 16\n"
+                          "(default: the scale of what is drawn)."),
            QStringLiteral("F"));
+    option({QStringLiteral("images")},
+           QStringLiteral("A folder that stands for the web: pictures are looked up there\n"
+                          "by the last segment of their URL (default: no pictures)."),
+           QStringLiteral("DIR"));
     option({QStringLiteral("lang")},
            QStringLiteral("The language of the texts, such as ko or zh-CN (default: en)."),
            QStringLiteral("CODE"));
@@ -186,6 +193,8 @@ std::variant<Options, Answer> CommandParser::parse(const QStringList& arguments)
     if (description_.paints && parser_.isSet(scaleOption))
         options.scale = number(scaleOption, 0.25, 8);
     options.card = cardOptions();
+    if (description_.paints && !options.card.dpi)
+        options.card.dpi = static_cast<float>(options.scale);
     return options;
 }
 
@@ -228,6 +237,7 @@ CardOptions CommandParser::cardOptions() const
     CardOptions card;
     if (isSet("dpi"))
         card.dpi = static_cast<float>(number(QStringLiteral("dpi"), 0.01, 16));
+    card.images = images();
     card.language = value("lang");
     if (isSet("from")) {
         card.from = integer(QStringLiteral("from"), std::numeric_limits<int>::min(),
@@ -243,6 +253,14 @@ CardOptions CommandParser::cardOptions() const
         card.wrapMode = integer(QStringLiteral("wrap-mode"), 0, 4);
     card.wordings = wordings();
     return card;
+}
+
+QString CommandParser::images() const
+{
+    const QString option = QStringLiteral("images");
+    if (parser_.isSet(option) && !QFileInfo(parser_.value(option)).isDir())
+        refuseValue(option, QStringLiteral("a folder that is there"));
+    return parser_.value(option);
 }
 
 QString CommandParser::background() const

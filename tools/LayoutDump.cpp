@@ -1,5 +1,6 @@
 #include "LayoutDump.h"
 
+#include <QFileInfo>
 #include <QFont>
 #include <QGraphicsObject>
 #include <QJsonArray>
@@ -53,6 +54,8 @@ public:
 private:
     void writeRectangle(const QGraphicsObject& item);
     void writeText(const QGraphicsObject& item);
+    void writeLabel(const QGraphicsObject& item);
+    void writePicture(const QGraphicsObject& item);
     void writeChildren(const QGraphicsObject& item, int depth);
     void member(const char* name, const QByteArray& value);
 
@@ -68,6 +71,10 @@ void LayoutWriter::write(const QGraphicsObject& item, int depth)
     writeRectangle(item);
     if (item.property("plainText").isValid())
         writeText(item);
+    if (item.property("label").isValid())
+        writeLabel(item);
+    if (item.property("pictureFile").isValid())
+        writePicture(item);
     writeChildren(item, depth);
     text_ += '}';
 }
@@ -88,6 +95,23 @@ void LayoutWriter::writeText(const QGraphicsObject& item)
     member("lines", QByteArray::number(item.property("shownLineCount").toInt()));
     if (item.property("elided").toBool())
         member("elided", "true");
+}
+
+void LayoutWriter::writeLabel(const QGraphicsObject& item)
+{
+    const QString label = item.property("label").toString();
+    member("label", quoted(label));
+    member("fontSize", QByteArray::number(item.property("labelFont").value<QFont>().pixelSize()));
+    if (item.property("shownLabel").toString() != label)
+        member("elided", "true");
+}
+
+// The name alone: the folder is another one on the next machine.
+void LayoutWriter::writePicture(const QGraphicsObject& item)
+{
+    const QString file = item.property("pictureFile").toString();
+    if (!file.isEmpty())
+        member("picture", quoted(QFileInfo(file).fileName()));
 }
 
 void LayoutWriter::writeChildren(const QGraphicsObject& item, int depth)

@@ -10,6 +10,7 @@ namespace plix::tool {
 
 // How a host would show the card.
 struct CardOptions {
+    // Of the pictures; empty for the scale of what is painted.
     std::optional<float> dpi;
     QString language;
     int from = 0;
@@ -20,6 +21,8 @@ struct CardOptions {
     bool mobileOnlyCheck = true;
     int wrapMode = 4;
     QMap<QString, QString> wordings;
+    // Where pictures are; empty for none.
+    QString images;
 };
 
 enum class Command { Render, Layout, Gallery };

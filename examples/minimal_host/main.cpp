@@ -13,20 +13,32 @@ void onClick(PlixDataController*, ST_ACTION& action, void*)
     std::cout << action.type << ' ' << action.uri << action.data << std::endl;
 }
 
+// A host with a network would fetch the picture; this one has them in a folder.
+// The card is a stranger's: only plain names may become paths.
+std::string onDownload(PlixDataController*, const std::string& url, void* folder)
+{
+    const std::string name = url.substr(url.rfind('/') + 1);
+    const bool isPlain = name.find_first_of("\\:?*") == std::string::npos && name[0] != '.';
+    return isPlain ? static_cast<const char*>(folder) + ('/' + name) : std::string();
+}
+
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     std::ifstream file(argc > 1 ? argv[1] : "examples/cards/receipt.json");
     const std::string json(std::istreambuf_iterator<char>(file), {});
+    char folder[] = "examples/images";
 
     Plix_SetWiteLogCallback([](const char* line) { std::cerr << line << std::endl; });
     PlixDataController* card = Plix_CreateController();
     Plix_SetClickCallBack(card, &onClick, nullptr);
+    Plix_SetDownloadCallBack(card, &onDownload, argc > 2 ? argv[2] : folder);
     Plix_InitData(card, json);
 
     QGraphicsScene scene;
     scene.addItem(Plix_CreateQGraphicsItem(card));
     QGraphicsView view(&scene);
+    Plix_SetDpi(card, static_cast<float>(view.devicePixelRatioF()));
     view.show();
     const int result = application.exec();
 

@@ -24,10 +24,9 @@ TEST_P(Help, IsPrinted)
 }
 
 const Arguments cardOptions {
-    "--output",          "--dpi",       "--lang",       "--from",
-    "--height",          "--highlight", "--background", "--markup",
-    "--no-mobile-check", "--wrap-mode", "--text",       "Examples:",
-    "Exit codes:",
+    "--output",    "--dpi",       "--images",     "--lang",      "--from",
+    "--height",    "--highlight", "--background", "--markup",    "--no-mobile-check",
+    "--wrap-mode", "--text",      "Examples:",    "Exit codes:",
 };
 
 INSTANTIATE_TEST_SUITE_P(
@@ -52,11 +51,28 @@ TEST_P(EveryOption, IsTaken)
 {
     const ToolFolder folder;
     folder.write("in/card.json", cardOf(R"({"type": "text", "text": "Some words"})"));
-    const ToolResult result = folder.run(
-        GetParam()
-        + Arguments {"--dpi", "1.5", "--lang", "ko", "--from", "1", "--height", "200",
-                     "--highlight", "some", "--highlight=words", "--background", "#80FF0000",
-                     "--markup", "--no-mobile-check", "--wrap-mode", "3", "--text", "key=value"});
+    const ToolResult result = folder.run(GetParam()
+                                         + Arguments {"--dpi",
+                                                      "1.5",
+                                                      "--images",
+                                                      ".",
+                                                      "--lang",
+                                                      "ko",
+                                                      "--from",
+                                                      "1",
+                                                      "--height",
+                                                      "200",
+                                                      "--highlight",
+                                                      "some",
+                                                      "--highlight=words",
+                                                      "--background",
+                                                      "#80FF0000",
+                                                      "--markup",
+                                                      "--no-mobile-check",
+                                                      "--wrap-mode",
+                                                      "3",
+                                                      "--text",
+                                                      "key=value"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
 }

@@ -54,7 +54,9 @@ TEST_P(Golden, IsWhatTheCardIsLaidOutLike)
     QFile golden(fileIn(goldenFolder, GetParam()));
     ASSERT_TRUE(golden.open(QIODevice::ReadOnly)) << "this card has no golden yet: rebaseline";
 
-    const ToolResult result = runTool({"layout", card.toStdString(), "--markup"});
+    const ToolResult result =
+        runTool({"layout", card.toStdString(), "--images", PLIX_IMAGES, "--markup", "--text",
+                 "chat_room_check_on_mobile=See your phone"});
     ASSERT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
     const std::string expected = golden.readAll().toStdString();

@@ -1,0 +1,84 @@
+#include "Animations.h"
+
+#include "Canvas.h"
+#include "GifWriter.h"
+
+#include <QtMath>
+
+namespace {
+
+// The shades of one colour over white, behind the transparent one, so that soft
+// edges stay soft.
+QVector<QRgb> shadesOf(const QColor& color)
+{
+    constexpr int count = 15;
+    QVector<QRgb> palette {qRgba(0, 0, 0, 0)};
+    for (int i = 0; i < count; ++i) {
+        const double share = i / (count - 1.0);
+        const auto mixed = [&](int full) { return qRound(255 + (full - 255) * share); };
+        palette.append(qRgb(mixed(color.red()), mixed(color.green()), mixed(color.blue())));
+    }
+    return palette;
+}
+
+} // namespace
+
+QByteArray drawEqualizer()
+{
+    constexpr int frames = 12;
+    const QColor color(0x8A, 0x5C, 0xD6);
+    GifWriter writer({120, 60}, shadesOf(color));
+    for (int frame = 0; frame < frames; ++frame) {
+        Canvas canvas(120, 60);
+        canvas.fillRect(0, 0, 120, 60, Qt::white);
+        canvas.useFilling(color);
+        for (int bar = 0; bar < 8; ++bar) {
+            const double phase = 2 * M_PI * (frame + bar * bar * 1.7) / frames;
+            const double height = 28 + 22 * qSin(phase);
+            canvas.drawRoundedRect(QRectF(6 + bar * 14, 56 - height, 9, height), 3, 3);
+        }
+        writer.addFrame(canvas.finish(), 90);
+    }
+    return writer.finish();
+}
+
+QByteArray drawRing()
+{
+    constexpr int frames = 16;
+    const QColor color(0x1E, 0x88, 0xE5);
+    GifWriter writer({64, 64}, shadesOf(color));
+    for (int frame = 0; frame < frames; ++frame) {
+        Canvas canvas(64, 64);
+        canvas.fillRect(0, 0, 64, 64, Qt::white);
+        canvas.useLine(QColor(0xD8, 0xE9, 0xF9), 8);
+        canvas.drawEllipse(QPointF(32, 32), 24, 24);
+        canvas.useLine(color, 8);
+        canvas.drawArc(QRectF(8, 8, 48, 48), -frame * 360 * 16 / frames, 100 * 16);
+        writer.addFrame(canvas.finish(), 60);
+    }
+    return writer.finish();
+}
+
+QByteArray drawFlag()
+{
+    constexpr int frames = 10;
+    const QVector<QRgb> palette {qRgba(0, 0, 0, 0), qRgb(0x6B, 0x4A, 0x2B), qRgb(0xD3, 0x2F, 0x2F),
+                                 qRgb(0xFF, 0xFF, 0xFF), qRgb(0xF5, 0xC5, 0x18)};
+    GifWriter writer({200, 120}, palette);
+    for (int frame = 0; frame < frames; ++frame) {
+        Canvas canvas(200, 120);
+        // The few colours of a flag have no shades for soft edges.
+        canvas.setRenderHint(QPainter::Antialiasing, false);
+        canvas.fillRect(8, 4, 6, 112, QColor(palette[1]));
+        for (int x = 14; x < 190; ++x) {
+            const double wave =
+                (x - 14) * 0.05 * qSin(2 * M_PI * (x / 80.0 - frame / double(frames)));
+            const int top = qRound(12 + wave);
+            canvas.fillRect(x, top, 1, 24, QColor(palette[2]));
+            canvas.fillRect(x, top + 24, 1, 24, QColor(palette[3]));
+            canvas.fillRect(x, top + 48, 1, 24, QColor(palette[4]));
+        }
+        writer.addFrame(canvas.finish(), 80);
+    }
+    return writer.finish();
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QByteArray>
+
+// Animated GIF files.
+QByteArray drawEqualizer();
+QByteArray drawRing();
+QByteArray drawFlag();

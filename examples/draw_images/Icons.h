@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+
+// Small pictures on a transparent ground.
+QImage drawStar(double filled); // 0 to 1, from the left
+QImage drawPin();
+QImage drawClock();
+QImage drawCheck();
+QImage drawCross();
+QImage drawSun();
+QImage drawCloud();
+QImage drawRain();
+QImage drawPhone();
+QImage drawNote();
+QImage drawBadge();

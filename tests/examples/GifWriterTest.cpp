@@ -1,0 +1,97 @@
+// What the writer writes, Qt reads back.
+#include "draw_images/GifWriter.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QImageReader>
+
+#include <random>
+
+namespace plix::test {
+namespace {
+
+const QVector<QRgb> palette {qRgba(0, 0, 0, 0), qRgb(255, 0, 0), qRgb(0, 255, 0), qRgb(0, 0, 255)};
+
+QImage filled(const QSize& size, QRgb color)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(color);
+    return image;
+}
+
+class ReadBack {
+public:
+    explicit ReadBack(const QByteArray& bytes)
+    {
+        buffer_.setData(bytes);
+        buffer_.open(QIODevice::ReadOnly);
+        reader_.setDevice(&buffer_);
+        reader_.setFormat("gif");
+    }
+
+    QImageReader& reader() { return reader_; }
+    QImage next() { return reader_.read().convertToFormat(QImage::Format_ARGB32); }
+
+private:
+    QBuffer buffer_;
+    QImageReader reader_;
+};
+
+TEST(GifWriter, WritesFramesWithTheirTimes)
+{
+    GifWriter writer({5, 3}, palette);
+    writer.addFrame(filled({5, 3}, palette[1]), 100);
+    writer.addFrame(filled({5, 3}, palette[3]), 250);
+    ReadBack file(writer.finish());
+    EXPECT_EQ(file.reader().imageCount(), 2);
+    EXPECT_EQ(file.reader().size(), QSize(5, 3));
+    EXPECT_EQ(file.next(), filled({5, 3}, palette[1]));
+    EXPECT_EQ(file.reader().nextImageDelay(), 100);
+    EXPECT_EQ(file.next(), filled({5, 3}, palette[3]));
+    EXPECT_EQ(file.reader().nextImageDelay(), 250);
+}
+
+TEST(GifWriter, WritesHowOftenItPlays)
+{
+    for (const int repetitions : {GifWriter::endless, 1, 300}) {
+        GifWriter writer({1, 1}, palette, repetitions);
+        writer.addFrame(filled({1, 1}, palette[1]), 100);
+        ReadBack file(writer.finish());
+        file.next();
+        const int counted = file.reader().loopCount();
+        EXPECT_EQ(counted, repetitions == GifWriter::endless ? -1 : repetitions);
+    }
+}
+
+TEST(GifWriter, KeepsWhatIsTransparent)
+{
+    QImage frame = filled({4, 4}, palette[2]);
+    frame.setPixelColor(1, 2, Qt::transparent);
+    GifWriter writer({4, 4}, palette);
+    writer.addFrame(frame, 100);
+    const QImage read = ReadBack(writer.finish()).next();
+    EXPECT_EQ(read.pixelColor(1, 2).alpha(), 0);
+    EXPECT_EQ(read.pixelColor(2, 1), QColor(palette[2]));
+}
+
+// Enough of it to fill the table of codes several times, and to need all widths.
+TEST(GifWriter, WritesNoiseOfManyColoursAsItIs)
+{
+    QVector<QRgb> colours;
+    for (int i = 0; i < 256; ++i)
+        colours.append(qRgb(i, 255 - i, i * 7 % 256));
+    colours[0] = qRgba(0, 0, 0, 0);
+    std::minstd_rand numbers(3);
+    QImage frame(200, 150, QImage::Format_ARGB32);
+    for (int y = 0; y < frame.height(); ++y) {
+        for (int x = 0; x < frame.width(); ++x)
+            frame.setPixel(x, y, colours[1 + static_cast<int>(numbers() % 255)]);
+    }
+    GifWriter writer(frame.size(), colours);
+    writer.addFrame(frame, 100);
+    EXPECT_EQ(ReadBack(writer.finish()).next(), frame);
+}
+
+} // namespace
+} // namespace plix::test

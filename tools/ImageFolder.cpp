@@ -1,0 +1,58 @@
+#include "ImageFolder.h"
+
+#include "Console.h"
+
+#include <plix/Plix.h>
+
+#include <QFileInfo>
+#include <QUrl>
+
+namespace plix::tool {
+namespace {
+
+// The URL is a stranger's: what it names may not lead out of the folder, on any
+// system, nor to what is hidden in it.
+bool isPlainName(const QString& name)
+{
+    static const QString separators = QStringLiteral("/\\:");
+    for (const QChar character : name) {
+        if (separators.contains(character) || character.isNull())
+            return false;
+    }
+    return !name.isEmpty() && !name.startsWith(QLatin1Char('.'));
+}
+
+QString lastSegment(const QString& url)
+{
+    return QUrl(url).fileName(QUrl::FullyDecoded);
+}
+
+} // namespace
+
+ImageFolder::ImageFolder(const QString& folder, const QString& cardPath)
+    : folder_(folder)
+    , cardPath_(cardPath)
+{
+}
+
+void ImageFolder::serve(PlixDataController* controller)
+{
+    const auto download = [](PlixDataController*, const std::string& url, void* self) {
+        return static_cast<ImageFolder*>(self)->find(QString::fromStdString(url)).toStdString();
+    };
+    Plix_SetDownloadCallBack(controller, download, this);
+}
+
+QString ImageFolder::find(const QString& url)
+{
+    const QString name = lastSegment(url);
+    const QString path = isPlainName(name) ? folder_.absoluteFilePath(name) : QString();
+    if (!path.isEmpty() && QFileInfo(path).isFile())
+        return path;
+    if (missing_.insert(url).second)
+        console::warn(cardPath_,
+                      QStringLiteral("no picture in %1 for \"%2\"").arg(folder_.path(), url));
+    return {};
+}
+
+} // namespace plix::tool
