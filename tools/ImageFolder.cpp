@@ -27,6 +27,13 @@ QString lastSegment(const QString& url)
     return QUrl(url).fileName(QUrl::FullyDecoded);
 }
 
+// On one line, and nothing that a terminal would obey.
+QString printable(const QString& url)
+{
+    static const QByteArray kept = " !\"#$%&'()*+,/:;<=>?@[\\]^`{|}";
+    return QString::fromLatin1(QUrl::toPercentEncoding(url, kept));
+}
+
 } // namespace
 
 ImageFolder::ImageFolder(const QString& folder, const QString& cardPath)
@@ -46,12 +53,14 @@ void ImageFolder::serve(PlixDataController* controller)
 QString ImageFolder::find(const QString& url)
 {
     const QString name = lastSegment(url);
-    const QString path = isPlainName(name) ? folder_.absoluteFilePath(name) : QString();
+    QString path = isPlainName(name) ? folder_.absoluteFilePath(name) : QString();
     if (!path.isEmpty() && QFileInfo(path).isFile())
         return path;
-    if (missing_.insert(url).second)
-        console::warn(cardPath_,
-                      QStringLiteral("no picture in %1 for \"%2\"").arg(folder_.path(), url));
+    if (missing_.insert(url).second) {
+        console::warn(
+            cardPath_,
+            QStringLiteral("no picture in %1 for \"%2\"").arg(folder_.path(), printable(url)));
+    }
     return {};
 }
 

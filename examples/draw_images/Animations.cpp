@@ -26,12 +26,13 @@ QVector<QRgb> shadesOf(const QColor& color)
 QByteArray drawEqualizer()
 {
     constexpr int frames = 12;
-    const QColor color(0x8A, 0x5C, 0xD6);
-    GifWriter writer({120, 60}, shadesOf(color));
+    const QVector<QRgb> palette {qRgba(0, 0, 0, 0), qRgb(0x8A, 0x5C, 0xD6)};
+    GifWriter writer({120, 60}, palette);
     for (int frame = 0; frame < frames; ++frame) {
         Canvas canvas(120, 60);
-        canvas.fillRect(0, 0, 120, 60, Qt::white);
-        canvas.useFilling(color);
+        // It stands on grounds of any colour, so its edges cannot be soft.
+        canvas.setRenderHint(QPainter::Antialiasing, false);
+        canvas.useFilling(QColor(palette[1]));
         for (int bar = 0; bar < 8; ++bar) {
             const double phase = 2 * M_PI * (frame + bar * bar * 1.7) / frames;
             const double height = 28 + 22 * qSin(phase);

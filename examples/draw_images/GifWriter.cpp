@@ -47,7 +47,8 @@ private:
 // seen before.
 QByteArray compress(const QByteArray& indexes, int colorBits)
 {
-    constexpr int maximumCode = 4095;
+    constexpr int maximumBits = 12;
+    constexpr int maximumCode = (1 << maximumBits) - 1;
     const int clear = 1 << colorBits;
     CodeWriter writer;
     std::map<std::pair<int, int>, int> codes;
@@ -59,6 +60,12 @@ QByteArray compress(const QByteArray& indexes, int colorBits)
         bits = colorBits + 1;
         next = clear + 2;
     };
+    // Readers make room for the next code now, also when it is the last one.
+    const auto write = [&](int code) {
+        writer.write(code, bits);
+        if (next == 1 << bits && bits < maximumBits)
+            ++bits;
+    };
 
     restart();
     int run = static_cast<unsigned char>(indexes[0]);
@@ -69,17 +76,14 @@ QByteArray compress(const QByteArray& indexes, int colorBits)
             run = known->second;
             continue;
         }
-        writer.write(run, bits);
+        write(run);
         run = pixel;
-        if (next > maximumCode) {
+        if (next > maximumCode)
             restart();
-            continue;
-        }
-        if (next == 1 << bits)
-            ++bits;
-        codes[longer] = next++;
+        else
+            codes[longer] = next++;
     }
-    writer.write(run, bits);
+    write(run);
     writer.write(clear + 1, bits);
     return writer.finish();
 }

@@ -2,6 +2,7 @@
 
 #include "Canvas.h"
 
+#include <QFont>
 #include <QtMath>
 
 namespace {
@@ -145,8 +146,11 @@ QImage drawBadge()
     Canvas canvas(2 * side, side);
     canvas.useFilling(QColor(0x1E, 0x88, 0xE5));
     canvas.drawRoundedRect(QRectF(2, 6, 124, 52), 26, 26);
-    canvas.useLine(Qt::white, 7);
-    canvas.drawPolyline(QVector<QPointF> {QPointF(22, 33), QPointF(32, 43), QPointF(50, 23)});
-    canvas.drawLine(68, 32, 106, 32);
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(38);
+    font.setBold(true);
+    canvas.setFont(font);
+    canvas.setPen(Qt::white);
+    canvas.drawText(QRectF(2, 6, 124, 52), Qt::AlignCenter, QStringLiteral("NEW"));
     return canvas.finish();
 }

@@ -99,6 +99,7 @@ QImage drawMountain()
     return canvas.finish();
 }
 
+// Cards cut it at its top and bottom: what matters keeps away from there.
 QImage drawMap()
 {
     Canvas canvas(600, 300);
@@ -116,13 +117,13 @@ QImage drawMap()
         canvas.drawLine(-10, y, 610, y);
     canvas.useLine(QColor(0x29, 0x79, 0xFF), 8);
     canvas.drawPolyline(QVector<QPointF> {QPointF(40, 230), QPointF(210, 230), QPointF(210, 150),
-                                          QPointF(470, 150), QPointF(470, 60)});
+                                          QPointF(470, 150), QPointF(470, 85)});
     canvas.useFilling(QColor(0x29, 0x79, 0xFF));
     canvas.drawEllipse(QPointF(40, 230), 12, 12);
     canvas.useFilling(QColor(0xE0, 0x4F, 0x5F));
-    canvas.drawEllipse(QPointF(470, 60), 15, 15);
+    canvas.drawEllipse(QPointF(470, 85), 15, 15);
     canvas.useFilling(Qt::white);
-    canvas.drawEllipse(QPointF(470, 60), 6, 6);
+    canvas.drawEllipse(QPointF(470, 85), 6, 6);
     return canvas.finish();
 }
 

@@ -7,6 +7,7 @@
 #include <QImageReader>
 
 #include <random>
+#include <vector>
 
 namespace plix::test {
 namespace {
@@ -73,6 +74,20 @@ TEST(GifWriter, KeepsWhatIsTransparent)
     const QImage read = ReadBack(writer.finish()).next();
     EXPECT_EQ(read.pixelColor(1, 2).alpha(), 0);
     EXPECT_EQ(read.pixelColor(2, 1), QColor(palette[2]));
+}
+
+// Readers read the code of the end with the bits that the codes before have made
+// room for: five here, where the eleventh code for a run has just been met.
+TEST(GifWriter, EndsAPictureWithACodeOfTheWidthThatIsDue)
+{
+    const std::vector<int> runs {0, 0, 1, 0, 2, 0, 3, 1, 1, 2, 1};
+    QImage frame(static_cast<int>(runs.size()), 1, QImage::Format_ARGB32);
+    for (int x = 0; x < frame.width(); ++x)
+        frame.setPixel(x, 0, palette[runs[static_cast<std::size_t>(x)]]);
+    GifWriter writer(frame.size(), palette);
+    writer.addFrame(frame, 100);
+    // Two bits a pixel, seven bytes, nothing more; then the end of the file.
+    EXPECT_TRUE(writer.finish().endsWith(QByteArray::fromHex("020704020213215100003b")));
 }
 
 // Enough of it to fill the table of codes several times, and to need all widths.

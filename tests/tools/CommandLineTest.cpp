@@ -51,28 +51,11 @@ TEST_P(EveryOption, IsTaken)
 {
     const ToolFolder folder;
     folder.write("in/card.json", cardOf(R"({"type": "text", "text": "Some words"})"));
-    const ToolResult result = folder.run(GetParam()
-                                         + Arguments {"--dpi",
-                                                      "1.5",
-                                                      "--images",
-                                                      ".",
-                                                      "--lang",
-                                                      "ko",
-                                                      "--from",
-                                                      "1",
-                                                      "--height",
-                                                      "200",
-                                                      "--highlight",
-                                                      "some",
-                                                      "--highlight=words",
-                                                      "--background",
-                                                      "#80FF0000",
-                                                      "--markup",
-                                                      "--no-mobile-check",
-                                                      "--wrap-mode",
-                                                      "3",
-                                                      "--text",
-                                                      "key=value"});
+    const ToolResult result = folder.run(
+        GetParam()
+        + Arguments {"--dpi", "1.5", "--images=.", "--lang", "ko", "--from", "1", "--height=200",
+                     "--highlight", "some", "--highlight=words", "--background", "#80FF0000",
+                     "--markup", "--no-mobile-check", "--wrap-mode", "3", "--text", "key=value"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
 }

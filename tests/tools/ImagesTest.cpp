@@ -74,6 +74,10 @@ INSTANTIATE_TEST_SUITE_P(
         UrlRow {"EncodedWayOut", "https://example.com/..%2Fsecret.png", "pic.png", false},
         UrlRow {"EncodedBackslash", "https://example.com/..%5Csecret.png", "pic.png", false},
         UrlRow {"Backslash", "https://example.com/..\\\\secret.png", "pic.png", false},
+        UrlRow {"EncodedFolderAbove", "https://example.com/%2e%2e", "pic.png", false},
+        UrlRow {"Colon", "https://example.com/c:pic.png", "c:pic.png", false},
+        UrlRow {"EncodedColon", "https://example.com/c%3Apic.png", "c:pic.png", false},
+        UrlRow {"DataUrl", "data:image/png;base64,iVBORw0KGgo=", "pic.png", false},
         UrlRow {"Hidden", "https://example.com/.pic.png", ".pic.png", false},
         UrlRow {"EncodedNul", "https://example.com/pic.png%00.gif", "pic.png", false}),
     [](const auto& row) { return row.param.name; });
@@ -97,6 +101,15 @@ TEST(Images, AreMissedOnce)
     folder.write("images/pic.png", pngOf(Qt::red));
     const ToolResult result = folder.run(render + Arguments {"--images", "images"});
     EXPECT_EQ(countOf(result.errors, "no picture"), 1);
+}
+
+TEST(Images, AreMissedInOneLineThatATerminalDoesNotObey)
+{
+    const ToolFolder folder;
+    folder.write("card.json", cardOfImage(R"(a\n\u001b[31m b\u00e9.png)"));
+    const ToolResult result = folder.run(render + Arguments {"--images", "."});
+    EXPECT_EQ(result.errors,
+              "card.json: warning: no picture in . for \"a%0A%1B[31m b%C3%A9.png\"\n");
 }
 
 TEST(Images, NeedAFolder)
