@@ -9,6 +9,10 @@ if(MSVC)
 else()
     target_compile_options(plix_options INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION MATCHES "^12\\.")
+        # It sees overlaps in assignments to a std::string where there are none.
+        target_compile_options(plix_options INTERFACE -Wno-restrict)
+    endif()
     if(PLIX_WARNINGS_AS_ERRORS)
         target_compile_options(plix_options INTERFACE -Werror)
     endif()

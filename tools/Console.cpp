@@ -5,6 +5,11 @@
 
 #include <cstdio>
 
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#endif
+
 namespace plix::tool::console {
 namespace {
 
@@ -17,6 +22,14 @@ void writeLine(std::FILE* stream, const QString& line)
 }
 
 } // namespace
+
+void setUp()
+{
+#if defined(_WIN32)
+    for (std::FILE* stream : {stdout, stderr})
+        _setmode(_fileno(stream), _O_BINARY);
+#endif
+}
 
 void print(const QString& line)
 {

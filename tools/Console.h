@@ -6,6 +6,9 @@ class QString;
 // locale says.
 namespace plix::tool::console {
 
+// Lines end the same way on every system. To be called first.
+void setUp();
+
 void print(const QString& line);
 void printError(const QString& line);
 

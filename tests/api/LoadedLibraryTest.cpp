@@ -1,47 +1,31 @@
 // The built library as a host loads it at run time.
 #include "HostDrive.h"
+#include "SharedLibrary.h"
 
 #include <gtest/gtest.h>
 
-#include <dlfcn.h>
-
 namespace {
 
-class LoadedLibrary : public testing::Test {
-protected:
-    LoadedLibrary()
-        : library_(dlopen(PLIX_LIBRARY, RTLD_NOW | RTLD_LOCAL))
-    {
-        EXPECT_NE(library_, nullptr) << dlerror();
-    }
-
-    template <typename Function> Function find(const char* name)
-    {
-        void* const symbol = dlsym(library_, name);
-        EXPECT_NE(symbol, nullptr) << name;
-        return reinterpret_cast<Function>(symbol);
-    }
-
-private:
-    // Stays loaded: Qt's type registrations cannot be taken back.
-    void* library_;
-};
-
-TEST_F(LoadedLibrary, WorksByNamesAlone)
+TEST(LoadedLibrary, WorksByNamesAlone)
 {
-#define PLIX_LOOKUP(name) find<decltype(HostExports::name)>(#name),
-    const HostExports exports {PLIX_FOR_EACH_EXPORT(PLIX_LOOKUP)};
-#undef PLIX_LOOKUP
-    ASSERT_FALSE(HasFailure());
+    const SharedLibrary library(PLIX_LIBRARY);
+    ASSERT_TRUE(library.isLoaded());
+    const HostExports exports = library.exports();
+#define PLIX_EXPECT_FOUND(name) EXPECT_NE(exports.name, nullptr) << #name;
+    PLIX_FOR_EACH_EXPORT(PLIX_EXPECT_FOUND)
+#undef PLIX_EXPECT_FOUND
+    ASSERT_FALSE(testing::Test::HasFailure());
     EXPECT_EQ(host::Drive(exports).run(), 0);
 }
 
-TEST_F(LoadedLibrary, FindsNothingElseByName)
+TEST(LoadedLibrary, FindsNothingElseByName)
 {
-    for (const char* name : {"Plix_SetWriteLogCallback", "plix_free", "_ZTI11PlixDataMgr",
-                             "_ZN11PlixDataMgr8CreateUIEv", "YGNodeNew"}) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(dlsym(dlopen(PLIX_LIBRARY, RTLD_NOW | RTLD_NOLOAD), name), nullptr);
+    const SharedLibrary library(PLIX_LIBRARY);
+    ASSERT_TRUE(library.isLoaded());
+    for (const char* name :
+         {"Plix_SetWriteLogCallback", "plix_free", "_Plix_Free", "_ZTI11PlixDataMgr",
+          "_ZN11PlixDataMgr8CreateUIEv", "YGNodeNew"}) {
+        EXPECT_EQ(library.find<void (*)()>(name), nullptr) << name;
     }
 }
 

@@ -1,14 +1,22 @@
 // The one main() of all Qt tests: fixed fonts, no display, and a failure for
 // every log line or Qt warning that a test did not ask for.
 #include "support/ExpectedLog.h"
+#include "tools/FontList.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QByteArray>
 
+#include <cstdlib>
 #include <deque>
+#include <iostream>
 #include <mutex>
+
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#endif
 
 namespace {
 
@@ -76,6 +84,10 @@ void collectLogLine(const char* text)
 
 int main(int argc, char** argv)
 {
+#if defined(Q_OS_WIN)
+    // Who reads the list of tests may run on a system whose lines end otherwise.
+    _setmode(_fileno(stdout), _O_BINARY);
+#endif
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("FONTCONFIG_FILE", PLIX_TEST_FONTS_CONF);
     // Offscreen, nothing has a scale factor or a style of the user's desktop.
@@ -88,8 +100,14 @@ int main(int argc, char** argv)
     if (testing::GTEST_FLAG(list_tests))
         return RUN_ALL_TESTS();
 
-    qInstallMessageHandler(collectQtMessage);
     QApplication application(argc, argv);
+#if defined(Q_OS_WIN)
+    if (!plix::tool::useFontList(QStringLiteral(PLIX_TEST_FONT_LIST))) {
+        std::cerr << "the fonts of " PLIX_TEST_FONT_LIST " are not all there" << std::endl;
+        return EXIT_FAILURE;
+    }
+#endif
+    qInstallMessageHandler(collectQtMessage);
     testing::UnitTest::GetInstance()->listeners().Append(new UnexpectedMessages);
     return RUN_ALL_TESTS();
 }

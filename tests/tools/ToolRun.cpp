@@ -18,6 +18,9 @@ QProcessEnvironment environment()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.insert(QStringLiteral("FONTCONFIG_FILE"), QStringLiteral(PLIX_TEST_FONTS_CONF));
+#if defined(Q_OS_WIN)
+    environment.insert(QStringLiteral("PLIX_FONTS"), QStringLiteral(PLIX_TEST_FONT_LIST));
+#endif
     // What a bare container has.
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     return environment;

@@ -1,0 +1,33 @@
+#include "FontList.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFont>
+#include <QFontDatabase>
+#include <QSettings>
+
+namespace plix::tool {
+
+bool useFontList(const QString& path)
+{
+    QSettings list(path, QSettings::IniFormat);
+    list.beginGroup(QStringLiteral("fonts"));
+    const QDir folder(list.value(QStringLiteral("folder")).toString());
+    for (const QString& file : list.value(QStringLiteral("files")).toStringList()) {
+        if (QFontDatabase::addApplicationFont(folder.filePath(file)) < 0)
+            return false;
+    }
+    QStringList families = list.value(QStringLiteral("families")).toStringList();
+    if (families.isEmpty())
+        return false;
+
+    QFont font(families.takeFirst());
+    QFont::insertSubstitutions(font.family(), families);
+    // Pictures are laid out once and drawn at any scale, and hinted advances
+    // of one scale are wrong at all others.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    QApplication::setFont(font);
+    return true;
+}
+
+} // namespace plix::tool
