@@ -33,16 +33,11 @@ install_npm() {
     command -v npm >/dev/null || install_packages npm
 }
 
-# build_preset PRESET TARGET: installs what that takes, and builds.
+# build_preset PRESET TARGET: configures where that was not done yet, and builds
+# what has changed.
 build_preset() {
-    install_packages "${PLIX_PACKAGES[@]}"
-    configure_and_build "$@"
-}
-
-# configure_and_build PRESET TARGET: configures where that was not done yet, and
-# builds what has changed.
-configure_and_build() {
     local preset=$1 target=$2 dir=$root/build/$1
+    install_packages "${PLIX_PACKAGES[@]}"
     if [[ ! -e $dir/build.ninja ]]; then
         [[ -e $root/build/cache ]] || install_npm
         say "Configuring $preset"

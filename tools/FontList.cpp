@@ -27,7 +27,8 @@ bool useFontList(const QString& path)
     // of one scale are wrong at all others.
     font.setHintingPreference(QFont::PreferNoHinting);
     QApplication::setFont(font);
-    return true;
+    // Makes Qt look at all fonts now, and say now if the system has none.
+    return QFontDatabase().families().contains(font.family());
 }
 
 } // namespace plix::tool

@@ -186,13 +186,11 @@ unmount_from_wine() {
 # and none of ours that it should not see.
 in_wine() {
     local pass=() name
-    for name in PLIX_FONTS DISPLAY; do
+    for name in PLIX_FONTS WINEPATH DISPLAY; do
         [[ -z ${!name-} ]] || pass+=("$name=${!name}")
     done
-    # Where a Windows program looks for its libraries.
-    local path="Z:$PLIX_WINDOWS_CACHE/qt/qt/bin;Z:$PLIX_WINDOWS_CACHE/runtime/bin"
     chroot "$1" env -i HOME=/root LC_ALL=C.UTF-8 WINEDEBUG=-all WINEARCH=win32 \
-        WINEDLLOVERRIDES='mscoree,mshtml=' WINEPATH="${path//\//\\}" \
+        WINEDLLOVERRIDES='mscoree,mshtml=' \
         PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin \
         "${pass[@]}" "${@:2}"
 }
@@ -205,7 +203,9 @@ build_windows() {
     make_piece googletest make_googletest
     make_piece runtime make_runtime
     make_piece fonts make_fonts
-    configure_and_build windows all
+    [[ -e $root/build/cache ]] || install_npm
+    # Configures always: where the cache is may have changed.
+    (cd "$root" && cmake --preset windows && cmake --build --preset windows) >&2
 }
 
 # Makes the Wine root see the checkout and the cache, until this script ends.
@@ -214,6 +214,9 @@ build_windows() {
 start_wine() {
     local wine_root=$PLIX_WINDOWS_CACHE/wine/root
     make_piece wine make_wine
+    exec {wine_lock}>"$PLIX_WINDOWS_CACHE/wine.lock"
+    flock -n "$wine_lock" || say "Waiting for another run to be done with Wine"
+    flock "$wine_lock"
     unmount_from_wine "$wine_root"
     mount_into_wine "$wine_root" "$root" "$PLIX_WINDOWS_CACHE"
     exec {held_open}> >(in_wine "$wine_root" wine cmd >/dev/null 2>&1)

@@ -11,3 +11,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+# The main thread's stack is as large as in most programs of Windows: what is
+# tried here shall not have more than it gets in a host.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wl,--stack,0x100000")

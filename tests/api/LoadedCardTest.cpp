@@ -99,8 +99,10 @@ TEST_F(LoadedCard, HandsAnActionOverFieldByField)
             action.i18nTexts.texts.clear();
         },
         &clicks);
-    show(bubble("", R"("height": "60px", "action": {"type": "uri", "label": "label",
-        "text": ")" + kLong + R"(", "displayText": "displayText", "uri": "uri", "pcUri": "pcUri",
+    show(bubble("",
+                R"("height": "60px", "action": {"type": "uri", "label": "label",
+        "text": ")" + kLong
+                    + R"(", "displayText": "displayText", "uri": "uri", "pcUri": "pcUri",
         "webUri": "webUri", "appUri": "appUri", "androidUri": "androidUri", "iosUri": "iosUri",
         "pcAuthUri": "pcAuthUri", "copyText": "copyText", "data": "data", "mode": "mode",
         "initial": "initial", "max": "max", "min": "min", "i18nLabels": {"ko": "label ko"},
@@ -114,15 +116,14 @@ TEST_F(LoadedCard, HandsAnActionOverFieldByField)
         const ST_ACTION& action = taken.action;
         EXPECT_EQ(taken.controller, card_);
         const std::vector<std::string> fields {
-            action.type,    action.label,     action.text,   action.displayText, action.uri,
-            action.pcUri,   action.webUri,    action.appUri, action.androidUri,  action.iosUri,
+            action.type,      action.label,    action.text,   action.displayText, action.uri,
+            action.pcUri,     action.webUri,   action.appUri, action.androidUri,  action.iosUri,
             action.pcAuthUri, action.copyText, action.data,   action.mode,        action.initial,
-            action.max,     action.min};
+            action.max,       action.min};
         const std::vector<std::string> expected {
-            "uri",       "label",    kLong,    "displayText", "uri",
-            "pcUri",     "webUri",   "appUri", "androidUri",  "iosUri",
-            "pcAuthUri", "copyText", "data",   "mode",        "initial",
-            "max",       "min"};
+            "uri",    "label",  kLong,        "displayText", "uri",       "pcUri",
+            "webUri", "appUri", "androidUri", "iosUri",      "pcAuthUri", "copyText",
+            "data",   "mode",   "initial",    "max",         "min"};
         EXPECT_EQ(fields, expected);
         using Texts = std::map<std::string, std::string>;
         EXPECT_EQ(action.i18nLabels.texts, (Texts {{"ko", "label ko"}}));
@@ -157,8 +158,7 @@ TEST_F(LoadedCard, KeepsUserDataOfEveryCallbackApart)
 
 TEST_F(LoadedCard, ShowsTheWordingThatTheHostReturns)
 {
-    plix_.Plix_SetMultiLangGetCallback(
-        [](const char* key) { return kLong + ": " + key; });
+    plix_.Plix_SetMultiLangGetCallback([](const char* key) { return kLong + ": " + key; });
     show(bubble(text("for phones"), R"("action": {"type": "uri", "appUri": "app://here"},)"));
     QGraphicsObject* const shown = body()->childItems().at(0)->toGraphicsObject();
     ASSERT_NE(shown, nullptr);

@@ -22,9 +22,8 @@ TEST(LoadedLibrary, FindsNothingElseByName)
 {
     const SharedLibrary library(PLIX_LIBRARY);
     ASSERT_TRUE(library.isLoaded());
-    for (const char* name :
-         {"Plix_SetWriteLogCallback", "plix_free", "_Plix_Free", "_ZTI11PlixDataMgr",
-          "_ZN11PlixDataMgr8CreateUIEv", "YGNodeNew"}) {
+    for (const char* name : {"Plix_SetWriteLogCallback", "plix_free", "_Plix_Free",
+                             "_ZTI11PlixDataMgr", "_ZN11PlixDataMgr8CreateUIEv", "YGNodeNew"}) {
         EXPECT_EQ(library.find<void (*)()>(name), nullptr) << name;
     }
 }

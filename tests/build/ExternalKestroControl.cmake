@@ -4,10 +4,19 @@ file(REMOVE_RECURSE ${SCRATCH})
 execute_process(
     COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${SCRATCH}/prefix
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+
+# What the build around this test is for.
+file(STRINGS ${BUILD}/CMakeCache.txt target REGEX "^CMAKE_(TOOLCHAIN_FILE|FIND_ROOT_PATH):")
+set(target_options "")
+foreach(entry IN LISTS target)
+    string(REPLACE ";" "\\;" entry "${entry}") # a list of folders is one argument
+    list(APPEND target_options "-D${entry}")
+endforeach()
 execute_process(
     COMMAND ${CMAKE_COMMAND} -G Ninja -S ${SOURCE} -B ${SCRATCH}/build
         -DCMAKE_BUILD_TYPE=Debug -DPLIX_BUILD_TESTS=OFF -DPLIX_CACHE_DIR=${CACHE}
-        -DPLIX_EXTERNAL_KESTRO_CONTROL=ON -DCMAKE_PREFIX_PATH=${SCRATCH}/prefix
+        -DPLIX_EXTERNAL_KESTRO_CONTROL=ON
+        -DKestroControl_DIR=${SCRATCH}/prefix/${LIBRARY_FOLDER}/cmake/KestroControl ${target_options}
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 execute_process(
     COMMAND ${CMAKE_COMMAND} --build ${SCRATCH}/build --target plix
@@ -16,10 +25,16 @@ execute_process(
 if(EXISTS ${SCRATCH}/build/kestro_control)
     message(FATAL_ERROR "our own KestroControl was built all the same")
 endif()
+if(WINDOWS)
+    set(CMAKE_GET_RUNTIME_DEPENDENCIES_PLATFORM windows+pe)
+    set(CMAKE_GET_RUNTIME_DEPENDENCIES_TOOL objdump)
+    set(CMAKE_GET_RUNTIME_DEPENDENCIES_COMMAND ${OBJDUMP})
+endif()
 file(GET_RUNTIME_DEPENDENCIES
-    LIBRARIES ${SCRATCH}/build/lib/libplix.so
+    LIBRARIES ${SCRATCH}/build/${LIBRARY}
+    DIRECTORIES ${SCRATCH}/prefix/bin
     RESOLVED_DEPENDENCIES_VAR dependencies
     UNRESOLVED_DEPENDENCIES_VAR unresolved)
 if(NOT dependencies MATCHES "${SCRATCH}/prefix/[^;]*KestroControl")
-    message(FATAL_ERROR "libplix.so does not link the installed KestroControl: ${dependencies}")
+    message(FATAL_ERROR "${LIBRARY} does not link the installed KestroControl: ${dependencies}")
 endif()

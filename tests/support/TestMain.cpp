@@ -100,6 +100,7 @@ int main(int argc, char** argv)
     if (testing::GTEST_FLAG(list_tests))
         return RUN_ALL_TESTS();
 
+    qInstallMessageHandler(collectQtMessage);
     QApplication application(argc, argv);
 #if defined(Q_OS_WIN)
     if (!plix::tool::useFontList(QStringLiteral(PLIX_TEST_FONT_LIST))) {
@@ -107,7 +108,6 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
 #endif
-    qInstallMessageHandler(collectQtMessage);
     testing::UnitTest::GetInstance()->listeners().Append(new UnexpectedMessages);
     return RUN_ALL_TESTS();
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+
 namespace plix::test {
 namespace {
 
@@ -124,7 +126,10 @@ TEST(CardFile, ThatIsMissingIsAFileError)
 {
     const ToolResult result = ToolFolder().run(layOut);
     EXPECT_EQ(result.exitCode, 2);
-    EXPECT_EQ(result.errors, "card.json: error: No such file or directory\n");
+    // In the words of the system.
+    QFile missing(QStringLiteral("missing.json"));
+    ASSERT_FALSE(missing.open(QIODevice::ReadOnly));
+    EXPECT_EQ(result.errors, "card.json: error: " + missing.errorString().toStdString() + "\n");
 }
 
 TEST(CardFile, ThatIsAFolderIsAFileError)

@@ -2,10 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 namespace plix::test {
 namespace {
+
+#if defined(Q_OS_WIN)
+constexpr char kNullDevice[] = R"(\\.\NUL)";
+#else
+constexpr char kNullDevice[] = "/dev/null";
+#endif
 
 struct OutputRow {
     const char* name;
@@ -16,15 +24,35 @@ struct OutputRow {
 
 class UnwritableOutput : public testing::TestWithParam<OutputRow> { };
 
+// Windows has words of its own, which change with its version and language.
+std::string reasonFor(const OutputRow& row, [[maybe_unused]] const ToolFolder& folder)
+{
+#if defined(Q_OS_WIN)
+    const QString path = folder.path(row.output);
+    QFile file(path);
+    QSaveFile newFile(path);
+    QFileDevice& device = QFileInfo(path).isDir() ? static_cast<QFileDevice&>(file) : newFile;
+    EXPECT_FALSE(device.open(QIODevice::WriteOnly));
+    return device.errorString().toStdString();
+#else
+    return row.reason;
+#endif
+}
+
 TEST_P(UnwritableOutput, IsAFileError)
 {
+#if defined(Q_OS_WIN)
+    if (GetParam().output == "/dev/full")
+        GTEST_SKIP() << "Windows has no device that is always full";
+#endif
     const ToolFolder folder;
     folder.write("card.json", cardOf(""));
     folder.write("folder/inside", "");
     const ToolResult result =
         folder.run({GetParam().command, "card.json", "-o", GetParam().output});
     EXPECT_EQ(result.exitCode, 2);
-    EXPECT_EQ(result.errors, GetParam().output + ": error: " + GetParam().reason + "\n");
+    EXPECT_EQ(result.errors,
+              GetParam().output + ": error: " + reasonFor(GetParam(), folder) + "\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -53,9 +81,9 @@ TEST(Output, OntoADeviceLeavesItADevice)
 {
     const ToolFolder folder;
     folder.write("card.json", cardOf(""));
-    const ToolResult result = folder.run({"layout", "card.json", "-o", "/dev/null"});
-    EXPECT_EQ(result.exitCode, 0);
-    const QFileInfo device(QStringLiteral("/dev/null"));
+    const ToolResult result = folder.run({"layout", "card.json", "-o", kNullDevice});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    const QFileInfo device(QString::fromLatin1(kNullDevice));
     EXPECT_TRUE(device.exists());
     EXPECT_FALSE(device.isFile());
 }

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QThread>
 
 #include <sstream>
 
@@ -48,6 +49,15 @@ ToolResult runTool(const Arguments& arguments, const QString& folder)
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << "the tool crashed";
     return {process.exitCode(), process.readAllStandardOutput().toStdString(),
             process.readAllStandardError().toStdString()};
+}
+
+ToolFolder::~ToolFolder()
+{
+    // Windows keeps the folder that a program ran in until it has cleared up
+    // after it, which may be a moment after its end.
+    for (int i = 0; i < 100 && !QDir(folder_.path()).removeRecursively(); ++i)
+        QThread::msleep(20);
+    folder_.setAutoRemove(QDir(folder_.path()).exists());
 }
 
 QString ToolFolder::path(const std::string& name) const

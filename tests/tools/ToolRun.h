@@ -26,6 +26,12 @@ ToolResult runTool(const Arguments& arguments, const QString& folder = QString()
 // messages are then the bare ones.
 class ToolFolder {
 public:
+    ToolFolder() = default;
+    ~ToolFolder();
+
+    ToolFolder(const ToolFolder&) = delete;
+    ToolFolder& operator=(const ToolFolder&) = delete;
+
     QString path(const std::string& name) const;
     void write(const std::string& name, const QByteArray& bytes) const;
     QByteArray read(const std::string& name) const;
