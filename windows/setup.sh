@@ -9,7 +9,7 @@ export PLIX_WINDOWS_CACHE=${PLIX_WINDOWS_CACHE:-$HOME/.cache/plix-windows}
 readonly TARGET=i686-w64-mingw32
 readonly PLIX_WINDOWS_PACKAGES=(
     g++ g++-mingw-w64-i686-posix make cmake ninja-build perl
-    ca-certificates dpkg-dev debootstrap googletest xz-utils zip
+    ca-certificates dpkg-dev debootstrap googletest xz-utils
     fonts-dejavu-core fonts-dejavu-extra fonts-noto-cjk fonts-noto-color-emoji)
 
 # make_piece NAME RECIPE: calls the function RECIPE in a scratch folder that it
@@ -120,7 +120,7 @@ make_runtime() {
     local library
     mkdir bin licences
     for library in libgcc_s_dw2-1.dll libstdc++-6.dll libwinpthread-1.dll; do
-        cp "$($TARGET-g++-posix -print-file-name="$library")" bin
+        $TARGET-strip -o "bin/$library" "$($TARGET-g++-posix -print-file-name="$library")"
     done
     cp /usr/share/doc/gcc-mingw-w64-base/copyright licences/gcc-mingw-w64.copyright
     cp /usr/share/doc/mingw-w64-common/copyright licences/mingw-w64.copyright
@@ -208,7 +208,8 @@ build_windows() {
     (cd "$root" && cmake --preset windows && cmake --build --preset windows) >&2
 }
 
-# Makes the Wine root see the checkout and the cache, until this script ends.
+# start_wine [FOLDER...]: makes the Wine root see the folders, at the same place
+# as outside, until this script ends.
 # A shell that waits keeps the services of Wine running, so that each program
 # starts fast, and none of its own services holds on to its output.
 start_wine() {
@@ -218,7 +219,7 @@ start_wine() {
     flock -n "$wine_lock" || say "Waiting for another run to be done with Wine"
     flock "$wine_lock"
     unmount_from_wine "$wine_root"
-    mount_into_wine "$wine_root" "$root" "$PLIX_WINDOWS_CACHE"
+    mount_into_wine "$wine_root" "$@"
     exec {held_open}> >(in_wine "$wine_root" wine cmd >/dev/null 2>&1)
     in_wine "$wine_root" wine cmd /c exit >/dev/null 2>&1
 }

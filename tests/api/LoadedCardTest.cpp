@@ -11,6 +11,7 @@
 #include <QGraphicsWidget>
 #include <QImage>
 #include <QPainter>
+#include <QTemporaryDir>
 
 #include <memory>
 #include <string>
@@ -164,6 +165,38 @@ TEST_F(LoadedCard, ShowsTheWordingThatTheHostReturns)
     ASSERT_NE(shown, nullptr);
     EXPECT_EQ(shown->property("plainText").toString().toStdString(),
               kLong + ": chat_room_check_on_mobile");
+}
+
+TEST_F(LoadedCard, ShowsTheFileThatTheHostReturns)
+{
+    // A name that is no name in any single-byte code.
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral(u"Bild 그림 \u00FC.png"));
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(QColor(0x12, 0x34, 0x56));
+    ASSERT_TRUE(picture.save(path, "png"));
+
+    struct Downloads {
+        std::string path;
+        std::vector<std::string> urls;
+        PlixDataController* controller = nullptr;
+    } downloads {path.toStdString(), {}};
+    plix_.Plix_SetDownloadCallBack(
+        card_,
+        [](PlixDataController* controller, const std::string& url, void* userData) {
+            auto* const noted = static_cast<Downloads*>(userData);
+            noted->controller = controller;
+            noted->urls.push_back(url);
+            return noted->path;
+        },
+        &downloads);
+    const std::string url = "https://pictures.example/" + std::string(300, 'a') + ".png";
+    show(bubble(R"({"type": "image", "url": ")" + url + R"(", "size": "full"})"));
+
+    EXPECT_EQ(downloads.urls, std::vector<std::string> {url});
+    EXPECT_EQ(downloads.controller, card_);
+    const QRectF place = body()->childItems().at(0)->sceneBoundingRect();
+    EXPECT_EQ(colourAt(place.center().toPoint()), 0xFF123456);
 }
 
 TEST_F(LoadedCard, KnowsItsItemsWithActionsFromOthers)

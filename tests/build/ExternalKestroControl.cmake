@@ -25,16 +25,19 @@ execute_process(
 if(EXISTS ${SCRATCH}/build/kestro_control)
     message(FATAL_ERROR "our own KestroControl was built all the same")
 endif()
+set(expected "${SCRATCH}/prefix/[^;]*KestroControl")
 if(WINDOWS)
     set(CMAKE_GET_RUNTIME_DEPENDENCIES_PLATFORM windows+pe)
     set(CMAKE_GET_RUNTIME_DEPENDENCIES_TOOL objdump)
     set(CMAKE_GET_RUNTIME_DEPENDENCIES_COMMAND ${OBJDUMP})
+    # A DLL names others without their folders, and CMake in small letters.
+    set(expected "kestrocontrol.dll")
 endif()
 file(GET_RUNTIME_DEPENDENCIES
     LIBRARIES ${SCRATCH}/build/${LIBRARY}
-    DIRECTORIES ${SCRATCH}/prefix/bin
     RESOLVED_DEPENDENCIES_VAR dependencies
     UNRESOLVED_DEPENDENCIES_VAR unresolved)
-if(NOT dependencies MATCHES "${SCRATCH}/prefix/[^;]*KestroControl")
-    message(FATAL_ERROR "${LIBRARY} does not link the installed KestroControl: ${dependencies}")
+if(NOT "${dependencies};${unresolved}" MATCHES "${expected}")
+    message(FATAL_ERROR
+        "${LIBRARY} does not link the installed KestroControl: ${dependencies};${unresolved}")
 endif()

@@ -9,12 +9,6 @@
 namespace plix::test {
 namespace {
 
-#if defined(Q_OS_WIN)
-constexpr char kNullDevice[] = R"(\\.\NUL)";
-#else
-constexpr char kNullDevice[] = "/dev/null";
-#endif
-
 struct OutputRow {
     const char* name;
     std::string command;
@@ -79,11 +73,14 @@ TEST(Output, OfAFailedRunLeavesTheOldFileAlone)
 
 TEST(Output, OntoADeviceLeavesItADevice)
 {
+#if defined(Q_OS_WIN)
+    GTEST_SKIP() << "Qt opens no device by its name on Windows";
+#endif
     const ToolFolder folder;
     folder.write("card.json", cardOf(""));
-    const ToolResult result = folder.run({"layout", "card.json", "-o", kNullDevice});
+    const ToolResult result = folder.run({"layout", "card.json", "-o", "/dev/null"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
-    const QFileInfo device(QString::fromLatin1(kNullDevice));
+    const QFileInfo device(QStringLiteral("/dev/null"));
     EXPECT_TRUE(device.exists());
     EXPECT_FALSE(device.isFile());
 }
