@@ -211,7 +211,7 @@ build_windows() {
 # start_wine [FOLDER...]: makes the Wine root see the folders, at the same place
 # as outside, until this script ends.
 # A shell that waits keeps the services of Wine running, so that each program
-# starts fast, and none of its own services holds on to its output.
+# starts fast.
 start_wine() {
     local wine_root=$PLIX_WINDOWS_CACHE/wine/root
     make_piece wine make_wine
@@ -220,6 +220,7 @@ start_wine() {
     flock "$wine_lock"
     unmount_from_wine "$wine_root"
     mount_into_wine "$wine_root" "$@"
-    exec {held_open}> >(in_wine "$wine_root" wine cmd >/dev/null 2>&1)
-    in_wine "$wine_root" wine cmd /c exit >/dev/null 2>&1
+    coproc WINE_SHELL { in_wine "$wine_root" wine cmd 2>/dev/null; }
+    # Its greeting: by then everything is up.
+    read -r -t 60 _ <&"${WINE_SHELL[0]}" || say "Wine does not answer"
 }
