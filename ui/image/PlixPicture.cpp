@@ -6,10 +6,18 @@
 #include "ui/image/PlixScaledPictures.h"
 
 #include <QFileInfo>
-
-#include <utility>
+#include <QHash>
 
 namespace {
+
+using Pictures = QHash<QString, std::weak_ptr<PlixPicture>>;
+
+Pictures& AllPictures()
+{
+    // Never destroyed: the host's scene may go last of all.
+    static auto* const pictures = new Pictures;
+    return *pictures;
+}
 
 // The largest rectangle of the proportions of `shape` in the middle of a
 // picture, outwards to whole pixels.
@@ -21,57 +29,93 @@ QRect MiddlePart(const QSize& picture, const QSize& shape)
     return QRectF(corner, part).toAlignedRect().intersected(QRect(QPoint(), picture));
 }
 
+// QImage::copy() would copy all of a picture, too.
+QImage Cut(const QImage& picture, const QRect& part)
+{
+    return part == picture.rect() ? picture : picture.copy(part);
+}
+
+qint64 PixelsOf(const QSize& size)
+{
+    return qint64 {size.width()} * size.height();
+}
+
+QImage Scaled(const QImage& picture, const QSize& target)
+{
+    const QSize expanded = picture.size().scaled(target, Qt::KeepAspectRatioByExpanding);
+    // A line of the picture is all there is of it in a long, thin item. It would
+    // grow as thick as it is long; proportions of a line are nothing to keep.
+    const bool isBounded = PixelsOf(expanded) <= 2 * PlixPicture::kMaximumScaledPixels;
+    return picture.scaled(target,
+                          isBounded ? Qt::KeepAspectRatioByExpanding : Qt::IgnoreAspectRatio,
+                          Qt::SmoothTransformation);
+}
+
 // Cut before it is scaled: what a long, thin picture has more than is shown
 // would grow with it.
 QImage ScaledMiddle(const QImage& picture, const QSize& target)
 {
-    const QRect part = MiddlePart(picture.size(), target);
-    const QImage scaled =
-        picture.copy(part).scaled(target, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    return scaled.copy(QRect(
-        QPoint((scaled.width() - target.width()) / 2, (scaled.height() - target.height()) / 2),
-        target));
+    const QImage scaled = Scaled(Cut(picture, MiddlePart(picture.size(), target)), target);
+    const QSize excess = scaled.size() - target;
+    return Cut(scaled, QRect(QPoint(excess.width() / 2, excess.height() / 2), target));
 }
 
 } // namespace
 
-PlixPicture::PlixPicture() = default;
+std::shared_ptr<PlixPicture> PlixPicture::Get(const QString& path)
+{
+    std::weak_ptr<PlixPicture>& known = AllPictures()[path];
+    std::shared_ptr<PlixPicture> picture = known.lock();
+    if (picture) {
+        picture->openAgainIfChanged();
+    } else {
+        picture.reset(new PlixPicture(path));
+        known = picture;
+    }
+    return picture;
+}
+
+PlixPicture::PlixPicture(const QString& path)
+    : fileName_(path)
+{
+}
 
 PlixPicture::~PlixPicture()
 {
     PlixScaledPictures::Remove(*this);
+    AllPictures().remove(fileName_);
 }
 
-void PlixPicture::setFileName(const QString& path)
+PlixPicture::FileVersion PlixPicture::currentVersion() const
 {
+    const QFileInfo info(fileName_);
+    return {info.size(), info.lastModified()};
+}
+
+void PlixPicture::openAgainIfChanged()
+{
+    if (!opened_ || *opened_ == currentVersion())
+        return;
     stop();
-    fileName_ = path;
-    unreadable_ = FileVersion();
+    opened_.reset();
     size_ = QSize();
-    firstFrame_ = QImage();
-    wasEvicted_ = false;
-    PlixScaledPictures::Remove(*this);
+    onFrameChanged();
 }
 
-QSize PlixPicture::size()
+QImage PlixPicture::scaled(const Fit& fit)
 {
+    QImage frame;
     if (size_.isEmpty())
-        firstFrame_ = open();
-    return size_;
-}
-
-QImage PlixPicture::scaledTo(const QSize& target)
-{
-    if (target.isEmpty()) {
-        firstFrame_ = QImage();
+        frame = open();
+    if (size_.isEmpty())
         return {};
-    }
-    if (wasEvicted_)
-        firstFrame_ = open();
-    QImage image = PlixScaledPictures::Find(*this, target);
+    QImage image = PlixScaledPictures::Find(*this, fit(size_));
     if (image.isNull()) {
-        const QImage frame = currentFrame();
         if (frame.isNull())
+            frame = movie_ ? movie_->frame() : open();
+        // The file may be another one now.
+        const QSize target = frame.isNull() ? QSize() : fit(size_);
+        if (target.isEmpty())
             return {};
         image = ScaledMiddle(frame, target);
         PlixScaledPictures::Insert(*this, image);
@@ -81,26 +125,18 @@ QImage PlixPicture::scaledTo(const QSize& target)
     return image;
 }
 
-QImage PlixPicture::currentFrame()
-{
-    if (!firstFrame_.isNull())
-        return std::exchange(firstFrame_, QImage());
-    return movie_ ? movie_->frame() : open();
-}
-
 QImage PlixPicture::open()
 {
-    wasEvicted_ = false;
+    const FileVersion version = currentVersion();
+    if (size_.isEmpty() && opened_ == version)
+        return {}; // it was no picture, and is the same
+    opened_ = version;
     size_ = QSize();
-    if (fileName_.isEmpty() || isKnownAsUnreadable())
-        return {};
     const auto file = ReadPictureFile(fileName_);
-    auto movie = file ? std::make_unique<PlixMovie>(*file) : nullptr;
-    const QImage frame = movie ? movie->frame() : QImage();
-    if (frame.isNull()) {
-        noteAsUnreadable();
+    if (!file)
         return {};
-    }
+    auto movie = std::make_unique<PlixMovie>(*file);
+    const QImage frame = movie->frame();
     size_ = frame.size();
     if (movie->isAnimated() && PlixMovieBudget::GetInstance().Join(*movie))
         play(std::move(movie));
@@ -112,10 +148,9 @@ void PlixPicture::play(std::unique_ptr<PlixMovie> movie)
     movie_ = std::move(movie);
     PlixScaledPictures::Remove(*this);
     connect(movie_.get(), &PlixMovie::frameChanged, this, &PlixPicture::onFrameChanged);
-    connect(movie_.get(), &PlixMovie::evicted, this, [this] {
-        wasEvicted_ = true;
-        stop();
-    });
+    // One that paused has no scaled copy any more, so the next paint opens it
+    // again; one that is over stays on its last frame.
+    connect(movie_.get(), &PlixMovie::evicted, this, &PlixPicture::stop);
 }
 
 void PlixPicture::stop()
@@ -125,23 +160,6 @@ void PlixPicture::stop()
 
 void PlixPicture::onFrameChanged()
 {
-    firstFrame_ = QImage();
     PlixScaledPictures::Remove(*this);
     Q_EMIT frameChanged();
-}
-
-bool PlixPicture::isKnownAsUnreadable() const
-{
-    if (unreadable_.size < 0)
-        return false;
-    const QFileInfo info(fileName_);
-    return info.exists() && info.size() == unreadable_.size
-        && info.lastModified() == unreadable_.modified;
-}
-
-void PlixPicture::noteAsUnreadable()
-{
-    const QFileInfo info(fileName_);
-    if (info.exists())
-        unreadable_ = {info.size(), info.lastModified()};
 }

@@ -3,15 +3,10 @@
 #include <QByteArray>
 #include <QSize>
 
-#include <optional>
+// Which of PNG, JPEG, GIF, WebP and BMP a file is by its first bytes, as
+// QImageReader names it. Empty for everything else, whatever Qt's plugins can
+// do: they were not written to be handed the pictures of strangers.
+QByteArray PictureFormat(const QByteArray& bytes);
 
-// What the first bytes of a picture say about it.
-struct PlixPictureHeader {
-    QByteArray format; // as QImageReader names it
-    QSize size; // what decoding it would fill, in pixels
-};
-
-// Nothing for what is not a PNG, JPEG, GIF, WebP or BMP picture. No other format
-// is tried, whatever Qt's plugins can do: they were not written to be handed
-// the pictures of strangers.
-std::optional<PlixPictureHeader> ReadPictureHeader(const QByteArray& bytes);
+// What decoding such a file fills, in pixels. Empty when that cannot be told.
+QSize PictureSize(const QByteArray& bytes, const QByteArray& format);

@@ -10,6 +10,7 @@ class QPainter;
 // it is scaled to for that.
 class PlixPictureTarget {
 public:
+    PlixPictureTarget() = default;
     PlixPictureTarget(const QRectF& area, double dpiFactor);
 
     // Whole device pixels, less than the area's by a fraction of one.

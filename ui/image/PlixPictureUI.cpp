@@ -6,6 +6,7 @@
 #include "model/PlixDataItemCommon.h"
 #include "model/PlixDataTree.h"
 #include "ui/PlixRoundedPath.h"
+#include "ui/image/PlixPicture.h"
 #include "ui/image/PlixPicturePainter.h"
 
 #include <QPainter>
@@ -17,7 +18,6 @@
 PlixPictureUI::PlixPictureUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
     : PlixWidgetUI(parent, parentLayout)
 {
-    connect(&picture_, &PlixPicture::frameChanged, this, [this] { update(); });
 }
 
 void PlixPictureUI::SetDownloadFunc(const DownloadFunc& func)
@@ -44,8 +44,17 @@ void PlixPictureUI::FileArrived(const std::string& path)
 
 void PlixPictureUI::OnFileArrived(const QString& path)
 {
-    picture_.setFileName(path);
+    if (picture_)
+        disconnect(picture_.get(), nullptr, this, nullptr);
+    picture_ = path.isEmpty() ? nullptr : PlixPicture::Get(path);
+    if (picture_)
+        connect(picture_.get(), &PlixPicture::frameChanged, this, [this] { update(); });
     update();
+}
+
+QString PlixPictureUI::pictureFile() const
+{
+    return picture_ ? picture_->fileName() : QString();
 }
 
 void PlixPictureUI::InitCommon(const PlixDataItemCommon& data)
@@ -112,12 +121,13 @@ QRectF PlixPictureUI::DrawingArea(const QSize& picture) const
 
 void PlixPictureUI::PaintPicture(QPainter& painter)
 {
-    const QSize size = picture_.size();
-    if (size.isEmpty())
+    if (!picture_)
         return;
-    const QRectF area = DrawingArea(size);
-    const PlixPictureTarget target(area, DpiFactor());
-    const QImage image = picture_.scaledTo(target.size());
+    PlixPictureTarget target;
+    const QImage image = picture_->scaled([&](const QSize& size) {
+        target = PlixPictureTarget(DrawingArea(size), DpiFactor());
+        return target.size();
+    });
     if (image.isNull())
         return;
     if (cornerRadius_ < 1)

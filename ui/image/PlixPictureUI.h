@@ -1,13 +1,14 @@
 #pragma once
 
 #include "ui/PlixWidgetUI.h"
-#include "ui/image/PlixPicture.h"
 
 #include <QBrush>
 
+#include <memory>
 #include <optional>
 
 class PlixDataItemCommon;
+class PlixPicture;
 
 // What images and icons have in common: a picture of the web over a background,
 // in the size that the layout gives it.
@@ -22,7 +23,7 @@ public:
     // The picture is in this file, or will be; what was shown before is not
     // shown any more.
     void FileArrived(const std::string& path);
-    QString pictureFile() const { return picture_.fileName(); }
+    QString pictureFile() const;
 
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
@@ -63,7 +64,7 @@ private:
     double DpiFactor() const;
 
     DownloadFunc downloadFunc_;
-    PlixPicture picture_;
+    std::shared_ptr<PlixPicture> picture_; // null before a file is named
     AspectMode aspectMode_ = AspectMode::Fit;
     Placement placement_;
     std::optional<QBrush> background_;

@@ -2,9 +2,14 @@
 
 #include <QCache>
 
+#include <algorithm>
+#include <memory>
+#include <vector>
+
 namespace {
 
-using Cache = QCache<const PlixPicture*, QImage>;
+using Sizes = std::vector<QImage>;
+using Cache = QCache<const PlixPicture*, Sizes>;
 
 Cache& Instance()
 {
@@ -13,17 +18,34 @@ Cache& Instance()
     return *instance;
 }
 
+int BytesOf(const Sizes& sizes)
+{
+    qint64 bytes = 0;
+    for (const QImage& image : sizes)
+        bytes += image.sizeInBytes();
+    return static_cast<int>(bytes);
+}
+
 } // namespace
 
 QImage PlixScaledPictures::Find(const PlixPicture& picture, const QSize& size)
 {
-    const QImage* image = Instance().object(&picture);
-    return image && image->size() == size ? *image : QImage();
+    const Sizes* sizes = Instance().object(&picture);
+    if (!sizes)
+        return {};
+    const auto found = std::find_if(sizes->begin(), sizes->end(),
+                                    [&](const QImage& image) { return image.size() == size; });
+    return found == sizes->end() ? QImage() : *found;
 }
 
 void PlixScaledPictures::Insert(const PlixPicture& picture, const QImage& image)
 {
-    Instance().insert(&picture, new QImage(image), static_cast<int>(image.sizeInBytes()));
+    std::unique_ptr<Sizes> sizes(Instance().take(&picture));
+    if (!sizes)
+        sizes = std::make_unique<Sizes>();
+    sizes->push_back(image);
+    const int bytes = BytesOf(*sizes);
+    Instance().insert(&picture, sizes.release(), bytes);
 }
 
 void PlixScaledPictures::Remove(const PlixPicture& picture)

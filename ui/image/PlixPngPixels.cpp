@@ -1,0 +1,27 @@
+#include "ui/image/PlixPngPixels.h"
+
+#include <QList>
+#include <QtEndian>
+
+#include <algorithm>
+
+QByteArray PngPixelsOnly(const QByteArray& bytes)
+{
+    constexpr int kSignature = 8;
+    constexpr int kHead = 8; // length and type
+    constexpr int kChecksum = 4;
+    // These may be there once.
+    QList<QByteArray> wanted {"IHDR", "PLTE", "tRNS", "IEND"};
+    QByteArray kept = bytes.left(kSignature);
+    int at = kSignature;
+    while (at + kHead <= bytes.size()) {
+        const auto length = qFromBigEndian<quint32>(bytes.constData() + at);
+        const QByteArray type = bytes.mid(at + 4, 4);
+        const auto end = static_cast<int>(
+            std::min<qint64>(qint64 {at} + kHead + length + kChecksum, bytes.size()));
+        if (type == "IDAT" || wanted.removeOne(type))
+            kept.append(bytes.constData() + at, end - at);
+        at = end;
+    }
+    return kept;
+}
