@@ -1,59 +1,98 @@
 #include "support/Mouse.h"
 
 #include <QApplication>
-#include <QGraphicsItem>
-#include <QGraphicsScene>
-#include <QGraphicsSceneMouseEvent>
+#include <QMouseEvent>
+
+#include <cmath>
 
 namespace plix::test {
 namespace {
 
-void setUp(QGraphicsSceneMouseEvent& event, Qt::MouseButton button, const QPointF& at)
-{
-    event.setButton(button);
-    event.setButtons(event.type() == QEvent::GraphicsSceneMousePress ? button : Qt::NoButton);
-    event.setScenePos(at);
-    event.setButtonDownScenePos(button, at);
-    event.setAccepted(true);
-}
-
-bool sendTo(QGraphicsItem& item, QEvent::Type type, Qt::MouseButton button)
-{
-    // Items take events within a scene only.
-    QGraphicsItem* const root = item.topLevelItem();
-    QGraphicsScene scene;
-    scene.addItem(root);
-    QGraphicsSceneMouseEvent event(type);
-    setUp(event, button, item.sceneBoundingRect().center());
-    event.setPos(item.boundingRect().center());
-    scene.sendEvent(&item, &event);
-    scene.removeItem(root);
-    return event.isAccepted();
-}
+constexpr double kFreeSpace = 40;
 
 } // namespace
 
+CardView::CardView(QGraphicsItem& root)
+    : view_(&scene_)
+{
+    add(root);
+    const double space = kFreeSpace;
+    scene_.setSceneRect(root.sceneBoundingRect().adjusted(-space, -space, space, space));
+    view_.setFrameStyle(QFrame::NoFrame);
+    view_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view_.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view_.resize(scene_.sceneRect().size().toSize());
+    view_.show();
+}
+
+CardView::~CardView()
+{
+    for (const QPointer<QGraphicsObject>& root : roots_) {
+        if (root && root->scene() == &scene_)
+            scene_.removeItem(root);
+    }
+}
+
+void CardView::add(QGraphicsItem& root)
+{
+    scene_.addItem(&root);
+    roots_.emplace_back(root.toGraphicsObject());
+}
+
+void CardView::moveTo(const QPointF& at)
+{
+    const QPointF place = view_.viewportTransform().map(at);
+    const QPoint pixel(static_cast<int>(std::floor(place.x())),
+                       static_cast<int>(std::floor(place.y())));
+    if (pixel == pixel_)
+        return;
+    pixel_ = pixel;
+    send(QEvent::MouseMove, Qt::NoButton);
+}
+
+void CardView::press(const QPointF& at, Qt::MouseButton button)
+{
+    press(QEvent::MouseButtonPress, at, button);
+}
+
+void CardView::press(QEvent::Type type, const QPointF& at, Qt::MouseButton button)
+{
+    moveTo(at);
+    buttons_ |= button;
+    send(type, button);
+}
+
+void CardView::release(const QPointF& at, Qt::MouseButton button)
+{
+    moveTo(at);
+    buttons_ &= ~Qt::MouseButtons(button);
+    send(QEvent::MouseButtonRelease, button);
+}
+
+void CardView::click(const QPointF& at, Qt::MouseButton button)
+{
+    press(at, button);
+    release(at, button);
+}
+
+void CardView::doubleClick(const QPointF& at, Qt::MouseButton button)
+{
+    click(at, button);
+    press(QEvent::MouseButtonDblClick, at, button);
+    release(at, button);
+}
+
+void CardView::send(QEvent::Type type, Qt::MouseButton button)
+{
+    QWidget* const viewport = view_.viewport();
+    QMouseEvent event(type, pixel_, viewport->mapTo(&view_, pixel_), viewport->mapToGlobal(pixel_),
+                      button, buttons_, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &event);
+}
+
 void click(QGraphicsItem& root, const QPointF& at, Qt::MouseButton button)
 {
-    QGraphicsScene scene;
-    scene.addItem(&root);
-    for (const QEvent::Type type :
-         {QEvent::GraphicsSceneMousePress, QEvent::GraphicsSceneMouseRelease}) {
-        QGraphicsSceneMouseEvent event(type);
-        setUp(event, button, at);
-        QApplication::sendEvent(&scene, &event);
-    }
-    scene.removeItem(&root);
-}
-
-bool pressOn(QGraphicsItem& item, Qt::MouseButton button)
-{
-    return sendTo(item, QEvent::GraphicsSceneMousePress, button);
-}
-
-bool releaseOn(QGraphicsItem& item, Qt::MouseButton button)
-{
-    return sendTo(item, QEvent::GraphicsSceneMouseRelease, button);
+    CardView(root).click(at, button);
 }
 
 } // namespace plix::test

@@ -1,7 +1,6 @@
 // Cards come apart in any order.
 #include "api/PlixDataMgr.h"
 #include "layout/YogaLayoutItem.h"
-#include "support/Mouse.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
 #include "ui/PlixBubbleUI.h"

@@ -1,279 +1,258 @@
-// Who takes a click, and what reaches the host.
+// Clicks: where they go, and what arrives at the host.
+#include "ClickHost.h"
+
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
-#include "ui/PlixBoxUI.h"
-#include "ui/text/PlixTextUI.h"
+#include "ui/PlixBubbleUI.h"
 
-#include <QCursor>
-
-#include <functional>
+#include <QGraphicsRectItem>
 
 namespace plix::test {
 namespace {
 
-// A host that notes the actions it is told.
-class Clicks {
-public:
-    std::function<void(PlixDataController*)> setUp()
-    {
-        return [this](PlixDataController* controller) {
-            Plix_SetClickCallBack(controller, &Clicks::note, this);
-        };
-    }
-
-    std::vector<std::string> uris;
-    std::function<void(ST_ACTION&)> onClick;
-
-private:
-    static void note(PlixDataController*, ST_ACTION& action, void* userData)
-    {
-        auto* self = static_cast<Clicks*>(userData);
-        self->uris.push_back(action.uri);
-        if (self->onClick)
-            self->onClick(action);
-    }
-};
-
-std::string action(const std::string& uri, const std::string& type = "uri")
-{
-    return R"("action": {"type": ")" + type + R"(", "uri": ")" + uri + R"("},)";
-}
-
-constexpr char kAppOnly[] = R"("action": {"type": "uri", "appUri": "app://a"},)";
 constexpr char kSize[] = R"("width": "100px", "height": "60px",)";
 
-using Uris = std::vector<std::string>;
 using Click = PlixTest;
-
-TEST_F(Click, OnABoxWithAnActionReachesTheHostOnce)
-{
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", "", kSize + action("here"))),
-                        clicks.setUp());
-    click(*card.root(), {10, 10});
-    EXPECT_EQ(clicks.uris, Uris {"here"});
-    click(*card.root(), {10, 10});
-    EXPECT_EQ(clicks.uris.size(), 2u);
-}
 
 TEST_F(Click, BesideABoxReachesNobody)
 {
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", "", kSize + action("here"))),
-                        clicks.setUp());
+    ClickHost host;
+    const TestCard card(bubbleWithBody(box("vertical", "", kSize + uriAction("here"))),
+                        host.setUp());
     click(*card.root(), {150, 10});
-    EXPECT_TRUE(clicks.uris.empty());
+    EXPECT_EQ(host.arrived, Arrived {});
 }
 
-TEST_F(Click, ReachesTheHostForTheLeftButtonOnly)
+TEST_F(Click, OnABoxWithoutAnActionGoesToTheNextBoxThatHasOne)
 {
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", "", kSize + action("here"))),
-                        clicks.setUp());
-    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
-        click(*card.root(), {10, 10}, button);
-        releaseOn(*card.item({0}), button);
-    }
-    EXPECT_TRUE(clicks.uris.empty());
-}
-
-TEST_F(Click, OnABoxWithoutAnActionGoesToTheBoxAroundIt)
-{
-    Clicks clicks;
+    ClickHost host;
     const TestCard card(
-        bubbleWithBody(
-            box("vertical", box("horizontal", box("vertical", "", kSize)), action("around"))),
-        clicks.setUp());
+        bubbleWithBody(box("vertical", box("horizontal", box("vertical", text("words"), kSize)),
+                           uriAction("around"))),
+        host.setUp());
     click(*card.root(), {30, 30});
-    EXPECT_EQ(clicks.uris, Uris {"around"});
-    releaseOn(*card.item({0, 0, 0}));
-    EXPECT_EQ(clicks.uris, (Uris {"around", "around"})) << "through two boxes";
+    click(*card.root(), card.item({0, 0, 0, 0})->sceneBoundingRect().center());
+    EXPECT_EQ(host.arrived, (Arrived {"around", "around"}));
 }
 
 TEST_F(Click, IsTakenByTheInnermostBoxWithAnAction)
 {
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", box("vertical", "", kSize + action("inner")),
-                                           action("outer"))),
-                        clicks.setUp());
+    ClickHost host;
+    const TestCard card(
+        bubbleWithBody(box("vertical", box("vertical", text("words"), kSize + uriAction("inner")),
+                           uriAction("outer"))),
+        host.setUp());
     click(*card.root(), {30, 30});
-    EXPECT_EQ(clicks.uris, Uris {"inner"});
+    click(*card.root(), card.item({0, 0, 0})->sceneBoundingRect().center());
+    EXPECT_EQ(host.arrived, (Arrived {"inner", "inner"}));
 }
 
-TEST_F(Click, OnABoxWithoutAnyActionGoesNowhere)
+TEST_F(Click, PassesABoxForAppsOnItsWayToTheBoxAround)
 {
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", box("vertical", "", kSize))),
-                        clicks.setUp());
-    click(*card.root(), {30, 30});
-    releaseOn(*card.item({0, 0}));
-    EXPECT_TRUE(clicks.uris.empty());
-}
-
-TEST_F(Click, OnATextWithoutAnActionGoesToTheBoxAroundIt)
-{
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", text("words"), action("around"))),
-                        clicks.setUp());
-    click(*card.root(), card.item({0, 0})->sceneBoundingRect().center());
-    EXPECT_EQ(clicks.uris, Uris {"around"});
-}
-
-TEST_F(Click, ReleasedOnATextWithoutAnActionGoesToTheBoxAroundIt)
-{
-    Clicks clicks;
-    // The box passes on as well: it has no action either.
+    ClickHost host;
     const TestCard card(
-        bubbleWithBody(box("vertical", box("vertical", component("separator") + "," + text("a")),
-                           R"("spacing": "md",)")),
-        clicks.setUp());
-    releaseOn(*card.item({0, 0, 1}));
-    EXPECT_TRUE(clicks.uris.empty());
+        bubbleWithBody(box("vertical",
+                           box("vertical", box("vertical", text("words"), appAction("app://a"))),
+                           uriAction("around"))),
+        host.setUp());
+    click(*card.root(), card.item({0, 0, 0, 0})->sceneBoundingRect().center());
+    EXPECT_EQ(host.arrived, Arrived {"around"});
 }
 
-TEST_F(Click, ReleasedOnATextWithAnActionReachesTheHost)
+TEST_F(Click, ReachesWhatIsAZonesOwn)
 {
-    Clicks clicks;
+    const std::string items[] = {text("words", uriAction("its")),
+                                 component("image", uriAction("its")), button(uriAction("its")),
+                                 box("vertical", text("words"), uriAction("its"))};
+    for (const char* zone : {"header", "hero", "body", "footer"}) {
+        for (const std::string& item : items) {
+            SCOPED_TRACE(std::string(zone) + " " + item);
+            ClickHost host;
+            const TestCard card(R"({"type": "bubble", ")" + std::string(zone) + "\": " + item + "}",
+                                host.setUp());
+            click(*card.root(), card.item({0})->sceneBoundingRect().center());
+            EXPECT_EQ(host.arrived, Arrived {"its"});
+        }
+    }
+}
+
+TEST_F(Click, StaysOnTheItemWhereverTheHostShowsTheCard)
+{
+    ClickHost host;
     const TestCard card(
-        bubbleWithBody(box("vertical", text("words", action("text")), action("around"))),
-        clicks.setUp());
-    releaseOn(*card.item({0, 0}), Qt::RightButton);
-    EXPECT_TRUE(clicks.uris.empty());
-    releaseOn(*card.item({0, 0}));
-    EXPECT_EQ(clicks.uris, Uris {"text"}) << "not the box's on top of it";
+        bubbleWithBody(box("vertical", button(uriAction("its")), R"("paddingAll": "20px",)")),
+        host.setUp());
+    QGraphicsItem* const item = card.item({0, 0});
+    const struct {
+        QPointF place;
+        double scale;
+        double turn;
+    } rows[] = {{{0.5, 0.5}, 1, 0},
+                {{-311.3, 77.7}, 1, 0},
+                {{10, 10}, 1.25, 0},
+                {{0, 0}, 2, 30},
+                {{0, 0}, 0.3, 0}};
+    for (const auto& row : rows) {
+        card.root()->setPos(row.place);
+        card.root()->setScale(row.scale);
+        card.root()->setRotation(row.turn);
+        host.arrived.clear();
+        CardView view(*card.root());
+        const QRectF area = item->boundingRect();
+        view.press(item->mapToScene(area.center()));
+        view.release(item->mapToScene(area.center() + QPointF(area.width(), 0) * 0.4));
+        EXPECT_EQ(host.arrived, Arrived {"its"});
+        view.press(item->mapToScene(area.center()));
+        view.release(item->mapToScene(area.center() + QPointF(0, area.height() / 2 + 8)));
+        EXPECT_EQ(host.arrived, Arrived {"its"}) << "released below it";
+    }
 }
 
-TEST_F(Click, OnATextWithAnActionOfAnUnknownTypeDoesNotReachTheHost)
+TEST_F(Click, HoldsAtTheVeryEdge)
 {
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", text("words", action("text", "dance")))),
-                        clicks.setUp());
-    releaseOn(*card.item({0, 0}));
-    click(*card.root(), card.item({0, 0})->sceneBoundingRect().center());
-    EXPECT_TRUE(clicks.uris.empty());
+    ClickHost host;
+    const TestCard card(bubbleWithBody(box("vertical", button(uriAction("its")))), host.setUp());
+    CardView view(*card.root());
+    const QRectF area = card.item({0, 0})->sceneBoundingRect();
+    const QPointF pixel(1, 1);
+    for (const QPointF& corner : {area.topLeft(), area.bottomRight() - pixel}) {
+        view.click(corner);
+        EXPECT_EQ(host.arrived, Arrived {"its"});
+        host.arrived.clear();
+    }
+    view.press(area.center());
+    view.release({area.center().x(), area.bottom() + 4});
+    EXPECT_EQ(host.arrived, Arrived {});
 }
 
-TEST_F(Click, OnAClickableTextWithAnActionOfAnUnknownTypeDoesNotReachTheHost)
+TEST_F(Click, OnTheCornerThatABubbleLacksGoesToTheViewsOwnItems)
 {
-    Clicks clicks;
-    // The box makes all its children clickable.
-    const TestCard card(
-        bubbleWithBody(box("vertical", text("words", action("text", "dance")), action("around"))),
-        clicks.setUp());
-    releaseOn(*card.item({0, 0}));
-    EXPECT_TRUE(clicks.uris.empty());
+    ClickHost host;
+    const TestCard card(R"({"type": "bubble", "hero": )"
+                            + box("vertical", "", R"("height": "60px",)" + uriAction("its")) + "}",
+                        host.setUp());
+    CardView view(*card.root());
+    view.click({1, 1});
+    EXPECT_EQ(host.arrived, Arrived {});
+    view.click({12, 12});
+    EXPECT_EQ(host.arrived, Arrived {"its"});
 }
 
-TEST_F(Click, OnABoxWithAnActionOfAnUnknownTypeReachesTheHost)
+TEST_F(Click, OnWhatABoxCutsOffGoesToWhatIsSeenThere)
 {
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", "", kSize + action("here", "dance"))),
-                        clicks.setUp());
-    click(*card.root(), {10, 10});
-    EXPECT_EQ(clicks.uris, Uris {"here"});
+    ClickHost host;
+    const TestCard card(bubbleWithBody(box("vertical",
+                                           box("vertical", component("image", uriAction("its")),
+                                               R"("height": "30px",)")
+                                               + "," + box("vertical", "", R"("height": "200px",)"),
+                                           uriAction("around"))),
+                        host.setUp());
+    const QRectF area = card.item({0, 0, 0})->sceneBoundingRect();
+    ASSERT_GT(area.height(), 60);
+    CardView view(*card.root());
+    view.click(area.topLeft() + QPointF(20, 20));
+    view.click(area.topLeft() + QPointF(20, 50));
+    EXPECT_EQ(host.arrived, (Arrived {"its", "around"}));
 }
 
-TEST_F(Click, OnABoxForMobileAppsGoesNowhere)
+TEST_F(Click, IsLeftToWhatTheHostPutsOverTheCard)
 {
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", "", std::string(kSize) + kAppOnly)),
-                        clicks.setUp());
-    EXPECT_EQ(card.item({0})->acceptedMouseButtons(), Qt::NoButton);
-    EXPECT_FALSE(card.item({0})->hasCursor());
-    click(*card.root(), {10, 10});
-    releaseOn(*card.item({0}));
-    EXPECT_TRUE(clicks.uris.empty());
+    ClickHost host;
+    const TestCard card(bubbleWithBody(box("vertical", button(uriAction("its")))), host.setUp());
+    CardView view(*card.root());
+    auto* const cover = view.scene().addRect(card.root()->sceneBoundingRect());
+    cover->setBrush(Qt::gray);
+    cover->setFlag(QGraphicsItem::ItemIsSelectable);
+    view.click(card.item({0, 0})->sceneBoundingRect().center());
+    EXPECT_EQ(host.arrived, Arrived {});
+    EXPECT_TRUE(cover->isSelected());
 }
 
-TEST_F(Click, OnABoxForMobileAppsIsNotPassedOn)
+TEST_F(Click, IsNotOfferedToItemsThatDoNothingAboutIt)
 {
-    Clicks clicks;
-    const TestCard card(
-        bubbleWithBody(
-            box("vertical", box("vertical", "", std::string(kSize) + kAppOnly), action("around"))),
-        clicks.setUp());
-    releaseOn(*card.item({0, 0}));
-    EXPECT_TRUE(clicks.uris.empty());
-}
-
-TEST_F(Click, ReachesTheHostForMobileAppsWhenTheHostSaysSo)
-{
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", "", std::string(kSize) + kAppOnly)),
-                        [&](PlixDataController* controller) {
-                            clicks.setUp()(controller);
-                            PlixDisplayParam param;
-                            param.mobileOnlyCheck = false;
-                            Plix_SetDisplayParam(controller, param);
-                        });
-    click(*card.root(), {10, 10});
-    EXPECT_EQ(clicks.uris.size(), 1u);
-}
-
-TEST_F(Click, OnATextForMobileAppsGoesNowhere)
-{
-    Clicks clicks;
-    const TestCard card(bubbleWithBody(box("vertical", text("words", kAppOnly), action("around"))),
-                        clicks.setUp());
-    releaseOn(*card.item({0, 0}));
-    EXPECT_TRUE(clicks.uris.empty());
+    for (const std::string& item :
+         {box("vertical", "", kSize), box("vertical", "", kSize + appAction("app://a")),
+          text("words", appAction("app://a")), component("image"),
+          component("image", uriAction("its", "dance")), component("image", appAction("app://a")),
+          component("icon", uriAction("its"))}) {
+        const TestCard card(bubbleWithBody(box("vertical", item, uriAction("around"))));
+        EXPECT_EQ(card.item({0, 0})->acceptedMouseButtons(), Qt::NoButton) << item;
+        EXPECT_NE(card.item({0})->acceptedMouseButtons(), Qt::NoButton);
+    }
 }
 
 TEST_F(Click, DeliversACopyOfTheAction)
 {
-    Clicks clicks;
-    clicks.onClick = [](ST_ACTION& received) { received.uri = "changed"; };
-    const TestCard card(bubbleWithBody(box("vertical", "", kSize + action("here"))),
-                        clicks.setUp());
-    click(*card.root(), {10, 10});
-    click(*card.root(), {10, 10});
-    EXPECT_EQ(clicks.uris, (Uris {"here", "here"}));
+    ClickHost host;
+    host.onAction = [](ST_ACTION& received) { received.uri = "changed"; };
+    for (const std::string& item :
+         {box("vertical", "", kSize + uriAction("its")), text("words", uriAction("its")),
+          component("image", uriAction("its")), button(uriAction("its"))}) {
+        host.arrived.clear();
+        const TestCard card(bubbleWithBody(box("vertical", item)), host.setUp());
+        CardView view(*card.root());
+        view.click(card.item({0, 0})->sceneBoundingRect().center());
+        view.click(card.item({0, 0})->sceneBoundingRect().center());
+        EXPECT_EQ(host.arrived, (Arrived {"its", "its"}));
+    }
+}
+
+TEST_F(Click, CarriesTheControllerAndAllOfTheAction)
+{
+    struct Heard {
+        PlixDataController* controller = nullptr;
+        ST_ACTION action;
+    } heard;
+    const TestCard card(bubbleWithBody(box("vertical", component("button", R"("action": {
+                            "type": "postback", "label": "l", "data": "d", "displayText": "t",
+                            "i18nLabels": {"ko": "k"}, "copyText": "c"},)"))),
+                        [&](PlixDataController* controller) {
+                            Plix_SetClickCallBack(
+                                controller,
+                                [](PlixDataController* from, ST_ACTION& action, void* to) {
+                                    *static_cast<Heard*>(to) = {from, action};
+                                },
+                                &heard);
+                        });
+    click(*card.root(), card.item({0, 0})->sceneBoundingRect().center());
+    EXPECT_EQ(heard.controller, card.controller());
+    EXPECT_EQ(heard.action.type, "postback");
+    EXPECT_EQ(heard.action.label, "l");
+    EXPECT_EQ(heard.action.data, "d");
+    EXPECT_EQ(heard.action.displayText, "t");
+    EXPECT_EQ(heard.action.copyText, "c");
+    EXPECT_EQ(heard.action.i18nLabels.Get("ko"), "k");
 }
 
 TEST_F(Click, UsesTheCallbackOfTheMoment)
 {
-    const TestCard card(bubbleWithBody(box("vertical", "", kSize + action("here"))));
+    const TestCard card(bubbleWithBody(box("vertical", "", kSize + uriAction("here"))));
     click(*card.root(), {10, 10});
-    Clicks clicks;
-    clicks.setUp()(card.controller());
+    ClickHost host;
+    host.listenTo(card.controller());
     click(*card.root(), {10, 10});
-    EXPECT_EQ(clicks.uris, Uris {"here"});
+    EXPECT_EQ(host.arrived, Arrived {"here"});
     Plix_SetClickCallBack(card.controller(), nullptr, nullptr);
     click(*card.root(), {10, 10});
-    EXPECT_EQ(clicks.uris.size(), 1u);
+    EXPECT_EQ(host.arrived, Arrived {"here"});
 }
 
-TEST_F(Click, MayDeleteTheCard)
+TEST_F(Click, ReachesTheHostOfTheCardThatWasClicked)
 {
-    Clicks clicks;
-    PlixDataController* controller = Plix_CreateController();
-    clicks.setUp()(controller);
-    Plix_InitData(controller, bubbleWithBody(box("vertical", "", kSize + action("here"))));
-    QGraphicsItem* root = Plix_CreateQGraphicsItem(controller);
-    clicks.onClick = [&](ST_ACTION&) { Plix_Free(controller); };
-    releaseOn(*root->childItems()[0]);
-    EXPECT_EQ(clicks.uris, Uris {"here"});
-    delete root;
-}
-
-TEST_F(Click, IsAnnouncedByTheCursor)
-{
-    const TestCard card(bubbleWithBody(box("vertical",
-                                           box("vertical", text("inner"), action("here")) + ","
-                                               + text("text", action("text")) + "," + text("plain")
-                                               + "," + box("vertical", ""))));
-    EXPECT_EQ(card.item({0, 0})->cursor().shape(), Qt::PointingHandCursor);
-    EXPECT_EQ(card.item({0, 0, 0})->cursor().shape(), Qt::PointingHandCursor);
-    EXPECT_EQ(card.item({0, 1})->cursor().shape(), Qt::PointingHandCursor);
-    EXPECT_FALSE(card.item({0, 2})->hasCursor());
-    EXPECT_FALSE(card.item({0, 3})->hasCursor());
-    EXPECT_EQ(card.item({0, 3})->acceptedMouseButtons(), Qt::NoButton);
-}
-
-TEST_F(Click, PressesAreLeftToTheItemBelowAClickableText)
-{
-    const TestCard card(bubbleWithBody(box("vertical", text("words", action("text")))));
-    EXPECT_FALSE(pressOn(*card.item({0, 0})));
+    ClickHost firstHost;
+    ClickHost secondHost;
+    const std::string json = bubbleWithBody(box("vertical", button(uriAction("its"))));
+    const TestCard first(json, firstHost.setUp());
+    const TestCard second(json, secondHost.setUp());
+    second.root()->setPos(0, 20);
+    CardView view(*first.root());
+    view.add(*second.root());
+    view.press({150, 25});
+    EXPECT_EQ(view.scene().mouseGrabberItem(), first.item({0, 0}));
+    view.release({150, 25});
+    view.click(second.item({0, 0})->sceneBoundingRect().center());
+    EXPECT_EQ(firstHost.arrived, Arrived {"its"});
+    EXPECT_EQ(secondHost.arrived, Arrived {"its"});
 }
 
 } // namespace
