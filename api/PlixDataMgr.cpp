@@ -157,10 +157,11 @@ void PlixDataMgr::CreateZones(const PlixDataBubble& bubble, PlixBaseUI& bubbleUI
 void PlixDataMgr::CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI, double insets,
                              double bottomInset)
 {
-    // Copied: a host that reads another message from within a callback appends
-    // to the list.
-    const auto children = zone.GetChildren();
-    for (const auto& data : children) {
+    // A host that reads another message from within a callback appends to the
+    // list: what is in it may move, and what comes is not built this time.
+    const int count = zone.GetChildCount();
+    for (int i = 0; i < count; ++i) {
+        const std::shared_ptr<PlixDataItem> data = zone.GetChild(i);
         PlixBaseUI* ui =
             CreateUIItem(data, bubbleUI.GetGraphicsItem(), bubbleUI.GetChildParentLayout());
         if (!ui)
@@ -173,10 +174,9 @@ void PlixDataMgr::CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI
     }
 }
 
-void PlixDataMgr::CreateBoxChildren(const PlixDataContainer& container, PlixBaseUI& boxUI)
+void PlixDataMgr::CreateBoxChildren(const PlixDataContainer& children, PlixBaseUI& boxUI)
 {
-    const auto children = container.GetChildren();
-    for (const auto& data : children) {
+    for (const auto& data : children.GetChildren()) {
         PlixBaseUI* ui = CreateUIItem(data, boxUI.GetGraphicsItem(), boxUI.GetChildParentLayout());
         if (ui)
             boxUI.GetYogaItem()->addChild(ui->GetYogaItem());

@@ -91,7 +91,7 @@ private:
     void CreateZones(const PlixDataBubble& bubble, PlixBaseUI& bubbleUI);
     void CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI, double insets,
                     double bottomInset);
-    void CreateBoxChildren(const PlixDataContainer& container, PlixBaseUI& boxUI);
+    void CreateBoxChildren(const PlixDataContainer& children, PlixBaseUI& boxUI);
     void LayOut(PlixBubbleUI& bubble);
     PlixBubbleUI* RootBubble() const;
 

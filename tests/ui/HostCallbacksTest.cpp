@@ -770,6 +770,27 @@ TEST_F(BuildCallback, OfTheLogMayDoAnythingWhileACardIsBuilt)
     }
 }
 
+// The zone's own list grows while its item is being built.
+TEST_F(BuildCallback, OfAZonesOwnPictureMayReadTheCardAgain)
+{
+    static const std::string json =
+        R"({"type": "bubble", "hero": {"type": "image", "url": "picture", "size": "xl"}})";
+    int questions = 0;
+    const TestCard picture(json, [&questions](PlixDataController* controller) {
+        Plix_SetDownloadCallBack(
+            controller,
+            [](PlixDataController* asking, const std::string&, void* userData) -> std::string {
+                ++*static_cast<int*>(userData);
+                Plix_InitData(asking, json);
+                return {};
+            },
+            &questions);
+    });
+    EXPECT_EQ(questions, 1);
+    EXPECT_EQ(picture.root()->childItems().size(), 1);
+    EXPECT_EQ(picture.item({0})->boundingRect().width(), 140);
+}
+
 TEST_F(BuildCallback, OfTheLogMayThrow)
 {
     host.actOn(AskedHost::LogLine, 0, [] { throw std::runtime_error("the log's"); });

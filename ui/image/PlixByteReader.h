@@ -23,7 +23,7 @@ public:
     QByteArray TakeBytes(int count)
     {
         const int left = AtEnd() ? 0 : bytes_.size() - static_cast<int>(at_);
-        const QByteArray taken =
+        QByteArray taken =
             QByteArray::fromRawData(bytes_.constData() + (AtEnd() ? 0 : at_), qMin(count, left));
         Skip(count);
         return taken;

@@ -21,7 +21,8 @@ bool PlixIconUI::Init()
     data->SetPixelSize(ToTextPixels(data->GetSize()));
     // Both lengths are given, not one and the ratio: an icon that grows in a row
     // must not make the row higher.
-    const double width = data->GetPixelSize() * ToAspectRatio(data->GetAspectRatio());
+    const double ratio = ToAspectRatio(data->GetAspectRatio());
+    const double width = data->GetPixelSize() * ratio;
     setHeight(data->GetPixelSize());
     setWidth(width);
     SetFixedWidth(width);

@@ -10,9 +10,9 @@ class PlixMovie;
 // card may name thousands of them.
 class PlixMovieBudget {
 public:
-    static constexpr qint64 kMaximumBytes = 256 * 1024 * 1024;
+    static constexpr qint64 kMaximumBytes = qint64 {256} * 1024 * 1024;
     // An animation larger than this keeps the GUI thread from its other work.
-    static constexpr qint64 kMaximumMovieBytes = 32 * 1024 * 1024;
+    static constexpr qint64 kMaximumMovieBytes = qint64 {32} * 1024 * 1024;
 
     static PlixMovieBudget& GetInstance();
 

@@ -136,7 +136,7 @@ QImage PlixPicture::open()
     if (!file)
         return {};
     auto movie = std::make_unique<PlixMovie>(*file);
-    const QImage frame = movie->frame();
+    QImage frame = movie->frame();
     size_ = frame.size();
     if (movie->isAnimated() && PlixMovieBudget::GetInstance().Join(*movie))
         play(std::move(movie));

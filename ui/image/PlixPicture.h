@@ -21,7 +21,7 @@ class PlixPicture : public QObject {
 
 public:
     // How many pixels a scaled picture has at most.
-    static constexpr qint64 kMaximumScaledPixels = 2048 * 2048;
+    static constexpr qint64 kMaximumScaledPixels = qint64 {2048} * 2048;
 
     // The picture in this file, which need not be there yet. All who show the
     // same file share it: a card may name one a thousand times. If the file is

@@ -15,8 +15,8 @@ struct PlixPictureFile {
 
 // What counts as unreadable beyond these: a card may name any picture, and few
 // bytes can ask for gigabytes or minutes.
-constexpr qint64 kMaximumPictureFileBytes = 32 * 1024 * 1024;
-constexpr qint64 kMaximumPicturePixels = 4096 * 4096;
+constexpr qint64 kMaximumPictureFileBytes = qint64 {32} * 1024 * 1024;
+constexpr qint64 kMaximumPicturePixels = qint64 {4096} * 4096;
 // A JPEG file can have any number of passes over its pixels, each of a few bytes.
 constexpr int kMaximumJpegScans = 64;
 

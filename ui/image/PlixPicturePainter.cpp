@@ -18,7 +18,7 @@ struct Mapping {
 
 Mapping MapToDevice(const QPainter& painter, const QImage& image, const QRectF& area)
 {
-    const QTransform toDevice = painter.deviceTransform();
+    const QTransform& toDevice = painter.deviceTransform();
     const bool isUpright =
         toDevice.type() <= QTransform::TxScale && toDevice.m11() > 0 && toDevice.m22() > 0;
     const QRectF onDevice = toDevice.mapRect(area);
