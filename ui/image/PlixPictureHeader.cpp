@@ -5,6 +5,8 @@
 #include <QBuffer>
 #include <QImageReader>
 
+#include <algorithm>
+#include <climits>
 #include <cstdlib>
 
 namespace {
@@ -45,5 +47,6 @@ QSize PictureSize(const QByteArray& bytes, const QByteArray& format)
     buffer.open(QIODevice::ReadOnly);
     const QSize size = QImageReader(&buffer, format).size();
     // Bitmaps that begin with their upper line have a negative height.
-    return {size.width(), std::abs(size.height())};
+    const qint64 height = std::abs(qint64 {size.height()});
+    return {size.width(), static_cast<int>(std::min<qint64>(height, INT_MAX))};
 }
