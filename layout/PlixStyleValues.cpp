@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -111,12 +111,14 @@ float ToAspectRatio(const std::string& text)
     const QStringList sides = QString::fromStdString(text).split(QLatin1Char(':'));
     if (sides.size() != 2)
         return kSquare;
-    const float width = sides[0].toFloat();
-    const float height = sides[1].toFloat();
-    const float ratio = width / height;
-    // Also of infinity by infinity, and where one side is too large for the other.
-    const bool isUsable = width > 0 && height > 0 && std::isfinite(ratio) && ratio > 0;
-    return isUsable ? ratio : kSquare;
+    const double width = sides[0].toFloat();
+    const double height = sides[1].toFloat();
+    const double ratio = width / height;
+    // What a float holds, also where floats are computed with more digits; that
+    // leaves out infinity by infinity, and one side too large for the other.
+    using Limits = std::numeric_limits<float>;
+    const bool isUsable = width > 0 && ratio >= Limits::min() && ratio <= Limits::max();
+    return isUsable ? static_cast<float>(ratio) : kSquare;
 }
 
 QColor ToColor(const std::string& text)
