@@ -4,6 +4,10 @@
 
 #include <string>
 
+// The one wording that the library asks its host for: what is shown in place of
+// a text or label whose action leads to mobile apps only.
+constexpr char kCheckOnMobileKey[] = "chat_room_check_on_mobile";
+
 // The host's process-wide callbacks.
 class PlixSettings {
 public:

@@ -4,12 +4,12 @@
 #include "model/PlixDataBubble.h"
 #include "ui/PlixBoxUI.h"
 #include "ui/PlixContainer.h"
+#include "ui/PlixRoundedPath.h"
 #include "ui/PlixSeparatorUI.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -136,12 +136,7 @@ int PlixBubbleUI::modifyHeight(int height)
 
 QPainterPath PlixBubbleUI::shape() const
 {
-    const QRectF rect = boundingRect();
-    const int radius =
-        rect.height() < 2 * kCornerRadius ? static_cast<int>(rect.height() * 0.5) : kCornerRadius;
-    QPainterPath path;
-    path.addRoundedRect(rect, radius, radius, Qt::AbsoluteSize);
-    return path;
+    return RoundedPath(boundingRect(), kCornerRadius);
 }
 
 void PlixBubbleUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)

@@ -19,7 +19,6 @@
 
 namespace {
 
-constexpr char kUnavailableKey[] = "chat_room_check_on_mobile";
 constexpr int kSmallHeight = 40;
 constexpr int kHeight = 52;
 constexpr int kPlateRadius = 6;
@@ -86,7 +85,7 @@ bool PlixButtonUI::Init()
     const bool isAbsolute = data->GetPosition() == "absolute";
     // A button that shares out nothing in a row would have no width at all.
     if (isAbsolute || (IsInRow(*data) && data->GetGrow() <= 0))
-        setWidth(LabelWidth() + kLabelRoom);
+        setWidth(QFontMetrics(font_).horizontalAdvance(label_.left(kLongestLabel)) + kLabelRoom);
     return true;
 }
 
@@ -94,7 +93,7 @@ void PlixButtonUI::InitLabel(const PlixDataButton& data)
 {
     std::string text;
     if (actionUnavailable_) {
-        text = PlixSettings::GetInstance().GetMultiLangText(kUnavailableKey);
+        text = PlixSettings::GetInstance().GetMultiLangText(kCheckOnMobileKey);
     } else if (const std::shared_ptr<ST_ACTION> action = data.GetAction()) {
         text = action->label;
         for (const std::string& language : {GetCurrentLanguage(), std::string("default")}) {
@@ -171,18 +170,14 @@ void PlixButtonUI::TakeFontFamily()
         font_.setFamily(family);
 }
 
-double PlixButtonUI::LabelWidth() const
-{
-    return QFontMetrics(font_).horizontalAdvance(label_.left(kLongestLabel));
-}
-
 QString PlixButtonUI::shownLabel() const
 {
+    const QString label = label_.left(kLongestLabel);
+    const QFontMetrics metrics(font_);
     const double available = size().width() - kLabelRoom;
-    if (LabelWidth() <= available)
-        return label_.left(kLongestLabel);
-    return QFontMetrics(font_).elidedText(label_.left(kLongestLabel), Qt::ElideRight,
-                                          static_cast<int>(available));
+    if (metrics.horizontalAdvance(label) <= available)
+        return label;
+    return metrics.elidedText(label, Qt::ElideRight, static_cast<int>(available));
 }
 
 void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)

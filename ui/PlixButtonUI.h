@@ -49,7 +49,6 @@ private:
     void InitFont(PlixDataButton& data);
     void InitSize(const PlixDataButton& data);
     void TakeFontFamily();
-    double LabelWidth() const;
 
     bool actionUnavailable_ = false;
     QString label_;

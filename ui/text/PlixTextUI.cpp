@@ -34,7 +34,6 @@ constexpr int kFromMyself = 1;
 // width, however little, it may break into other lines.
 constexpr double kRounding = 1;
 constexpr char kHighlightColor[] = "#118DFF";
-constexpr char kUnsupportedKey[] = "chat_room_check_on_mobile";
 
 // A box that is as wide as its content asks for. Its texts must not wait for
 // free space to grow into, since they are all that could make some.
@@ -168,7 +167,7 @@ void PlixTextUI::InsertContent(const PlixDataText& data)
 {
     if (unsupported_) {
         ClearText();
-        InsertText(PlixSettings::GetInstance().GetMultiLangText(kUnsupportedKey));
+        InsertText(PlixSettings::GetInstance().GetMultiLangText(kCheckOnMobileKey));
         return;
     }
     if (data.GetSpans().empty())
