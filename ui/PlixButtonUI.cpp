@@ -172,7 +172,7 @@ void PlixButtonUI::TakeFontFamily()
 
 QString PlixButtonUI::shownLabel() const
 {
-    const QString label = label_.left(kLongestLabel);
+    QString label = label_.left(kLongestLabel);
     const QFontMetrics metrics(font_);
     const double available = size().width() - kLabelRoom;
     if (metrics.horizontalAdvance(label) <= available)
