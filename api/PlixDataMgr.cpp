@@ -89,13 +89,14 @@ void PlixDataMgr::CreateUI()
         if (!bubble)
             return;
         bubble->arrangeZones();
-        LayOut(*bubble);
+        AttachToRoot(*bubble);
+        LayOut();
     } catch (const std::exception& error) {
         LogFailure("PlixDataMgr::CreateUI", error);
     }
 }
 
-void PlixDataMgr::LayOut(PlixBubbleUI& bubble)
+void PlixDataMgr::AttachToRoot(PlixBubbleUI& bubble)
 {
     if (!rootLayout_) {
         rootLayout_ = std::make_unique<YogaLayoutItem>(true);
@@ -104,13 +105,20 @@ void PlixDataMgr::LayOut(PlixBubbleUI& bubble)
     }
     rootLayout_->setLayoutDirection(Qt::LeftToRight);
     YGUnit unit = YGUnitUndefined;
-    const double width = bubble.styleWidth(unit);
-    rootLayout_->setWidth(width);
+    rootLayout_->setWidth(bubble.styleWidth(unit));
+}
 
-    rootLayout_->calculateLayout(width, kFirstPassHeight);
-    bubble.applyLayoutRecursive();
-    rootLayout_->calculateLayout();
-    bubble.applyLayoutRecursive();
+void PlixDataMgr::LayOut()
+{
+    if (rootLayout_->hasChanged()) {
+        YGUnit unit = YGUnitUndefined;
+        rootLayout_->startOver();
+        rootLayout_->calculateLayout(rootLayout_->styleWidth(unit), kFirstPassHeight);
+        rootLayout_->applyLayoutRecursive();
+        rootLayout_->calculateLayout();
+    }
+    rootLayout_->applyLayoutRecursive();
+    rootLayout_->forgetChanges();
 }
 
 PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
@@ -194,10 +202,8 @@ int PlixDataMgr::ModifyHeight(int height)
     if (!bubble)
         return 0;
     const int result = bubble->modifyHeight(height);
-    if (rootLayout_) {
-        rootLayout_->calculateLayout();
-        rootLayout_->applyLayoutRecursive();
-    }
+    if (rootLayout_)
+        LayOut();
     return result;
 }
 
@@ -206,7 +212,13 @@ void PlixDataMgr::RefreshLayout()
     const PlixBubbleUI* bubble = RootBubble();
     if (!bubble || !rootLayout_)
         return;
-    rootLayout_->calculateLayout(bubble->size().width(), bubble->size().height());
+    const QSizeF size = bubble->size();
+    const bool isResized = size != bubble->YogaLayoutItem::geometry().size();
+    LayOut();
+    if (!isResized)
+        return;
+    // The host has given the card another size.
+    rootLayout_->calculateLayout(size.width(), size.height());
     rootLayout_->applyLayoutRecursive();
 }
 

@@ -92,7 +92,10 @@ private:
     void CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI, double insets,
                     double bottomInset);
     void CreateBoxChildren(const PlixDataContainer& children, PlixBaseUI& boxUI);
-    void LayOut(PlixBubbleUI& bubble);
+    void AttachToRoot(PlixBubbleUI& bubble);
+    // Lays the card out if something has changed, as a new card would be: the
+    // change has the effect that it would have had from the start.
+    void LayOut();
     PlixBubbleUI* RootBubble() const;
 
     // Owns nothing: it is there to expire.

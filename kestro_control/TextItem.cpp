@@ -38,13 +38,22 @@ constexpr qreal widestItem = 1 << 20;
 
 constexpr qreal naturalWidth = -1;
 
+// Farther than ink stands out above or below a text.
+constexpr qreal farAway = 4096;
+
 const QColor defaultMentionColor(0x11, 0x8D, 0xFF);
 
-qreal documentWidth(qreal itemWidth)
+qreal fixedWidth(qreal width)
 {
-    if (!std::isfinite(itemWidth) || itemWidth <= 0)
+    if (!std::isfinite(width) || width < 0)
         return naturalWidth;
-    return std::min(itemWidth, widestItem);
+    return std::min(width, widestItem);
+}
+
+// An item without room shows nothing, so its lines may be as long as they are.
+qreal documentWidth(qreal width)
+{
+    return width == 0 ? naturalWidth : width;
 }
 
 bool isWrapMode(QTextOption::WrapMode mode)
@@ -102,6 +111,7 @@ public:
     QColor mentionColor = defaultMentionColor;
     int maxLineCount = 0;
     bool elide = false;
+    bool hasNoRoom = false;
     bool readOnly = true;
     bool markupEnabled = false;
     bool hasMentions = false;
@@ -491,11 +501,13 @@ void TextItem::SetWrapMode(QTextOption::WrapMode mode)
 
 void TextItem::SetFixedItemWidth(qreal width)
 {
-    const qreal newWidth = documentWidth(width);
+    const qreal newWidth = fixedWidth(width);
     if (newWidth == textWidth())
         return;
     private_->Invalidate();
-    private_->document.setTextWidth(newWidth);
+    private_->hasNoRoom = newWidth == 0;
+    if (documentWidth(newWidth) != private_->document.textWidth())
+        private_->document.setTextWidth(documentWidth(newWidth));
 }
 
 void TextItem::setTextWidth(qreal width)
@@ -505,11 +517,13 @@ void TextItem::setTextWidth(qreal width)
 
 qreal TextItem::textWidth() const
 {
-    return private_->document.textWidth();
+    return private_->hasNoRoom ? 0 : private_->document.textWidth();
 }
 
 void TextItem::adjustSize()
 {
+    if (private_->hasNoRoom)
+        SetFixedItemWidth(naturalWidth);
     private_->document.adjustSize();
 }
 
@@ -595,7 +609,12 @@ void TextItem::setGeometry(const QRectF& rect)
 
 QRectF TextItem::boundingRect() const
 {
-    return IsReadOnly() ? private_->Shown().BoundingRect() : QGraphicsTextItem::boundingRect();
+    if (!IsReadOnly())
+        return QGraphicsTextItem::boundingRect();
+    QRectF rect = private_->Shown().BoundingRect();
+    if (private_->hasNoRoom)
+        rect.setWidth(0);
+    return rect;
 }
 
 QPainterPath TextItem::shape() const
@@ -616,12 +635,19 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
         QGraphicsTextItem::paint(painter, option, widget);
         return;
     }
-    const QPen pen = painter->pen();
+    const QRectF rect = boundingRect();
+    if (rect.isEmpty())
+        return;
+    painter->save();
     painter->setPen(private_->textColor);
+    // What stands beside the text belongs to others.
+    painter->setClipRect(
+        QRectF(0, rect.top() - farAway, std::ceil(rect.width()), rect.height() + 2 * farAway),
+        Qt::IntersectClip);
     const bool isPart = option && option->exposedRect.isValid();
-    private_->ShownHighlighted().Draw(painter, isPart ? option->exposedRect : boundingRect(),
+    private_->ShownHighlighted().Draw(painter, isPart ? option->exposedRect : rect,
                                       private_->highlightBrush);
-    painter->setPen(pen);
+    painter->restore();
 }
 
 // The base's handlers leave events accepted even when there is no control to

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -65,24 +66,37 @@ float AtLeastOne(double value)
     return IsPositive(narrowed) ? narrowed : 1.0F;
 }
 
-// Whether some item is placing its children for the second time. Layout belongs
-// to the GUI thread, and second rounds do not nest: nested, each level of a card
-// would double the work of the level below.
-bool settling = false;
+// Put a width or height style back as it was read.
 
-// Puts a width or height style back as it was read.
-void RestoreDimension(YGNodeRef node, const YGValue& value, void (*setPoints)(YGNodeRef, float),
-                      void (*setPercent)(YGNodeRef, float), void (*setAuto)(YGNodeRef))
+void RestoreWidth(YGNodeRef node, const YGValue& value)
 {
     if (value.unit == YGUnitPoint)
-        setPoints(node, value.value);
+        YGNodeStyleSetWidth(node, value.value);
     else if (value.unit == YGUnitPercent)
-        setPercent(node, value.value);
+        YGNodeStyleSetWidthPercent(node, value.value);
     else
-        setAuto(node);
+        YGNodeStyleSetWidthAuto(node);
+}
+
+void RestoreHeight(YGNodeRef node, const YGValue& value)
+{
+    if (value.unit == YGUnitPoint)
+        YGNodeStyleSetHeight(node, value.value);
+    else if (value.unit == YGUnitPercent)
+        YGNodeStyleSetHeightPercent(node, value.value);
+    else
+        YGNodeStyleSetHeightAuto(node);
 }
 
 } // namespace
+
+template <typename Visit> void YogaLayoutItem::forEachChild(Visit visit) const
+{
+    for (int i = 0; i < childCount(); ++i) {
+        if (YogaLayoutItem* child = childAt(i))
+            visit(*child);
+    }
+}
 
 YogaLayoutItem::YogaLayoutItem(bool useWebDefaults)
     : YogaLayoutItem(MakeNode(useWebDefaults))
@@ -102,6 +116,8 @@ YogaLayoutItem::~YogaLayoutItem()
 {
     if (!node_)
         return;
+    if (YogaLayoutItem* parent = parentItem())
+        parent->hasChanged_ = true;
     YogaNodeRegistry::GetInstance().Remove(node_);
     YGNodeFree(node_);
 }
@@ -124,6 +140,7 @@ void YogaLayoutItem::insertNode(YogaLayoutItem* child, int index)
     const int place = std::clamp(index, 0, childCount());
     YGNodeInsertChild(node_, child->node_, static_cast<std::size_t>(place));
     YogaNodeRegistry::GetInstance().Add(child->node_, child);
+    hasChanged_ = true;
 }
 
 void YogaLayoutItem::insertChild(YogaLayoutItem* child, int index)
@@ -165,16 +182,13 @@ float YogaLayoutItem::baseline(double, double height)
 
 void YogaLayoutItem::reset()
 {
-    if (node_)
+    if (startChange())
         Quietly([this] { YGNodeReset(node_); });
 }
 
 void YogaLayoutItem::applyPaddingToAbsoluteChildren()
 {
-    for (int i = 0; i < childCount(); ++i) {
-        if (YogaLayoutItem* child = childAt(i))
-            child->insetInto(*this);
-    }
+    forEachChild([this](YogaLayoutItem& child) { child.insetInto(*this); });
 }
 
 void YogaLayoutItem::insetInto(const YogaLayoutItem& parent)
@@ -205,7 +219,7 @@ void YogaLayoutItem::applyLayout()
 
 void YogaLayoutItem::markDirty()
 {
-    if (node_ && YGNodeHasMeasureFunc(node_))
+    if (startChange() && YGNodeHasMeasureFunc(node_))
         Quietly([this] { YGNodeMarkDirty(node_); });
 }
 
@@ -215,13 +229,13 @@ void YogaLayoutItem::inheritCornerRadius(int) { }
 
 void YogaLayoutItem::setHasMeasureFunc(bool has)
 {
-    if (node_)
+    if (startChange())
         Quietly([&] { YGNodeSetMeasureFunc(node_, has ? &MeasureCallback : nullptr); });
 }
 
 void YogaLayoutItem::setHasBaselineFunc(bool has)
 {
-    if (node_)
+    if (startChange())
         YGNodeSetBaselineFunc(node_, has ? &BaselineCallback : nullptr);
 }
 
@@ -247,23 +261,10 @@ float YogaLayoutItem::BaselineCallback(YGNodeConstRef node, float width, float h
 
 void YogaLayoutItem::calculateLayout(double width, double height)
 {
-    if (node_)
-        calculateLayout(width, height, YGNodeStyleGetDirection(node_));
-}
-
-void YogaLayoutItem::calculateLayout(double width, double height, YGDirection direction)
-{
-    Quietly([&] { YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height), direction); });
-    forgetKeptPositions();
-}
-
-void YogaLayoutItem::forgetKeptPositions()
-{
-    keptPosition_.reset();
-    for (int i = 0; i < childCount(); ++i) {
-        if (YogaLayoutItem* child = childAt(i))
-            child->forgetKeptPositions();
-    }
+    if (!node_)
+        return;
+    startPass();
+    calculateLayout(width, height, YGNodeStyleGetDirection(node_));
 }
 
 void YogaLayoutItem::calculateLayout()
@@ -271,61 +272,127 @@ void YogaLayoutItem::calculateLayout()
     calculateLayout(YGUndefined, YGUndefined);
 }
 
+void YogaLayoutItem::calculateLayout(double width, double height, YGDirection direction)
+{
+    Quietly([&] { YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height), direction); });
+}
+
+void YogaLayoutItem::startPass()
+{
+    if (pass_.styleWidth)
+        RestoreWidth(node_, *pass_.styleWidth);
+    pass_ = {};
+    forEachChild([](YogaLayoutItem& child) { child.startPass(); });
+}
+
+void YogaLayoutItem::forgetKeptPositions()
+{
+    pass_.keptPosition.reset();
+    forEachChild([](YogaLayoutItem& child) { child.forgetKeptPositions(); });
+}
+
+bool YogaLayoutItem::startChange()
+{
+    hasChanged_ = true;
+    return node_ != nullptr;
+}
+
+bool YogaLayoutItem::hasChanged() const
+{
+    bool changed = hasChanged_;
+    forEachChild([&](const YogaLayoutItem& child) { changed = changed || child.hasChanged(); });
+    return changed;
+}
+
+void YogaLayoutItem::forgetChanges()
+{
+    hasChanged_ = false;
+    forEachChild([](YogaLayoutItem& child) { child.forgetChanges(); });
+}
+
+void YogaLayoutItem::startOver()
+{
+    isPlaced_ = false;
+    markDirty();
+    forEachChild([](YogaLayoutItem& child) { child.startOver(); });
+}
+
 void YogaLayoutItem::applyLayoutRecursive()
 {
+    place(Round::First);
+}
+
+void YogaLayoutItem::place(Round round)
+{
+    pass_.isSettled = round == Round::Second;
+    isPlaced_ = true;
     applyLayout();
-    applyChildrenLayout();
-    if (!relaidOut_)
-        return;
+    forEachChild([this](const YogaLayoutItem& child) {
+        if (child.isWiderThanPending())
+            setRelayoutPending();
+    });
+    placeChildren(round);
     // A child's placement has computed this subtree again, under those that
-    // had been placed before it. They follow, once: what changes now waits for
-    // the next layout of the card.
-    settling = true;
-    applyChildrenLayout();
-    settling = false;
-    relaidOut_ = false;
-}
-
-void YogaLayoutItem::applyChildrenLayout()
-{
-    for (int i = 0; i < childCount(); ++i) {
-        if (YogaLayoutItem* child = childAt(i))
-            child->applyLayoutRecursive();
+    // had been placed before it. They follow, once. Second rounds do not nest:
+    // nested, each level of a card would double the work of the level below.
+    if (pass_.isRelaidOut) {
+        pass_.isSettled = true;
+        placeChildren(Round::Second);
     }
+    pass_.isRelaidOut = false;
+    pass_.isSettled = false;
 }
 
-void YogaLayoutItem::changeWidthOnRelayout(double width)
+void YogaLayoutItem::placeChildren(Round round)
 {
-    pendingWidth_ = width;
+    forEachChild([round](YogaLayoutItem& child) { child.place(round); });
+}
+
+void YogaLayoutItem::changeWidth(double width)
+{
+    if (!node_)
+        return;
+    if (!pass_.styleWidth)
+        pass_.styleWidth = YGNodeStyleGetWidth(node_);
+    YGNodeStyleSetWidth(node_, ToFloat(width));
     if (YogaLayoutItem* parent = parentItem())
         parent->setRelayoutPending();
 }
 
-void YogaLayoutItem::takePendingWidth()
+void YogaLayoutItem::changeWidthOnRelayout(double width)
 {
-    if (pendingWidth_)
-        setWidth(*pendingWidth_);
-    pendingWidth_.reset();
+    pass_.pendingWidth = width;
+}
+
+// Yoga measures an item in several widths before it settles on one, which is
+// rounded outwards to whole pixels.
+bool YogaLayoutItem::isWiderThanPending() const
+{
+    return pass_.pendingWidth && layoutWidth() - *pass_.pendingWidth >= 2;
+}
+
+void YogaLayoutItem::applyPendingWidth()
+{
+    if (isWiderThanPending())
+        changeWidth(*pass_.pendingWidth);
+    pass_.pendingWidth.reset();
 }
 
 void YogaLayoutItem::setRelayoutPending()
 {
-    if (!settling && !relaidOut_)
-        relayoutPending_ = true;
+    if (!pass_.isSettled && !pass_.isRelaidOut)
+        pass_.relayoutPending = true;
 }
 
 void YogaLayoutItem::relayoutInPlace()
 {
-    relayoutPending_ = false;
+    pass_.relayoutPending = false;
     const double width = layoutWidth();
     const double height = layoutHeight();
-    if (settling || !node_ || std::isnan(width) || std::isnan(height))
+    if (pass_.isSettled || !node_ || std::isnan(width) || std::isnan(height))
         return;
 
-    for (int i = 0; i < childCount(); ++i) {
-        if (YogaLayoutItem* child = childAt(i))
-            child->takePendingWidth();
-    }
+    forEachChild([](YogaLayoutItem& child) { child.applyPendingWidth(); });
 
     // Yoga computes from a node downwards as if it were a root: fix its size
     // so that neither its margins nor a percentage apply a second time, hand
@@ -335,16 +402,16 @@ void YogaLayoutItem::relayoutInPlace()
     const QPointF position = geometry().topLeft();
     const YGValue styleWidth = YGNodeStyleGetWidth(node_);
     const YGValue styleHeight = YGNodeStyleGetHeight(node_);
-    setWidth(width);
-    setHeight(height);
+    YGNodeStyleSetWidth(node_, ToFloat(width));
+    YGNodeStyleSetHeight(node_, ToFloat(height));
     calculateLayout(width, height, YGNodeLayoutGetDirection(node_));
-    RestoreDimension(node_, styleWidth, &YGNodeStyleSetWidth, &YGNodeStyleSetWidthPercent,
-                     &YGNodeStyleSetWidthAuto);
-    RestoreDimension(node_, styleHeight, &YGNodeStyleSetHeight, &YGNodeStyleSetHeightPercent,
-                     &YGNodeStyleSetHeightAuto);
-    keptPosition_ = position;
-    relayoutPending_ = false;
-    relaidOut_ = true;
+    forgetKeptPositions();
+    RestoreWidth(node_, styleWidth);
+    RestoreHeight(node_, styleHeight);
+    // What the children have asked for meanwhile waits for the next layout.
+    pass_.relayoutPending = false;
+    pass_.isRelaidOut = true;
+    pass_.keptPosition = position;
 }
 
 YogaLayoutItem* YogaLayoutItem::childAt(int index) const
@@ -370,7 +437,7 @@ QRectF YogaLayoutItem::geometry() const
     if (!node_)
         return {};
     const QPointF computed(YGNodeLayoutGetLeft(node_), YGNodeLayoutGetTop(node_));
-    return {keptPosition_.value_or(computed),
+    return {pass_.keptPosition.value_or(computed),
             QSizeF(YGNodeLayoutGetWidth(node_), YGNodeLayoutGetHeight(node_))};
 }
 

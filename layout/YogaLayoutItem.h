@@ -84,6 +84,7 @@ public:
     virtual float layoutHeight() const;
     virtual void setBorder(double width);
     virtual float border() const;
+    // A negative factor counts as 0: Yoga would take it for a share of its own.
     virtual void setGrowFactor(double factor);
     virtual int growFactor() const;
 
@@ -136,6 +137,8 @@ public:
     void setHasBaselineFunc(bool has);
     // A share of the parent's width, which bounds the width however it is set.
     void setMaxWidthPercent(double percent);
+    // How much of the missing room this item gives up; none unless set.
+    void setShrinkFactor(double factor);
     // Width divided by height; either follows from the other.
     void setAspectRatio(double ratio);
 
@@ -143,17 +146,33 @@ public:
     void calculateLayout();
     void applyLayoutRecursive();
 
-    // Changes the width of an item that is being measured. Yoga loses track of a
-    // style that changes while it computes, so the width waits for the parent's
-    // relayoutInPlace, for which the parent is marked.
+    // A width for the rest of this layout, and the relayout mark for the parent.
+    // The next layout starts from the style's own width again: a layout that
+    // started from the widths of the one before would come to another result.
+    //
+    // The first form is for an item that is being placed. The second one is for
+    // an item that is being measured: Yoga loses track of a style that changes
+    // while it computes, so the width waits for the parent's relayoutInPlace.
+    void changeWidth(double width);
     void changeWidthOnRelayout(double width);
 
     // The relayout mark. Whoever places a child of a marked item calls
     // relayoutInPlace.
     void setRelayoutPending();
-    bool isRelayoutPending() const { return relayoutPending_; }
+    bool isRelayoutPending() const { return pass_.relayoutPending; }
     // Clears the mark and computes this subtree again at the size it has.
     void relayoutInPlace();
+
+    // Whether the style, the content or the items of this subtree have changed
+    // since the changes were forgotten.
+    bool hasChanged() const;
+    void forgetChanges();
+    // Lets the next layout of this subtree come to what the first layout of a
+    // new one would: nothing is placed, and everything is measured again.
+    void startOver();
+    // Whether the item has been placed since then: what its children can know
+    // about its size is true.
+    bool isPlaced() const { return isPlaced_; }
 
     // Null, 0 and null when there is none.
     YogaLayoutItem* childAt(int index) const;
@@ -186,10 +205,32 @@ private:
     float padding(YGEdge edge) const;
     float margin(YGEdge edge) const;
     float position(YGEdge edge, bool isSet) const;
-    void applyChildrenLayout();
-    void calculateLayout(double width, double height, YGDirection direction);
+    // What concerns one layout of the item, from its start to that of the next.
+    struct Pass {
+        // For an item whose width has changed: its style before.
+        std::optional<YGValue> styleWidth;
+        // For an item that waits for its parent's relayout.
+        std::optional<double> pendingWidth;
+        // For a parent.
+        bool relayoutPending = false;
+        bool isRelaidOut = false;
+        // Where the item stood when it was computed again in its place.
+        std::optional<QPointF> keptPosition;
+        // Whether the item's children are being placed for the second time.
+        bool isSettled = false;
+    };
+    enum class Round { First, Second };
+
+    // Every operation that sets a style begins with this; false without a node.
+    bool startChange();
+    void place(Round round);
+    void placeChildren(Round round);
+    void startPass();
     void forgetKeptPositions();
-    void takePendingWidth();
+    void calculateLayout(double width, double height, YGDirection direction);
+    bool isWiderThanPending() const;
+    void applyPendingWidth();
+    template <typename Visit> void forEachChild(Visit visit) const;
 
     YGNodeRef node_ = nullptr;
     QGraphicsLayoutItem* geometryTarget_ = nullptr;
@@ -200,9 +241,7 @@ private:
     bool endSet_ = false;
     bool topSet_ = false;
     bool bottomSet_ = false;
-    bool relayoutPending_ = false;
-    bool relaidOut_ = false;
-    // Where the item stood when it was computed again in its place.
-    std::optional<QPointF> keptPosition_;
-    std::optional<double> pendingWidth_;
+    bool hasChanged_ = true;
+    bool isPlaced_ = false;
+    Pass pass_;
 };

@@ -7,7 +7,7 @@
 
 void YogaLayoutItem::setOrientation(Qt::Orientation orientation)
 {
-    if (!node_)
+    if (!startChange())
         return;
     if (orientation == Qt::Vertical)
         YGNodeStyleSetFlexDirection(node_, YGFlexDirectionColumn);
@@ -23,7 +23,7 @@ Qt::Orientation YogaLayoutItem::orientation() const
 
 void YogaLayoutItem::setAlignment(int qtAlignment, bool mainAxis)
 {
-    if (!node_)
+    if (!startChange())
         return;
     struct Row {
         int flag;
@@ -56,7 +56,7 @@ void YogaLayoutItem::setAlignment(int qtAlignment, bool mainAxis)
 
 void YogaLayoutItem::setLayoutDirection(Qt::LayoutDirection direction)
 {
-    if (!node_)
+    if (!startChange())
         return;
     if (direction == Qt::LeftToRight)
         YGNodeStyleSetDirection(node_, YGDirectionLTR);
@@ -72,7 +72,7 @@ Qt::LayoutDirection YogaLayoutItem::layoutDirection() const
 
 void YogaLayoutItem::setMargins(double left, double top, double right, double bottom)
 {
-    if (!node_)
+    if (!startChange())
         return;
     YGNodeStyleSetMargin(node_, YGEdgeLeft, ToFloat(left));
     YGNodeStyleSetMargin(node_, YGEdgeTop, ToFloat(top));
@@ -82,25 +82,25 @@ void YogaLayoutItem::setMargins(double left, double top, double right, double bo
 
 void YogaLayoutItem::setMargin(double all)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetMargin(node_, YGEdgeAll, ToFloat(all));
 }
 
 void YogaLayoutItem::setMarginTop(double margin)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetMargin(node_, YGEdgeTop, ToFloat(margin));
 }
 
 void YogaLayoutItem::setMarginLeft(double margin)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetMargin(node_, YGEdgeLeft, ToFloat(margin));
 }
 
 void YogaLayoutItem::setMarginBottom(double margin)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetMargin(node_, YGEdgeBottom, ToFloat(margin));
 }
 
@@ -129,7 +129,7 @@ float YogaLayoutItem::marginBottom() const
 
 void YogaLayoutItem::setPaddings(double left, double top, double right, double bottom)
 {
-    if (!node_)
+    if (!startChange())
         return;
     const auto setEdge = [this](YGEdge edge, double value) {
         if (value >= 0)
@@ -143,7 +143,7 @@ void YogaLayoutItem::setPaddings(double left, double top, double right, double b
 
 void YogaLayoutItem::setPadding(double all)
 {
-    if (!node_)
+    if (!startChange())
         return;
     YGNodeStyleSetPadding(node_, YGEdgeAll, ToFloat(all));
     hasPadding_ = true;
@@ -156,37 +156,37 @@ bool YogaLayoutItem::hasPadding() const
 
 void YogaLayoutItem::setPaddingLeftPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPaddingPercent(node_, YGEdgeLeft, ToFloat(percent));
 }
 
 void YogaLayoutItem::setPaddingRightPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPaddingPercent(node_, YGEdgeRight, ToFloat(percent));
 }
 
 void YogaLayoutItem::setPaddingTopPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPaddingPercent(node_, YGEdgeTop, ToFloat(percent));
 }
 
 void YogaLayoutItem::setPaddingBottomPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPaddingPercent(node_, YGEdgeBottom, ToFloat(percent));
 }
 
 void YogaLayoutItem::setPaddingPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPaddingPercent(node_, YGEdgeAll, ToFloat(percent));
 }
 
 void YogaLayoutItem::setPaddingBottom(double padding)
 {
-    if (!node_)
+    if (!startChange())
         return;
     YGNodeStyleSetPadding(node_, YGEdgeBottom, ToFloat(padding));
     hasPadding_ = true;
@@ -226,37 +226,43 @@ float YogaLayoutItem::paddingRight() const
 
 void YogaLayoutItem::setWidth(double width)
 {
-    if (node_)
-        YGNodeStyleSetWidth(node_, ToFloat(width));
+    if (!startChange())
+        return;
+    pass_.styleWidth.reset();
+    YGNodeStyleSetWidth(node_, ToFloat(width));
 }
 
 void YogaLayoutItem::setWidthAuto()
 {
-    if (node_)
-        YGNodeStyleSetWidthAuto(node_);
+    if (!startChange())
+        return;
+    pass_.styleWidth.reset();
+    YGNodeStyleSetWidthAuto(node_);
 }
 
 void YogaLayoutItem::setWidthPercent(double percent)
 {
-    if (node_)
-        YGNodeStyleSetWidthPercent(node_, ToFloat(percent));
+    if (!startChange())
+        return;
+    pass_.styleWidth.reset();
+    YGNodeStyleSetWidthPercent(node_, ToFloat(percent));
 }
 
 void YogaLayoutItem::setHeight(double height)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetHeight(node_, ToFloat(height));
 }
 
 void YogaLayoutItem::setHeightPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetHeightPercent(node_, ToFloat(percent));
 }
 
 void YogaLayoutItem::setHeightAuto()
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetHeightAuto(node_);
 }
 
@@ -276,7 +282,7 @@ float YogaLayoutItem::styleHeight() const
 
 void YogaLayoutItem::setBorder(double width)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetBorder(node_, YGEdgeAll, ToFloat(width));
 }
 
@@ -287,8 +293,8 @@ float YogaLayoutItem::border() const
 
 void YogaLayoutItem::setGrowFactor(double factor)
 {
-    if (node_)
-        YGNodeStyleSetFlexGrow(node_, ToFloat(factor));
+    if (startChange())
+        YGNodeStyleSetFlexGrow(node_, std::max(ToFloat(factor), 0.0F));
 }
 
 int YogaLayoutItem::growFactor() const
@@ -305,13 +311,13 @@ int YogaLayoutItem::growFactor() const
 
 void YogaLayoutItem::setTextNode(bool isText)
 {
-    if (node_)
+    if (startChange())
         YGNodeSetNodeType(node_, isText ? YGNodeTypeText : YGNodeTypeDefault);
 }
 
 void YogaLayoutItem::setAbsolute(bool absolute)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPositionType(node_,
                                    absolute ? YGPositionTypeAbsolute : YGPositionTypeRelative);
 }
@@ -323,7 +329,7 @@ bool YogaLayoutItem::isAbsolute() const
 
 void YogaLayoutItem::setPositionStart(double position)
 {
-    if (!node_)
+    if (!startChange())
         return;
     YGNodeStyleSetPosition(node_, YGEdgeStart, ToFloat(position));
     startSet_ = true;
@@ -331,7 +337,7 @@ void YogaLayoutItem::setPositionStart(double position)
 
 void YogaLayoutItem::setPositionEnd(double position)
 {
-    if (!node_)
+    if (!startChange())
         return;
     YGNodeStyleSetPosition(node_, YGEdgeEnd, ToFloat(position));
     endSet_ = true;
@@ -339,7 +345,7 @@ void YogaLayoutItem::setPositionEnd(double position)
 
 void YogaLayoutItem::setPositionTop(double position)
 {
-    if (!node_)
+    if (!startChange())
         return;
     YGNodeStyleSetPosition(node_, YGEdgeTop, ToFloat(position));
     topSet_ = true;
@@ -347,7 +353,7 @@ void YogaLayoutItem::setPositionTop(double position)
 
 void YogaLayoutItem::setPositionBottom(double position)
 {
-    if (!node_)
+    if (!startChange())
         return;
     YGNodeStyleSetPosition(node_, YGEdgeBottom, ToFloat(position));
     bottomSet_ = true;
@@ -355,25 +361,25 @@ void YogaLayoutItem::setPositionBottom(double position)
 
 void YogaLayoutItem::setPositionStartPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPositionPercent(node_, YGEdgeLeft, ToFloat(percent));
 }
 
 void YogaLayoutItem::setPositionEndPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPositionPercent(node_, YGEdgeEnd, ToFloat(percent));
 }
 
 void YogaLayoutItem::setPositionTopPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPositionPercent(node_, YGEdgeTop, ToFloat(percent));
 }
 
 void YogaLayoutItem::setPositionBottomPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetPositionPercent(node_, YGEdgeBottom, ToFloat(percent));
 }
 
@@ -417,12 +423,18 @@ bool YogaLayoutItem::hasMargin() const
 
 void YogaLayoutItem::setMaxWidthPercent(double percent)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetMaxWidthPercent(node_, ToFloat(percent));
+}
+
+void YogaLayoutItem::setShrinkFactor(double factor)
+{
+    if (startChange())
+        YGNodeStyleSetFlexShrink(node_, ToFloat(factor));
 }
 
 void YogaLayoutItem::setAspectRatio(double ratio)
 {
-    if (node_)
+    if (startChange())
         YGNodeStyleSetAspectRatio(node_, ToFloat(ratio));
 }

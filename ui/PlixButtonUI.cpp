@@ -84,9 +84,15 @@ bool PlixButtonUI::Init()
     ApplyPlacement(!IsInRow(*data));
     const bool isAbsolute = data->GetPosition() == "absolute";
     // A button that shares out nothing in a row would have no width at all.
-    if (isAbsolute || (IsInRow(*data) && data->GetGrow() <= 0))
-        setWidth(QFontMetrics(font_).horizontalAdvance(label_.left(kLongestLabel)) + kLabelRoom);
+    hasLabelWidth_ = isAbsolute || (IsInRow(*data) && data->GetGrow() <= 0);
+    ApplyLabelWidth();
     return true;
+}
+
+void PlixButtonUI::ApplyLabelWidth()
+{
+    if (hasLabelWidth_)
+        setWidth(QFontMetrics(font_).horizontalAdvance(label_.left(kLongestLabel)) + kLabelRoom);
 }
 
 void PlixButtonUI::InitLabel(const PlixDataButton& data)
@@ -158,6 +164,7 @@ void PlixButtonUI::FontChanged()
     if (!IsUseFontBonding())
         return;
     TakeFontFamily();
+    ApplyLabelWidth();
     update();
 }
 

@@ -49,6 +49,7 @@ private:
     void InitFont(PlixDataButton& data);
     void InitSize(const PlixDataButton& data);
     void TakeFontFamily();
+    void ApplyLabelWidth();
 
     bool actionUnavailable_ = false;
     QString label_;
@@ -56,6 +57,7 @@ private:
     QFont font_;
     // No plate while empty.
     std::string plateColor_;
+    bool hasLabelWidth_ = false;
     bool geometryPending_ = true;
     int from_ = 0;
 };

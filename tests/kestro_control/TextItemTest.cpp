@@ -1,4 +1,6 @@
 // The text a TextItem holds, and the lines and rectangle it shows of it.
+#include "Ink.h"
+
 #include <kestro_control/TextItem.h>
 
 #include <gtest/gtest.h>
@@ -141,10 +143,46 @@ TEST_P(TextItemNoWidth, BringsBackTheNaturalWidth)
 }
 
 INSTANTIATE_TEST_SUITE_P(Widths, TextItemNoWidth,
-                         testing::Values(0.0, -0.0, -1.0, -1e300,
-                                         std::numeric_limits<qreal>::quiet_NaN(),
+                         testing::Values(-1.0, -1e300, std::numeric_limits<qreal>::quiet_NaN(),
                                          std::numeric_limits<qreal>::infinity(),
                                          -std::numeric_limits<qreal>::infinity()));
+
+TEST(TextItemWithoutRoom, IsAsHighAsItsLineAndShowsNothing)
+{
+    TestItem item(threeWords);
+    const QRectF natural = item.boundingRect();
+    item.SetFixedItemWidth(0);
+    EXPECT_EQ(item.boundingRect(), QRectF(0, natural.top(), 0, natural.height()));
+    EXPECT_EQ(item.textWidth(), 0);
+    EXPECT_TRUE(Ink(item).Rect().isEmpty());
+    EXPECT_EQ(item.toPlainText(), threeWords);
+}
+
+TEST(TextItemWithoutRoom, GetsItBackWithAnyOtherWidth)
+{
+    TestItem item(threeWords);
+    const QRectF natural = item.boundingRect();
+    for (const qreal width : {-1.0, 500.0}) {
+        item.SetFixedItemWidth(0);
+        item.SetFixedItemWidth(width);
+        EXPECT_EQ(item.boundingRect().width(), width > 0 ? width : natural.width());
+        EXPECT_FALSE(Ink(item).Rect().isEmpty());
+    }
+    item.SetFixedItemWidth(0);
+    item.adjustSize();
+    EXPECT_FALSE(Ink(item).Rect().isEmpty());
+}
+
+TEST(TextItemEdges, CutWhatIsWiderThanTheItem)
+{
+    TestItem item(QStringLiteral("WWWWWWWW"));
+    item.SetWrapMode(QTextOption::NoWrap);
+    item.SetFixedItemWidth(50);
+    const QRectF ink = Ink(item).Rect();
+    EXPECT_GE(ink.left(), 0);
+    EXPECT_LE(ink.right(), 50);
+    EXPECT_GT(ink.right(), 45);
+}
 
 TEST(TextItemWidth, AHugeOneIsCutToWhatTheEngineCanCount)
 {

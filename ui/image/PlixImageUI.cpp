@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr float kNoFixedWidth = -1;
+constexpr double kNoFixedWidth = -1;
 
 // How a word aligns the item, and where it puts a picture that fits inside.
 struct Alignment {
@@ -49,7 +49,6 @@ bool PlixImageUI::Init()
     if (data->GetAspectMode() == "cover")
         SetAspectMode(AspectMode::Cover);
     InitAlignment(*data);
-    setAspectRatio(ToAspectRatio(data->GetAspectRatio()));
     SetBackground(data->GetBackgroundColor());
     InitCommon(*data);
     return true;
@@ -66,11 +65,24 @@ void PlixImageUI::InitAction(const PlixDataImage& data)
 
 void PlixImageUI::InitSize(PlixDataImage& data)
 {
-    const float width = data.GetSizePixels();
-    if (width <= kNoFixedWidth)
+    const double width = data.GetSizePixels();
+    const double ratio = ToAspectRatio(data.GetAspectRatio());
+    if (width > kNoFixedWidth) {
+        // The height is set, too: an image that grows in a row must not make the
+        // row higher.
+        setWidth(width);
+        setHeight(width / ratio);
+        SetFixedWidth(width);
         return;
-    setWidth(width);
-    SetFixedWidth(width);
+    }
+    setAspectRatio(ratio);
+    // Columns stretch what has no width; in a row it would have none unless it
+    // grows.
+    const bool growsInRow = data.GetGrow() > 0 && !data.IsAbsolute();
+    if (IsInRow(data) && !growsInRow) {
+        setWidthPercent(100);
+        setShrinkFactor(1);
+    }
 }
 
 void PlixImageUI::InitAlignment(const PlixDataImage& data)

@@ -84,7 +84,7 @@ bool PlixTextUI::Init()
     InitAlignment(*data);
     InitGravity(*data);
     InsertContent(*data);
-    KeepEndSide(*data);
+    KeepSides(*data);
     InitWidth(*data);
     if (data->GetPosition() == "absolute")
         gravity_ = Gravity::Top;
@@ -185,6 +185,9 @@ void PlixTextUI::InsertSpan(const PlixDataSpan& span)
         spanFont.setPixelSize(ToTextPixels(span.GetSize()));
     QTextCharFormat format;
     format.setFont(spanFont);
+    // The family is the item's, which follows the host's.
+    format.clearProperty(QTextFormat::FontFamily);
+    format.clearProperty(QTextFormat::FontFamilies);
     format.setForeground(span.GetColor().empty() ? defaultTextColor() : ToColor(span.GetColor()));
     const bool vanishes = !source.empty() && QString::fromStdString(source).isEmpty();
     InsertText(vanishes ? " " : source, &format);
@@ -197,12 +200,17 @@ void PlixTextUI::InsertText(const std::string& text, const QTextCharFormat* form
 }
 
 // In a bubble that reads from left to right, a paragraph that reads the other way
-// by its own letters starts where its reader starts; but "end" is the bubble's
-// side, where the other values of a column end.
-void PlixTextUI::KeepEndSide(const PlixDataText& data)
+// by its own letters starts where its reader starts, however short it is; but
+// "end" is the bubble's side, where the other values of a column end.
+void PlixTextUI::KeepSides(const PlixDataText& data)
 {
-    if (data.GetAlign() != "end" || IsInRightToLeftBubble(data))
+    if (data.GetAlign() == "center" || IsInRightToLeftBubble(data))
         return;
+    if (data.GetAlign() != "end") {
+        if (!IsInRow(data) && document()->begin().textDirection() == Qt::RightToLeft)
+            YogaLayoutItem::setAlignment(Qt::AlignRight, false);
+        return;
+    }
     bool readsRightToLeft = false;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
         readsRightToLeft = readsRightToLeft || block.textDirection() == Qt::RightToLeft;
@@ -229,7 +237,7 @@ void PlixTextUI::InitWidth(const PlixDataText& data)
         setWidth(0);
     } else if (box) {
         hasNaturalWidth_ = true;
-        SetNaturalWidth();
+        setWidth(NaturalWidth());
         setMaxWidthPercent(100);
     } else {
         setWidthPercent(100);
@@ -240,20 +248,31 @@ void PlixTextUI::InitWidth(const PlixDataText& data)
     markDirty();
 }
 
-void PlixTextUI::SetNaturalWidth()
+double PlixTextUI::NaturalWidth()
 {
+    const double shownWidth = textWidth();
     SetFixedItemWidth(-1);
+    SetMaxLineCount(0);
+    double width = boundingRect().width();
+    if (!wrap_ && ShownLineCount() > 1) {
+        // Of several lines the first one is shown, and its ellipsis takes room.
+        SetMaxLineCount(1);
+        width = std::max(width, boundingRect().width());
+    }
+    SetMaxLineCount(maxLines_);
+    SetFixedItemWidth(shownWidth);
     // Layouts are rounded to whole pixels: a fraction lost there would cost the
     // text its last word.
-    setWidth(std::ceil(boundingRect().width()));
+    return std::ceil(width);
 }
 
 void PlixTextUI::InitLines(const PlixDataText& data)
 {
-    if (data.GetSpans().empty() && data.GetMaxLines() > 0)
-        SetMaxLineCount(data.GetMaxLines());
+    if (data.GetSpans().empty())
+        maxLines_ = std::max(data.GetMaxLines(), 0);
     if (!wrap_)
-        SetMaxLineCount(1);
+        maxLines_ = 1;
+    SetMaxLineCount(maxLines_);
 }
 
 void PlixTextUI::SetClickFunc(const ClickFunc& func)
@@ -300,7 +319,7 @@ void PlixTextUI::FontChanged()
     if (!IsUseFontBonding())
         return;
     if (hasNaturalWidth_)
-        SetNaturalWidth();
+        setWidth(NaturalWidth());
     updateGeometry();
     markDirty();
 }
@@ -318,7 +337,7 @@ int PlixTextUI::setHighlightText(const QStringList& words)
 double PlixTextUI::ParentInnerWidth() const
 {
     const YogaLayoutItem* parent = YogaLayoutItem::parentItem();
-    if (!parent || !(parent->layoutWidth() > 0))
+    if (!parent || !parent->isPlaced() || !(parent->layoutWidth() > 0))
         return 0;
     const QMarginsF paddings = parent->layoutPaddings();
     return std::trunc(parent->layoutWidth()) - std::trunc(paddings.left())
@@ -327,7 +346,9 @@ double PlixTextUI::ParentInnerWidth() const
 
 QSizeF PlixTextUI::measure(double width, YGMeasureMode, double, YGMeasureMode)
 {
-    double offered = width;
+    if (!isPlaced())
+        topOffset_ = 0;
+    const double offered = width;
     const double inner = ParentInnerWidth();
     if (inner > 0 && !(width - inner < kRounding))
         width = inner;
@@ -387,7 +408,8 @@ void PlixTextUI::setGeometry(const QRectF& rect)
     const double shown = boundingRect().width();
     if (shown > given.width()) {
         SetFixedItemWidth(clipped.width());
-        TakeWidth(clipped.width());
+        if (!HasStyleWidth(clipped.width()))
+            changeWidth(clipped.width());
     } else if (given.width() - shown >= 2 * kRounding) {
         // Measured last for another width than the layout settled on, or, its
         // size being fixed, never.
@@ -404,15 +426,6 @@ void PlixTextUI::setGeometry(const QRectF& rect)
         markDirty();
         parent->relayoutInPlace();
     }
-}
-
-void PlixTextUI::TakeWidth(double width)
-{
-    if (HasStyleWidth(width))
-        return;
-    setWidth(width);
-    if (YogaLayoutItem* parent = YogaLayoutItem::parentItem())
-        parent->setRelayoutPending();
 }
 
 void PlixTextUI::PlaceVertically(double available)

@@ -31,8 +31,8 @@ public:
     int setHighlightText(const QStringList& words) override;
     int SetHighLightText(const QStringList& words) { return setHighlightText(words); }
 
-    // Follows the host's font family while font binding is on; the card shows
-    // it from its next layout on.
+    // Follows the host's font family while font binding is on. The text is shown
+    // in it at once, in the width that it has; the next layout gives it another.
     void FontChanged() override;
 
     // A wrapped text that is measured at width 0 is emptied for good.
@@ -65,8 +65,9 @@ private:
     void InsertContent(const PlixDataText& data);
     void InitWidth(const PlixDataText& data);
     void InitLines(const PlixDataText& data);
-    void KeepEndSide(const PlixDataText& data);
-    void SetNaturalWidth();
+    void KeepSides(const PlixDataText& data);
+    // What the text takes up where nothing limits it, in whole pixels.
+    double NaturalWidth();
     // Whether `text` has to be escaped to be shown as it stands.
     bool NeedsEscaping(const QString& text) const;
 
@@ -78,8 +79,6 @@ private:
     double ParentInnerWidth() const;
     QRectF ClippedToParent(const QRectF& rect) const;
     bool HasStyleWidth(double width) const;
-    // Sets the width of a node that is being placed.
-    void TakeWidth(double width);
     void PlaceVertically(double available);
 
     bool unsupported_ = false;
@@ -87,6 +86,7 @@ private:
     int colorMode_ = 0;
     bool baseline_ = false;
     bool wrap_ = false;
+    int maxLines_ = 0;
     bool hasNaturalWidth_ = false;
     Gravity gravity_ = Gravity::Top;
     int textHeight_ = 0;

@@ -155,8 +155,9 @@ public:
     // QTextOption's change nothing.
     void SetWrapMode(QTextOption::WrapMode mode);
 
-    // Lays the text out in this width. Zero, negative and not finite widths:
-    // back to the natural width, that is, as wide as the widest shown line.
+    // Lays the text out in this width. Negative and not finite widths: back to
+    // the natural width, that is, as wide as the widest shown line. Zero: there
+    // is no room; the item has the height of its natural width and shows nothing.
     // Setting the same width again costs nothing. Widths beyond what the text
     // engine can count (about a million pixels) are cut to that.
     void SetFixedItemWidth(qreal width);
@@ -175,7 +176,7 @@ public:
 
     // Whether the last line ends in an ellipsis when the line limit leaves
     // text over, and likewise every line that is wider than the fixed width.
-    // Off at first: then the line limit just cuts, and wide lines stick out.
+    // Off at first: then the line limit and the item's edges just cut.
     void SetElide(bool elide);
 
     // ----- Highlight

@@ -130,20 +130,51 @@ TEST_F(TextMeasure, CutsTheOfferToTheInnerWidthOfTheParent)
     }
 }
 
-TEST_F(TextMeasure, TellsTheNodeOfACutOnlyWhenWrapped)
+// A text of a fixed width in a box of 120, laid out as the second layout of a card.
+class WideTextInBox {
+public:
+    explicit WideTextInBox(const std::function<void(PlixDataText&)>& set)
+        : text(set)
+    {
+        box_.setWidth(120);
+        text.item.setMaxWidthPercent(YGUndefined);
+        text.item.setWidth(300);
+        root_.addChild(&box_);
+        box_.addChild(&text.item);
+        for (int i = 0; i < 2; ++i) {
+            text.item.markDirty();
+            root_.calculateLayout(500, 500);
+            root_.applyLayoutRecursive();
+        }
+    }
+
+    void startNextLayout() { root_.calculateLayout(500, 500); }
+
+    LooseText text;
+
+private:
+    LayoutNode root_;
+    LayoutNode box_;
+};
+
+TEST_F(TextMeasure, TellsTheNodeOfACutUntilTheNextLayout)
 {
     YGUnit unit = YGUnitUndefined;
-    const TextInBox wrapped(kWrap);
-    wrapped.item().setWidth(300);
-    wrapped.item().measure(500, YGMeasureModeExactly, 100, YGMeasureModeUndefined);
-    wrapped.item().YogaLayoutItem::parentItem()->relayoutInPlace();
-    EXPECT_EQ(wrapped.item().styleWidth(unit), 90);
+    WideTextInBox wrapped(&setWrappedWords);
+    EXPECT_EQ(wrapped.text.item.styleWidth(unit), 120);
     EXPECT_EQ(unit, YGUnitPoint);
+    EXPECT_EQ(wrapped.text.item.layoutWidth(), 120);
 
-    const TextInBox plain("");
-    plain.item().setWidth(300);
-    plain.item().measure(500, YGMeasureModeExactly, 100, YGMeasureModeUndefined);
-    EXPECT_EQ(plain.item().styleWidth(unit), 300);
+    wrapped.startNextLayout();
+    EXPECT_EQ(wrapped.text.item.styleWidth(unit), 300);
+}
+
+TEST_F(TextMeasure, TellsTheNodeOfNoCutUnlessWrapped)
+{
+    YGUnit unit = YGUnitUndefined;
+    WideTextInBox plain(&setWords);
+    EXPECT_EQ(plain.text.item.styleWidth(unit), 300);
+    EXPECT_EQ(plain.text.item.boundingRect().width(), 120);
 }
 
 TEST_F(TextMeasure, IgnoresAParentWithoutAWidthYet)

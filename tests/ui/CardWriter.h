@@ -1,0 +1,33 @@
+#pragma once
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace plix::test {
+
+// Writes cards of boxes and texts, always the same for a seed.
+class CardWriter {
+public:
+    enum class Room {
+        Enough, // everything fits: rows hold things that can get narrower
+        Any
+    };
+
+    explicit CardWriter(unsigned seed, Room room = Room::Enough);
+
+    std::string card();
+
+private:
+    int below(int limit);
+    std::string pick(const std::vector<std::string>& words);
+    std::string words(int most);
+    std::string writeText(const std::string& layout);
+    std::string writeBox(const std::string& layout, int levels);
+    std::string writeChildBox(const std::string& parent, int levels);
+
+    std::mt19937 random_;
+    Room room_;
+};
+
+} // namespace plix::test

@@ -1,0 +1,165 @@
+// What the host's other font family does to cards on show.
+#include "CardTree.h"
+#include "CardWriter.h"
+#include "support/PlixTest.h"
+#include "ui/PlixButtonUI.h"
+#include "ui/text/PlixTextUI.h"
+
+#include <kestro_control/KestroControlManager.h>
+#include <kestro_control/KestroControlSupport.h>
+
+#include <QTextBlock>
+#include <QTextDocument>
+
+namespace plix::test {
+namespace {
+
+class Support : public KestroControlSupport {
+public:
+    QString GetFontFamily() const override { return family; }
+
+    QString family = QStringLiteral("DejaVu Sans");
+};
+
+class FontChange : public PlixTest {
+protected:
+    FontChange() { Plix_SetKestroControlSupport(&support_); }
+    ~FontChange() override { Plix_SetKestroControlSupport(nullptr); }
+
+    void changeFamily()
+    {
+        support_.family = QStringLiteral("Noto Sans CJK SC");
+        KestroControlManager::GetInstance()->FontFamilyChanged();
+    }
+
+    void resetFamily() { support_.family = QStringLiteral("DejaVu Sans"); }
+
+    QString family() const { return support_.family; }
+
+private:
+    Support support_;
+};
+
+constexpr unsigned kCards = 150;
+
+// A card with all that has a font: spans, buttons with and without a width of
+// their own, and texts of every kind of width.
+std::string cardWithFonts()
+{
+    const std::string label = R"("action": {"type": "uri", "uri": "a", "label": "Press here"},)";
+    const std::string spans = R"("wrap": true, "contents": [)"
+        + component("span", R"("text": "a span that is long enough to wrap",)") + ","
+        + component("span", R"("text": " and another one", "size": "xl", "weight": "bold",)")
+        + "],";
+    return bubbleWithBody(
+        box("vertical",
+            component("text", spans) + ","
+                + text("one two three four five six seven eight nine ten", R"("wrap": true,)") + ","
+                + text("only one line, however long that line is, and cut", "") + ","
+                + box("horizontal",
+                      component("button", label + R"("flex": 0,)") + ","
+                          + text("beside", R"("flex": 0,)") + "," + text("the rest"))
+                + "," + component("button", label)));
+}
+
+std::string generatedCard(unsigned seed)
+{
+    return seed == 0 ? cardWithFonts() : CardWriter(seed, CardWriter::Room::Any).card();
+}
+
+// A wrapped text without any room is emptied for good, whatever comes later.
+bool hasEmptiedText(QGraphicsItem& root)
+{
+    bool found = false;
+    forEachItem(root, [&](QGraphicsItem& item) {
+        const auto* shown = dynamic_cast<PlixTextUI*>(&item);
+        found = found || (shown && shown->toPlainText().isEmpty());
+    });
+    return found;
+}
+
+void expectFamily(const PlixTextUI& item, const QString& family)
+{
+    EXPECT_EQ(item.font().family(), family);
+    for (QTextBlock block = item.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto run = block.begin(); !run.atEnd(); ++run) {
+            const QFont font = run.fragment().charFormat().font().resolve(item.font());
+            EXPECT_EQ(font.family(), family) << run.fragment().text().toStdString();
+        }
+    }
+}
+
+TEST_F(FontChange, ReachesEveryPieceOfTextAtOnce)
+{
+    for (unsigned seed = 0; seed < kCards; ++seed) {
+        SCOPED_TRACE(seed);
+        resetFamily();
+        const TestCard card(generatedCard(seed));
+        changeFamily();
+        forEachItem(*card.root(), [this](QGraphicsItem& item) {
+            if (const auto* shown = dynamic_cast<PlixTextUI*>(&item))
+                expectFamily(*shown, family());
+            if (const auto* button = dynamic_cast<PlixButtonUI*>(&item)) {
+                EXPECT_EQ(button->labelFont().family(), family());
+            }
+        });
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_F(FontChange, LeavesTextsInTheWidthThatTheyHave)
+{
+    for (unsigned seed = 0; seed < kCards; ++seed) {
+        SCOPED_TRACE(seed);
+        resetFamily();
+        const TestCard card(generatedCard(seed));
+        std::vector<double> before;
+        forEachItem(*card.root(), [&](QGraphicsItem& item) {
+            before.push_back(item.boundingRect().translated(item.pos()).right());
+        });
+        changeFamily();
+        auto width = before.begin();
+        forEachItem(*card.root(), [&](QGraphicsItem& item) {
+            EXPECT_EQ(item.boundingRect().translated(item.pos()).right(), *width++);
+        });
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_F(FontChange, MakesTheCardEqualToANewOneWithTheNextLayout)
+{
+    for (unsigned seed = 0; seed < kCards; ++seed) {
+        SCOPED_TRACE(generatedCard(seed));
+        resetFamily();
+        const TestCard refreshed(generatedCard(seed));
+        const TestCard modified(generatedCard(seed));
+        if (hasEmptiedText(*refreshed.root()))
+            continue;
+        changeFamily();
+        Plix_RefreshLayout(refreshed.controller());
+        Plix_ModifyHeight(modified.controller(), 0);
+        const TestCard fresh(generatedCard(seed));
+        EXPECT_EQ(geometryOf(*refreshed.root()), geometryOf(*fresh.root()));
+        EXPECT_EQ(geometryOf(*modified.root()), geometryOf(*fresh.root()));
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_F(FontChange, GivesANaturalWidthOfTheNewFamily)
+{
+    const TestCard card(
+        bubbleWithBody(box("horizontal", text("natural", R"("flex": 0,)") + "," + text("rest"))));
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    YGUnit unit = YGUnitUndefined;
+    const float before = item->styleWidth(unit);
+    changeFamily();
+    EXPECT_NE(item->styleWidth(unit), before);
+    Plix_RefreshLayout(card.controller());
+    EXPECT_EQ(item->layoutWidth(), item->styleWidth(unit));
+}
+
+} // namespace
+} // namespace plix::test

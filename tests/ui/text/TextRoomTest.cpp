@@ -1,0 +1,145 @@
+// Texts that have less room than they need, or just enough.
+#include "../CardTree.h"
+#include "../CardWriter.h"
+#include "support/PlixTest.h"
+#include "ui/PlixBoxUI.h"
+#include "ui/text/PlixTextUI.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
+
+namespace plix::test {
+namespace {
+
+constexpr int kMargin = 200;
+
+// The columns of pixels in which `item` leaves ink, in its own coordinates;
+// empty when there are none. It is painted alone, without its boxes' clips.
+QRect inkedColumns(PlixTextUI& item)
+{
+    const QRect area = item.boundingRect().toAlignedRect();
+    QImage image(area.width() + 2 * kMargin, area.height() + 2 * kMargin, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.translate(QPoint(kMargin, kMargin) - area.topLeft());
+    QStyleOptionGraphicsItem option;
+    option.exposedRect = item.boundingRect();
+    item.paint(&painter, &option, nullptr);
+    painter.end();
+
+    QRect inked;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != qRgb(255, 255, 255))
+                inked |= QRect(x - kMargin + area.left(), 0, 1, 1);
+        }
+    }
+    return inked;
+}
+
+void expectInkInside(PlixTextUI& item)
+{
+    const int width = static_cast<int>(item.layoutWidth());
+    const QRect inked = inkedColumns(item);
+    if (inked.isEmpty())
+        return;
+    EXPECT_GE(inked.left(), 0) << item.toPlainText().toStdString();
+    EXPECT_LT(inked.right(), width) << item.toPlainText().toStdString();
+}
+
+using TextRoom = PlixTest;
+
+TEST_F(TextRoom, WithoutAnyNothingIsDrawn)
+{
+    const TestCard card(bubbleWithBody(box(
+        "horizontal",
+        text("Address") + "," + text("12 Long Street Name, Some Far Away Town", R"("flex": 0,)"))));
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    ASSERT_EQ(item->layoutWidth(), 0);
+    EXPECT_EQ(item->boundingRect().width(), 0);
+    EXPECT_EQ(item->boundingRect().height(), item->layoutHeight());
+    EXPECT_TRUE(inkedColumns(*item).isEmpty());
+    EXPECT_EQ(item->toPlainText(), QStringLiteral("Address"));
+}
+
+TEST_F(TextRoom, IsNeverExceededSideways)
+{
+    for (unsigned seed = 0; seed < 60; ++seed) {
+        const std::string json = CardWriter(seed, CardWriter::Room::Any).card();
+        SCOPED_TRACE(json);
+        const TestCard card(json);
+        forEachItem(*card.root(), [](QGraphicsItem& item) {
+            if (auto* shown = dynamic_cast<PlixTextUI*>(&item))
+                expectInkInside(*shown);
+        });
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_F(TextRoom, OfItalicTextEndsWhereItsRectangleEnds)
+{
+    for (const char* size : {"md", "5xl"}) {
+        const std::string italic =
+            std::string(R"("style": "italic", "flex": 0, "size": ")") + size + R"(", )";
+        const TestCard card(
+            bubbleWithBody(box("horizontal", text("Half", italic)), R"("size": "giga",)"));
+        auto* item = card.ui<PlixTextUI>({0, 0});
+        ASSERT_FALSE(inkedColumns(*item).isEmpty());
+        expectInkInside(*item);
+    }
+}
+
+std::string shownText(const std::string& words)
+{
+    const TestCard card(bubbleWithBody(box("vertical", text(words)), R"("size": "giga",)"));
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    EXPECT_EQ(item->ShownLineCount(), 1);
+    return std::to_string(item->boundingRect().width());
+}
+
+TEST_F(TextRoom, OfOneLineIsEnoughForItsEllipsis)
+{
+    // The dots stand for the lines that are not shown; no letter makes way.
+    EXPECT_EQ(shownText("Hello\\nWorld"), shownText("Hello…"));
+    EXPECT_EQ(shownText("Hello\\nA longer second line"), shownText("A longer second line"));
+    EXPECT_EQ(shownText("Hello\\n"), shownText("Hello"));
+}
+
+double leftOf(const std::string& words, const std::string& more)
+{
+    const TestCard card(bubbleWithBody(box("vertical", text(words, more))));
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    return item->pos().x() + inkedColumns(*item).left();
+}
+
+double rightOf(const std::string& words, const std::string& more)
+{
+    const TestCard card(bubbleWithBody(box("vertical", text(words, more))));
+    auto* item = card.ui<PlixTextUI>({0, 0});
+    return item->pos().x() + inkedColumns(*item).right();
+}
+
+TEST_F(TextRoom, IsFilledFromTheRightByRightToLeftText)
+{
+    const std::string words = "שלום עולם";
+    const std::string many = words + " " + words + " " + words + " " + words + " " + words;
+    for (const char* more : {"", R"("wrap": true,)", R"("align": "start",)"}) {
+        EXPECT_NEAR(rightOf(words, more), 280, 3) << "short, " << more;
+        EXPECT_GT(leftOf(words, more), 150) << "short, " << more;
+    }
+    EXPECT_NEAR(rightOf(many, R"("wrap": true,)"), 280, 3) << "in lines";
+    EXPECT_LT(leftOf("short", ""), 25) << "as all others from the left";
+}
+
+TEST_F(TextRoom, IsSharedOutByTheAlignWordsInAnyScript)
+{
+    const std::string words = "שלום";
+    EXPECT_NEAR(rightOf(words, R"("align": "end",)"), 280, 3);
+    const std::string center = R"("align": "center",)";
+    EXPECT_NEAR(leftOf(words, center) + rightOf(words, center), 300, 4);
+}
+
+} // namespace
+} // namespace plix::test
