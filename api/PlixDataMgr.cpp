@@ -212,14 +212,15 @@ void PlixDataMgr::RefreshLayout()
     const PlixBubbleUI* bubble = RootBubble();
     if (!bubble || !rootLayout_)
         return;
-    const QSizeF size = bubble->size();
-    const bool isResized = size != bubble->YogaLayoutItem::geometry().size();
-    LayOut();
-    if (!isResized)
+    const bool isUpToDate = !rootLayout_->hasChanged()
+        && bubble->size() == bubble->YogaLayoutItem::geometry().size();
+    if (isUpToDate)
         return;
-    // The host has given the card another size.
-    rootLayout_->calculateLayout(size.width(), size.height());
+    if (rootLayout_->hasChanged())
+        LayOut();
+    rootLayout_->calculateLayout(bubble->size().width(), bubble->size().height());
     rootLayout_->applyLayoutRecursive();
+    rootLayout_->forgetChanges();
 }
 
 void PlixDataMgr::SetBubbleBkColor(const std::string& color)

@@ -357,6 +357,22 @@ TEST_F(LayoutItem, CountsAGrowFactorThatIsNoNumberAsNone)
     EXPECT_EQ(item.growFactor(), 0);
 }
 
+TEST_F(LayoutItem, DoesNotGrowByANegativeFactor)
+{
+    LayoutNode row;
+    LayoutNode negative;
+    LayoutNode positive;
+    row.setOrientation(Qt::Horizontal);
+    row.addChild(&negative);
+    row.addChild(&positive);
+    negative.setGrowFactor(-1);
+    positive.setGrowFactor(1);
+    row.calculateLayout(100, 10);
+    EXPECT_EQ(negative.layoutWidth(), 0);
+    EXPECT_EQ(positive.layoutWidth(), 100);
+    EXPECT_EQ(negative.growFactor(), 0);
+}
+
 TEST_F(LayoutItem, SurvivesGrowFactorsBeyondAnInteger)
 {
     LayoutNode item;

@@ -257,6 +257,100 @@ TEST_F(Relayout, HappensOncePerRoundHoweverOftenItIsAskedFor)
     EXPECT_EQ(callsOf(children).placed, 40);
 }
 
+TEST_F(Relayout, StartsFromTheStylesOwnWidthEachTime)
+{
+    LayoutNode root;
+    LayoutNode row;
+    row.setOrientation(Qt::Horizontal);
+    LayoutNode first;
+    LayoutNode second;
+    root.addChild(&row);
+    row.addChild(&first);
+    row.addChild(&second);
+    for (const bool isPercent : {false, true}) {
+        isPercent ? first.setWidthPercent(60) : first.setWidth(60);
+        second.setWidth(10);
+        root.calculateLayout(100, 50);
+        first.changeWidth(20);
+        row.relayoutInPlace();
+        EXPECT_EQ(first.layoutWidth(), 20);
+        EXPECT_EQ(second.geometry().left(), 20);
+        root.calculateLayout(100, 50);
+        EXPECT_EQ(first.layoutWidth(), 60);
+        EXPECT_EQ(second.geometry().left(), 60);
+    }
+}
+
+TEST_F(Relayout, LeavesAWidthThatIsSetMeanwhile)
+{
+    LayoutNode root;
+    LayoutNode child;
+    root.addChild(&child);
+    child.setWidth(60);
+    root.calculateLayout(100, 50);
+    child.changeWidth(20);
+    child.setWidth(30);
+    root.calculateLayout(100, 50);
+    EXPECT_EQ(child.layoutWidth(), 30);
+}
+
+TEST_F(Relayout, AppliesAMeasuredWidthOnlyToAnItemThatIsWider)
+{
+    LayoutNode root;
+    LayoutNode wide;
+    LayoutNode narrow;
+    root.addChild(&wide);
+    root.addChild(&narrow);
+    wide.setWidth(60);
+    narrow.setWidth(20);
+    root.calculateLayout(100, 50);
+    wide.changeWidthOnRelayout(40);
+    narrow.changeWidthOnRelayout(40);
+    root.relayoutInPlace();
+    EXPECT_EQ(wide.layoutWidth(), 40);
+    EXPECT_EQ(narrow.layoutWidth(), 20);
+}
+
+// ----- Changes
+
+TEST_F(Relayout, IsOwedAfterAChangeAnywhereBelow)
+{
+    LayoutNode root;
+    LayoutNode box;
+    auto child = std::make_unique<LayoutNode>();
+    root.addChild(&box);
+    box.addChild(child.get());
+    EXPECT_TRUE(root.hasChanged());
+    root.forgetChanges();
+    EXPECT_FALSE(root.hasChanged());
+
+    child->setHeight(10);
+    EXPECT_TRUE(root.hasChanged());
+    root.forgetChanges();
+    child->setHasMeasureFunc(true);
+    root.forgetChanges();
+    child->markDirty();
+    EXPECT_TRUE(root.hasChanged());
+    root.forgetChanges();
+    child.reset();
+    EXPECT_TRUE(root.hasChanged()) << "an item is gone";
+}
+
+TEST_F(Relayout, IsNoChange)
+{
+    LayoutNode root;
+    LayoutNode box;
+    LayoutNode child;
+    root.addChild(&box);
+    box.addChild(&child);
+    root.calculateLayout(100, 50);
+    root.forgetChanges();
+    child.changeWidth(20);
+    box.relayoutInPlace();
+    root.calculateLayout(100, 50);
+    EXPECT_FALSE(root.hasChanged());
+}
+
 struct TreeRow {
     const char* name;
     int depth;

@@ -113,5 +113,28 @@ TEST_F(LayoutPasses, LetTheHeightFollowTheContentWhenItIsModified)
     EXPECT_EQ(card.ui<PlixBubbleUI>({})->size().height(), before + 13);
 }
 
+TEST_F(LayoutPasses, MeasureNothingWhenNothingHasChanged)
+{
+    const TestCard card(bubbleWithBody(box("vertical", "")));
+    Measured item;
+    card.ui<PlixBoxUI>({0})->addChild(&item);
+    Plix_RefreshLayout(card.controller());
+    ASSERT_FALSE(item.widths.empty());
+    item.widths.clear();
+    Plix_RefreshLayout(card.controller());
+    Plix_ModifyHeight(card.controller(), 0);
+    EXPECT_TRUE(item.widths.empty());
+}
+
+TEST_F(LayoutPasses, LetTheCardFollowItsContentWhenItIsRefreshed)
+{
+    const TestCard card(bubbleWithBody(
+        box("vertical", box("vertical", "", R"("height": "20px",)") + "," + text("b"))));
+    const double before = card.ui<PlixBubbleUI>({})->size().height();
+    card.ui<PlixBoxUI>({0, 0})->setHeight(33);
+    Plix_RefreshLayout(card.controller());
+    EXPECT_EQ(card.ui<PlixBubbleUI>({})->size().height(), before + 13);
+}
+
 } // namespace
 } // namespace plix::test

@@ -91,6 +91,25 @@ TEST_F(PictureLayout, SharesARowBetweenFullImages)
         EXPECT_EQ(geometry(*card.item().childItems().value(i)).width(), 100) << i;
 }
 
+TEST_F(PictureLayout, FillsARowInFullWithoutGrowing)
+{
+    const std::string full = sized("image", "full");
+    const PictureCard alone(box("horizontal", full, R"("width": "200px",)"));
+    EXPECT_EQ(geometry(*alone.item().childItems().value(0)), QRectF(0, 0, 200, 200));
+    const PictureCard beside(box("horizontal",
+                                 full + "," + box("vertical", "", R"("width": "60px", "flex": 0,)"),
+                                 R"("width": "200px",)"));
+    EXPECT_EQ(geometry(*beside.item().childItems().value(0)), QRectF(0, 0, 140, 140));
+}
+
+TEST_F(PictureLayout, FillsARowInFullFromAnAbsolutePlace)
+{
+    const PictureCard card(box("horizontal",
+                               component("image", R"("size": "full", "position": "absolute",)"),
+                               R"("width": "200px", "height": "50px",)"));
+    EXPECT_EQ(geometry(*card.item().childItems().value(0)), QRectF(0, 0, 200, 200));
+}
+
 // ----- Proportions
 
 struct RatioRow {
@@ -157,6 +176,25 @@ TEST_F(PictureLayout, LetsAnIconGrowWithoutMakingItsRowHigher)
 {
     const PictureCard card(box("horizontal", component("icon", R"("flex": 1,)")));
     EXPECT_EQ(geometry(card.item()).height(), 16);
+}
+
+TEST_F(PictureLayout, LetsAnImageGrowWithoutMakingItsRowHigher)
+{
+    const std::string small = component("image", R"("size": "xxs",)");
+    for (const char* layout : {"horizontal", "baseline"}) {
+        const PictureCard card(box(layout, small + "," + text("beside")));
+        const QRectF grown = geometry(*card.item().childItems().value(0));
+        EXPECT_GT(grown.width(), 40) << "it shares the row";
+        EXPECT_EQ(grown.height(), 40);
+        EXPECT_LT(geometry(card.item()).height(), 50);
+    }
+}
+
+TEST_F(PictureLayout, KeepsTheHeightOfItsRatioWhileItGrows)
+{
+    const PictureCard card(
+        box("horizontal", component("image", R"("size": "xs", "aspectRatio": "2:1", "flex": 3,)")));
+    EXPECT_EQ(geometry(*card.item().childItems().value(0)), QRectF(0, 0, 300, 30));
 }
 
 TEST_F(PictureLayout, PlacesImagesByMarginsAndOffsets)
