@@ -1,5 +1,6 @@
 #include "ShownLines.h"
 
+#include "ClipPath.h"
 #include "ElidedLine.h"
 #include "EmojiPicture.h"
 #include "HighlightWords.h"
@@ -427,7 +428,7 @@ QPainterPath ShownLines::Line::HighlightedPath() const
     const qreal top = std::floor(rect.top());
     const qreal bottom = std::ceil(rect.bottom());
     for (const auto& [left, right] : highlighted)
-        path.addRect(left, top, right - left, bottom - top);
+        addClipRectangle(path, QRectF(QPointF(left, top), QPointF(right, bottom)));
     return path;
 }
 

@@ -230,13 +230,9 @@ void PlixBoxUI::handleRelease(QGraphicsSceneMouseEvent* event)
         box->handleRelease(event);
 }
 
-QPainterPath PlixBoxUI::OutlinePath(const QStyleOptionGraphicsItem& option) const
+QPainterPath PlixBoxUI::shape() const
 {
-    if (cornerRadius_ >= 1)
-        return RoundedPath(rect(), cornerRadius_);
-    QPainterPath path;
-    path.addRect(option.exposedRect);
-    return path;
+    return RectanglePath(boundingRect());
 }
 
 void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*)
@@ -244,17 +240,43 @@ void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
     if (!background_ && !border_)
         return;
     painter->save();
-    painter->setBrush(background_.value_or(QBrush(Qt::NoBrush)));
-    painter->setPen(border_.value_or(QPen(Qt::NoPen)));
     painter->setRenderHint(QPainter::Antialiasing);
-    const QPainterPath path = OutlinePath(*option);
     if (background_)
-        painter->fillPath(path, *background_);
-    if (border_) {
-        // The straight edges lose the outer half of the pen to the item's clip;
-        // so must the rounded corners.
-        painter->setClipPath(path, Qt::IntersectClip);
-        painter->drawPath(path);
-    }
+        PaintBackground(*painter, option->exposedRect);
+    if (border_)
+        PaintBorder(*painter);
     painter->restore();
+}
+
+void PlixBoxUI::PaintBackground(QPainter& painter, const QRectF& exposed) const
+{
+    const QPainterPath path =
+        cornerRadius_ >= 1 ? RoundedPath(rect(), cornerRadius_) : RectanglePath(exposed);
+    painter.fillPath(path, *background_);
+    // With a border it is filled twice, which makes translucent ones denser.
+    if (border_)
+        painter.fillPath(path, *background_);
+}
+
+// All of it, however little is exposed: the edges of a part are no border.
+void PlixBoxUI::PaintBorder(QPainter& painter) const
+{
+    // The item's clip takes away the outer half of the pen, but not at corners.
+    if (cornerRadius_ >= 1)
+        painter.fillPath(RoundedBorderPath(), border_->brush());
+    else
+        painter.strokePath(RectanglePath(rect()), *border_);
+}
+
+// The inner half of the pen. A clip to the outline would take away the outer
+// half, too, but Qt forgets how soft the edges of a clip are where the part that
+// is painted leaves a rectangle of it.
+QPainterPath PlixBoxUI::RoundedBorderPath() const
+{
+    const double width = border_->widthF() / 2;
+    const QRectF inside = rect().adjusted(width, width, -width, -width);
+    QPainterPath path = RoundedPath(rect(), cornerRadius_);
+    if (inside.isValid())
+        path.addPath(RoundedPath(inside, std::max(cornerRadius_ - width, 0.0)));
+    return path;
 }

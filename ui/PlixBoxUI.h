@@ -33,6 +33,7 @@ public:
     // the event on to the box around it.
     void handleRelease(QGraphicsSceneMouseEvent* event);
 
+    QPainterPath shape() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 protected:
@@ -47,7 +48,9 @@ private:
     void InitPaddings(const PlixDataBox& data);
     void InitPercentSize(const PlixDataBox& data);
     void ApplySpacing(YogaLayoutItem& child);
-    QPainterPath OutlinePath(const QStyleOptionGraphicsItem& option) const;
+    void PaintBackground(QPainter& painter, const QRectF& exposed) const;
+    void PaintBorder(QPainter& painter) const;
+    QPainterPath RoundedBorderPath() const;
 
     bool clickOwnedAbove_ = false;
     bool hasOwnAction_ = false;

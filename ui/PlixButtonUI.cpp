@@ -6,6 +6,7 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataLeaves.h"
 #include "model/PlixDataTree.h"
+#include "ui/PlixRoundedPath.h"
 #include "ui/text/PlixTextFont.h"
 
 #include <kestro_control/KestroControlManager.h>
@@ -196,6 +197,10 @@ void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWi
         painter->setBrush(QBrush(ToColor(plateColor_), Qt::SolidPattern));
         painter->drawRoundedRect(rect(), kPlateRadius, kPlateRadius, Qt::AbsoluteSize);
     }
+    // Labels in large letters are higher than the button. Qt clips them, too, but
+    // not everywhere to the same pixels, and with soft edges as those of the plate.
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setClipPath(RectanglePath(rect()), Qt::IntersectClip);
     painter->setPen(textPen_);
     painter->setFont(font_);
     QTextOption option(Qt::AlignHCenter | Qt::AlignVCenter);

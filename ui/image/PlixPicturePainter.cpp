@@ -1,5 +1,6 @@
 #include "ui/image/PlixPicturePainter.h"
 
+#include "ui/PlixRoundedPath.h"
 #include "ui/image/PlixPicture.h"
 
 #include <QBrush>
@@ -64,9 +65,11 @@ void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area,
     onPicture.scale(mapping.area.width() / image.width(), mapping.area.height() / image.height());
     QBrush brush(image);
     brush.setTransform(onPicture);
+    // A brush goes on beside its picture. The clip has hard edges: Qt forgets how
+    // soft they are where the part that is painted leaves a rectangle of it.
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setClipPath(RectanglePath(mapping.area), Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !mapping.isExact);
-    // A brush goes on beside its picture.
-    painter.setClipRect(mapping.area, Qt::IntersectClip);
     painter.fillPath(outline, brush);
 }

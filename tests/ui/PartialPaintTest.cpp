@@ -1,0 +1,110 @@
+// A view paints parts of a card, and keeps the rest: both show the same pixels.
+#include "ExampleCards.h"
+#include "PaintedCardWriter.h"
+#include "support/LiveView.h"
+#include "support/PlixTest.h"
+
+#include <QRegion>
+
+#include <iterator>
+#include <list>
+#include <random>
+
+namespace plix::test {
+namespace {
+
+constexpr double kScales[] = {1, 1.5, 2};
+const std::list<std::string> kHighlighted {"release", "a", "12"};
+
+// Parts of a window that a view paints again.
+class Parts {
+public:
+    Parts(const QRect& pixels, unsigned seed)
+        : pixels_(pixels)
+        , random_(seed)
+    {
+    }
+
+    // A rectangle, or all that is within two of them.
+    QRegion next()
+    {
+        const bool isOne = random_() % 4 != 0;
+        return isOne ? QRegion(rect()) : QRegion(rect()) + QRegion(rect());
+    }
+
+    // What moves into the window when it is scrolled by nine pixels.
+    QRect strip() { return {pixels_.left(), within(pixels_.height()), pixels_.width(), 9}; }
+
+private:
+    int within(int length) { return static_cast<int>(random_() % static_cast<unsigned>(length)); }
+
+    QRect rect()
+    {
+        const QPoint one(within(pixels_.width()), within(pixels_.height()));
+        const QPoint other(within(pixels_.width()), within(pixels_.height()));
+        return QRect(one, other).normalized();
+    }
+
+    QRect pixels_;
+    std::mt19937 random_;
+};
+
+void expectSamePixels(const QImage& parts, const QImage& whole, const char* when)
+{
+    if (parts == whole)
+        return;
+    const QRect difference = differenceOf(parts, whole);
+    ADD_FAILURE() << when << ": " << difference.x() << ", " << difference.y() << " "
+                  << difference.width() << " x " << difference.height() << " differ";
+}
+
+void expectPartsShowTheWhole(LiveView& view, unsigned seed, const char* when)
+{
+    view.paintAllAgain();
+    const QImage whole = view.shown();
+    Parts parts(view.pixels(), seed);
+    for (int i = 0; i < 4; ++i) {
+        view.paintAgain(parts.next());
+        view.paintAgain(parts.strip());
+    }
+    expectSamePixels(view.shown(), whole, when);
+}
+
+void expectSamePixelsInParts(const std::string& json, double scale, unsigned seed)
+{
+    SCOPED_TRACE(testing::Message() << "scale " << scale);
+    const TestCard card(json, [scale](PlixDataController* controller) {
+        showExamplePictures(controller);
+        Plix_SetDpi(controller, static_cast<float>(scale));
+    });
+    LiveView view(*card.root(), scale);
+    expectPartsShowTheWhole(view, seed, "as it was built");
+    Plix_SetHighLightText(card.controller(), kHighlighted);
+    view.paintWhatChanged();
+    const QImage highlighted = view.shown();
+    expectPartsShowTheWhole(view, seed + 1, "highlighted");
+    expectSamePixels(highlighted, view.shown(), "what the highlight changed");
+}
+
+using PartialPaint = PlixTest;
+
+TEST_F(PartialPaint, ShowsExampleCardsAsAWholePaintDoes)
+{
+    for (const std::string& name : exampleNames()) {
+        SCOPED_TRACE(name);
+        for (const double scale : kScales)
+            expectSamePixelsInParts(exampleCard(name), scale, 7);
+    }
+}
+
+TEST_F(PartialPaint, ShowsGeneratedCardsAsAWholePaintDoes)
+{
+    for (unsigned seed = 0; seed < 60; ++seed) {
+        const std::string json = PaintedCardWriter(seed).card();
+        SCOPED_TRACE(json);
+        expectSamePixelsInParts(json, kScales[seed % std::size(kScales)], seed);
+    }
+}
+
+} // namespace
+} // namespace plix::test
