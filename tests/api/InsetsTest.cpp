@@ -74,6 +74,33 @@ TEST_F(Insets, AZoneKeepsThePaddingItHas)
         EXPECT_EQ(paddings(*built.ui<PlixBoxUI>({i})), std::vector<float>(4, 7)) << i;
 }
 
+TEST_F(Insets, TakeThePlaceOfSinglePaddings)
+{
+    const std::string zone =
+        R"({"type": "box", "layout": "vertical", "paddingTop": "7px", "paddingEnd": "25%"})";
+    const TestCard built(R"({"type": "bubble", "hero": )" + zone + R"(, "body": )" + zone + "}");
+    EXPECT_EQ(paddings(*built.ui<PlixBoxUI>({0})), (std::vector<float> {0, 7, 25, 0}));
+    EXPECT_EQ(paddings(*built.ui<PlixBoxUI>({1})), std::vector<float>(4, 20));
+}
+
+// Its children are there before it gets its insets.
+TEST_F(Insets, AreKeptFreeByAbsoluteChildrenOfAZone)
+{
+    const std::string zone = box("vertical", R"({"type": "box", "position": "absolute"},
+        {"type": "box", "position": "absolute", "offsetTop": "5px", "offsetStart": "6px"})");
+    const TestCard built(R"({"type": "bubble", "size": "mega", "hero": )" + zone + R"(, "body": )"
+                         + zone + R"(, "footer": )" + zone + "}");
+    const auto offsets = [&](int zoneNumber, int child) {
+        const auto* const item = built.ui<PlixBoxUI>({zoneNumber, child});
+        return std::vector<float> {item->positionStart(), item->positionTop(), item->positionEnd(),
+                                   item->positionBottom()};
+    };
+    EXPECT_EQ(offsets(0, 0), std::vector<float>(4, -1));
+    EXPECT_EQ(offsets(1, 0), (std::vector<float> {20, 20, 20, 10}));
+    EXPECT_EQ(offsets(1, 1), (std::vector<float> {6, 5, 20, 10}));
+    EXPECT_EQ(offsets(2, 0), std::vector<float>(4, 10));
+}
+
 TEST_F(Insets, ChildrenOfBoxesGetNone)
 {
     const TestCard built(bubbleWithBody(box("vertical", R"({"type": "box"})")));

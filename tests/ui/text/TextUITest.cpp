@@ -86,6 +86,14 @@ TEST_P(TextSize, FollowsTheWordOfASpan)
     EXPECT_EQ(formatOf(card.item(), 0).font().pixelSize(), GetParam().pixels);
 }
 
+TEST_P(TextSize, FollowsTheWordOfASpanInATextOfAnotherSize)
+{
+    const std::string word = GetParam().size;
+    const OneText card(spans(span("words", property("size", word)), property("size", "5xl")));
+    const int expected = word.empty() ? 74 : GetParam().pixels;
+    EXPECT_EQ(formatOf(card.item(), 0).font().pixelSize(), expected);
+}
+
 INSTANTIATE_TEST_SUITE_P(Words, TextSize,
                          testing::Values(SizeRow {"Xxs", "xxs", 11}, SizeRow {"Xs", "xs", 13},
                                          SizeRow {"Sm", "sm", 14}, SizeRow {"Md", "md", 16},
@@ -286,6 +294,15 @@ INSTANTIATE_TEST_SUITE_P(
         WordsRow {"PlainWithoutADefault", "ko", R"("i18nTexts": {"en": "other"},)", "plain"},
         WordsRow {"PlainWithoutVariants", "ko", "", "plain"}),
     rowName<WordsRow>);
+
+TEST_F(Text, ShowsASpanThatConvertsToNothingAsASpace)
+{
+    // A byte order mark is no character of the text that it stands before.
+    const OneText card(spans(span("a") + "," + span("\\ufeff") + "," + span("b")));
+    EXPECT_EQ(card.item().toPlainText(), QStringLiteral("a b"));
+    const OneText empty(spans(span("a") + "," + span("") + "," + span("b")));
+    EXPECT_EQ(empty.item().toPlainText(), QStringLiteral("ab"));
+}
 
 TEST_F(Text, ShowsItsSpansInOrderInsteadOfItsWords)
 {
