@@ -1,5 +1,6 @@
 #include "EmojiPicture.h"
 
+#include "ScaledPictures.h"
 #include "TextProperty.h"
 
 #include <QFontMetricsF>
@@ -11,8 +12,12 @@
 
 namespace {
 
-// Enough for any text. Larger pictures would be scaled down at every paint.
+// Enough for any text. What is shown larger, the painter scales as far as it is
+// seen.
 constexpr int largestPicture = 256;
+
+// Of all items together: thirty pictures of the largest size.
+constexpr int mostScaledBytes = 8 * 1024 * 1024;
 
 // Of the square that a picture is shown in: as high as a line of its font.
 struct Room {
@@ -32,6 +37,13 @@ constexpr QChar inkless(0x2014);
 
 // Takes no width. A line of nothing but objects would have no descent.
 constexpr QChar strut(0x200B);
+
+ScaledPictures& scaledPictures()
+{
+    // Never destroyed: the application's scene may go last of all.
+    static auto* const pictures = new ScaledPictures(mostScaledBytes);
+    return *pictures;
+}
 
 QImage withinBounds(const QImage& picture)
 {
@@ -90,10 +102,14 @@ void EmojiPicture::Draw(QPainter* painter, const QPointF& start, const QTextChar
 
     const auto picture = format.property(TextProperty::EmojiPicture).value<QImage>();
     const QSize pixels = painter->deviceTransform().mapRect(square).size().toSize();
-    const QImage scaled = picture.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    QRectF place(QPointF(), QSizeF(scaled.size()).scaled(square.size(), Qt::KeepAspectRatio));
+    const bool isOrdinary = pixels.width() <= largestPicture && pixels.height() <= largestPicture;
+    const QImage image = isOrdinary ? scaledPictures().Get(picture, pixels) : picture;
+    QRectF place(QPointF(), QSizeF(image.size()).scaled(square.size(), Qt::KeepAspectRatio));
     place.moveCenter(square.center());
-    painter->drawImage(place, scaled);
+    const bool wasSmooth = painter->testRenderHint(QPainter::SmoothPixmapTransform);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth || !isOrdinary);
+    painter->drawImage(place, image);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth);
 }
 
 qreal EmojiPicture::Width(const QTextCharFormat& format)

@@ -1,0 +1,207 @@
+// Pictures of emoji are scaled once for each size, and to no size that nobody
+// sees at once.
+#include "ScaledPictures.h"
+
+#include <kestro_control/KestroControlManager.h>
+#include <kestro_control/KestroControlSupport.h>
+#include <kestro_control/TextItem.h>
+
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
+
+#include <set>
+#include <vector>
+
+namespace {
+
+constexpr int largestSide = 256;
+
+const QString smile = QStringLiteral("<e code=\"1F600\"/>");
+
+// An application with one picture for all emoji.
+class PictureSupport : public KestroControlSupport {
+public:
+    explicit PictureSupport(const QSize& size)
+        : picture_(size, QImage::Format_ARGB32_Premultiplied)
+    {
+        picture_.fill(Qt::red);
+        KestroControlManager::GetInstance()->SetKestroControlSupport(this);
+    }
+    ~PictureSupport() override
+    {
+        KestroControlManager::GetInstance()->SetKestroControlSupport(nullptr);
+    }
+
+    PictureSupport(const PictureSupport&) = delete;
+    PictureSupport& operator=(const PictureSupport&) = delete;
+
+    QString GetFontFamily() const override { return {}; }
+    QImage GetEmojiImage(const QString&) const override { return picture_; }
+
+private:
+    QImage picture_;
+};
+
+// Remembers the images that it is to draw.
+class ImageRecorder : public QPaintEngine {
+public:
+    ImageRecorder()
+        : QPaintEngine(AllFeatures)
+    {
+    }
+
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState&) override { }
+    void drawPath(const QPainterPath&) override { }
+    void drawPolygon(const QPointF*, int, PolygonDrawMode) override { }
+    void drawTextItem(const QPointF&, const QTextItem&) override { }
+    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override { }
+    void drawImage(const QRectF&, const QImage& image, const QRectF&,
+                   Qt::ImageConversionFlags) override
+    {
+        images.push_back(image);
+    }
+    Type type() const override { return User; }
+
+    std::vector<QImage> images;
+};
+
+class RecordingDevice : public QImage {
+public:
+    RecordingDevice()
+        : QImage(1000, 1000, Format_ARGB32_Premultiplied)
+    {
+    }
+
+    QPaintEngine* paintEngine() const override { return &recorder_; }
+    const std::vector<QImage>& images() const { return recorder_.images; }
+
+    void paint(TextItem& item, double zoom)
+    {
+        QPainter painter(this);
+        painter.scale(zoom, zoom);
+        QStyleOptionGraphicsItem option;
+        option.exposedRect = item.boundingRect();
+        item.paint(&painter, &option, nullptr);
+    }
+
+private:
+    mutable ImageRecorder recorder_;
+};
+
+struct EmojiItem : TextItem {
+    EmojiItem()
+    {
+        SetMarkupEnabled(true);
+        InsertRichText(smile + smile, true);
+    }
+};
+
+// Images that were made at different times have different keys.
+std::set<qint64> keysOf(const std::vector<QImage>& images)
+{
+    std::set<qint64> keys;
+    for (const QImage& image : images)
+        keys.insert(image.cacheKey());
+    return keys;
+}
+
+TEST(EmojiPaint, ScalesNothingWhenItIsRepeated)
+{
+    const PictureSupport support({100, 80});
+    EmojiItem item;
+    EmojiItem other;
+    RecordingDevice device;
+    for (int i = 0; i < 3; ++i) {
+        device.paint(item, 2);
+        device.paint(other, 2);
+    }
+    EXPECT_EQ(device.images().size(), 12u);
+    EXPECT_EQ(keysOf(device.images()).size(), 1u) << "items share what was scaled";
+}
+
+TEST(EmojiPaint, ScalesOnceForEachSize)
+{
+    const PictureSupport support({100, 100});
+    EmojiItem item;
+    RecordingDevice device;
+    for (int i = 0; i < 3; ++i) {
+        for (const double zoom : {1.0, 1.5, 2.0, 3.0})
+            device.paint(item, zoom);
+    }
+    EXPECT_EQ(keysOf(device.images()).size(), 4u);
+}
+
+TEST(EmojiPaint, ScalesToWhatFitsTheLine)
+{
+    const PictureSupport support({100, 50});
+    EmojiItem item;
+    RecordingDevice device;
+    device.paint(item, 3);
+    const int side = static_cast<int>(item.boundingRect().height()) * 3;
+    EXPECT_EQ(device.images().front().size(), QSize(side, side / 2));
+}
+
+TEST(EmojiPaint, MakesNoLargePictureInAnyZoom)
+{
+    const PictureSupport support({4000, 3000});
+    EmojiItem item;
+    for (const double zoom : {10.0, 14.0, 50.0, 200.0, 1e6}) {
+        RecordingDevice device;
+        device.paint(item, zoom);
+        ASSERT_EQ(device.images().size(), 2u);
+        for (const QImage& image : device.images()) {
+            EXPECT_LE(image.width(), largestSide) << zoom;
+            EXPECT_LE(image.height(), largestSide) << zoom;
+        }
+    }
+}
+
+TEST(EmojiPaint, FillsItsPlaceInAnyZoom)
+{
+    const PictureSupport support({60, 60});
+    EmojiItem item;
+    for (const double zoom : {1.0, 12.0, 20.0, 200.0}) {
+        QImage image(40, 40, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        const QPointF middle(item.boundingRect().height() / 2, item.boundingRect().height() / 2);
+        painter.translate(20, 20);
+        painter.scale(zoom, zoom);
+        painter.translate(-middle);
+        item.paint(&painter, nullptr, nullptr);
+        EXPECT_EQ(image.pixelColor(20, 20), QColor(Qt::red)) << zoom;
+        EXPECT_FALSE(painter.testRenderHint(QPainter::SmoothPixmapTransform));
+    }
+}
+
+TEST(ScaledPictures, KeepsABoundedNumberOfBytes)
+{
+    constexpr int mostBytes = 100 * 100 * 4 * 5;
+    ScaledPictures pictures(mostBytes);
+    QImage picture(100, 100, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::red);
+    const qint64 first = pictures.Get(picture, {90, 90}).cacheKey();
+    EXPECT_EQ(pictures.Get(picture, {90, 90}).cacheKey(), first);
+    for (int side = 1; side < 90; ++side) {
+        EXPECT_EQ(pictures.Get(picture, {side, side}).size(), QSize(side, side));
+        EXPECT_LE(pictures.Bytes(), mostBytes);
+    }
+    EXPECT_NE(pictures.Get(picture, {90, 90}).cacheKey(), first) << "it went to make room";
+}
+
+TEST(ScaledPictures, GivesWhatItCannotKeep)
+{
+    ScaledPictures pictures(100);
+    QImage picture(100, 100, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::red);
+    EXPECT_EQ(pictures.Get(picture, {50, 50}).size(), QSize(50, 50));
+    EXPECT_EQ(pictures.Bytes(), 0);
+}
+
+} // namespace
