@@ -1,5 +1,6 @@
 #include "api/PlixDataMgr.h"
 
+#include "api/PlixContain.h"
 #include "api/PlixLog.h"
 #include "layout/YogaLayoutItem.h"
 #include "model/PlixDataBox.h"
@@ -78,22 +79,23 @@ void PlixDataMgr::CreateUI()
 {
     // An earlier item is its host's; what this build yields starts from nothing.
     rootItem_.clear();
-    try {
-        sideInset_ = bubble_->GetSizeSpacing();
-        bodyBottomInset_ = bubble_->GetFooterSpacing();
-        PlixBaseUI* root = CreateUIItem(bubble_, nullptr, nullptr);
-        if (!root)
-            return;
-        rootItem_ = root->GetGraphicsItem()->toGraphicsObject();
-        PlixBubbleUI* bubble = RootBubble();
-        if (!bubble)
-            return;
-        bubble->arrangeZones();
-        AttachToRoot(*bubble);
-        LayOut();
-    } catch (const std::exception& error) {
-        LogFailure("PlixDataMgr::CreateUI", error);
-    }
+    Contain([this] { Build(); }, &LogFailedBuild);
+}
+
+void PlixDataMgr::Build()
+{
+    sideInset_ = bubble_->GetSizeSpacing();
+    bodyBottomInset_ = bubble_->GetFooterSpacing();
+    PlixBaseUI* root = CreateUIItem(bubble_, nullptr, nullptr);
+    if (!root)
+        return;
+    rootItem_ = root->GetGraphicsItem()->toGraphicsObject();
+    PlixBubbleUI* bubble = RootBubble();
+    if (!bubble)
+        return;
+    bubble->arrangeZones();
+    AttachToRoot(*bubble);
+    LayOut();
 }
 
 void PlixDataMgr::AttachToRoot(PlixBubbleUI& bubble)
@@ -154,6 +156,16 @@ PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
     return ui;
 }
 
+PlixBaseUI* PlixDataMgr::CreateChildUI(const std::shared_ptr<PlixDataItem>& data,
+                                       PlixBaseUI& parent)
+{
+    PlixBaseUI* ui = nullptr;
+    Contain(
+        [&] { ui = CreateUIItem(data, parent.GetGraphicsItem(), parent.GetChildParentLayout()); },
+        &LogFailedBuild);
+    return ui;
+}
+
 void PlixDataMgr::CreateZones(const PlixDataBubble& bubble, PlixBaseUI& bubbleUI)
 {
     CreateZone(*bubble.GetHeader(), bubbleUI, sideInset_, sideInset_);
@@ -169,9 +181,7 @@ void PlixDataMgr::CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI
     // list: what is in it may move, and what comes is not built this time.
     const int count = zone.GetChildCount();
     for (int i = 0; i < count; ++i) {
-        const std::shared_ptr<PlixDataItem> data = zone.GetChild(i);
-        PlixBaseUI* ui =
-            CreateUIItem(data, bubbleUI.GetGraphicsItem(), bubbleUI.GetChildParentLayout());
+        PlixBaseUI* ui = CreateChildUI(zone.GetChild(i), bubbleUI);
         if (!ui)
             continue;
         YogaLayoutItem* node = ui->GetYogaItem();
@@ -185,8 +195,7 @@ void PlixDataMgr::CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI
 void PlixDataMgr::CreateBoxChildren(const PlixDataContainer& children, PlixBaseUI& boxUI)
 {
     for (const auto& data : children.GetChildren()) {
-        PlixBaseUI* ui = CreateUIItem(data, boxUI.GetGraphicsItem(), boxUI.GetChildParentLayout());
-        if (ui)
+        if (PlixBaseUI* ui = CreateChildUI(data, boxUI))
             boxUI.GetYogaItem()->addChild(ui->GetYogaItem());
     }
 }

@@ -84,10 +84,14 @@ public:
     void OnBotMention(std::int64_t userNo);
 
 private:
+    void Build();
     // Builds the item of `data` and, below it, of all it holds. Null when its
     // kind is not drawn.
     PlixBaseUI* CreateUIItem(const std::shared_ptr<PlixDataItem>& data, QGraphicsItem* parentItem,
                              QGraphicsLayoutItem* parentLayout);
+    // The same below `parent`. What is thrown meanwhile, as by the host when it
+    // is asked for a font, costs this item only: null, and a log line.
+    PlixBaseUI* CreateChildUI(const std::shared_ptr<PlixDataItem>& data, PlixBaseUI& parent);
     void CreateZones(const PlixDataBubble& bubble, PlixBaseUI& bubbleUI);
     void CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI, double insets,
                     double bottomInset);

@@ -1,5 +1,6 @@
 #include <plix/Plix.h>
 
+#include "api/PlixContain.h"
 #include "api/PlixCurrentLanguage.h"
 #include "api/PlixDataMgr.h"
 #include "api/PlixSettings.h"
@@ -21,25 +22,18 @@ static_assert(sizeof(ST_ACTION) == 17 * sizeof(std::string) + 3 * sizeof(PlixLan
 namespace {
 
 // Runs the body of an export. Whatever is thrown ends here, as `refused`.
-template <typename Result, typename Body> Result Contain(Result refused, Body body) noexcept
+template <typename Result, typename Body> Result ContainOr(Result refused, Body body) noexcept
 {
-    try {
-        return body();
-    } catch (...) {
-        return refused;
-    }
-}
-
-template <typename Body> void Contain(Body body) noexcept
-{
-    Contain(0, [&] { return body(), 0; });
+    Result result = refused;
+    Contain([&] { result = body(); });
+    return result;
 }
 
 // Runs `body` on the manager behind a handle; `refused` when there is none.
 template <typename Result, typename Body>
 Result WithManager(PlixDataController* controller, Result refused, Body body) noexcept
 {
-    return Contain(refused, [&] {
+    return ContainOr(refused, [&] {
         auto* manager = dynamic_cast<PlixDataMgr*>(controller);
         if (!manager)
             return refused;
@@ -58,7 +52,7 @@ template <typename Body> int SetOnManager(PlixDataController* controller, Body b
 
 PlixDataController* PLIX_CALL Plix_CreateController()
 {
-    return Contain<PlixDataController*>(nullptr, [] { return new PlixDataMgr; });
+    return ContainOr<PlixDataController*>(nullptr, [] { return new PlixDataMgr; });
 }
 
 QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller)
@@ -81,7 +75,7 @@ void PLIX_CALL Plix_Free(PlixDataController* controller)
 
 bool PLIX_CALL Plix_HasAction(QGraphicsItem* item)
 {
-    return Contain(false, [&] {
+    return ContainOr(false, [&] {
         auto* ui = dynamic_cast<PlixBaseUI*>(item);
         return ui && ui->HasAction();
     });
@@ -178,7 +172,7 @@ int PLIX_CALL Plix_SetMultiLangGetCallback(PlixMultiLangCallback callback)
 
 int PLIX_CALL Plix_SetKestroControlSupport(KestroControlSupport* support)
 {
-    return Contain(0, [&] {
+    return ContainOr(0, [&] {
         KestroControlManager::GetInstance()->SetKestroControlSupport(support);
         return 0;
     });

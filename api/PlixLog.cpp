@@ -1,16 +1,27 @@
 #include "api/PlixLog.h"
 
+#include "api/PlixLogText.h"
 #include "api/PlixSettings.h"
 
-#include <QString>
+namespace {
 
-void LogFailure(const std::string& operation, const std::exception& error)
+constexpr int kLongestReason = 1000;
+
+} // namespace
+
+void LogFailure(const std::string& operation, const char* reason)
 {
-    LogFailureLine("call " + operation + " failed. ", error);
+    LogFailureLine("call " + operation + " failed. ", reason);
 }
 
-void LogFailureLine(const std::string& prefix, const std::exception& error)
+void LogFailedBuild(const char* reason)
 {
-    const QString line = QString::fromStdString(prefix) + QString::fromUtf8(error.what());
+    LogFailure("PlixDataMgr::CreateUI", reason);
+}
+
+void LogFailureLine(const std::string& prefix, const char* reason)
+{
+    const QString line =
+        QString::fromStdString(prefix) + ToLogText(QString::fromUtf8(reason), kLongestReason);
     PlixSettings::GetInstance().WriteLog(line.toUtf8().constData());
 }

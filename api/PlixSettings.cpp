@@ -1,5 +1,8 @@
 #include "api/PlixSettings.h"
 
+#include "api/PlixContain.h"
+#include "api/PlixLog.h"
+
 PlixSettings& PlixSettings::GetInstance()
 {
     static PlixSettings instance;
@@ -20,13 +23,14 @@ void PlixSettings::WriteLog(const char* text) const noexcept
 {
     if (!logCallback_)
         return;
-    try {
-        logCallback_(text);
-    } catch (...) { // NOLINT(bugprone-empty-catch): there is nobody left to tell
-    }
+    // There is nobody left to tell.
+    Contain([&] { logCallback_(text); });
 }
 
 std::string PlixSettings::GetMultiLangText(const std::string& key) const
 {
-    return multiLangCallback_ ? multiLangCallback_(key.c_str()) : std::string();
+    std::string text;
+    if (multiLangCallback_)
+        Contain([&] { text = multiLangCallback_(key.c_str()); }, &LogFailedBuild);
+    return text;
 }

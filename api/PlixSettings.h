@@ -21,7 +21,8 @@ public:
     // not allowed to disturb the work it is told about.
     void WriteLog(const char* text) const noexcept;
 
-    // The host's wording for `key`, UTF-8; empty without a callback.
+    // The host's wording for `key`, UTF-8; empty without a callback, and when
+    // it throws, for which the build that asks has a log line.
     std::string GetMultiLangText(const std::string& key) const;
 
 private:

@@ -2,6 +2,7 @@
 
 #include "kestro_control/KestroFontBindSupport.h"
 
+#include <exception>
 #include <vector>
 
 KestroControlManager* KestroControlManager::GetInstance()
@@ -24,11 +25,19 @@ KestroControlSupport* KestroControlManager::GetKestroControlSupport() const
 void KestroControlManager::FontFamilyChanged()
 {
     const std::vector<KestroFontBindSupport*> told(items_.begin(), items_.end());
+    std::exception_ptr failure;
     for (KestroFontBindSupport* item : told) {
         // An item that was told before may have deleted this one.
-        if (items_.count(item) > 0 && item->IsUseFontBonding())
+        if (items_.count(item) == 0 || !item->IsUseFontBonding())
+            continue;
+        try {
             item->FontChanged();
+        } catch (...) {
+            failure = std::current_exception();
+        }
     }
+    if (failure)
+        std::rethrow_exception(failure);
 }
 
 void KestroControlManager::Forget(const KestroControlSupport* support)

@@ -1,5 +1,6 @@
 #include "layout/YogaLayoutItem.h"
 
+#include "api/PlixContain.h"
 #include "api/PlixLog.h"
 #include "layout/YogaNodeRegistry.h"
 
@@ -43,15 +44,6 @@ YGNodeRef MakeNode(bool useWebDefaults)
 {
     SilenceDefaultConfig();
     return useWebDefaults ? YGNodeNewWithConfig(WebConfig()) : YGNodeNew();
-}
-
-// Runs what Yoga refuses by throwing.
-template <typename Call> void Quietly(Call call) noexcept
-{
-    try {
-        call();
-    } catch (...) { // NOLINT(bugprone-empty-catch): refused, nothing changed
-    }
 }
 
 // NaN is not.
@@ -145,19 +137,18 @@ void YogaLayoutItem::insertNode(YogaLayoutItem* child, int index)
 
 void YogaLayoutItem::insertChild(YogaLayoutItem* child, int index)
 {
-    Quietly([&] { insertNode(child, index); });
+    Contain([&] { insertNode(child, index); });
 }
 
 void YogaLayoutItem::addChild(YogaLayoutItem* child)
 {
     if (!node_)
         return;
-    try {
-        insertNode(child, childCount());
-    } catch (const std::exception& error) {
-        // The hyphen has always been part of this line; hosts match on it.
-        LogFailureLine("call YogaLayoutItem::AddChild failed.- ", error);
-    }
+    // The hyphen has always been part of this line; hosts match on it.
+    Contain([&] { insertNode(child, childCount()); },
+            [](const char* reason) {
+                LogFailureLine("call YogaLayoutItem::AddChild failed.- ", reason);
+            });
 }
 
 float YogaLayoutItem::layoutWidth() const
@@ -183,7 +174,7 @@ float YogaLayoutItem::baseline(double, double height)
 void YogaLayoutItem::reset()
 {
     if (startChange())
-        Quietly([this] { YGNodeReset(node_); });
+        Contain([this] { YGNodeReset(node_); });
 }
 
 void YogaLayoutItem::applyPaddingToAbsoluteChildren()
@@ -220,7 +211,7 @@ void YogaLayoutItem::applyLayout()
 void YogaLayoutItem::markDirty()
 {
     if (startChange() && YGNodeHasMeasureFunc(node_))
-        Quietly([this] { YGNodeMarkDirty(node_); });
+        Contain([this] { YGNodeMarkDirty(node_); });
 }
 
 void YogaLayoutItem::setClickable(bool) { }
@@ -230,7 +221,7 @@ void YogaLayoutItem::inheritCornerRadius(int) { }
 void YogaLayoutItem::setHasMeasureFunc(bool has)
 {
     if (startChange())
-        Quietly([&] { YGNodeSetMeasureFunc(node_, has ? &MeasureCallback : nullptr); });
+        Contain([&] { YGNodeSetMeasureFunc(node_, has ? &MeasureCallback : nullptr); });
 }
 
 void YogaLayoutItem::setHasBaselineFunc(bool has)
@@ -246,7 +237,7 @@ YGSize YogaLayoutItem::MeasureCallback(YGNodeConstRef node, float width, YGMeasu
     if (!item)
         return {width, height};
     QSizeF size(width, height);
-    Quietly([&] { size = item->measure(width, widthMode, height, heightMode); });
+    Contain([&] { size = item->measure(width, widthMode, height, heightMode); });
     return {AtLeastOne(size.width()), AtLeastOne(size.height())};
 }
 
@@ -255,7 +246,7 @@ float YogaLayoutItem::BaselineCallback(YGNodeConstRef node, float width, float h
     YogaLayoutItem* item = YogaNodeRegistry::GetInstance().Find(node);
     float baseline = height;
     if (item)
-        Quietly([&] { baseline = item->baseline(width, height); });
+        Contain([&] { baseline = item->baseline(width, height); });
     return baseline;
 }
 
@@ -274,7 +265,7 @@ void YogaLayoutItem::calculateLayout()
 
 void YogaLayoutItem::calculateLayout(double width, double height, YGDirection direction)
 {
-    Quietly([&] { YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height), direction); });
+    Contain([&] { YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height), direction); });
 }
 
 void YogaLayoutItem::startPass()

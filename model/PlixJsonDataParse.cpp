@@ -1,5 +1,6 @@
 #include "model/PlixJsonDataParse.h"
 
+#include "api/PlixContain.h"
 #include "api/PlixDataMgr.h"
 #include "api/PlixLog.h"
 #include "model/PlixJsonTables.h"
@@ -9,15 +10,12 @@
 namespace {
 
 // Runs the body of a Parse operation; what it throws ends that operation only.
-template <typename Body> int Guarded(const char* operation, Body body)
+template <typename Body> int RunOperation(const char* operation, Body body)
 {
-    try {
-        body();
-        return 0;
-    } catch (const std::exception& error) {
-        LogFailure(std::string("PlixJsonDataParse::") + operation, error);
-        return -1;
-    }
+    const bool isDone = Contain(body, [operation](const char* reason) {
+        LogFailure(std::string("PlixJsonDataParse::") + operation, reason);
+    });
+    return isDone ? 0 : -1;
 }
 
 // What every component's Parse operation does with its table.
@@ -26,7 +24,8 @@ int ParseComponent(const char* operation, const std::array<PlixJsonKey<Item>, Si
                    PlixJsonDataParse& parse, const Json::Value& node,
                    const std::shared_ptr<PlixDataItem>& item)
 {
-    return Guarded(operation, [&] { ReadKeys(keys, parse, node, dynamic_cast<Item&>(*item)); });
+    return RunOperation(operation,
+                        [&] { ReadKeys(keys, parse, node, dynamic_cast<Item&>(*item)); });
 }
 
 } // namespace
@@ -47,7 +46,7 @@ PlixJsonDataParse::PlixJsonDataParse()
 int PlixJsonDataParse::Parse(const std::string& text, PlixDataMgr& root)
 {
     int result = 0;
-    const int parsed = Guarded("Parse", [&] {
+    const int parsed = RunOperation("Parse", [&] {
         Json::Value node;
         Json::Reader().parse(text, node);
         if (TypeWord(node) != "bubble")
@@ -61,7 +60,7 @@ int PlixJsonDataParse::Parse(const std::string& text, PlixDataMgr& root)
 int PlixJsonDataParse::ParseBubble(const Json::Value& node,
                                    const std::shared_ptr<PlixDataItem>& item)
 {
-    return Guarded("ParseBubble", [&] {
+    return RunOperation("ParseBubble", [&] {
         item->SetIndex(0);
         ReadKeys(kBubbleKeys, *this, node, dynamic_cast<PlixDataBubble&>(*item));
     });
@@ -70,7 +69,7 @@ int PlixJsonDataParse::ParseBubble(const Json::Value& node,
 int PlixJsonDataParse::ParseZone(const PlixJsonMember& zone,
                                  const std::shared_ptr<PlixDataContainer>& container)
 {
-    return Guarded("ParseZone", [&] { AddComponent(RequireObject(zone), 0, *container); });
+    return RunOperation("ParseZone", [&] { AddComponent(RequireObject(zone), 0, *container); });
 }
 
 void PlixJsonDataParse::AddComponent(const Json::Value& node, int index,
@@ -133,15 +132,15 @@ int PlixJsonDataParse::ParseSeparator(const Json::Value& node,
 
 int PlixJsonDataParse::ParseAction(const PlixJsonMember& member, ST_ACTION& action)
 {
-    return Guarded("ParseAction",
-                   [&] { ReadKeys(kActionKeys, *this, RequireObject(member), action); });
+    return RunOperation("ParseAction",
+                        [&] { ReadKeys(kActionKeys, *this, RequireObject(member), action); });
 }
 
 int PlixJsonDataParse::ParseMultiLang(const PlixJsonMember& member, PlixLanguageMap& texts)
 {
-    return Guarded("ParseMultiLang", [&] {
+    return RunOperation("ParseMultiLang", [&] {
         const Json::Value& variants = RequireObject(member);
         for (const std::string& code : variants.getMemberNames())
-            texts.texts[code] = ToString({code.c_str(), variants[code]});
+            texts.texts[code] = ToString({code, variants[code]});
     });
 }

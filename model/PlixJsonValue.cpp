@@ -1,19 +1,15 @@
 #include "model/PlixJsonValue.h"
 
-#include <QString>
+#include "api/PlixLogText.h"
 
 namespace {
 
-// Short enough for a log line, cut between characters.
-std::string Quoted(const std::string& text)
+// Before it becomes part of an exception's text, which ends at a zero byte.
+std::string Quoted(std::string_view text)
 {
     constexpr int kLongest = 40;
-    QString shown = QString::fromStdString(text);
-    if (shown.size() > kLongest) {
-        shown.truncate(shown.at(kLongest - 1).isHighSurrogate() ? kLongest - 1 : kLongest);
-        shown += QStringLiteral("...");
-    }
-    return '"' + shown.toStdString() + '"';
+    const QString all = QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+    return '"' + ToLogText(all, kLongest).toStdString() + '"';
 }
 
 std::string Describe(const Json::Value& value)

@@ -4,11 +4,12 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 // A member of a JSON object that is being read, with its name, so that a
 // complaint about it can say where to look.
 struct PlixJsonMember {
-    const char* name;
+    std::string_view name;
     const Json::Value& value;
 };
 

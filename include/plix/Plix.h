@@ -26,9 +26,14 @@
 //  Exceptions None leaves a function. Failures while a card is read or built
 //             are reported through the log callback.
 //  Callbacks  May do anything: call the functions below, delete the card's
-//             item, free its controller, run an event loop, throw. What a click
-//             or mention callback throws leaves through the Qt event that
-//             caused it; what is thrown while a card is read or built ends here.
+//             item, free its controller, run an event loop, throw.
+//             What a click or mention callback throws, of whatever type, leaves
+//             through the Qt event that caused it, without a log line. What is
+//             thrown while a card is built has a log line and costs the piece
+//             that was asked for: the picture of a download, the wording, or
+//             the item that asked the control support object for its font or
+//             an emoji. Nothing of the host's is called while a card is
+//             painted, so nothing of it can throw there.
 //  Units      Lengths are logical pixels of the graphics scene.
 #ifndef PLIX_PLIX_H
 #define PLIX_PLIX_H
@@ -163,8 +168,11 @@ using PlixBotMentionCallback = void(PLIX_CALL*)(std::int64_t userNo, void* userD
 // "chat_room_check_on_mobile".
 using PlixMultiLangCallback = std::string(PLIX_CALL*)(const char* key);
 
-// One line about a failure: "call CLASS::OPERATION failed. " and the reason.
-// No line end, UTF-8, valid during the call only.
+// One line about a failure: "call CLASS::OPERATION failed. " and the reason,
+// which is empty for an exception that is no std::exception. No line end, UTF-8,
+// valid during the call only. What the reason quotes of a card or of a host's
+// exception is shortened, and shows line ends and invisible characters as "\n"
+// or "\u2028": a card cannot write lines of its own.
 using PlixLogCallback = void(PLIX_CALL*)(const char* text);
 
 extern "C" {
@@ -187,7 +195,8 @@ PLIX_API PlixDataController* PLIX_CALL Plix_CreateController();
 // laid out and follows Plix_ModifyHeight and Plix_RefreshLayout as one would
 // wish, so build once.
 //
-// Returns null when the build failed (logged), or for a bad handle.
+// Returns null when there is not even an empty bubble (logged), and for a bad
+// handle. A piece that cannot be built is logged and left out.
 PLIX_API QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller);
 
 // Destroys the controller, not the graphics item. Accepts null, and any object

@@ -1,6 +1,10 @@
-// Builds that end early: what is said, and that nothing is left behind.
+// What a build says, costs and leaves behind when something is thrown in it.
 #include "support/PlixTest.h"
 #include "ui/text/PlixTextUI.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QGraphicsWidget>
 
 #include <stdexcept>
 
@@ -20,59 +24,100 @@ protected:
     }
     ~FailingBuild() override { Plix_Free(card_); }
 
+    // Builds, and expects a whole card whose second text is this.
+    void expectCardWith(const QString& wording)
+    {
+        const std::unique_ptr<QGraphicsItem> item(Plix_CreateQGraphicsItem(card_));
+        ASSERT_NE(item, nullptr);
+        const QList<QGraphicsItem*> texts = item->childItems().at(0)->childItems();
+        ASSERT_EQ(texts.size(), 2);
+        EXPECT_EQ(dynamic_cast<PlixTextUI&>(*texts[0]).toPlainText(), QStringLiteral("before"));
+        EXPECT_EQ(dynamic_cast<PlixTextUI&>(*texts[1]).toPlainText(), wording);
+    }
+
     PlixDataController* const card_;
 };
 
-TEST_F(FailingBuild, IsLoggedAndGivesNoItem)
+TEST_F(FailingBuild, IsLoggedWithTheReason)
 {
     Plix_SetMultiLangGetCallback(
         [](const char*) -> std::string { throw std::runtime_error("out of words"); });
-    EXPECT_EQ(Plix_CreateQGraphicsItem(card_), nullptr);
+    expectCardWith(QString());
     EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. out of words");
     EXPECT_EQ(pendingLogLines(), 0);
-    EXPECT_EQ(Plix_ModifyHeight(card_, 100), 0);
-    EXPECT_EQ(Plix_SetHighLightText(card_, {"before"}), 0);
-    Plix_RefreshLayout(card_);
 }
 
 TEST_F(FailingBuild, WithoutAReasonIsLoggedAsTheBarePrefix)
 {
     Plix_SetMultiLangGetCallback([](const char*) -> std::string { throw std::runtime_error(""); });
-    EXPECT_EQ(Plix_CreateQGraphicsItem(card_), nullptr);
+    expectCardWith(QString());
     EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. ");
-}
 
-TEST_F(FailingBuild, EndsAtTheBoundaryWhateverIsThrown)
-{
     Plix_SetMultiLangGetCallback([](const char*) -> std::string { throw 5; });
-    QGraphicsItem* item = nullptr;
-    EXPECT_NO_THROW(item = Plix_CreateQGraphicsItem(card_));
-    EXPECT_EQ(item, nullptr);
+    expectCardWith(QString());
+    EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. ");
+    EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(FailingBuild, GivesNoItemEvenAfterOneThatSucceeded)
+TEST_F(FailingBuild, IsLoggedOnOneLine)
 {
-    Plix_SetMultiLangGetCallback([](const char* key) { return std::string(key); });
-    const std::unique_ptr<QGraphicsItem> first(Plix_CreateQGraphicsItem(card_));
-    ASSERT_NE(first, nullptr);
-    Plix_SetMultiLangGetCallback([](const char*) -> std::string { throw std::runtime_error("x"); });
-    EXPECT_EQ(Plix_CreateQGraphicsItem(card_), nullptr);
-    ignoreLog();
+    Plix_SetMultiLangGetCallback([](const char*) -> std::string {
+        throw std::runtime_error("one\ncall PlixDataMgr::CreateUI failed. two");
+    });
+    expectCardWith(QString());
+    EXPECT_EQ(takeLogLine(),
+              "call PlixDataMgr::CreateUI failed. "
+              "one\\ncall PlixDataMgr::CreateUI failed. two");
+    EXPECT_EQ(pendingLogLines(), 0);
 }
 
 TEST_F(FailingBuild, CanBeFollowedByAnother)
 {
     Plix_SetMultiLangGetCallback([](const char*) -> std::string { throw std::runtime_error("x"); });
-    EXPECT_EQ(Plix_CreateQGraphicsItem(card_), nullptr);
+    expectCardWith(QString());
     ignoreLog();
     Plix_SetMultiLangGetCallback([](const char* key) { return std::string(key); });
+    expectCardWith(QStringLiteral("chat_room_check_on_mobile"));
+}
+
+// An application that watches all events, and throws at the first item of a card
+// that gets its size.
+template <typename Thrown> class ThrowingApplication : public QObject {
+public:
+    explicit ThrowingApplication(Thrown thrown)
+        : thrown_(std::move(thrown))
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override
+    {
+        if (event->type() == QEvent::GraphicsSceneResize
+            && qobject_cast<QGraphicsWidget*>(receiver))
+            throw thrown_;
+        return false;
+    }
+
+private:
+    Thrown thrown_;
+};
+
+TEST_F(FailingBuild, GivesTheItemAsFarAsItGot)
+{
+    const ThrowingApplication application(std::runtime_error("the application's"));
     const std::unique_ptr<QGraphicsItem> item(Plix_CreateQGraphicsItem(card_));
-    ASSERT_NE(item, nullptr);
-    EXPECT_EQ(item->boundingRect().width(), 300);
-    const auto* const text =
-        dynamic_cast<PlixTextUI*>(item->childItems().at(0)->childItems().at(1));
-    ASSERT_NE(text, nullptr);
-    EXPECT_EQ(text->toPlainText(), QStringLiteral("chat_room_check_on_mobile"));
+    EXPECT_NE(item, nullptr);
+    EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. the application's");
+    EXPECT_EQ(pendingLogLines(), 0);
+}
+
+TEST_F(FailingBuild, GivesTheItemAsFarAsItGotWhateverIsThrown)
+{
+    const ThrowingApplication application(5);
+    const std::unique_ptr<QGraphicsItem> item(Plix_CreateQGraphicsItem(card_));
+    EXPECT_NE(item, nullptr);
+    EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. ");
+    EXPECT_EQ(pendingLogLines(), 0);
 }
 
 } // namespace

@@ -2,8 +2,6 @@
 
 #include "support/PlixTest.h"
 
-#include <stdexcept>
-
 namespace plix::test {
 namespace {
 
@@ -11,29 +9,46 @@ class PlixLogTest : public PlixTest { };
 
 TEST_F(PlixLogTest, ALineNamesTheOperationAndTheReason)
 {
-    LogFailure("PlixDataMgr::CreateUI", std::runtime_error("the reason"));
+    LogFailure("PlixDataMgr::CreateUI", "the reason");
     EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. the reason");
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
 TEST_F(PlixLogTest, ALineWithoutAReasonIsTheBarePrefix)
 {
-    LogFailure("PlixJsonDataParse::Parse", std::runtime_error(""));
+    LogFailure("PlixJsonDataParse::Parse", "");
     EXPECT_EQ(takeLogLine(), "call PlixJsonDataParse::Parse failed. ");
+    LogFailure("PlixJsonDataParse::Parse", nullptr);
+    EXPECT_EQ(takeLogLine(), "call PlixJsonDataParse::Parse failed. ");
+}
+
+TEST_F(PlixLogTest, AFailedBuildHasALineOfItsOwn)
+{
+    LogFailedBuild("why");
+    EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. why");
 }
 
 TEST_F(PlixLogTest, ABeginningOfItsOwnIsKept)
 {
-    LogFailureLine("call YogaLayoutItem::AddChild failed.- ", std::runtime_error("why"));
+    LogFailureLine("call YogaLayoutItem::AddChild failed.- ", "why");
     EXPECT_EQ(takeLogLine(), "call YogaLayoutItem::AddChild failed.- why");
 }
 
 TEST_F(PlixLogTest, LinesAreUtf8)
 {
-    LogFailure("A::B", std::runtime_error("caf\xC3\xA9 \xF0\x9F\x98\x80"));
+    LogFailure("A::B", "caf\xC3\xA9 \xF0\x9F\x98\x80");
     EXPECT_EQ(takeLogLine(), "call A::B failed. caf\xC3\xA9 \xF0\x9F\x98\x80");
-    LogFailure("A::B", std::runtime_error("\xFF"));
+    LogFailure("A::B", "\xFF");
     EXPECT_EQ(takeLogLine(), "call A::B failed. \xEF\xBF\xBD");
+}
+
+TEST_F(PlixLogTest, WhateverTheReasonALineIsOneLineOfBoundedLength)
+{
+    LogFailure("A::B", "one\ncall C::D failed. two\r\n");
+    EXPECT_EQ(takeLogLine(), "call A::B failed. one\\ncall C::D failed. two\\u000d\\n");
+    EXPECT_EQ(pendingLogLines(), 0);
+    LogFailure("A::B", std::string(1'000'000, 'x').c_str());
+    EXPECT_EQ(takeLogLine(), "call A::B failed. " + std::string(1000, 'x') + "...");
 }
 
 } // namespace

@@ -34,6 +34,16 @@ TEST_F(PlixSettingsTest, WordingsAreEmptyUntilTheHostSetsTheCallback)
     EXPECT_EQ(settings.GetMultiLangText("chat_room_check_on_mobile"), "");
 }
 
+TEST_F(PlixSettingsTest, AWordingThatThrowsIsEmptyAndLogged)
+{
+    Plix_SetMultiLangGetCallback([](const char*) -> std::string { throw std::runtime_error("x"); });
+    EXPECT_EQ(PlixSettings::GetInstance().GetMultiLangText("anything"), "");
+    EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. x");
+    Plix_SetMultiLangGetCallback([](const char*) -> std::string { throw 5; });
+    EXPECT_EQ(PlixSettings::GetInstance().GetMultiLangText("anything"), "");
+    EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. ");
+}
+
 TEST_F(PlixSettingsTest, LogLinesGoOutAsTheyStand)
 {
     PlixSettings::GetInstance().WriteLog("as it is ");

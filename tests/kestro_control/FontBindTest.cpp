@@ -133,6 +133,16 @@ TEST(FontFamilyChange, MayCreateItems)
     EXPECT_EQ(item.changes, 1);
 }
 
+TEST(FontFamilyChange, IsToldToAllWhateverOneThrows)
+{
+    CountingItem items[3];
+    for (CountingItem& item : items)
+        item.reaction = [] { throw 5; };
+    EXPECT_THROW(KestroControlManager::GetInstance()->FontFamilyChanged(), int);
+    for (const CountingItem& item : items)
+        EXPECT_EQ(item.changes, 1);
+}
+
 TEST(FontFamilyChange, MayChangeTheSupport)
 {
     KestroControlManager* const manager = KestroControlManager::GetInstance();

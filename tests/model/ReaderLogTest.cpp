@@ -89,6 +89,39 @@ TEST_F(ReaderLog, WhatIsQuotedFromACardIsShortAndValidText)
     EXPECT_EQ(line.find('\xFF'), std::string::npos);
 }
 
+// Whoever writes the card cannot write lines of the log.
+TEST_F(ReaderLog, WhatIsQuotedFromACardStaysInItsLine)
+{
+    const struct {
+        const char* behaviour;
+        std::string members;
+        const char* operation;
+        const char* reason;
+    } rows[] = {
+        {"a line end in a value", R"("body": {"type": "filler", "flex": "a\ncall b failed. "})",
+         "ParseFiller", R"("flex" must be a whole number, but is the string "a\ncall b failed. ")"},
+        {"a zero byte in a value", R"("body": {"type": "filler", "flex": "a\u0000b"})",
+         "ParseFiller", R"("flex" must be a whole number, but is the string "a\u0000b")"},
+        {"a line end in a language code", R"("action": {"i18nLabels": {"k\no": 5}})",
+         "ParseMultiLang", R"("k\no" must be a string, but is the number 5)"},
+        {"a zero byte in a language code", R"("action": {"i18nLabels": {"k\u0000o": 5}})",
+         "ParseMultiLang", R"("k\u0000o" must be a string, but is the number 5)"},
+        {"text that runs backwards", R"("body": {"type": "filler", "flex": "\u202Eb\u2028"})",
+         "ParseFiller", R"("flex" must be a whole number, but is the string "\u202eb\u2028")"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.behaviour);
+        ReadCard card(R"({"type": "bubble", )" + row.members + "}");
+        EXPECT_EQ(takeLogLine(),
+                  std::string("call PlixJsonDataParse::") + row.operation + " failed. "
+                      + row.reason);
+        EXPECT_EQ(pendingLogLines(), 0);
+    }
+    ReadCard card(R"({"type": "bubble", "action": {"i18nLabels": {")" + std::string(100'000, 'k')
+                  + R"(": 5}}})");
+    EXPECT_LT(takeLogLine().size(), 200U);
+}
+
 // The reader's operations, called one by one.
 TEST_F(ReaderLog, OperationsAnswerZeroWhenDoneAndMinusOneWhenNot)
 {

@@ -1,5 +1,6 @@
 #include "ui/image/PlixPictureUI.h"
 
+#include "api/PlixContain.h"
 #include "api/PlixDataMgr.h"
 #include "api/PlixLog.h"
 #include "layout/PlixStyleValues.h"
@@ -27,14 +28,9 @@ void PlixPictureUI::SetDownloadFunc(const DownloadFunc& func)
 
 void PlixPictureUI::Download(const std::string& url)
 {
-    if (!downloadFunc_)
-        return;
-    try {
-        FileArrived(downloadFunc_(url));
-    } catch (const std::exception& error) {
-        // The host's failure costs this picture, not the card.
-        LogFailure("PlixDataMgr::CreateUI", error);
-    }
+    // The host's failure costs this picture, not the card.
+    if (downloadFunc_)
+        Contain([&] { FileArrived(downloadFunc_(url)); }, &LogFailedBuild);
 }
 
 void PlixPictureUI::FileArrived(const std::string& path)

@@ -28,7 +28,9 @@ public:
 
     // To be called by the application when the support object's font family
     // has changed: calls FontChanged() on every item that follows it. Items may
-    // come and go meanwhile; those that come are not told.
+    // come and go meanwhile; those that come are not told. What an item throws,
+    // as when the support object does, leaves when all are told; of several
+    // exceptions the last.
     void FontFamilyChanged();
 
 private:

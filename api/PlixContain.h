@@ -1,0 +1,25 @@
+#pragma once
+
+#include <exception>
+
+// Runs `body`, whose exceptions of whatever type end here: `report` is called
+// with what the exception says, which is "" when it is no std::exception.
+// Answers whether `body` came to its end.
+template <typename Body, typename Report> bool Contain(Body body, Report report)
+{
+    try {
+        body();
+        return true;
+    } catch (const std::exception& error) {
+        report(error.what());
+    } catch (...) {
+        report("");
+    }
+    return false;
+}
+
+// The same without a report.
+template <typename Body> bool Contain(Body body) noexcept
+{
+    return Contain(body, [](const char*) {});
+}
