@@ -4,8 +4,7 @@
 #include "api/PlixDataMgr.h"
 #include "api/PlixLog.h"
 #include "model/PlixJsonTables.h"
-
-#include <json/reader.h>
+#include "model/PlixJsonText.h"
 
 namespace {
 
@@ -47,8 +46,7 @@ int PlixJsonDataParse::Parse(const std::string& text, PlixDataMgr& root)
 {
     int result = 0;
     const int parsed = RunOperation("Parse", [&] {
-        Json::Value node;
-        Json::Reader().parse(text, node);
+        const Json::Value node = ReadJsonText(text);
         if (TypeWord(node) != "bubble")
             return;
         root.SetMessageType("bubble");

@@ -2,6 +2,8 @@
 
 #include "api/PlixLogText.h"
 
+#include <QLocale>
+
 namespace {
 
 // Before it becomes part of an exception's text, which ends at a zero byte.
@@ -10,6 +12,12 @@ std::string Quoted(std::string_view text)
     constexpr int kLongest = 40;
     const QString all = QString::fromUtf8(text.data(), static_cast<int>(text.size()));
     return '"' + ToLogText(all, kLongest).toStdString() + '"';
+}
+
+// The parser's own conversion asks the locale for the decimal point.
+std::string ToDigits(double number)
+{
+    return QString::number(number, 'g', QLocale::FloatingPointShortest).toStdString();
 }
 
 std::string Describe(const Json::Value& value)
@@ -21,8 +29,9 @@ std::string Describe(const Json::Value& value)
         return value.asBool() ? "true" : "false";
     case Json::intValue:
     case Json::uintValue:
-    case Json::realValue:
         return "the number " + value.asString();
+    case Json::realValue:
+        return "the number " + ToDigits(value.asDouble());
     case Json::stringValue:
         return "the string " + Quoted(value.asString());
     case Json::arrayValue:

@@ -34,6 +34,8 @@
 //             the item that asked the control support object for its font or
 //             an emoji. Nothing of the host's is called while a card is
 //             painted, so nothing of it can throw there.
+//  Locale     Has no say in how a card is read, and is never set: numbers are
+//             read and written alike in every C and C++ locale.
 //  Units      Lengths are logical pixels of the graphics scene.
 #ifndef PLIX_PLIX_H
 #define PLIX_PLIX_H

@@ -1,5 +1,7 @@
 // What counts as a card at all.
+#include "model/PlixDataText.h"
 #include "model/ReadCard.h"
+#include "support/ForeignNumbers.h"
 #include "support/PlixTest.h"
 
 namespace plix::test {
@@ -73,6 +75,34 @@ TEST_F(RootReading, TextBehindTheCardIsIgnored)
     ReadCard card(R"({"type": "bubble", "size": "giga"} trailing)");
     EXPECT_EQ(card.result(), 0);
     EXPECT_EQ(card.bubble().GetSize(), "giga");
+}
+
+TEST_F(RootReading, OfATextThatBeginsAsACardItsBeginningIsRead)
+{
+    for (const char* rest : {"", ", \"footer\": {\"type\": \"te", ", footer}", "]", "]}"}) {
+        SCOPED_TRACE(rest);
+        ReadCard card(R"({"type": "bubble", "size": "giga", "body": {"type": "text", "text": "a"})"
+                      + std::string(rest));
+        EXPECT_EQ(card.result(), 0);
+        EXPECT_EQ(card.manager().GetMessageType(), "bubble");
+        EXPECT_EQ(card.bubble().GetSize(), "giga");
+        ASSERT_EQ(card.bubble().GetBody()->GetChildCount(), 1);
+        EXPECT_EQ(card.body<PlixDataText>()->GetText(), "a");
+        EXPECT_EQ(card.bubble().GetFooter()->GetChildCount(), 0);
+    }
+}
+
+TEST_F(RootReading, NumbersAreReadAlikeWhateverTheHostsLocale)
+{
+    std::string contents = R"({"type": "text", "flex": 2.5})";
+    for (int i = 1; i < 10; ++i)
+        contents += R"(, {"type": "text", "flex": 1.500})";
+    const ForeignNumbers numbers;
+    ReadCard card(R"({"type": "bubble", "body": {"type": "box", "contents": [)" + contents + "]}}");
+    EXPECT_EQ(card.result(), 0);
+    ASSERT_EQ(card.body<PlixDataBox>()->GetContainer()->GetChildCount(), 10);
+    EXPECT_EQ(card.body<PlixDataText>({0})->GetGrow(), 2);
+    EXPECT_EQ(card.body<PlixDataText>({9})->GetGrow(), 1);
 }
 
 TEST_F(RootReading, NestingBeyondTheParsersLimitFails)

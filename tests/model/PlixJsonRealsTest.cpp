@@ -1,0 +1,121 @@
+#include "model/PlixJsonReals.h"
+
+#include <gtest/gtest.h>
+
+#include <json/reader.h>
+
+#include <random>
+
+namespace {
+
+TEST(PlixJsonReals, HaveNoDecimalPoint)
+{
+    const struct {
+        const char* json;
+        const char* rewritten;
+    } rows[] = {
+        {"2.5", "25e-1"},
+        {"-2.5", "-25e-1"},
+        {"0.0", "00e-1"},
+        {"-0.125", "-0125e-3"},
+        {"1.", "1e0"},
+        {"-.5", "-5e-1"},
+        {"2.50e3", "250e1"},
+        {"2.5E+3", "25e2"},
+        {"2.5e-3", "25e-4"},
+        {"1.5e0000000000000000000001", "15e0"},
+        {"[1.5,2.5]", "[15e-1,25e-1]"},
+        {R"({"a":1.5})", R"({"a":15e-1})"},
+        {R"("1.5" : 1.5)", R"("1.5" : 15e-1)"},
+        {R"("\"1.5" : 1.5)", R"("\"1.5" : 15e-1)"},
+        {R"("\\" : 1.5)", R"("\\" : 15e-1)"},
+        {"/* 1.5 */ 1.5", "/* 1.5 */ 15e-1"},
+        {"/*\" 1.5 */ 1.5", "/*\" 1.5 */ 15e-1"},
+        {"/**/1.5/*/1.5*/", "/**/15e-1/*/1.5*/"},
+        {"// 1.5\n1.5", "// 1.5\n15e-1"},
+        {"// 1.5\r1.5", "// 1.5\r15e-1"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(WithoutDecimalPoints(row.json), row.rewritten) << row.json;
+}
+
+TEST(PlixJsonReals, EverythingElseStaysAsItIs)
+{
+    for (const char* json : {"",       " ",       "12",        "-12", "1e5", "25e-1", "-",  "1e",
+                             "\"1.5",  "\"1.5\\", "\"1.5\\\"", "\"",  "/",   "/ ",    "/*", "/*1.5",
+                             "/*1.5*", "//1.5",   "\".\"",     ".",   "...", "a.b"})
+        EXPECT_EQ(WithoutDecimalPoints(json), json);
+    const std::string zeros("1\0.5\0", 5);
+    EXPECT_EQ(WithoutDecimalPoints(zeros), zeros);
+}
+
+// What the parser makes of a text and of what became of it: the value and how
+// far it came.
+std::string understood(const std::string& json)
+{
+    Json::Value value;
+    const bool isComplete = Json::Reader().parse(json, value);
+    return (isComplete ? "all of " : "a part of ") + value.toStyledString();
+}
+
+void expectSameMeaning(const std::string& json)
+{
+    EXPECT_EQ(understood(WithoutDecimalPoints(json)), understood(json)) << json;
+}
+
+TEST(PlixJsonReals, BadNumbersStayBadAtTheSamePlace)
+{
+    for (const char* number : {"1.5e",
+                               "1.5e+",
+                               "1.5e-",
+                               "1.5e+-3",
+                               "1.5e--3",
+                               "1.5.5",
+                               "1.5-3",
+                               "1.5e5.5",
+                               "1.5e5e5",
+                               "-.",
+                               "-.e5",
+                               "-",
+                               "--1.5",
+                               "+1.5",
+                               ".5",
+                               "1.+3",
+                               "1..5",
+                               "1.5x",
+                               "1.5\"a\"",
+                               "1.5e999",
+                               "-1.5e999",
+                               "1.5e99999999999999999999999999",
+                               "1.5e-99999999999999999999999999"})
+        expectSameMeaning(std::string("[1, ") + number + ", 2.5, 3]");
+}
+
+TEST(PlixJsonReals, LongNumbersKeepTheirValue)
+{
+    const std::string zeros(100'000, '0');
+    for (const std::string& number :
+         {"0." + zeros + "1e100001", "1" + zeros + ".5e-100000", "1." + zeros + "e2",
+          "0." + std::string(100'000, '9'), "2." + zeros + "1", "1.5e" + zeros + "2"})
+        expectSameMeaning('[' + number + ']');
+    EXPECT_EQ(WithoutDecimalPoints("1.5e2147483649"), "15e2147483648");
+}
+
+TEST(PlixJsonReals, NoTextChangesItsMeaning)
+{
+    constexpr std::string_view kPieces[] = {
+        "{",  "}",     "[",      "]",   ",",      ":",       "\"",   "\\",   "/",  "*",  "//", "/*",
+        "*/", "\n",    "\r",     " ",   ".",      "-",       "+",    "e",    "E",  "1",  "0",  "25",
+        "a",  "\"a\"", "\"a\":", "1.5", "2.25e2", "-0.5e-3", "true", "null", "1.", "9.9"};
+    std::mt19937 random(7);
+    for (int i = 0; i < 20'000; ++i) {
+        std::string json(random() % 2 == 0 ? "[" : R"({"a": )");
+        for (unsigned length = random() % 12; length > 0; --length)
+            json += kPieces[random() % std::size(kPieces)];
+        expectSameMeaning(json + (random() % 2 == 0 ? "]" : "}"));
+        if (HasFailure())
+            break;
+    }
+}
+
+} // namespace
