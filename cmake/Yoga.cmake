@@ -1,15 +1,20 @@
 # Yoga, the layout engine, as the target `plix_yoga`.
 #
-# An installed `yoga` CMake package is preferred. Otherwise the sources come
-# out of the npm package that carries them, pinned by version and checksum,
-# and are unpacked into build/cache, shared by all presets.
+# The sources come out of the npm package that carries them, pinned by version
+# and checksum, are unpacked into build/cache, shared by all presets, and changed
+# there (yoga/Changes.cmake).
+option(PLIX_SYSTEM_YOGA
+       "Use the installed yoga package, which lacks our changes: a small card may then freeze its host"
+       OFF)
 add_library(plix_yoga INTERFACE)
 
-find_package(yoga CONFIG QUIET)
-if(yoga_FOUND)
+if(PLIX_SYSTEM_YOGA)
+    find_package(yoga CONFIG REQUIRED)
     target_link_libraries(plix_yoga INTERFACE yoga::yogacore)
     return()
 endif()
+
+include(${CMAKE_CURRENT_LIST_DIR}/yoga/Changes.cmake)
 
 set(PLIX_YOGA_PACKAGE react-native)
 set(PLIX_YOGA_VERSION 0.88.1)
@@ -47,14 +52,11 @@ endfunction()
 if(NOT EXISTS ${yoga_dir}/${yoga_subdir}/yoga/Yoga.h OR NOT EXISTS ${yoga_dir}/package/LICENSE)
     plix_fetch_yoga()
 endif()
+plix_change_yoga(${yoga_dir}/${yoga_subdir}/yoga)
 
 add_subdirectory(${yoga_dir}/${yoga_subdir}/yoga ${PROJECT_BINARY_DIR}/yoga EXCLUDE_FROM_ALL SYSTEM)
 # Its own build asks for link-time optimisation and warnings as errors: the one
 # would bring our objects' link to a crawl, the other breaks on new compilers.
 set_target_properties(yogacore PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF)
 target_compile_options(yogacore PRIVATE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX-,-Wno-error>)
-# It recurses through the card: a thousand bytes of stack per level rather than 1,600
-# let the deepest card that the reader takes be laid out on the 1 MB that the
-# main thread of a Windows program has.
-target_compile_options(yogacore PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fconserve-stack>)
 target_link_libraries(plix_yoga INTERFACE yogacore)

@@ -19,31 +19,25 @@ int Silence(YGConfigConstRef, YGNodeConstRef, YGLogLevel, const char*, va_list)
 }
 
 // Yoga logs what it is about to throw; whoever catches that has told already.
-void SilenceDefaultConfig()
+// Configurations of our own: the default one is shared with a host that uses
+// Yoga, too. Nodes may outlive whoever would free them.
+YGConfigRef MakeQuietConfig(bool useWebDefaults)
 {
-    // Yoga's default configuration is a mutable object behind a const handle.
-    static const bool done =
-        (YGConfigSetLogger(const_cast<YGConfigRef>(YGConfigGetDefault()), &Silence), true);
-    Q_UNUSED(done);
-}
-
-// One configuration for all root nodes: they are all alike, and nodes may
-// outlive whoever would free it.
-YGConfigConstRef WebConfig()
-{
-    static YGConfigRef config = [] {
-        YGConfigRef made = YGConfigNew();
-        YGConfigSetUseWebDefaults(made, true);
-        YGConfigSetLogger(made, &Silence);
-        return made;
-    }();
+    YGConfigRef config = YGConfigNew();
+    YGConfigSetUseWebDefaults(config, useWebDefaults);
+    YGConfigSetLogger(config, &Silence);
     return config;
 }
 
 YGNodeRef MakeNode(bool useWebDefaults)
 {
-    SilenceDefaultConfig();
-    return useWebDefaults ? YGNodeNewWithConfig(WebConfig()) : YGNodeNew();
+    static const YGConfigRef webConfig = MakeQuietConfig(true);
+    static const YGConfigRef config = MakeQuietConfig(false);
+    if (useWebDefaults)
+        return YGNodeNewWithConfig(webConfig);
+    YGNodeRef node = YGNodeNew();
+    YGNodeSetConfig(node, config);
+    return node;
 }
 
 // NaN is not.

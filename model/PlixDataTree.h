@@ -18,5 +18,5 @@ bool IsInRow(const PlixDataItem& item);
 bool IsInRightToLeftBubble(const PlixDataItem& item);
 
 // Takes a tree apart so that its items, which hold each other, are freed. No
-// recursion: cards may be nested deeper than a small stack allows.
+// recursion: the host may have little stack left.
 void DiscardDataTree(const std::shared_ptr<PlixDataBubble>& bubble);

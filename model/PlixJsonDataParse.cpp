@@ -6,6 +6,8 @@
 #include "model/PlixJsonTables.h"
 #include "model/PlixJsonText.h"
 
+#include <stdexcept>
+
 namespace {
 
 // Runs the body of a Parse operation; what it throws ends that operation only.
@@ -26,6 +28,22 @@ int ParseComponent(const char* operation, const std::array<PlixJsonKey<Item>, Si
     return RunOperation(operation,
                         [&] { ReadKeys(keys, parse, node, dynamic_cast<Item&>(*item)); });
 }
+
+// Counts one level more for as long as it lives.
+class Level {
+public:
+    explicit Level(int& count)
+        : count_(++count)
+    {
+    }
+    ~Level() { --count_; }
+
+    Level(const Level&) = delete;
+    Level& operator=(const Level&) = delete;
+
+private:
+    int& count_;
+};
 
 } // namespace
 
@@ -85,7 +103,15 @@ void PlixJsonDataParse::AddComponent(const Json::Value& node, int index,
 
 int PlixJsonDataParse::ParseBox(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseBox", kBoxKeys, *this, node, item);
+    return Guarded("ParseBox", [&] {
+        auto& box = dynamic_cast<PlixDataBox&>(*item);
+        const Level level(nestedBoxes_);
+        ReadKeys(kBoxKeys, *this, node, box);
+        if (nestedBoxes_ > kMaxNestedBoxes)
+            throw std::length_error("Boxes are nested deeper than "
+                                    + std::to_string(kMaxNestedBoxes) + " levels.");
+        ReadKeys(kBoxContentsKeys, *this, node, box);
+    });
 }
 
 int PlixJsonDataParse::ParseText(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)

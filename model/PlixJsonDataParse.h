@@ -20,6 +20,10 @@ class PlixDataMgr;
 // that piece only.
 class PlixJsonDataParse {
 public:
+    // So many boxes may be nested in a zone. What a layout costs grows with
+    // their depth, and people write cards of fewer than ten levels.
+    static constexpr int kMaxNestedBoxes = 24;
+
     PlixJsonDataParse();
 
     // Fills the bubble of `root`. A text that is not the JSON of a bubble is
@@ -28,6 +32,7 @@ public:
 
     int ParseBubble(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item);
     int ParseZone(const PlixJsonMember& zone, const std::shared_ptr<PlixDataContainer>& container);
+    // A box that is nested too deeply fails before its "contents".
     int ParseBox(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item);
     int ParseText(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item);
     int ParseImage(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item);
@@ -47,6 +52,8 @@ private:
     using ParseOperation = int (PlixJsonDataParse::*)(const Json::Value& node,
                                                       const std::shared_ptr<PlixDataItem>& item);
 
+    // How many boxes are being read, each in the one before it.
+    int nestedBoxes_ = 0;
     std::map<int, ParseOperation> parseTable_;
     std::shared_ptr<PlixDataItemCreater> creater_;
 };

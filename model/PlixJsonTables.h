@@ -140,13 +140,17 @@ inline constexpr auto kBoxKeys =
              CommonKeys<PlixDataBox>(),
              std::to_array<PlixJsonKey<PlixDataBox>>({
                  ActionKey<PlixDataBox>(),
-                 {"contents", PlixJsonType::Array,
-                  [](PlixJsonDataParse& parse, const PlixJsonMember& member, PlixDataBox& box) {
-                      const Json::Value& contents = RequireArray(member);
-                      for (Json::ArrayIndex i = 0; i < contents.size(); ++i)
-                          parse.AddComponent(contents[i], static_cast<int>(i), *box.GetContainer());
-                  }},
              }));
+
+// Read after the keys of the box itself, and only in a box that may have some.
+inline constexpr auto kBoxContentsKeys = std::to_array<PlixJsonKey<PlixDataBox>>({
+    {"contents", PlixJsonType::Array,
+     [](PlixJsonDataParse& parse, const PlixJsonMember& member, PlixDataBox& box) {
+         const Json::Value& contents = RequireArray(member);
+         for (Json::ArrayIndex i = 0; i < contents.size(); ++i)
+             parse.AddComponent(contents[i], static_cast<int>(i), *box.GetContainer());
+     }},
+});
 
 inline constexpr auto kSpanKeys = std::to_array<PlixJsonKey<PlixDataSpan>>({
     StringKey<PlixDataSpan,

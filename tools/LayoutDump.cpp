@@ -62,8 +62,7 @@ private:
     QByteArray text_;
 };
 
-// Recursive: cards nest a few hundred levels deep at most, because their JSON
-// must not nest deeper than 1024.
+// Recursive: the library nests boxes a few dozen levels deep at most.
 void LayoutWriter::write(const QGraphicsObject& item, int depth)
 {
     text_ += QByteArray(2 * depth, ' ')

@@ -3,6 +3,7 @@
 #include "model/PlixDataBox.h"
 #include "model/PlixDataBubble.h"
 #include "model/PlixItemRegistry.h"
+#include "model/PlixJsonDataParse.h"
 #include "support/PlixTest.h"
 
 #include <QGraphicsScene>
@@ -105,10 +106,11 @@ void* freeController(void* controller)
 
 TEST_F(CardLife, DeeplyNestedDataGoesOnASmallStack)
 {
+    constexpr int kDepth = PlixJsonDataParse::kMaxNestedBoxes;
     PlixDataController* const controller = Plix_CreateController();
-    EXPECT_EQ(Plix_InitData(controller, bubbleWithBody(nested(450))), 0);
+    EXPECT_EQ(Plix_InitData(controller, bubbleWithBody(nested(kDepth))), 0);
     const WeakItems items = dataOf(controller);
-    ASSERT_EQ(items.size(), 452U);
+    ASSERT_EQ(items.size(), kDepth + 2U);
 
     pthread_attr_t attributes;
     ASSERT_EQ(pthread_attr_init(&attributes), 0);

@@ -194,6 +194,18 @@ TEST_F(LayoutTree, KeepsYogaFromPrinting)
     ignoreLog();
 }
 
+TEST_F(LayoutTree, LeavesWhatYogaSaysOfAHostsNodesToTheHost)
+{
+    const YogaLayoutItem item(false);
+    YGNodeRef parent = YGNodeNew();
+    YGNodeRef child = YGNodeNew();
+    YGNodeInsertChild(parent, child, 0);
+    testing::internal::CaptureStderr();
+    EXPECT_ANY_THROW(YGNodeInsertChild(parent, child, 1));
+    EXPECT_NE(testing::internal::GetCapturedStderr(), "");
+    YGNodeFreeRecursive(parent);
+}
+
 TEST_F(LayoutTree, LaysChildrenOutInAColumn)
 {
     LayoutNode root;

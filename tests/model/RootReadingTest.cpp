@@ -123,17 +123,6 @@ TEST_F(RootReading, AnUnclosedTowerOfBracketsFails)
     expectOneLogLine("Parse");
 }
 
-TEST_F(RootReading, DeepNestingWithinTheLimitIsRead)
-{
-    constexpr int kDepth = 400;
-    std::string contents = R"({"type": "filler"})";
-    for (int i = 0; i < kDepth; ++i)
-        contents = R"({"type": "box", "contents": [)" + contents + "]}";
-    ReadCard card(R"({"type": "bubble", "body": )" + contents + "}");
-    EXPECT_EQ(card.result(), 0);
-    EXPECT_EQ(card.body<PlixDataItem>(std::vector<int>(kDepth, 0))->GetType(), 8);
-}
-
 TEST_F(RootReading, ASecondMessageIsReadOnTopOfTheFirst)
 {
     ReadCard card(R"({"type": "bubble", "size": "giga", "direction": "rtl",

@@ -1,9 +1,28 @@
 #include "support/LayoutNode.h"
 
 namespace plix::test {
+namespace {
+
+int silence(YGConfigConstRef, YGNodeConstRef, YGLogLevel, const char*, va_list)
+{
+    return 0;
+}
+
+// Yoga prints what it refuses; tests make it refuse much.
+YGNodeRef makeQuietNode()
+{
+    static const YGConfigRef config = [] {
+        YGConfigRef made = YGConfigNew();
+        YGConfigSetLogger(made, &silence);
+        return made;
+    }();
+    return YGNodeNewWithConfig(config);
+}
+
+} // namespace
 
 LayoutNode::LayoutNode()
-    : LayoutNode(YGNodeNew())
+    : LayoutNode(makeQuietNode())
 {
 }
 

@@ -179,17 +179,26 @@ QByteArray nestedBoxes(int depth)
     return R"({"type": "bubble", "body": )" + card + "}";
 }
 
-TEST(CardNesting, OfAFewHundredBoxesIsDrawnAndDumped)
+TEST(CardNesting, IsDrawnAndDumpedAsDeepAsItIsRead)
+{
+    const ToolFolder folder;
+    folder.write("card.json", nestedBoxes(20));
+    const ToolResult layout = folder.run(layOut);
+    EXPECT_EQ(layout.exitCode, 0);
+    EXPECT_EQ(layout.errors, "");
+    EXPECT_EQ(countOf(layout.output, "PlixBoxUI"), 20);
+    EXPECT_TRUE(contains(layout.output, "down here"));
+}
+
+TEST(CardNesting, OfAFewHundredBoxesIsAWarning)
 {
     const ToolFolder folder;
     folder.write("card.json", nestedBoxes(480));
-    const ToolResult layout = folder.run(layOut);
-    EXPECT_EQ(layout.exitCode, 0);
-    EXPECT_EQ(countOf(layout.output, "PlixBoxUI"), 480);
-    EXPECT_TRUE(contains(layout.output, "down here"));
-
     const ToolResult render = folder.run({"render", "card.json", "-o", "out.png"});
     EXPECT_EQ(render.exitCode, 0);
+    EXPECT_TRUE(render.errors.starts_with("card.json: warning: ")) << render.errors;
+    EXPECT_TRUE(contains(render.errors, "nested deeper than")) << render.errors;
+    EXPECT_EQ(countOf(render.errors, "\n"), 1);
     EXPECT_TRUE(folder.contains("out.png"));
 }
 

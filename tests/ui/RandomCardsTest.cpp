@@ -1,6 +1,7 @@
 // Cards that nobody meant: whatever they say, they are shown somehow.
 #include "CardTree.h"
 #include "layout/YogaLayoutItem.h"
+#include "model/PlixJsonDataParse.h"
 #include "support/PlixTest.h"
 
 #include <QGraphicsScene>
@@ -265,9 +266,14 @@ TEST_F(ExtremeCard, MayBeNestedDeeply)
 {
     for (const char* layout : {"vertical", "horizontal", "baseline"}) {
         std::string json = text("deep", R"("wrap": true,)");
-        for (int level = 0; level < 450; ++level)
-            json = box(layout, json, level % 50 == 0 ? R"("paddingAll": "1px",)" : "");
+        for (int level = 0; level < 450; ++level) {
+            json = box(layout, json, level % 5 == 0 ? R"("paddingAll": "1px",)" : "");
+            if (level + 1 == PlixJsonDataParse::kMaxNestedBoxes)
+                useCard(bubbleWithBody(json), true, true);
+        }
+        EXPECT_EQ(pendingLogLines(), 0);
         useCard(bubbleWithBody(json), true, true);
+        EXPECT_EQ(takeLogLine().rfind("call PlixJsonDataParse::ParseBox failed. ", 0), 0U);
     }
 }
 

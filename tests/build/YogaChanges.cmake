@@ -1,0 +1,46 @@
+# A source is changed once, also when it was unpacked by an older build, and only
+# where it is what the changes were made for.
+#
+# Runs itself with FILE and OLD for each change.
+include(${SOURCE}/cmake/yoga/Changes.cmake)
+
+if(DEFINED FILE)
+    plix_change(${FILE} "${OLD}" "size = ${NEW};")
+    return()
+endif()
+
+set(file ${SCRATCH}/source.h)
+
+# change(OLD NEW): RESULT is 0 if that went well.
+macro(change old new)
+    execute_process(
+        COMMAND ${CMAKE_COMMAND} -DSOURCE=${SOURCE} -DFILE=${file} "-DOLD=${old}" -DNEW=${new}
+                -P ${CMAKE_CURRENT_LIST_FILE}
+        RESULT_VARIABLE RESULT OUTPUT_QUIET ERROR_QUIET)
+endmacro()
+
+function(expect_text wanted)
+    file(READ ${file} text)
+    if(NOT text STREQUAL wanted)
+        message(SEND_ERROR "expected \"${wanted}\", found \"${text}\"")
+    endif()
+endfunction()
+
+set(unpacked "int a[2];\n\tint size = 8; // \\ ; [\nint b;\n")
+file(REMOVE_RECURSE ${SCRATCH})
+file(WRITE ${file} "${unpacked}")
+
+foreach(new IN ITEMS 16 16 64)
+    change("size = 8;" ${new})
+    if(RESULT)
+        message(SEND_ERROR "the change to ${new} failed")
+    endif()
+    expect_text("int a[2];\n\tint size = ${new}; // \\ ; [\nint b;\n")
+endforeach()
+
+foreach(old IN ITEMS "size = 9;" "int ")
+    change("${old}" 16)
+    if(NOT RESULT)
+        message(SEND_ERROR "\"${old}\", which is not there exactly once, was changed")
+    endif()
+endforeach()
