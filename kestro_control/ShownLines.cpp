@@ -9,6 +9,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QGlyphRun>
 #include <QPainter>
+#include <QRawFont>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -319,6 +320,14 @@ void ShownLines::Draw(QPainter* painter, const QRectF& exposed, const QBrush& hi
     }
 }
 
+bool ShownLines::HasInkOutside(qreal width) const
+{
+    return std::any_of(lines_.begin(), lines_.end(), [width](const Line& line) {
+        const QRectF ink = line.Ink();
+        return ink.left() < 0 || ink.right() > width;
+    });
+}
+
 std::vector<QRectF> ShownLines::GlyphRects(int start, int end) const
 {
     std::vector<QRectF> rects;
@@ -388,6 +397,19 @@ void ShownLines::Line::AddGlyphRects(int start, int end, std::vector<QRectF>& re
     // Of one direction each, so that they are where the text is seen.
     for (const QGlyphRun& run : line.glyphRuns(first - layoutStart, last - first))
         rects.push_back(run.boundingRect().translated(origin));
+}
+
+QRectF ShownLines::Line::Ink() const
+{
+    QRectF ink = rect;
+    for (const QGlyphRun& run : line.glyphRuns()) {
+        const QRawFont font = run.rawFont();
+        const QVector<quint32> glyphs = run.glyphIndexes();
+        const QVector<QPointF> positions = run.positions();
+        for (int i = 0; i < glyphs.size(); ++i)
+            ink |= font.boundingRect(glyphs[i]).translated(positions[i] + origin);
+    }
+    return ink;
 }
 
 // Pictures have no glyphs, but the struts behind them have.

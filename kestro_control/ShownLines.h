@@ -43,6 +43,10 @@ public:
     // Replaces the earlier highlight.
     void Highlight(const QTextDocument& document, const HighlightWords& words);
 
+    // Whether glyphs leave ink left of 0 or right of `width`: slanted ones do, and
+    // those of lines that are too wide.
+    bool HasInkOutside(qreal width) const;
+
     // Draws the lines that may leave ink in `exposed`, and what is highlighted
     // on a ground of `highlight`.
     void Draw(QPainter* painter, const QRectF& exposed, const QBrush& highlight) const;
@@ -69,6 +73,8 @@ private:
         int Start() const;
         int End() const;
 
+        // As far as its glyphs leave ink, and the line itself.
+        QRectF Ink() const;
         void AddGlyphRects(int start, int end, std::vector<QRectF>& rects) const;
         void AddPictureRects(const FormatRanges& pictures, int start, int end,
                              std::vector<QRectF>& rects) const;

@@ -1,5 +1,6 @@
 #include "kestro_control/TextItem.h"
 
+#include "ClipPath.h"
 #include "DisplayBudget.h"
 #include "EmojiPicture.h"
 #include "HighlightWords.h"
@@ -56,6 +57,16 @@ qreal documentWidth(qreal width)
     return width == 0 ? naturalWidth : width;
 }
 
+// All between the left and the right edge of an item, in whole pixels.
+QPainterPath sidesOf(const QRectF& rect)
+{
+    QPainterPath path;
+    addClipRectangle(
+        path,
+        QRectF(0, rect.top() - farAway, std::ceil(rect.width()), rect.height() + 2 * farAway));
+    return path;
+}
+
 bool isWrapMode(QTextOption::WrapMode mode)
 {
     switch (mode) {
@@ -94,6 +105,9 @@ public:
 
     const ShownLines& ShownHighlighted();
 
+    // Whether what is shown has to be cut at the left and right edges.
+    bool IsCutAtSides();
+
     std::optional<Mention> MentionAt(const QPointF& point);
 
     void Press(QGraphicsSceneMouseEvent* event);
@@ -131,6 +145,7 @@ private:
     TextItem& item_;
     ShownLines shown_;
     bool isShownValid_ = false;
+    std::optional<bool> isCutAtSides_;
     std::optional<MentionAreas> mentions_;
     QPointer<QAbstractTextDocumentLayout> watchedLayout_;
 
@@ -284,6 +299,14 @@ const ShownLines& TextItem::Private::ShownHighlighted()
     return shown_;
 }
 
+// A clip costs as much as half of a text's lines, and few texts need one.
+bool TextItem::Private::IsCutAtSides()
+{
+    if (!isCutAtSides_)
+        isCutAtSides_ = Shown().HasInkOutside(std::ceil(item_.boundingRect().width()));
+    return *isCutAtSides_;
+}
+
 std::optional<Mention> TextItem::Private::MentionAt(const QPointF& point)
 {
     if (!hasMentions || !readOnly)
@@ -363,6 +386,7 @@ void TextItem::Private::Invalidate()
     item_.prepareGeometryChange();
     isShownValid_ = false;
     shown_ = ShownLines();
+    isCutAtSides_.reset();
     mentions_.reset();
     SetHandShown(false);
     item_.update();
@@ -640,10 +664,8 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
         return;
     painter->save();
     painter->setPen(private_->textColor);
-    // What stands beside the text belongs to others.
-    painter->setClipRect(
-        QRectF(0, rect.top() - farAway, std::ceil(rect.width()), rect.height() + 2 * farAway),
-        Qt::IntersectClip);
+    if (private_->IsCutAtSides())
+        painter->setClipPath(sidesOf(rect), Qt::IntersectClip);
     const bool isPart = option && option->exposedRect.isValid();
     private_->ShownHighlighted().Draw(painter, isPart ? option->exposedRect : rect,
                                       private_->highlightBrush);

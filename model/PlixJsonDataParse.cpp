@@ -103,7 +103,7 @@ void PlixJsonDataParse::AddComponent(const Json::Value& node, int index,
 
 int PlixJsonDataParse::ParseBox(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
 {
-    return Guarded("ParseBox", [&] {
+    return RunOperation("ParseBox", [&] {
         auto& box = dynamic_cast<PlixDataBox&>(*item);
         const Level level(nestedBoxes_);
         ReadKeys(kBoxKeys, *this, node, box);
