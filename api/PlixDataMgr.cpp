@@ -138,11 +138,11 @@ PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
     std::unique_ptr<QGraphicsItem> unfinished(ui->GetGraphicsItem());
     ui->SetOwner(this);
     ui->SetClickFunc([watch = Watch()](ST_ACTION& action) {
-        if (const auto manager = watch.lock())
+        if (PlixDataMgr* manager = watch.get())
             manager->OnClick(action);
     });
     ui->SetDownloadFunc([watch = Watch()](const std::string& url) {
-        const auto manager = watch.lock();
+        PlixDataMgr* manager = watch.get();
         return manager ? manager->DownloadFile(url) : std::string();
     });
     ui->SetFrom(from_);
@@ -218,16 +218,19 @@ int PlixDataMgr::ModifyHeight(int height)
 
 void PlixDataMgr::RefreshLayout()
 {
-    const PlixBubbleUI* bubble = RootBubble();
-    if (!bubble || !rootLayout_)
+    if (!RootBubble() || !rootLayout_)
         return;
-    const bool isUpToDate = !rootLayout_->hasChanged()
-        && bubble->size() == bubble->YogaLayoutItem::geometry().size();
-    if (isUpToDate)
-        return;
-    if (rootLayout_->hasChanged())
+    const bool isNew = rootLayout_->hasChanged();
+    if (isNew)
         LayOut();
-    rootLayout_->calculateLayout(bubble->size().width(), bubble->size().height());
+    // Whoever was told of the layout may have deleted the item.
+    const PlixBubbleUI* bubble = RootBubble();
+    if (!bubble)
+        return;
+    const QSizeF size = bubble->size();
+    if (!isNew && size == bubble->YogaLayoutItem::geometry().size())
+        return;
+    rootLayout_->calculateLayout(size.width(), size.height());
     rootLayout_->applyLayoutRecursive();
     rootLayout_->forgetChanges();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "layout/PlixLink.h"
+
 #include <plix/Plix.h>
 
 #include <QGraphicsObject>
@@ -49,7 +51,7 @@ public:
     void Free();
 
     // How those who may outlive the controller refer to it.
-    std::weak_ptr<PlixDataMgr> Watch() const { return self_; }
+    PlixLink<PlixDataMgr> Watch() const { return PlixLink<PlixDataMgr>(self_); }
 
     int InitData(const std::string& json);
     void CreateUI();
@@ -102,8 +104,7 @@ private:
     void LayOut();
     PlixBubbleUI* RootBubble() const;
 
-    // Owns nothing: it is there to expire.
-    std::shared_ptr<PlixDataMgr> self_;
+    std::shared_ptr<PlixDataMgr> self_; // owns nothing
     int uses_ = 0;
     bool freeAfterUse_ = false;
     std::string messageType_;

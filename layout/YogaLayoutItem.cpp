@@ -10,6 +10,7 @@
 #include <cmath>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -90,7 +91,8 @@ YogaLayoutItem::YogaLayoutItem(bool useWebDefaults)
 }
 
 YogaLayoutItem::YogaLayoutItem(YGNodeRef node)
-    : node_(node)
+    : self_(this, [](YogaLayoutItem*) {})
+    , node_(node)
 {
     if (!node_)
         return;
@@ -309,28 +311,38 @@ void YogaLayoutItem::applyLayoutRecursive()
 
 void YogaLayoutItem::place(Round round)
 {
+    const PlixLink<YogaLayoutItem> self = watch();
     pass_.isSettled = round == Round::Second;
     isPlaced_ = true;
     applyLayout();
-    forEachChild([this](const YogaLayoutItem& child) {
-        if (child.isWiderThanPending())
-            setRelayoutPending();
-    });
-    placeChildren(round);
+    if (self.get())
+        placeChildren(round);
     // A child's placement has computed this subtree again, under those that
     // had been placed before it. They follow, once. Second rounds do not nest:
     // nested, each level of a card would double the work of the level below.
-    if (pass_.isRelaidOut) {
+    if (self.get() && pass_.isRelaidOut) {
         pass_.isSettled = true;
         placeChildren(Round::Second);
     }
+    if (!self.get())
+        return;
     pass_.isRelaidOut = false;
     pass_.isSettled = false;
 }
 
 void YogaLayoutItem::placeChildren(Round round)
 {
-    forEachChild([round](YogaLayoutItem& child) { child.place(round); });
+    std::vector<PlixLink<YogaLayoutItem>> children;
+    forEachChild([&](const YogaLayoutItem& child) {
+        children.push_back(child.watch());
+        if (child.isWiderThanPending())
+            setRelayoutPending();
+    });
+    // This item may go meanwhile.
+    for (const PlixLink<YogaLayoutItem>& link : children) {
+        if (YogaLayoutItem* child = link.get())
+            child->place(round);
+    }
 }
 
 void YogaLayoutItem::changeWidth(double width)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "layout/PlixLink.h"
+
 #include <QMarginsF>
 #include <QPointF>
 #include <QRectF>
@@ -9,6 +11,7 @@
 
 #include <yoga/Yoga.h>
 
+#include <memory>
 #include <optional>
 
 class QGraphicsLayoutItem;
@@ -29,6 +32,9 @@ public:
 
     YogaLayoutItem(const YogaLayoutItem&) = delete;
     YogaLayoutItem& operator=(const YogaLayoutItem&) = delete;
+
+    // How those refer to it who may outlive it.
+    PlixLink<YogaLayoutItem> watch() const { return PlixLink<YogaLayoutItem>(self_); }
 
     virtual void setOrientation(Qt::Orientation orientation);
     virtual Qt::Orientation orientation() const;
@@ -144,6 +150,8 @@ public:
 
     void calculateLayout(double width, double height);
     void calculateLayout();
+    // Places this item and all below it. Who is told of it may delete any of
+    // them, or lay out again.
     void applyLayoutRecursive();
 
     // A width for the rest of this layout, and the relayout mark for the parent.
@@ -232,6 +240,7 @@ private:
     void applyPendingWidth();
     template <typename Visit> void forEachChild(Visit visit) const;
 
+    std::shared_ptr<YogaLayoutItem> self_; // owns nothing
     YGNodeRef node_ = nullptr;
     QGraphicsLayoutItem* geometryTarget_ = nullptr;
     bool widthIsPercent_ = false;

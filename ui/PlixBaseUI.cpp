@@ -74,12 +74,12 @@ void PlixBaseUI::SetOwner(PlixDataController* owner)
 {
     owner_ = owner;
     const auto* manager = dynamic_cast<const PlixDataMgr*>(owner);
-    manager_ = manager ? manager->Watch() : std::weak_ptr<PlixDataMgr>();
+    manager_ = manager ? manager->Watch() : PlixLink<PlixDataMgr>();
 }
 
 PlixDataMgr* PlixBaseUI::Manager() const
 {
-    return manager_.lock().get();
+    return manager_.get();
 }
 
 bool PlixBaseUI::HasAction()

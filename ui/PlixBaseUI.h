@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/PlixLink.h"
 #include "model/PlixItemRegistry.h"
 
 #include <plix/Plix.h>
@@ -92,5 +93,5 @@ private:
     std::shared_ptr<PlixDataItem> FindDataItem();
 
     PlixDataController* owner_ = nullptr;
-    std::weak_ptr<PlixDataMgr> manager_;
+    PlixLink<PlixDataMgr> manager_;
 };

@@ -72,7 +72,7 @@ void PlixBubbleUI::arrangeZones()
         if (items == 0)
             continue;
         if (zone.container.get() == body)
-            bodyItem_ = childAt(index);
+            bodyItem_ = childAt(index)->watch();
         FillBackground(index, zone.style);
         if (zone.container.get() != header && zone.style.separator && index > 0) {
             InsertSeparator(index, zone.style);
@@ -128,9 +128,10 @@ int PlixBubbleUI::modifyHeight(int height)
     const double current = size().height();
     if (current >= height)
         return 0;
-    if (!bodyItem_)
+    YogaLayoutItem* const body = bodyItem_.get();
+    if (!body)
         return -1;
-    bodyItem_->setHeight(height - current + std::trunc(bodyItem_->layoutHeight()));
+    body->setHeight(height - current + std::trunc(body->layoutHeight()));
     return 0;
 }
 

@@ -4,7 +4,6 @@
 
 #include <QBrush>
 
-#include <memory>
 #include <string>
 
 class PlixDataContainer;
@@ -32,7 +31,8 @@ public:
     void resumeBackgroundColor();
 
     // Grows the body until the card is `height` pixels high, from the next
-    // layout on. 0 when done or already high enough, -1 without a body.
+    // layout on. 0 when done or already high enough, -1 without a body, as
+    // when the host has deleted its item.
     int modifyHeight(int height);
 
     QPainterPath shape() const override;
@@ -46,6 +46,6 @@ private:
     void InsertSeparator(int index, const PlixZoneStyle& style);
 
     QBrush background_;
-    YogaLayoutItem* bodyItem_ = nullptr;
+    PlixLink<YogaLayoutItem> bodyItem_;
     int from_ = 0;
 };

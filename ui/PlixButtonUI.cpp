@@ -18,6 +18,8 @@
 #include <QPainter>
 #include <QTextOption>
 
+#include <utility>
+
 namespace {
 
 constexpr int kSmallHeight = 40;
@@ -211,12 +213,12 @@ void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWi
 
 void PlixButtonUI::setGeometry(const QRectF& rect)
 {
-    PlixWidgetUI::setGeometry(rect);
-    if (!geometryPending_)
-        return;
-    geometryPending_ = false;
-    if (const YogaLayoutItem* parent = YogaLayoutItem::parentItem())
+    const bool isFirst = std::exchange(geometryPending_, false);
+    const YogaLayoutItem* parent = YogaLayoutItem::parentItem();
+    if (isFirst && parent)
         ResolvePercentOffsets({parent->layoutWidth(), parent->layoutHeight()});
+    // Last: who is told of it may delete the button.
+    PlixWidgetUI::setGeometry(rect);
 }
 
 void PlixButtonUI::mousePressEvent(QGraphicsSceneMouseEvent* event)

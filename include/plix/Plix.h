@@ -26,7 +26,8 @@
 //  Exceptions None leaves a function. Failures while a card is read or built
 //             are reported through the log callback.
 //  Callbacks  May do anything: call the functions below, delete the card's
-//             item, free its controller, run an event loop, throw.
+//             item, free its controller, run an event loop, throw. The same
+//             holds for slots on the geometryChanged() of a card's items.
 //             What a click or mention callback throws, of whatever type, leaves
 //             through the Qt event that caused it, without a log line. What is
 //             thrown while a card is built has a log line and costs the piece
@@ -231,7 +232,8 @@ PLIX_API int PLIX_CALL Plix_InitSetFrom(PlixDataController* controller, int from
 
 // Makes the card at least `height` pixels high by growing its body, and lays
 // it out again. Returns 0 when done or already high enough, -1 when the card
-// has no body to grow; 0 before the card is built and for a bad handle.
+// has no body to grow, as when its item was deleted; 0 before the card is built and for a bad
+// handle.
 PLIX_API int PLIX_CALL Plix_ModifyHeight(PlixDataController* controller, int height);
 
 // Lays the card out again at its current size, for example after a font

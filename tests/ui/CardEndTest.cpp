@@ -75,6 +75,16 @@ TEST_F(CardEnd, MayTakeAPartOfTheCard)
     Plix_Free(controller);
 }
 
+TEST_F(CardEnd, MayTakeTheBodyThatGrows)
+{
+    delete root->childItems()[1];
+    EXPECT_EQ(Plix_ModifyHeight(controller, 900), -1);
+    Plix_RefreshLayout(controller);
+    EXPECT_EQ(Plix_ModifyHeight(controller, 0), 0);
+    delete root;
+    Plix_Free(controller);
+}
+
 TEST_F(CardEnd, MayTakeTheControllerOfACardThatWasNeverRead)
 {
     PlixDataController* const empty = Plix_CreateController();

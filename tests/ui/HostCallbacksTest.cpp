@@ -122,6 +122,14 @@ const std::vector<Deed>& deeds()
     static const std::vector<Deed> rows = {
         {"DeletesTheItem", [](Desk& desk) { desk.card.deleteItem(); }, {}, true, false},
         {"FreesTheController", [](Desk& desk) { desk.card.free(); }, {}, false, true},
+        {"FreesTheControllerAndClicksTheSameItem",
+         [](Desk& desk) {
+             desk.card.free();
+             desk.view.click(desk.clicked);
+         },
+         {},
+         false,
+         true},
         {"DeletesTheItemAndFrees",
          [](Desk& desk) {
              desk.card.deleteItem();

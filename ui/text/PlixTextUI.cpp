@@ -403,7 +403,6 @@ void PlixTextUI::setGeometry(const QRectF& rect)
     const double missing = std::max(0.0, lineHeight - given.height());
     const QRectF clipped = ClippedToParent(given).adjusted(0, -missing * 0.5, 0, 0);
     topOffset_ = -missing * 0.5;
-    setPos(given.left(), given.top() + topOffset_);
 
     const double shown = boundingRect().width();
     if (shown > given.width()) {
@@ -426,6 +425,8 @@ void PlixTextUI::setGeometry(const QRectF& rect)
         markDirty();
         parent->relayoutInPlace();
     }
+    // Last: who is told of it may delete the text.
+    setPos(given.left(), given.top() + topOffset_);
 }
 
 void PlixTextUI::PlaceVertically(double available)
