@@ -13,8 +13,12 @@ namespace {
 
 QStringList render(const QString& scale)
 {
-    return {QStringLiteral("plix"), QStringLiteral("render"), QStringLiteral("card.json"),
-            QStringLiteral("-o"),   QStringLiteral("a.png"),  QStringLiteral("--scale"),
+    return {QStringLiteral("plix"),
+            QStringLiteral("render"),
+            QStringLiteral("card.json"),
+            QStringLiteral("-o"),
+            QStringLiteral("a.png"),
+            QStringLiteral("--scale"),
             scale};
 }
 

@@ -16,11 +16,10 @@ std::string card()
     return bubbleWithBody(
         box("vertical",
             box("horizontal",
-                text("one", R"("flex": 2.5,)") + "," + text("two", R"("flex": 1.0,)")
-                    + "," + component("filler", R"("flex": 0.9,)"))
+                text("one", R"("flex": 2.5,)") + "," + text("two", R"("flex": 1.0,)") + ","
+                    + component("filler", R"("flex": 0.9,)"))
                 + "," + text("many words on lines", R"("wrap": 1.5, "maxLines": 2.25e0,)") + ","
-                + component("image",
-                            R"("size": "md", "aspectRatio": "1.5:1.000", "flex": 1234.5,)")
+                + component("image", R"("size": "md", "aspectRatio": "1.5:1.000", "flex": 1234.5,)")
                 + "," + box("vertical", "", R"("width": "33%", "height": "1000px",)") + ","
                 + text("last", R"("unknown": [1.5, -1e300, 12345678.125],)")));
 }
@@ -50,8 +49,9 @@ TEST_F(Locale, ChangesNothingAboutComplaints)
 {
     const ForeignNumbers numbers;
     const TestCard built(bubbleWithBody(text("a", R"("margin": 12345.5,)")));
-    EXPECT_EQ(takeLogLine(), "call PlixJsonDataParse::ParseText failed. "
-                             R"("margin" must be a string, but is the number 12345.5)");
+    EXPECT_EQ(takeLogLine(),
+              "call PlixJsonDataParse::ParseText failed. "
+              R"("margin" must be a string, but is the number 12345.5)");
 }
 
 TEST_F(Locale, ChangesNothingAboutStyleValues)
