@@ -32,8 +32,8 @@ YGConfigRef MakeQuietConfig(bool useWebDefaults)
 
 YGNodeRef MakeNode(bool useWebDefaults)
 {
-    static const YGConfigRef webConfig = MakeQuietConfig(true);
-    static const YGConfigRef config = MakeQuietConfig(false);
+    static YGConfigRef webConfig = MakeQuietConfig(true);
+    static YGConfigRef config = MakeQuietConfig(false);
     if (useWebDefaults)
         return YGNodeNewWithConfig(webConfig);
     YGNodeRef node = YGNodeNew();

@@ -3,10 +3,10 @@
 # Yoga measures a box several times to lay it out once, and so do the boxes
 # inside it. What keeps that from doubling at each level is what a node
 # remembers: the last 8 measurements. Rows and columns in turn ask for more, and
-# then each level measures the one below again and again: 30 levels with a text
+# then each level measures the one below again and again: 32 levels with a text
 # each took 40 seconds. Cards are strangers' work, so:
 #
-# - a node remembers 32 measurements, 24 bytes each. More would hardly be used
+# - a node remembers 64 measurements, 24 bytes each. More would hardly be used
 #   before the limit that follows;
 # - a layout has a limit of visits, as no number of measurements is enough for
 #   every card: cmake/yoga/VisitLimit.h.
@@ -58,7 +58,7 @@ endfunction()
 function(plix_change_yoga sources)
     plix_change(${sources}/node/LayoutResults.h
         "MaxCachedMeasurements = 8;"
-        "MaxCachedMeasurements = 32;")
+        "MaxCachedMeasurements = 64;")
     plix_change(${sources}/event/event.h
         [[      measureCallbackReasonsCount;
 ]]

@@ -1,5 +1,5 @@
 // Added by Plix, not part of Yoga: the end of a layout that would go on for
-// minutes. cmake/Yoga.cmake puts it into Yoga's sources.
+// minutes. cmake/yoga/Changes.cmake puts it into Yoga's sources.
 //
 // A box may ask each of its children twice how large it wants to be, and under
 // two different constraints. In rows and columns in turn, the second doubles
@@ -14,15 +14,16 @@
 #include <yoga/node/Node.h>
 #include <yoga/numeric/Comparison.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <tuple>
 
 namespace facebook::yoga::plix {
 
-// Each node is still visited a few times after the limit: measured once if it
-// never was, and laid out.
-constexpr int MaxVisitsPerNode = 36;
+// After the limit, each node is still visited a few times: measured if nothing
+// answers for it, and laid out.
+constexpr int MaxVisitsPerNode = 28;
 
 inline int countNodes(const Node& node) {
   int count = 1;
@@ -46,31 +47,52 @@ struct Offer {
   SizingMode mode;
   float size;
 
-  // How far an earlier one is from this. Not comparable is the farthest.
+  // A side that is given says nothing about how large the content would be.
+  bool isGiven() const {
+    return mode == SizingMode::StretchFit;
+  }
+
+  // How far an earlier one is from this. Another mode is the farthest.
   float distance(const Offer& earlier) const {
     if (mode != earlier.mode) {
       return std::numeric_limits<float>::infinity();
     }
     return isDefined(size) ? std::abs(size - earlier.size) : 0;
   }
+
+  float answer(float margin, float nearest) const {
+    if (isGiven()) {
+      return size - margin;
+    }
+    return mode == SizingMode::FitContent ? std::min(nearest, size - margin)
+                                          : nearest;
+  }
 };
 
-inline const CachedMeasurement& nearestMeasurement(
+// Null if no side may be answered from what the node remembers.
+inline const CachedMeasurement* nearestMeasurement(
     const LayoutResults& layout,
     const Offer& width,
     const Offer& height) {
-  const auto distance = [&](const CachedMeasurement& earlier) {
-    return std::tuple(
-        width.distance({earlier.widthSizingMode, earlier.availableWidth}),
-        height.distance({earlier.heightSizingMode, earlier.availableHeight}));
-  };
-  const CachedMeasurement* nearest = &layout.cachedMeasurements[0];
-  for (uint32_t i = 1; i < layout.nextCachedMeasurementsIndex; i++) {
-    if (distance(layout.cachedMeasurements[i]) < distance(*nearest)) {
-      nearest = &layout.cachedMeasurements[i];
+  const CachedMeasurement* nearest = nullptr;
+  std::tuple<float, float> nearestDistance;
+  for (uint32_t i = 0; i < layout.nextCachedMeasurementsIndex; i++) {
+    const CachedMeasurement& earlier = layout.cachedMeasurements[i];
+    const Offer earlierWidth{earlier.widthSizingMode, earlier.availableWidth};
+    const Offer earlierHeight{
+        earlier.heightSizingMode, earlier.availableHeight};
+    if (earlierWidth.isGiven() != width.isGiven() ||
+        earlierHeight.isGiven() != height.isGiven()) {
+      continue;
+    }
+    const std::tuple distance{
+        width.distance(earlierWidth), height.distance(earlierHeight)};
+    if (nearest == nullptr || distance < nearestDistance) {
+      nearest = &earlier;
+      nearestDistance = distance;
     }
   }
-  return *nearest;
+  return nearest;
 }
 
 // Sets the measured size of a node that is not to be measured again. Answers
@@ -81,22 +103,22 @@ inline bool measureFromNearest(
     const Offer& height,
     float ownerWidth,
     LayoutData& data) {
-  const LayoutResults& layout = node.getLayout();
-  if (visits(data) < data.visitLimit ||
-      layout.nextCachedMeasurementsIndex == 0) {
+  if (visits(data) < data.visitLimit) {
     return false;
   }
-  const CachedMeasurement& nearest = nearestMeasurement(layout, width, height);
-  const auto measured = [&](const Offer& offer, FlexDirection axis, float size) {
-    return offer.mode == SizingMode::StretchFit
-        ? offer.size - node.style().computeMarginForAxis(axis, ownerWidth)
-        : size;
+  const CachedMeasurement* nearest =
+      nearestMeasurement(node.getLayout(), width, height);
+  if (nearest == nullptr) {
+    return false;
+  }
+  const auto margin = [&](FlexDirection axis) {
+    return node.style().computeMarginForAxis(axis, ownerWidth);
   };
   node.setLayoutMeasuredDimension(
-      measured(width, FlexDirection::Row, nearest.computedWidth),
+      width.answer(margin(FlexDirection::Row), nearest->computedWidth),
       Dimension::Width);
   node.setLayoutMeasuredDimension(
-      measured(height, FlexDirection::Column, nearest.computedHeight),
+      height.answer(margin(FlexDirection::Column), nearest->computedHeight),
       Dimension::Height);
   data.cachedMeasures += 1;
   return true;

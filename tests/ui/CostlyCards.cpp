@@ -62,6 +62,30 @@ std::string inBox(const CostlyLevel& level, const std::string& inner, int width)
     return box(level.layout, contents, level.members);
 }
 
+// What a search for the costliest cards has found.
+std::vector<CostlyCard> foundCards()
+{
+    const std::string line = text("a");
+    const std::string wrapped = text("a", R"("wrap": true, "maxLines": 2, )");
+    const std::string filler = component("filler");
+    const std::string image = component("image");
+    const std::string separator = component("separator");
+    const std::string beside = text("words that fill more than one line of most boxes", kAbsolute);
+    return {
+        {"BaselineWithImages",
+         {{"vertical", R"("flex": 3, )", {wrapped, separator}, {}},
+          {"baseline", "", {line, image}, {}}}},
+        {"PaddedWithFillers",
+         {{"horizontal", R"("offsetStart": "58%", )", {wrapped}, {filler, line, beside, wrapped}},
+          {"vertical", R"("paddingAll": "4px", "paddingStart": "2%", )", {}, {beside}},
+          {"horizontal", "", {}, {filler, wrapped, line, beside}},
+          {"vertical", R"("paddingAll": "4px", )", {}, {beside, separator, wrapped}}}},
+        {"SpacedWithImages",
+         {{"horizontal", "", {}, {line}},
+          {"vertical", R"("spacing": "7px", )", {}, {line, image, line, wrapped}}}},
+    };
+}
+
 class RandomLevels {
 public:
     explicit RandomLevels(unsigned seed)
@@ -144,7 +168,7 @@ std::string CostlyCard::largestJson(int depth) const
 
 std::vector<CostlyCard> costlyCards()
 {
-    std::vector<CostlyCard> cards;
+    std::vector<CostlyCard> cards = foundCards();
     for (const Words& turns : kTurns)
         for (const Named& neighbour : kNeighbours)
             for (const Named& width : kWidths)

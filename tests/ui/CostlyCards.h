@@ -27,7 +27,8 @@ struct CostlyCard {
     std::string largestJson(int depth) const;
 };
 
-// Every direction that turns, with each kind of neighbours, widths and places.
+// The costliest ones that were found, and every direction that turns, with each
+// kind of neighbours, widths and places.
 std::vector<CostlyCard> costlyCards();
 
 // Up to five levels of anything, the same for the same seed.
