@@ -326,6 +326,18 @@ TEST(ElisionOfWideLines, DoesNotCountTrailingSpaces)
     }
 }
 
+TEST(ElisionOfWideLines, HappensWhenHalfAPixelIsMissing)
+{
+    for (const char* text : {"one", "one word more", "שלום"}) {
+        const QString words = QString::fromUtf8(text);
+        ElidedItem item(words, naturalWidth(words));
+        item.SetWrapMode(QTextOption::NoWrap);
+        EXPECT_FALSE(item.IsElided()) << text;
+        item.SetFixedItemWidth(naturalWidth(words) - 0.5);
+        EXPECT_TRUE(item.IsElided()) << text;
+    }
+}
+
 TEST(ElisionOfWideLines, RespectsTheMarginsOfTheFrame)
 {
     ElidedItem item(QStringLiteral("aaaaaaaaaa"), 100, 1);

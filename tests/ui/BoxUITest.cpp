@@ -175,6 +175,19 @@ TEST_F(Box, TakesNothingForAChild)
     EXPECT_EQ(column.childCount(), 0);
 }
 
+TEST_F(Box, HasARowInABaselineRowStandOnItsTextsToo)
+{
+    const std::string texts =
+        text("low", R"("size": "xxs",)") + "," + text("high", R"("size": "xxl",)");
+    const BoxInBox card(box("horizontal", texts), "baseline");
+    EXPECT_EQ(YGNodeStyleGetAlignItems(card.node()), YGAlignBaseline);
+    EXPECT_GT(card.inner().childAt(0)->geometry().top(), card.inner().childAt(1)->geometry().top());
+    for (const char* outer : {"vertical", "horizontal"}) {
+        const BoxInBox other(box("horizontal", texts), outer);
+        EXPECT_EQ(YGNodeStyleGetAlignItems(other.node()), YGAlignStretch) << outer;
+    }
+}
+
 struct GrowRow {
     const char* name;
     const char* layout; // of the box itself
@@ -228,6 +241,19 @@ INSTANTIATE_TEST_SUITE_P(
                  1, YGUnitPercent, 30}),
     rowName<GrowRow>);
 
+TEST_F(Box, KeepsItsWidthAnywhereInAnAbsoluteBox)
+{
+    const std::string row = box("horizontal", text("a"), R"("flex": 1,)");
+    const std::string absolute = R"("position": "absolute",)";
+    YGUnit unit = YGUnitUndefined;
+    const BoxInBox child(box("horizontal", row, absolute));
+    child.ui<PlixBoxUI>({0, 0, 0})->styleWidth(unit);
+    EXPECT_EQ(unit, YGUnitAuto);
+    const BoxInBox below(box("horizontal", box("horizontal", row), absolute));
+    below.ui<PlixBoxUI>({0, 0, 0, 0})->styleWidth(unit);
+    EXPECT_EQ(unit, YGUnitAuto);
+}
+
 TEST_F(Box, DoesNotGrowByDefaultInAColumn)
 {
     EXPECT_EQ(BoxInBox(box("vertical", text("a"))).inner().growFactor(), 0);
@@ -255,6 +281,16 @@ TEST_F(Box, HasTheSizeThatItIsGiven)
     EXPECT_EQ(percent.ui<PlixBoxUI>({0, 0, 0})->size(), QSizeF(50, 30));
     EXPECT_TRUE(percent.ui<PlixBoxUI>({0, 0, 0})->widthIsPercent());
     EXPECT_FALSE(percent.inner().widthIsPercent());
+}
+
+TEST_F(Box, MayBeGivenNoHeightAtAll)
+{
+    for (const char* height : {"0", "0px"}) {
+        const std::string member = std::string(R"("height": ")") + height + "\",";
+        const BoxInBox card(box("vertical", text("a"), member));
+        EXPECT_EQ(card.inner().size().height(), 0) << height;
+        EXPECT_EQ(YGNodeStyleGetHeight(card.node()).unit, YGUnitPoint) << height;
+    }
 }
 
 TEST_F(Box, IgnoresNegativeSizes)

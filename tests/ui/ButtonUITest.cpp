@@ -1,6 +1,7 @@
 // Buttons: their wording, look, size and place.
 #include "ui/PlixButtonUI.h"
 
+#include "support/LayoutNode.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
 
@@ -345,6 +346,17 @@ INSTANTIATE_TEST_SUITE_P(Words, ButtonGravity,
                                          GravityRow {"Unknown", "middle", 0},
                                          GravityRow {"Empty", "", 0}),
                          [](const auto& row) { return std::string(row.param.name); });
+
+// Such a box is laid out as a column, but its buttons count it as a row.
+TEST_F(Button, HasItsGravityAlsoInABoxOfAnUnknownLayout)
+{
+    for (const char* layout : {"diagonal", "", "Vertical"}) {
+        const TestCard card(inBox(labelled("a", R"("gravity": "center",)"), layout));
+        const YGNodeRef node = nodeOf(*card.ui<PlixButtonUI>({0, 0}));
+        EXPECT_EQ(YGNodeStyleGetAlignSelf(node), YGAlignCenter) << layout;
+        EXPECT_EQ(YGNodeStyleGetJustifyContent(node), YGJustifyFlexStart) << layout;
+    }
+}
 
 TEST_F(Button, SharesARowByItsGrowFactor)
 {

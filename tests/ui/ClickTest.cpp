@@ -3,9 +3,11 @@
 
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
+#include "ui/PlixBoxUI.h"
 #include "ui/PlixBubbleUI.h"
 
 #include <QGraphicsRectItem>
+#include <QGraphicsSceneMouseEvent>
 
 namespace plix::test {
 namespace {
@@ -33,6 +35,24 @@ TEST_F(Click, OnABoxWithoutAnActionGoesToTheNextBoxThatHasOne)
     click(*card.root(), {30, 30});
     click(*card.root(), card.item({0, 0, 0, 0})->sceneBoundingRect().center());
     EXPECT_EQ(host.arrived, (Arrived {"around", "around"}));
+}
+
+// Boxes without an action do not take presses, so no mouse gets here.
+TEST_F(Click, OnABoxWithoutAnActionIsHandedOnWhenItComesToTheBox)
+{
+    ClickHost host;
+    const TestCard card(
+        bubbleWithBody(
+            box("vertical", box("vertical", box("horizontal", "", kSize)), uriAction("around"))),
+        host.setUp());
+    auto* const inner = card.ui<PlixBoxUI>({0, 0, 0});
+    QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMouseRelease);
+    event.setButton(Qt::LeftButton);
+    const QPointF at = card.item({0})->sceneBoundingRect().center();
+    event.setScenePos(at);
+    event.setButtonDownScenePos(Qt::LeftButton, at);
+    inner->handleRelease(&event);
+    EXPECT_EQ(host.arrived, Arrived {"around"});
 }
 
 TEST_F(Click, IsTakenByTheInnermostBoxWithAnAction)

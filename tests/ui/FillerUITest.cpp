@@ -57,6 +57,19 @@ INSTANTIATE_TEST_SUITE_P(
 
 using Filler = PlixTest;
 
+TEST_F(Filler, CollapsesAtAFlexOfZeroOnly)
+{
+    const std::string filler = component("filler", R"("flex": -1,)");
+    const TestCard column(bubbleWithBody(box("vertical", filler)));
+    const YGNodeRef inColumn = nodeOf(*column.ui<PlixFillerUI>({0, 0}));
+    EXPECT_EQ(points(YGNodeStyleGetWidth(inColumn)), 5);
+    EXPECT_EQ(points(YGNodeStyleGetHeight(inColumn)), -1);
+    const TestCard row(bubbleWithBody(box("horizontal", filler)));
+    const YGNodeRef inRow = nodeOf(*row.ui<PlixFillerUI>({0, 0}));
+    EXPECT_EQ(points(YGNodeStyleGetWidth(inRow)), -1);
+    EXPECT_EQ(points(YGNodeStyleGetHeight(inRow)), 5);
+}
+
 TEST_F(Filler, PushesWhatFollowsToTheEnd)
 {
     const std::string block =

@@ -92,6 +92,14 @@ TEST_F(LayoutPasses, KeepTheSizeOfTheCardWhenItIsRefreshed)
     EXPECT_EQ(card.ui<PlixBubbleUI>({})->size(), size);
 }
 
+TEST_F(LayoutPasses, OfferTheHeightThatTheCardHasWhenItIsRefreshed)
+{
+    const TestCard card(bubbleWithBody(box("vertical", "", R"("height": "50%",)")));
+    card.ui<PlixBubbleUI>({})->resize(300, 400);
+    Plix_RefreshLayout(card.controller());
+    EXPECT_EQ(card.ui<PlixBoxUI>({0})->size().height(), 200);
+}
+
 TEST_F(LayoutPasses, TakeUpAChangeWhenTheCardIsRefreshed)
 {
     const TestCard card(bubbleWithBody(

@@ -1,4 +1,5 @@
 // Where the files of pictures come from.
+#include "support/LiveView.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
 #include "ui/image/PlixPictureUI.h"
@@ -47,6 +48,26 @@ TEST_F(PictureDownload, AsksTheHostOnceForEachPicture)
     card.paint();
     card.paint();
     EXPECT_EQ(card.asked().size(), 4U);
+}
+
+TEST_F(PictureDownload, ShowsAPictureThatArrivesLateInAViewThatIsOpen)
+{
+    const PictureFolder folder;
+    const std::string red = folder.write("a.png", redPicture());
+    const std::string blue = folder.write("b.png", bluePicture());
+    const TestCard card(bubbleWithBody(box("vertical", image("a"))));
+    QGraphicsItem& item = *card.item({0, 0});
+    LiveView view(*card.root());
+    const QPoint middle = view.pixelsOf(item.sceneBoundingRect()).center().toPoint();
+    const auto shownAfter = [&](const std::string& path) {
+        tellOfFile(item, path);
+        view.paintWhatChanged();
+        return view.shown().pixelColor(middle);
+    };
+    const QColor ground = view.shown().pixelColor(middle);
+    EXPECT_EQ(shownAfter(red), QColor(Qt::red));
+    EXPECT_EQ(shownAfter(blue), QColor(Qt::blue));
+    EXPECT_EQ(shownAfter({}), ground);
 }
 
 TEST_F(PictureDownload, TellsWhichFileIsShown)

@@ -2,6 +2,7 @@
 #include "support/Picture.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
+#include "ui/image/PlixPicturePainter.h"
 #include "ui/image/PlixPictureUI.h"
 
 #include <QPainter>
@@ -327,6 +328,35 @@ TEST_F(PicturePaint, SurvivesAnyFactor)
         EXPECT_NE(card.at(50, 50), kGround) << dpi;
     }
 }
+
+struct TargetRow {
+    const char* name;
+    QSizeF area;
+    double dpi;
+    QSize pixels;
+
+    friend std::ostream& operator<<(std::ostream& out, const TargetRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class PictureTarget : public testing::TestWithParam<TargetRow> { };
+
+TEST_P(PictureTarget, HasTheWholePixelsThatFitIntoTheArea)
+{
+    const PlixPictureTarget target({QPointF(3, 4), GetParam().area}, GetParam().dpi);
+    EXPECT_EQ(target.size(), GetParam().pixels);
+    EXPECT_EQ(target.area(), QRectF(QPointF(3, 4), QSizeF(GetParam().pixels) / GetParam().dpi));
+}
+
+INSTANTIATE_TEST_SUITE_P(Areas, PictureTarget,
+                         testing::Values(TargetRow {"Whole", {40, 30}, 1, {40, 30}},
+                                         TargetRow {"AlmostOneMore", {40.9, 30.75}, 1, {40, 30}},
+                                         TargetRow {"Halves", {33, 21}, 1.5, {49, 31}},
+                                         TargetRow {"Quarters", {33, 23}, 1.25, {41, 28}},
+                                         TargetRow {"LessThanAPixel", {0.9, 30}, 1, {0, 30}}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 // ----- What is kept
 
