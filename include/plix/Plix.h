@@ -232,12 +232,14 @@ PLIX_API int PLIX_CALL Plix_InitSetFrom(PlixDataController* controller, int from
 
 // Makes the card at least `height` pixels high by growing its body, and lays
 // it out again. Returns 0 when done or already high enough, -1 when the card
-// has no body to grow, as when its item was deleted; 0 before the card is built and for a bad
-// handle.
+// has no body to grow, as when its item was deleted; 0 before the card is built
+// and for a bad handle.
 PLIX_API int PLIX_CALL Plix_ModifyHeight(PlixDataController* controller, int height);
 
-// Lays the card out again at its current size, for example after a font
-// change. Does nothing before the card is built or for a bad handle.
+// Lays the card out again, for example after a change of the font family: it
+// then looks like a new card, and may have another height. Changes nothing when
+// nothing has changed. A root item that the host has resized is laid out in that
+// size. Does nothing before the card is built or for a bad handle.
 PLIX_API void PLIX_CALL Plix_RefreshLayout(PlixDataController* controller);
 
 // Drops the colour of Plix_SetBubbleBkColor. Returns 0.

@@ -1,0 +1,26 @@
+# Read by CTest before it runs: makes each suite of a test program one test.
+# Suites rather than cases, since starting a program costs more than most cases.
+
+# plix_add_suites(NAME PROGRAM FOLDER LAUNCHER ENVIRONMENT): the suites of PROGRAM,
+# as NAME.Suite, run in FOLDER. LAUNCHER, if not empty, runs programs of another
+# system.
+function(plix_add_suites name program folder launcher environment)
+    execute_process(
+        COMMAND ${launcher} ${program} --gtest_list_tests
+        WORKING_DIRECTORY ${folder}
+        RESULT_VARIABLE status
+        OUTPUT_VARIABLE list)
+    if(NOT status EQUAL 0)
+        # A test that cannot run, and so fails.
+        add_test(${name}.CannotListItsSuites ${program}-cannot-list-its-suites)
+        return()
+    endif()
+    # Lines that begin with a blank are the cases of the suite above them.
+    string(REGEX MATCHALL "(^|\n)[^ \n]+\\.[ \r]*(#[^\n]*)?\n" lines "${list}")
+    foreach(line IN LISTS lines)
+        string(REGEX REPLACE "\n?([^ \n]+)\\..*" "\\1" suite "${line}")
+        add_test(${name}.${suite} ${launcher} ${program} "--gtest_filter=${suite}.*")
+        set_tests_properties(${name}.${suite} PROPERTIES
+            WORKING_DIRECTORY ${folder} TIMEOUT 600 ENVIRONMENT "${environment}")
+    endforeach()
+endfunction()
