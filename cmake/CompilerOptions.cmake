@@ -8,7 +8,8 @@ if(MSVC)
     endif()
 else()
     target_compile_options(plix_options INTERFACE
-        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align)
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
+        -Wconversion -Wsign-conversion -Wold-style-cast)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION MATCHES "^12\\.")
         # It sees overlaps in assignments to a std::string where there are none.
         target_compile_options(plix_options INTERFACE -Wno-restrict)

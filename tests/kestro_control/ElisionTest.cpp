@@ -19,7 +19,7 @@ namespace {
 
 const QString ellipsis(QChar(0x2026));
 // Breaks a line as wrapping does, within its paragraph.
-const QString lineSeparator(QChar(QChar::LineSeparator));
+const QString lineSeparator = QChar(QChar::LineSeparator);
 
 struct ElisionItem : TextItem {
     explicit ElisionItem(const QString& text = QString(), int pixelSize = 20)

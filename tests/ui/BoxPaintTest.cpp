@@ -69,6 +69,79 @@ TEST_F(BoxPaint, ReadsTheAlphaOfAGroundLast)
     EXPECT_NEAR(mixed.blue(), 0xF7 / 2, 2);
 }
 
+struct MixRow {
+    const char* name;
+    std::string item;
+    QPoint at;
+    QColor color;
+
+    friend std::ostream& operator<<(std::ostream& out, const MixRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class MixedColor : public PlixTest, public testing::WithParamInterface<MixRow> { };
+
+int mixedWithWhite(int part, int alpha)
+{
+    return (part * alpha + 255 * (255 - alpha)) / 255;
+}
+
+// Boxes and texts give the alpha last, all others first.
+TEST_P(MixedColor, LetsWhiteShowThrough)
+{
+    const TestCard card(R"({"type": "bubble", "hero": )"
+                        + box("vertical", GetParam().item, R"("backgroundColor": "#FFFFFF",)")
+                        + "}");
+    const QColor shown = Picture(*card.root()).at(GetParam().at);
+    const QColor& color = GetParam().color;
+    EXPECT_NEAR(shown.red(), mixedWithWhite(color.red(), color.alpha()), 1);
+    EXPECT_NEAR(shown.green(), mixedWithWhite(color.green(), color.alpha()), 1);
+    EXPECT_NEAR(shown.blue(), mixedWithWhite(color.blue(), color.alpha()), 1);
+}
+
+const std::string kBlock = R"("width": "100px", "height": "60px",)";
+
+INSTANTIATE_TEST_SUITE_P(
+    Items, MixedColor,
+    testing::Values(
+        MixRow {"Ground",
+                box("vertical", "", kBlock + R"("backgroundColor": "#11223344",)"),
+                {50, 30},
+                QColor(0x11, 0x22, 0x33, 0x44)},
+        MixRow {"RoundGround",
+                box("vertical", "",
+                    kBlock + R"("backgroundColor": "#11223344", "cornerRadius": "9px",)"),
+                {50, 30},
+                QColor(0x11, 0x22, 0x33, 0x44)},
+        MixRow {
+            "Border",
+            box("vertical", "", kBlock + R"("borderColor": "#99223344", "borderWidth": "9px",)"),
+            {2, 30},
+            QColor(0x99, 0x22, 0x33, 0x44)},
+        MixRow {
+            "RoundBorder",
+            box("vertical", "",
+                kBlock
+                    + R"("borderColor": "#99223344", "borderWidth": "9px", "cornerRadius": "9px",)"),
+            {2, 30},
+            QColor(0x99, 0x22, 0x33, 0x44)},
+        MixRow {"Separator",
+                component("separator", R"("color": "#80C02222",)"),
+                {50, 0},
+                QColor(0xC0, 0x22, 0x22, 0x80)},
+        MixRow {"UsualSeparator", component("separator"), {50, 0}, QColor(0x22, 0x22, 0x22, 0x1A)},
+        MixRow {"SaidToBeUsual",
+                component("separator", R"("color": "#1A222222",)"),
+                {50, 0},
+                QColor(0x22, 0x22, 0x22, 0x1A)},
+        MixRow {"Picture",
+                component("image", R"("backgroundColor": "#44112233",)"),
+                {50, 50},
+                QColor(0x11, 0x22, 0x33, 0x44)}),
+    [](const auto& row) { return std::string(row.param.name); });
+
 TEST_F(BoxPaint, FillsAnInvalidGroundWithBlack)
 {
     EXPECT_EQ(PaintedBox(R"("backgroundColor": "dark",)").at(50, 30), QColor(Qt::black));

@@ -153,7 +153,7 @@ std::vector<Row> rows()
 struct Gesture {
     const char* name;
     void (*make)(CardView& view, const QPointF& one, const QPointF& other);
-    int clicks;
+    std::size_t clicks;
 
     friend std::ostream& operator<<(std::ostream& out, const Gesture& row)
     {
