@@ -2,11 +2,7 @@
 
 void addClipRectangle(QPainterPath& path, const QRectF& rect)
 {
-    // One corner more than what Qt takes for a rectangle.
+    path.addRect(rect);
+    // One element more than what Qt takes for a rectangle. It encloses nothing.
     path.moveTo(rect.topLeft());
-    path.lineTo(rect.center().x(), rect.top());
-    path.lineTo(rect.topRight());
-    path.lineTo(rect.bottomRight());
-    path.lineTo(rect.bottomLeft());
-    path.closeSubpath();
 }

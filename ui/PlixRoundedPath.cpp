@@ -13,12 +13,10 @@ QPainterPath RoundedPath(const QRectF& rect, double radius)
 
 QPainterPath RectanglePath(const QRectF& rect)
 {
-    // One corner more than what Qt takes for a rectangle.
-    QPainterPath path(rect.topLeft());
-    path.lineTo(rect.center().x(), rect.top());
-    path.lineTo(rect.topRight());
-    path.lineTo(rect.bottomRight());
-    path.lineTo(rect.bottomLeft());
-    path.closeSubpath();
+    QPainterPath path;
+    path.addRect(rect);
+    // One element more than what Qt takes for a rectangle. It encloses nothing, so
+    // that the path is the rectangle to the mouse, too.
+    path.moveTo(rect.topLeft());
     return path;
 }

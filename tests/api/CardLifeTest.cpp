@@ -40,7 +40,7 @@ std::size_t alive(const WeakItems& items)
 {
     std::size_t count = 0;
     for (const auto& item : items)
-        count += item.expired() ? 0 : 1;
+        count += item.expired() ? 0U : 1U;
     return count;
 }
 

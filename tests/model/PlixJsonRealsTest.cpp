@@ -110,7 +110,7 @@ TEST(PlixJsonReals, NoTextChangesItsMeaning)
     std::mt19937 random(7);
     for (int i = 0; i < 20'000; ++i) {
         std::string json(random() % 2 == 0 ? "[" : R"({"a": )");
-        for (unsigned length = random() % 12; length > 0; --length)
+        for (auto length = random() % 12; length > 0; --length)
             json += kPieces[random() % std::size(kPieces)];
         expectSameMeaning(json + (random() % 2 == 0 ? "]" : "}"));
         if (HasFailure())

@@ -3,6 +3,7 @@
 #include "support/PlixTest.h"
 #include "ui/PlixBoxUI.h"
 
+#include <QGraphicsScene>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionGraphicsItem>
@@ -277,6 +278,21 @@ TEST_F(BoxPaint, LeavesThePainterAsItWas)
         EXPECT_FALSE(painter.testRenderHint(QPainter::Antialiasing));
         EXPECT_FALSE(painter.hasClipping());
     }
+}
+
+TEST_F(BoxPaint, LeavesTheMouseTheWholeRectangle)
+{
+    const TestCard card(bubbleWithBody(
+        box("vertical", box("vertical", "", R"("height": "40px", "cornerRadius": "8px",)"))));
+    QGraphicsScene scene;
+    scene.addItem(card.root());
+    const QGraphicsItem* inner = card.item({0, 0});
+    const QRectF rect = inner->sceneBoundingRect();
+    for (const double x : {0.5, rect.width() / 2, rect.width() - 0.5}) {
+        for (const double y : {0.5, rect.height() / 2, rect.height() - 0.5})
+            EXPECT_TRUE(scene.items(rect.topLeft() + QPointF(x, y)).contains(card.item({0, 0})));
+    }
+    scene.removeItem(card.root());
 }
 
 } // namespace

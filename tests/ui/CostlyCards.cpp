@@ -98,7 +98,7 @@ public:
     std::vector<CostlyLevel> levels()
     {
         std::vector<CostlyLevel> all;
-        for (unsigned i = random_() % 5; i < 5; ++i)
+        for (auto i = random_() % 5; i < 5; ++i)
             all.push_back(
                 {oneOf({"vertical", "horizontal", "baseline"}), boxMembers(), leaves(), leaves()});
         return all;
@@ -136,7 +136,7 @@ private:
     Words leaves()
     {
         Words all;
-        for (unsigned i = random_() % 3; i > 0; --i)
+        for (auto i = random_() % 3; i > 0; --i)
             all.push_back(leaf());
         return all;
     }

@@ -22,7 +22,7 @@ QString generatedText(std::mt19937& random)
         QStringLiteral("<E"),   QStringLiteral("&lt;"), QStringLiteral("ü"),
         QStringLiteral(" ")};
     QString text;
-    for (unsigned length = random() % 7; length > 0; --length)
+    for (auto length = random() % 7; length > 0; --length)
         text += pieces.at(static_cast<int>(random() % static_cast<unsigned>(pieces.size())));
     return text;
 }
