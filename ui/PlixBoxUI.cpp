@@ -230,16 +230,14 @@ void PlixBoxUI::handleRelease(QGraphicsSceneMouseEvent* event)
         box->handleRelease(event);
 }
 
-QPainterPath PlixBoxUI::shape() const
-{
-    return RectanglePath(boundingRect());
-}
-
 void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*)
 {
     if (!background_ && !border_)
         return;
     painter->save();
+    // By the item's own clip, a part may show a row of pixels more than the whole.
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setClipPath(RectanglePath(rect()), Qt::IntersectClip);
     painter->setRenderHint(QPainter::Antialiasing);
     if (background_)
         PaintBackground(*painter, option->exposedRect);

@@ -33,7 +33,6 @@ public:
     // the event on to the box around it.
     void handleRelease(QGraphicsSceneMouseEvent* event);
 
-    QPainterPath shape() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 protected:

@@ -1,5 +1,7 @@
 // Clicks: where they go, and what arrives at the host.
+#include "CardTree.h"
 #include "ClickHost.h"
+#include "ExampleCards.h"
 
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
@@ -15,6 +17,32 @@ namespace {
 constexpr char kSize[] = R"("width": "100px", "height": "60px",)";
 
 using Click = PlixTest;
+
+// What is left of an item by the items around it, without their round corners.
+QRectF visibleRect(const QGraphicsItem& item)
+{
+    QRectF visible = item.sceneBoundingRect();
+    for (const QGraphicsItem* parent = item.parentItem(); parent; parent = parent->parentItem())
+        visible &= parent->sceneBoundingRect();
+    return visible.adjusted(8, 8, -8, -8);
+}
+
+// Qt finds items by crossing the outlines of all that is around them.
+TEST_F(Click, FindsEveryItemOfExampleCards)
+{
+    for (const std::string& name : exampleNames()) {
+        const TestCard card(exampleCard(name), &showExamplePictures);
+        CardView view(*card.root());
+        forEachItem(*card.root(), [&](QGraphicsItem& item) {
+            const QRectF visible = visibleRect(item);
+            if (visible.width() < 1 || visible.height() < 1)
+                return;
+            for (const QPointF at : {visible.topLeft(), visible.center(), visible.bottomRight()})
+                EXPECT_TRUE(view.scene().items(QRectF(at, QSizeF(1, 1))).contains(&item))
+                    << name << " at " << at.x() << ", " << at.y();
+        });
+    }
+}
 
 TEST_F(Click, BesideABoxReachesNobody)
 {
