@@ -100,6 +100,8 @@ public:
 
     void TakeFontFamily();
 
+    void ApplyWidth();
+
     // The lines on show, laid out when they are asked for first.
     const ShownLines& Shown();
 
@@ -126,6 +128,9 @@ public:
     int maxLineCount = 0;
     bool elide = false;
     bool hasNoRoom = false;
+    // The document is laid out when somebody looks at it, not for each width that
+    // a layout tries out.
+    std::optional<qreal> pendingWidth;
     bool readOnly = true;
     bool markupEnabled = false;
     bool hasMentions = false;
@@ -277,9 +282,17 @@ void TextItem::Private::TakeFontFamily()
     item_.setFont(font);
 }
 
+void TextItem::Private::ApplyWidth()
+{
+    const std::optional<qreal> width = std::exchange(pendingWidth, std::nullopt);
+    if (width && *width != document.textWidth())
+        document.setTextWidth(*width);
+}
+
 const ShownLines& TextItem::Private::Shown()
 {
     if (!isShownValid_) {
+        ApplyWidth();
         WatchLayout();
         shown_ = readOnly ? ShownLines(document, maxLineCount, elide, !hiddenText_.isEmpty())
                           : ShownLines(document, 0, false, false);
@@ -456,6 +469,7 @@ QString TextItem::toPlainText() const
 
 QTextDocument* TextItem::document() const
 {
+    private_->ApplyWidth();
     return &private_->document;
 }
 
@@ -530,8 +544,7 @@ void TextItem::SetFixedItemWidth(qreal width)
         return;
     private_->Invalidate();
     private_->hasNoRoom = newWidth == 0;
-    if (documentWidth(newWidth) != private_->document.textWidth())
-        private_->document.setTextWidth(documentWidth(newWidth));
+    private_->pendingWidth = documentWidth(newWidth);
 }
 
 void TextItem::setTextWidth(qreal width)
@@ -541,14 +554,16 @@ void TextItem::setTextWidth(qreal width)
 
 qreal TextItem::textWidth() const
 {
-    return private_->hasNoRoom ? 0 : private_->document.textWidth();
+    if (private_->hasNoRoom)
+        return 0;
+    return private_->pendingWidth.value_or(private_->document.textWidth());
 }
 
 void TextItem::adjustSize()
 {
     if (private_->hasNoRoom)
         SetFixedItemWidth(naturalWidth);
-    private_->document.adjustSize();
+    document()->adjustSize();
 }
 
 void TextItem::SetMaxLineCount(int count)

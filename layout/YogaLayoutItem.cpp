@@ -41,6 +41,10 @@ YGNodeRef MakeNode(bool useWebDefaults)
     return node;
 }
 
+// How many boxes inside each other a pass lays out again in their places. It
+// bounds how often such a pass computes an item.
+constexpr int kMaxNestedRelayouts = 4;
+
 // NaN is not.
 bool IsPositive(float value)
 {
@@ -315,29 +319,27 @@ void YogaLayoutItem::place(Round round)
     pass_.isSettled = round == Round::Second;
     isPlaced_ = true;
     applyLayout();
-    if (self.get())
-        placeChildren(round);
+    if (!self.get())
+        return;
+    if (hasChildWiderThanPending())
+        relayoutInPlace();
+    pass_.placesAgain = false;
+    placeChildren(round);
     // A child's placement has computed this subtree again, under those that
     // had been placed before it. They follow, once. Second rounds do not nest:
     // nested, each level of a card would double the work of the level below.
-    if (self.get() && pass_.isRelaidOut) {
+    if (self.get() && pass_.placesAgain) {
         pass_.isSettled = true;
         placeChildren(Round::Second);
     }
-    if (!self.get())
-        return;
-    pass_.isRelaidOut = false;
-    pass_.isSettled = false;
+    if (self.get())
+        pass_.isSettled = false;
 }
 
 void YogaLayoutItem::placeChildren(Round round)
 {
     std::vector<PlixLink<YogaLayoutItem>> children;
-    forEachChild([&](const YogaLayoutItem& child) {
-        children.push_back(child.watch());
-        if (child.isWiderThanPending())
-            setRelayoutPending();
-    });
+    forEachChild([&](const YogaLayoutItem& child) { children.push_back(child.watch()); });
     // This item may go meanwhile.
     for (const PlixLink<YogaLayoutItem>& link : children) {
         if (YogaLayoutItem* child = link.get())
@@ -352,7 +354,8 @@ void YogaLayoutItem::changeWidth(double width)
     if (!pass_.styleWidth)
         pass_.styleWidth = YGNodeStyleGetWidth(node_);
     YGNodeStyleSetWidth(node_, ToFloat(width));
-    if (YogaLayoutItem* parent = parentItem())
+    YogaLayoutItem* parent = parentItem();
+    if (parent && isWiderThan(width))
         parent->setRelayoutPending();
 }
 
@@ -363,9 +366,21 @@ void YogaLayoutItem::changeWidthOnRelayout(double width)
 
 // Yoga measures an item in several widths before it settles on one, which is
 // rounded outwards to whole pixels.
+bool YogaLayoutItem::isWiderThan(double width) const
+{
+    return layoutWidth() - width >= 2;
+}
+
 bool YogaLayoutItem::isWiderThanPending() const
 {
-    return pass_.pendingWidth && layoutWidth() - *pass_.pendingWidth >= 2;
+    return pass_.pendingWidth && isWiderThan(*pass_.pendingWidth);
+}
+
+bool YogaLayoutItem::hasChildWiderThanPending() const
+{
+    bool found = false;
+    forEachChild([&](const YogaLayoutItem& child) { found = found || child.isWiderThanPending(); });
+    return found;
 }
 
 void YogaLayoutItem::applyPendingWidth()
@@ -377,8 +392,16 @@ void YogaLayoutItem::applyPendingWidth()
 
 void YogaLayoutItem::setRelayoutPending()
 {
-    if (!pass_.isSettled && !pass_.isRelaidOut)
+    if (!pass_.isSettled && !pass_.wasRelaidOut)
         pass_.relayoutPending = true;
+}
+
+int YogaLayoutItem::relayoutsAbove() const
+{
+    int count = 0;
+    for (const YogaLayoutItem* item = parentItem(); item; item = item->parentItem())
+        count += item->pass_.wasRelaidOut ? 1 : 0;
+    return count;
 }
 
 void YogaLayoutItem::relayoutInPlace()
@@ -387,6 +410,9 @@ void YogaLayoutItem::relayoutInPlace()
     const double width = layoutWidth();
     const double height = layoutHeight();
     if (pass_.isSettled || !node_ || std::isnan(width) || std::isnan(height))
+        return;
+    pass_.wasRelaidOut = true;
+    if (relayoutsAbove() >= kMaxNestedRelayouts)
         return;
 
     forEachChild([](YogaLayoutItem& child) { child.applyPendingWidth(); });
@@ -407,7 +433,7 @@ void YogaLayoutItem::relayoutInPlace()
     RestoreHeight(node_, styleHeight);
     // What the children have asked for meanwhile waits for the next layout.
     pass_.relayoutPending = false;
-    pass_.isRelaidOut = true;
+    pass_.placesAgain = true;
     pass_.keptPosition = position;
 }
 

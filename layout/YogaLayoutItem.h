@@ -154,7 +154,8 @@ public:
     // them, or lay out again.
     void applyLayoutRecursive();
 
-    // A width for the rest of this layout, and the relayout mark for the parent.
+    // A width for the rest of this layout, and the relayout mark for the parent if
+    // the item is wider than that.
     // The next layout starts from the style's own width again: a layout that
     // started from the widths of the one before would come to another result.
     //
@@ -221,7 +222,9 @@ private:
         std::optional<double> pendingWidth;
         // For a parent.
         bool relayoutPending = false;
-        bool isRelaidOut = false;
+        bool wasRelaidOut = false;
+        // Whether children that were placed before that have to be placed again.
+        bool placesAgain = false;
         // Where the item stood when it was computed again in its place.
         std::optional<QPointF> keptPosition;
         // Whether the item's children are being placed for the second time.
@@ -236,8 +239,12 @@ private:
     void startPass();
     void forgetKeptPositions();
     void calculateLayout(double width, double height, YGDirection direction);
+    // By more than what rounding adds.
+    bool isWiderThan(double width) const;
     bool isWiderThanPending() const;
+    bool hasChildWiderThanPending() const;
     void applyPendingWidth();
+    int relayoutsAbove() const;
     template <typename Visit> void forEachChild(Visit visit) const;
 
     std::shared_ptr<YogaLayoutItem> self_; // owns nothing

@@ -311,6 +311,28 @@ TEST_F(Relayout, AppliesAMeasuredWidthOnlyToAnItemThatIsWider)
     EXPECT_EQ(narrow.layoutWidth(), 20);
 }
 
+TEST_F(Relayout, HappensInAFewBoxesInsideEachOther)
+{
+    LayoutNode root;
+    std::vector<std::unique_ptr<LayoutNode>> boxes;
+    std::vector<std::unique_ptr<LayoutNode>> items;
+    YogaLayoutItem* parent = &root;
+    for (int level = 0; level < 10; ++level) {
+        items.push_back(std::make_unique<LayoutNode>());
+        items.back()->setWidth(50);
+        parent->addChild(items.back().get());
+        boxes.push_back(std::make_unique<LayoutNode>());
+        parent->addChild(boxes.back().get());
+        parent = boxes.back().get();
+    }
+    root.calculateLayout(100, 100);
+    for (const auto& item : items)
+        item->changeWidthOnRelayout(10);
+    root.applyLayoutRecursive();
+    for (std::size_t level = 0; level < items.size(); ++level)
+        EXPECT_EQ(items[level]->layoutWidth(), level < 4 ? 10 : 50) << level;
+}
+
 // ----- Changes
 
 TEST_F(Relayout, IsOwedAfterAChangeAnywhereBelow)

@@ -5,6 +5,10 @@
 
 #include <kestro_control/TextItem.h>
 
+#include <QSizeF>
+
+#include <vector>
+
 class PlixDataSpan;
 class PlixDataText;
 
@@ -39,6 +43,9 @@ public:
     QSizeF measure(double width, YGMeasureMode widthMode, double height,
                    YGMeasureMode heightMode) override;
     float baseline(double width, double height) override;
+
+    // Forgets what was measured.
+    void markDirty() override;
 
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF& constraint = QSizeF()) const override;
     void setGeometry(const QRectF& rect) override;
@@ -75,6 +82,8 @@ private:
     void InsertText(const std::string& text, const QTextCharFormat* format = nullptr);
     void InsertSpan(const PlixDataSpan& span);
 
+    // The height of what is shown in the width that the item has.
+    double MeasuredHeight();
     // The parent's width inside its paddings, 0 while it is not known.
     double ParentInnerWidth() const;
     QRectF ClippedToParent(const QRectF& rect) const;
@@ -90,6 +99,8 @@ private:
     bool hasNaturalWidth_ = false;
     Gravity gravity_ = Gravity::Top;
     int textHeight_ = 0;
+    // By their widths. A layout asks for the same ones again and again.
+    std::vector<QSizeF> measured_;
     // How far the item stands below the top of its rectangle.
     double topOffset_ = 0;
 };
