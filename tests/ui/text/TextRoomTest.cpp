@@ -82,7 +82,8 @@ TEST_F(TextRoom, OfItalicTextEndsWhereItsRectangleEnds)
 {
     for (const char* size : {"md", "5xl"}) {
         const std::string italic =
-            std::string(R"("style": "italic", "flex": 0, "size": ")") + size + R"(", )";
+            std::string(R"("style": "italic", "align": "end", "flex": 0, "size": ")") + size
+            + R"(", )";
         const TestCard card(
             bubbleWithBody(box("horizontal", text("Half", italic)), R"("size": "giga",)"));
         auto* item = card.ui<PlixTextUI>({0, 0});
