@@ -314,9 +314,11 @@ TEST_F(Relayout, AppliesAMeasuredWidthOnlyToAnItemThatIsWider)
 TEST_F(Relayout, HappensInAFewBoxesInsideEachOther)
 {
     LayoutNode root;
+    LayoutNode card;
+    root.addChild(&card);
     std::vector<std::unique_ptr<LayoutNode>> boxes;
     std::vector<std::unique_ptr<LayoutNode>> items;
-    YogaLayoutItem* parent = &root;
+    YogaLayoutItem* parent = &card;
     for (int level = 0; level < 10; ++level) {
         items.push_back(std::make_unique<LayoutNode>());
         items.back()->setWidth(50);
