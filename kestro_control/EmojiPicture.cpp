@@ -17,7 +17,7 @@ namespace {
 constexpr int largestPicture = 256;
 
 // Of all items together: thirty pictures of the largest size.
-constexpr int mostScaledBytes = 8 * 1024 * 1024;
+constexpr int maxScaledBytes = 8 * 1024 * 1024;
 
 // Of the square that a picture is shown in: as high as a line of its font.
 struct Room {
@@ -41,7 +41,7 @@ constexpr QChar strut(0x200B);
 ScaledPictures& scaledPictures()
 {
     // Never destroyed: the application's scene may go last of all.
-    static auto* const pictures = new ScaledPictures(mostScaledBytes);
+    static auto* const pictures = new ScaledPictures(maxScaledBytes);
     return *pictures;
 }
 

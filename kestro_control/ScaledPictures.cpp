@@ -2,8 +2,8 @@
 
 #include <memory>
 
-ScaledPictures::ScaledPictures(int mostBytes)
-    : pictures_(mostBytes)
+ScaledPictures::ScaledPictures(int maxBytes)
+    : pictures_(maxBytes)
 {
 }
 

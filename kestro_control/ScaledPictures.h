@@ -10,7 +10,7 @@
 // scaled again. Those that were not painted for longest go first.
 class ScaledPictures {
 public:
-    explicit ScaledPictures(int mostBytes);
+    explicit ScaledPictures(int maxBytes);
 
     // The picture in its own proportions, as large as fits into `size`.
     QImage Get(const QImage& picture, const QSize& size);

@@ -182,15 +182,15 @@ TEST(EmojiPaint, FillsItsPlaceInAnyZoom)
 
 TEST(ScaledPictures, KeepsABoundedNumberOfBytes)
 {
-    constexpr int mostBytes = 100 * 100 * 4 * 5;
-    ScaledPictures pictures(mostBytes);
+    constexpr int maxBytes = 100 * 100 * 4 * 5;
+    ScaledPictures pictures(maxBytes);
     QImage picture(100, 100, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::red);
     const qint64 first = pictures.Get(picture, {90, 90}).cacheKey();
     EXPECT_EQ(pictures.Get(picture, {90, 90}).cacheKey(), first);
     for (int side = 1; side < 90; ++side) {
         EXPECT_EQ(pictures.Get(picture, {side, side}).size(), QSize(side, side));
-        EXPECT_LE(pictures.Bytes(), mostBytes);
+        EXPECT_LE(pictures.Bytes(), maxBytes);
     }
     EXPECT_NE(pictures.Get(picture, {90, 90}).cacheKey(), first) << "it went to make room";
 }

@@ -10,22 +10,22 @@ namespace plix::test {
 namespace {
 
 constexpr int kDepth = PlixJsonDataParse::kMaxNestedBoxes;
-constexpr double kMostPerItem = 2.0 * kDepth;
+constexpr double kMaxPerItem = 2.0 * kDepth;
 // Some texts have the box around them laid out again, and so all that is below
 // it. On the average that is half of the card.
-constexpr double kMostPerItemInABuild = kDepth * kMostPerItem / 2;
+constexpr double kMaxPerItemInABuild = kDepth * kMaxPerItem / 2;
 
 void expectAffordable(const CostlyCard& card, const std::string& json)
 {
     SCOPED_TRACE(card.name);
     const LayoutCosts costs;
     const TestCard shown(json);
-    EXPECT_LE(costs.allVisits(), kMostPerItemInABuild);
+    EXPECT_LE(costs.allVisits(), kMaxPerItemInABuild);
     Plix_RefreshLayout(shown.controller());
     Plix_ModifyHeight(shown.controller(), 600);
     Plix_RefreshLayout(shown.controller());
-    EXPECT_LE(costs.highest().visits, kMostPerItem);
-    EXPECT_LE(costs.highest().measureCalls, kMostPerItem);
+    EXPECT_LE(costs.highest().visits, kMaxPerItem);
+    EXPECT_LE(costs.highest().measureCalls, kMaxPerItem);
 }
 
 using LayoutCostTest = PlixTest;

@@ -46,13 +46,13 @@ LayoutCosts::~LayoutCosts()
 
 double LayoutCosts::allVisits() const
 {
-    return static_cast<double>(sum_) / mostNodes_;
+    return static_cast<double>(sum_) / maxNodes_;
 }
 
 void LayoutCosts::begin(YGNodeConstRef root)
 {
     nodes_ = countNodes(root);
-    mostNodes_ = std::max(mostNodes_, nodes_);
+    maxNodes_ = std::max(maxNodes_, nodes_);
     visits_ = 0;
     measureCalls_ = 0;
 }

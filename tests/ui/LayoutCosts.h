@@ -33,7 +33,7 @@ private:
     void end();
 
     int nodes_ = 0;
-    int mostNodes_ = 0;
+    int maxNodes_ = 0;
     int layouts_ = 0;
     long visits_ = 0;
     long measureCalls_ = 0;
