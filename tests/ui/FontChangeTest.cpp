@@ -128,6 +128,27 @@ TEST_F(FontChange, LeavesTextsInTheWidthThatTheyHave)
     }
 }
 
+TEST_F(FontChange, LeavesTextsOfSeveralLinesInTheHeightThatTheyHave)
+{
+    bool isAnyShorter = false;
+    for (unsigned seed = 0; seed < kCards; ++seed) {
+        SCOPED_TRACE(seed);
+        resetFamily();
+        const TestCard card(generatedCard(seed));
+        changeFamily();
+        forEachItem(*card.root(), [&](QGraphicsItem& item) {
+            const auto* shown = dynamic_cast<PlixTextUI*>(&item);
+            if (!shown || shown->ShownLineCount() < 2)
+                return;
+            EXPECT_LE(shown->boundingRect().height(), shown->layoutHeight() + 4);
+            isAnyShorter = isAnyShorter || shown->IsElided();
+        });
+        if (HasFailure())
+            return;
+    }
+    EXPECT_TRUE(isAnyShorter);
+}
+
 TEST_F(FontChange, MakesTheCardEqualToANewOneWithTheNextLayout)
 {
     for (unsigned seed = 0; seed < kCards; ++seed) {

@@ -322,8 +322,17 @@ void PlixTextUI::FontChanged()
         return;
     if (hasNaturalWidth_)
         setWidth(NaturalWidth());
+    LimitLinesToRectangle();
     updateGeometry();
     markDirty();
+}
+
+void PlixTextUI::LimitLinesToRectangle()
+{
+    const double room = layoutHeight() + kRounding;
+    const double height = boundingRect().height();
+    if (isPlaced() && height > room)
+        SetMaxLineCount(std::max(1, static_cast<int>(ShownLineCount() * room / height)));
 }
 
 int PlixTextUI::setHighlightText(const QStringList& words)
@@ -350,6 +359,7 @@ QSizeF PlixTextUI::measure(double width, YGMeasureMode, double, YGMeasureMode)
 {
     if (!isPlaced())
         topOffset_ = 0;
+    SetMaxLineCount(maxLines_);
     const double offered = width;
     const double inner = ParentInnerWidth();
     if (inner > 0 && !(width - inner < kRounding))
@@ -427,6 +437,7 @@ void PlixTextUI::setGeometry(const QRectF& rect)
     const QRectF clipped = ClippedToParent(given).adjusted(0, -missing * 0.5, 0, 0);
     topOffset_ = -missing * 0.5;
 
+    SetMaxLineCount(maxLines_);
     const double fixed = textWidth();
     const double shown = fixed >= 0 ? fixed : boundingRect().width();
     if (shown > given.width()) {

@@ -36,7 +36,7 @@ public:
     int SetHighLightText(const QStringList& words) { return setHighlightText(words); }
 
     // Follows the host's font family while font binding is on. The text is shown
-    // in it at once, in the width that it has; the next layout gives it another.
+    // in it at once, in the rectangle that it has; the next layout gives it another.
     void FontChanged() override;
 
     // A wrapped text that is measured at width 0 is emptied for good.
@@ -82,6 +82,8 @@ private:
     void InsertText(const std::string& text, const QTextCharFormat* format = nullptr);
     void InsertSpan(const PlixDataSpan& span);
 
+    // Shows as many lines as there is room for, until the next layout.
+    void LimitLinesToRectangle();
     // The height of what is shown in the width that the item has.
     double MeasuredHeight();
     // The parent's width inside its paddings, 0 while it is not known.
