@@ -100,8 +100,6 @@ public:
 
     void TakeFontFamily();
 
-    void ApplyWidth();
-
     // The lines on show, laid out when they are asked for first.
     const ShownLines& Shown();
 
@@ -128,9 +126,6 @@ public:
     int maxLineCount = 0;
     bool elide = false;
     bool hasNoRoom = false;
-    // The document is laid out when somebody looks at it, not for each width that
-    // a layout tries out.
-    std::optional<qreal> pendingWidth;
     bool readOnly = true;
     bool markupEnabled = false;
     bool hasMentions = false;
@@ -282,17 +277,9 @@ void TextItem::Private::TakeFontFamily()
     item_.setFont(font);
 }
 
-void TextItem::Private::ApplyWidth()
-{
-    const std::optional<qreal> width = std::exchange(pendingWidth, std::nullopt);
-    if (width && *width != document.textWidth())
-        document.setTextWidth(*width);
-}
-
 const ShownLines& TextItem::Private::Shown()
 {
     if (!isShownValid_) {
-        ApplyWidth();
         WatchLayout();
         shown_ = readOnly ? ShownLines(document, maxLineCount, elide, !hiddenText_.isEmpty())
                           : ShownLines(document, 0, false, false);
@@ -469,7 +456,6 @@ QString TextItem::toPlainText() const
 
 QTextDocument* TextItem::document() const
 {
-    private_->ApplyWidth();
     return &private_->document;
 }
 
@@ -544,7 +530,8 @@ void TextItem::SetFixedItemWidth(qreal width)
         return;
     private_->Invalidate();
     private_->hasNoRoom = newWidth == 0;
-    private_->pendingWidth = documentWidth(newWidth);
+    if (documentWidth(newWidth) != private_->document.textWidth())
+        private_->document.setTextWidth(documentWidth(newWidth));
 }
 
 void TextItem::setTextWidth(qreal width)
@@ -554,16 +541,14 @@ void TextItem::setTextWidth(qreal width)
 
 qreal TextItem::textWidth() const
 {
-    if (private_->hasNoRoom)
-        return 0;
-    return private_->pendingWidth.value_or(private_->document.textWidth());
+    return private_->hasNoRoom ? 0 : private_->document.textWidth();
 }
 
 void TextItem::adjustSize()
 {
     if (private_->hasNoRoom)
         SetFixedItemWidth(naturalWidth);
-    document()->adjustSize();
+    private_->document.adjustSize();
 }
 
 void TextItem::SetMaxLineCount(int count)

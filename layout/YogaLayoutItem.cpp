@@ -57,26 +57,27 @@ float AtLeastOne(double value)
     return IsPositive(narrowed) ? narrowed : 1.0F;
 }
 
-// Put a width or height style back as it was read.
+// How a node takes a width or height style of each unit.
+struct DimensionSetters {
+    void (*setPoints)(YGNodeRef, float);
+    void (*setPercent)(YGNodeRef, float);
+    void (*setAuto)(YGNodeRef);
+};
 
-void RestoreWidth(YGNodeRef node, const YGValue& value)
+constexpr DimensionSetters kWidth = {&YGNodeStyleSetWidth, &YGNodeStyleSetWidthPercent,
+                                     &YGNodeStyleSetWidthAuto};
+constexpr DimensionSetters kHeight = {&YGNodeStyleSetHeight, &YGNodeStyleSetHeightPercent,
+                                      &YGNodeStyleSetHeightAuto};
+
+// Puts a width or height style back as it was read.
+void Restore(const DimensionSetters& dimension, YGNodeRef node, const YGValue& value)
 {
     if (value.unit == YGUnitPoint)
-        YGNodeStyleSetWidth(node, value.value);
+        dimension.setPoints(node, value.value);
     else if (value.unit == YGUnitPercent)
-        YGNodeStyleSetWidthPercent(node, value.value);
+        dimension.setPercent(node, value.value);
     else
-        YGNodeStyleSetWidthAuto(node);
-}
-
-void RestoreHeight(YGNodeRef node, const YGValue& value)
-{
-    if (value.unit == YGUnitPoint)
-        YGNodeStyleSetHeight(node, value.value);
-    else if (value.unit == YGUnitPercent)
-        YGNodeStyleSetHeightPercent(node, value.value);
-    else
-        YGNodeStyleSetHeightAuto(node);
+        dimension.setAuto(node);
 }
 
 } // namespace
@@ -271,7 +272,7 @@ void YogaLayoutItem::calculateLayout(double width, double height, YGDirection di
 void YogaLayoutItem::startPass()
 {
     if (pass_.styleWidth)
-        RestoreWidth(node_, *pass_.styleWidth);
+        Restore(kWidth, node_, *pass_.styleWidth);
     pass_ = {};
     forEachChild([](YogaLayoutItem& child) { child.startPass(); });
 }
@@ -429,8 +430,8 @@ void YogaLayoutItem::relayoutInPlace()
     YGNodeStyleSetHeight(node_, ToFloat(height));
     calculateLayout(width, height, YGNodeLayoutGetDirection(node_));
     forgetKeptPositions();
-    RestoreWidth(node_, styleWidth);
-    RestoreHeight(node_, styleHeight);
+    Restore(kWidth, node_, styleWidth);
+    Restore(kHeight, node_, styleHeight);
     // What the children have asked for meanwhile waits for the next layout.
     pass_.relayoutPending = false;
     pass_.placesAgain = true;

@@ -33,8 +33,6 @@ constexpr int kFromMyself = 1;
 // side. A text keeps the fractions that it was measured with, since in another
 // width, however little, it may break into other lines.
 constexpr double kRounding = 1;
-// How many measured heights a text remembers.
-constexpr std::size_t kMaxMeasured = 16;
 constexpr char kHighlightColor[] = "#118DFF";
 
 // A box that is as wide as its content asks for. Its texts must not wait for
@@ -370,31 +368,10 @@ QSizeF PlixTextUI::measure(double width, YGMeasureMode, double, YGMeasureMode)
     if (wrap_) {
         if (width != offered && !HasStyleWidth(width))
             changeWidthOnRelayout(width);
-        if (width == 0) {
+        if (width == 0)
             setPlainText(QString());
-            measured_.clear();
-        }
     }
-    return {width, MeasuredHeight()};
-}
-
-double PlixTextUI::MeasuredHeight()
-{
-    const double width = textWidth();
-    const auto known = std::find_if(measured_.begin(), measured_.end(),
-                                    [&](const QSizeF& size) { return size.width() == width; });
-    if (known != measured_.end())
-        return known->height();
-    if (measured_.size() >= kMaxMeasured)
-        measured_.erase(measured_.begin());
-    measured_.emplace_back(width, std::trunc(boundingRect().height()));
-    return measured_.back().height();
-}
-
-void PlixTextUI::markDirty()
-{
-    measured_.clear();
-    YogaLayoutItem::markDirty();
+    return {width, std::trunc(boundingRect().height())};
 }
 
 bool PlixTextUI::HasStyleWidth(double width) const
@@ -438,8 +415,7 @@ void PlixTextUI::setGeometry(const QRectF& rect)
     topOffset_ = -missing * 0.5;
 
     SetMaxLineCount(maxLines_);
-    const double fixed = textWidth();
-    const double shown = fixed >= 0 ? fixed : boundingRect().width();
+    const double shown = boundingRect().width();
     if (shown > given.width()) {
         SetFixedItemWidth(clipped.width());
         if (!HasStyleWidth(clipped.width()))
@@ -457,7 +433,7 @@ void PlixTextUI::setGeometry(const QRectF& rect)
 
     YogaLayoutItem* parent = YogaLayoutItem::parentItem();
     if (parent && parent->isRelayoutPending() && FindData<PlixDataText>()) {
-        YogaLayoutItem::markDirty(); // the text is the same
+        markDirty();
         parent->relayoutInPlace();
     }
     // Last: who is told of it may delete the text.

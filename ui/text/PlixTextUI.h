@@ -5,10 +5,6 @@
 
 #include <kestro_control/TextItem.h>
 
-#include <QSizeF>
-
-#include <vector>
-
 class PlixDataSpan;
 class PlixDataText;
 
@@ -43,9 +39,6 @@ public:
     QSizeF measure(double width, YGMeasureMode widthMode, double height,
                    YGMeasureMode heightMode) override;
     float baseline(double width, double height) override;
-
-    // Forgets what was measured.
-    void markDirty() override;
 
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF& constraint = QSizeF()) const override;
     void setGeometry(const QRectF& rect) override;
@@ -84,8 +77,6 @@ private:
 
     // Shows as many lines as there is room for, until the next layout.
     void LimitLinesToRectangle();
-    // The height of what is shown in the width that the item has.
-    double MeasuredHeight();
     // The parent's width inside its paddings, 0 while it is not known.
     double ParentInnerWidth() const;
     QRectF ClippedToParent(const QRectF& rect) const;
@@ -101,8 +92,6 @@ private:
     bool hasNaturalWidth_ = false;
     Gravity gravity_ = Gravity::Top;
     int textHeight_ = 0;
-    // By their widths. A layout asks for the same ones again and again.
-    std::vector<QSizeF> measured_;
     // How far the item stands below the top of its rectangle.
     double topOffset_ = 0;
 };
