@@ -2,6 +2,8 @@
 
 #include <exception>
 
+namespace plix {
+
 // Runs `body`, whose exceptions of whatever type end here: `report` is called
 // with what the exception says, which is "" when it is no std::exception.
 // Answers whether `body` came to its end.
@@ -23,3 +25,5 @@ template <typename Body> bool Contain(Body body) noexcept
 {
     return Contain(body, [](const char*) {});
 }
+
+} // namespace plix

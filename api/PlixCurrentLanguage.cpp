@@ -1,5 +1,7 @@
 #include "api/PlixCurrentLanguage.h"
 
+namespace plix {
+
 namespace {
 
 std::string& CurrentLanguage()
@@ -19,3 +21,5 @@ std::string GetCurrentLanguage()
 {
     return CurrentLanguage();
 }
+
+} // namespace plix

@@ -48,7 +48,7 @@ PlixDataMgr::~PlixDataMgr()
     const bool wasBuilt =
         PlixItemRegistry::GetInstance().Find(PlixItemRegistry::KeyOf(bubble_.get())) != nullptr;
     if (!wasBuilt)
-        DiscardDataTree(bubble_);
+        plix::DiscardDataTree(bubble_);
 }
 
 void PlixDataMgr::Free()
@@ -79,7 +79,7 @@ void PlixDataMgr::CreateUI()
 {
     // An earlier item is its host's; what this build yields starts from nothing.
     rootItem_.clear();
-    Contain([this] { Build(); }, &LogFailedBuild);
+    plix::Contain([this] { Build(); }, &plix::LogFailedBuild);
 }
 
 void PlixDataMgr::Build()
@@ -132,7 +132,7 @@ PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
     if (!ui)
         return nullptr;
     const qlonglong key = PlixItemRegistry::GetInstance().Add(data);
-    ui->GetGraphicsItem()->setData(kDataItemRole, key);
+    ui->GetGraphicsItem()->setData(plix::kDataItemRole, key);
     // Children belong to their parent item; what is built without a parent, or
     // fails half way, is nobody's yet.
     std::unique_ptr<QGraphicsItem> unfinished(ui->GetGraphicsItem());
@@ -160,9 +160,9 @@ PlixBaseUI* PlixDataMgr::CreateChildUI(const std::shared_ptr<PlixDataItem>& data
                                        PlixBaseUI& parent)
 {
     PlixBaseUI* ui = nullptr;
-    Contain(
+    plix::Contain(
         [&] { ui = CreateUIItem(data, parent.GetGraphicsItem(), parent.GetChildParentLayout()); },
-        &LogFailedBuild);
+        &plix::LogFailedBuild);
     return ui;
 }
 

@@ -25,7 +25,7 @@ namespace {
 template <typename Result, typename Body> Result ContainOr(Result refused, Body body) noexcept
 {
     Result result = refused;
-    Contain([&] { result = body(); });
+    plix::Contain([&] { result = body(); });
     return result;
 }
 
@@ -65,7 +65,7 @@ QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller
 
 void PLIX_CALL Plix_Free(PlixDataController* controller)
 {
-    Contain([&] {
+    plix::Contain([&] {
         if (auto* manager = dynamic_cast<PlixDataMgr*>(controller))
             manager->Free();
         else
@@ -129,7 +129,7 @@ void PLIX_CALL Plix_SetClickCallBack(PlixDataController* controller, PlixClickCa
 
 void PLIX_CALL Plix_SetCurrentLanguage(const std::string& language)
 {
-    Contain([&] { SetCurrentLanguage(language); });
+    plix::Contain([&] { plix::SetCurrentLanguage(language); });
 }
 
 int PLIX_CALL Plix_SetDisplayParam(PlixDataController* controller, const PlixDisplayParam& param)

@@ -3,6 +3,8 @@
 #include "api/PlixLogText.h"
 #include "api/PlixSettings.h"
 
+namespace plix {
+
 namespace {
 
 constexpr int kLongestReason = 1000;
@@ -25,3 +27,5 @@ void LogFailureLine(const std::string& prefix, const char* reason)
         QString::fromStdString(prefix) + ToLogText(QString::fromUtf8(reason), kLongestReason);
     PlixSettings::GetInstance().WriteLog(line.toUtf8().constData());
 }
+
+} // namespace plix

@@ -1,5 +1,7 @@
 #include "api/PlixLogText.h"
 
+namespace plix {
+
 namespace {
 
 // Those that end a line somewhere, and those that make a line look like another.
@@ -41,3 +43,5 @@ QString ToLogText(const QString& text, int longest)
         result += IsInvisible(character) ? Escaped(character) : QString(character);
     return result;
 }
+
+} // namespace plix

@@ -24,13 +24,13 @@ void PlixSettings::WriteLog(const char* text) const noexcept
     if (!logCallback_)
         return;
     // There is nobody left to tell.
-    Contain([&] { logCallback_(text); });
+    plix::Contain([&] { logCallback_(text); });
 }
 
 std::string PlixSettings::GetMultiLangText(const std::string& key) const
 {
     std::string text;
     if (multiLangCallback_)
-        Contain([&] { text = multiLangCallback_(key.c_str()); }, &LogFailedBuild);
+        plix::Contain([&] { text = multiLangCallback_(key.c_str()); }, &plix::LogFailedBuild);
     return text;
 }

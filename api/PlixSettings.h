@@ -4,9 +4,13 @@
 
 #include <string>
 
+namespace plix {
+
 // The one wording that the library asks its host for: what is shown in place of
 // a text or label whose action leads to mobile apps only.
 constexpr char kCheckOnMobileKey[] = "chat_room_check_on_mobile";
+
+} // namespace plix
 
 // The host's process-wide callbacks.
 class PlixSettings {

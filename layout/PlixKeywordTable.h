@@ -14,6 +14,8 @@ template <typename Value> struct PlixKeyword {
     Value value;
 };
 
+namespace plix {
+
 template <typename Value, std::size_t Size>
 constexpr std::optional<Value> FindKeyword(const std::array<PlixKeyword<Value>, Size>& table,
                                            std::string_view word)
@@ -22,3 +24,5 @@ constexpr std::optional<Value> FindKeyword(const std::array<PlixKeyword<Value>, 
                                     [word](const auto& row) { return row.word == word; });
     return found == table.end() ? std::nullopt : std::optional<Value>(found->value);
 }
+
+} // namespace plix

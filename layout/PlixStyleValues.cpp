@@ -7,6 +7,8 @@
 
 #include <limits>
 
+namespace plix {
+
 namespace {
 
 using Pixels = PlixKeyword<int>;
@@ -134,3 +136,5 @@ std::string ToAlphaFirst(const std::string& color)
         return color;
     return std::string().append(1, '#').append(color, 7, 2).append(color, 1, 6);
 }
+
+} // namespace plix

@@ -17,6 +17,8 @@ struct PlixLength {
     std::int64_t percent = 0; // 0: not a percentage
 };
 
+namespace plix {
+
 // "xs" 2 ... "xxl" 20, or a whole number with or without "px"; empty: 0.
 int ToLengthPixels(const std::string& text);
 
@@ -54,3 +56,5 @@ QColor ToColor(const std::string& text);
 // Card authors write "#RRGGBBAA", Qt reads "#AARRGGBB": moves the last two of
 // nine characters to the front. Other texts come back unchanged.
 std::string ToAlphaFirst(const std::string& color);
+
+} // namespace plix

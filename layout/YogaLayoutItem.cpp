@@ -138,7 +138,7 @@ void YogaLayoutItem::insertNode(YogaLayoutItem* child, int index)
 
 void YogaLayoutItem::insertChild(YogaLayoutItem* child, int index)
 {
-    Contain([&] { insertNode(child, index); });
+    plix::Contain([&] { insertNode(child, index); });
 }
 
 void YogaLayoutItem::addChild(YogaLayoutItem* child)
@@ -146,10 +146,10 @@ void YogaLayoutItem::addChild(YogaLayoutItem* child)
     if (!node_)
         return;
     // The hyphen has always been part of this line; hosts match on it.
-    Contain([&] { insertNode(child, childCount()); },
-            [](const char* reason) {
-                LogFailureLine("call YogaLayoutItem::AddChild failed.- ", reason);
-            });
+    plix::Contain([&] { insertNode(child, childCount()); },
+                  [](const char* reason) {
+                      plix::LogFailureLine("call YogaLayoutItem::AddChild failed.- ", reason);
+                  });
 }
 
 float YogaLayoutItem::layoutWidth() const
@@ -175,7 +175,7 @@ float YogaLayoutItem::baseline(double, double height)
 void YogaLayoutItem::reset()
 {
     if (startChange())
-        Contain([this] { YGNodeReset(node_); });
+        plix::Contain([this] { YGNodeReset(node_); });
 }
 
 void YogaLayoutItem::applyPaddingToAbsoluteChildren()
@@ -212,7 +212,7 @@ void YogaLayoutItem::applyLayout()
 void YogaLayoutItem::markDirty()
 {
     if (startChange() && YGNodeHasMeasureFunc(node_))
-        Contain([this] { YGNodeMarkDirty(node_); });
+        plix::Contain([this] { YGNodeMarkDirty(node_); });
 }
 
 void YogaLayoutItem::setClickable(bool) { }
@@ -222,7 +222,7 @@ void YogaLayoutItem::inheritCornerRadius(int) { }
 void YogaLayoutItem::setHasMeasureFunc(bool has)
 {
     if (startChange())
-        Contain([&] { YGNodeSetMeasureFunc(node_, has ? &MeasureCallback : nullptr); });
+        plix::Contain([&] { YGNodeSetMeasureFunc(node_, has ? &MeasureCallback : nullptr); });
 }
 
 void YogaLayoutItem::setHasBaselineFunc(bool has)
@@ -238,7 +238,7 @@ YGSize YogaLayoutItem::MeasureCallback(YGNodeConstRef node, float width, YGMeasu
     if (!item)
         return {width, height};
     QSizeF size(width, height);
-    Contain([&] { size = item->measure(width, widthMode, height, heightMode); });
+    plix::Contain([&] { size = item->measure(width, widthMode, height, heightMode); });
     return {AtLeastOne(size.width()), AtLeastOne(size.height())};
 }
 
@@ -247,7 +247,7 @@ float YogaLayoutItem::BaselineCallback(YGNodeConstRef node, float width, float h
     YogaLayoutItem* item = YogaNodeRegistry::GetInstance().Find(node);
     float baseline = height;
     if (item)
-        Contain([&] { baseline = item->baseline(width, height); });
+        plix::Contain([&] { baseline = item->baseline(width, height); });
     return baseline;
 }
 
@@ -266,7 +266,8 @@ void YogaLayoutItem::calculateLayout()
 
 void YogaLayoutItem::calculateLayout(double width, double height, YGDirection direction)
 {
-    Contain([&] { YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height), direction); });
+    plix::Contain(
+        [&] { YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height), direction); });
 }
 
 void YogaLayoutItem::startPass()

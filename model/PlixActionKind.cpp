@@ -3,6 +3,8 @@
 #include "layout/PlixKeywordTable.h"
 #include "model/PlixDataItem.h"
 
+namespace plix {
+
 namespace {
 
 constexpr std::array kActionWords = std::to_array<PlixKeyword<PlixActionKind>>(
@@ -20,3 +22,5 @@ bool HasKnownAction(const PlixDataItem& data)
     const std::shared_ptr<ST_ACTION> action = data.GetAction();
     return action && ToActionKind(action->type) != PlixActionNone;
 }
+
+} // namespace plix

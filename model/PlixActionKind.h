@@ -13,7 +13,11 @@ enum PlixActionKind : int {
     PlixActionPostback = 3,
 };
 
+namespace plix {
+
 PlixActionKind ToActionKind(const std::string& word);
 
 // Whether the item has an action, and one of a known kind.
 bool HasKnownAction(const PlixDataItem& data);
+
+} // namespace plix

@@ -8,16 +8,16 @@ void ReadPadding(const std::string& text, PlixPadding& padding)
         padding.px = -1;
         return;
     }
-    padding.px = ToLengthPixels(text);
+    padding.px = plix::ToLengthPixels(text);
     if (padding.px == 0)
-        padding.percent = ToPercent(text);
+        padding.percent = plix::ToPercent(text);
 }
 
 // Unlike other lengths, a box's size keeps what it has when given nothing.
 void ReadSize(const std::string& text, PlixLength& length)
 {
     if (!text.empty())
-        ParseLength(text, length);
+        plix::ParseLength(text, length);
 }
 
 } // namespace

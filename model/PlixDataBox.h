@@ -25,7 +25,10 @@ public:
     void SetSpacing(const std::string& spacing) { spacing_ = spacing; }
 
     std::string GetBackgroundColor() const { return backgroundColor_; }
-    void SetBackgroundColor(const std::string& color) { backgroundColor_ = ToAlphaFirst(color); }
+    void SetBackgroundColor(const std::string& color)
+    {
+        backgroundColor_ = plix::ToAlphaFirst(color);
+    }
 
     std::string GetCornerRadius() const { return cornerRadius_; }
     void SetCornerRadius(const std::string& radius) { cornerRadius_ = radius; }
@@ -39,7 +42,7 @@ public:
     void SetHeight(const std::string& height);
 
     std::string GetBorderColor() const { return borderColor_; }
-    void SetBorderColor(const std::string& color) { borderColor_ = ToAlphaFirst(color); }
+    void SetBorderColor(const std::string& color) { borderColor_ = plix::ToAlphaFirst(color); }
 
     std::string GetBorderWidth() const { return borderWidth_; }
     void SetBorderWidth(const std::string& width) { borderWidth_ = width; }

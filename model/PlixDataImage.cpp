@@ -17,7 +17,7 @@ PlixDataImage::PlixDataImage()
 float PlixDataImage::GetSizePixels()
 {
     if (sizePixels_ == kDefaultSize)
-        sizePixels_ = ToImageSize(size_);
+        sizePixels_ = plix::ToImageSize(size_);
     return sizePixels_;
 }
 

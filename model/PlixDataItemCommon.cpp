@@ -7,7 +7,7 @@ PlixDataItemCommon::~PlixDataItemCommon() = default;
 
 int PlixDataItemCommon::GetGrow() const
 {
-    return growIsDefault_ && IsInVerticalBox(*this) ? 0 : grow_;
+    return growIsDefault_ && plix::IsInVerticalBox(*this) ? 0 : grow_;
 }
 
 void PlixDataItemCommon::SetGrow(int grow)

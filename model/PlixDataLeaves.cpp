@@ -14,7 +14,7 @@ PlixDataSpacer::PlixDataSpacer()
 
 float PlixDataSpacer::GetSizePixels() const
 {
-    return static_cast<float>(ToSpacerPixels(size_));
+    return static_cast<float>(plix::ToSpacerPixels(size_));
 }
 
 PlixDataFiller::PlixDataFiller()

@@ -16,7 +16,7 @@ public:
     void SetSize(const std::string& size) { size_ = size; }
 
     std::string GetColor() const { return color_; }
-    void SetColor(const std::string& color) { color_ = ToAlphaFirst(color); }
+    void SetColor(const std::string& color) { color_ = plix::ToAlphaFirst(color); }
 
     std::string GetWeight() const { return weight_; }
     void SetWeight(const std::string& weight) { weight_ = weight; }
@@ -54,7 +54,7 @@ public:
     void SetSize(const std::string& size) { size_ = size; }
 
     std::string GetColor() const { return color_; }
-    void SetColor(const std::string& color) { color_ = ToAlphaFirst(color); }
+    void SetColor(const std::string& color) { color_ = plix::ToAlphaFirst(color); }
 
     std::string GetStyle() const { return style_; }
     void SetStyle(const std::string& style) { style_ = style; }

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+namespace plix {
+
 std::shared_ptr<PlixDataBox> ParentBox(const PlixDataItem& item)
 {
     return std::dynamic_pointer_cast<PlixDataBox>(item.GetParent());
@@ -55,3 +57,5 @@ void DiscardDataTree(const std::shared_ptr<PlixDataBubble>& bubble)
     for (const auto& item : items)
         item->SetParent(nullptr);
 }
+
+} // namespace plix

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+namespace plix {
+
 // Questions that an item asks of the tree above it, and the end of a tree.
 
 // The box that holds `item`; null when its parent is not a box.
@@ -20,3 +22,5 @@ bool IsInRightToLeftBubble(const PlixDataItem& item);
 // Takes a tree apart so that its items, which hold each other, are freed. No
 // recursion: the host may have little stack left.
 void DiscardDataTree(const std::shared_ptr<PlixDataBubble>& bubble);
+
+} // namespace plix

@@ -2,6 +2,8 @@
 
 #include "layout/PlixKeywordTable.h"
 
+namespace plix {
+
 namespace {
 
 constexpr std::array kTypeWords =
@@ -21,3 +23,5 @@ PlixItemKind ToItemKind(const std::string& word)
 {
     return FindKeyword(kTypeWords, word).value_or(PlixKindNone);
 }
+
+} // namespace plix

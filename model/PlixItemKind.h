@@ -16,5 +16,9 @@ enum PlixItemKind : int {
     PlixKindSeparator = 9,
 };
 
+namespace plix {
+
 // The kind that a "type" word names, PlixKindNone for any other word.
 PlixItemKind ToItemKind(const std::string& word);
+
+} // namespace plix

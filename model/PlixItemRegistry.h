@@ -27,4 +27,8 @@ private:
     std::map<std::int64_t, std::shared_ptr<PlixDataItem>> items_;
 };
 
+namespace plix {
+
 constexpr int kDataItemRole = 256;
+
+} // namespace plix

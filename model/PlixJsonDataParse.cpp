@@ -13,8 +13,8 @@ namespace {
 // Runs the body of a Parse operation; what it throws ends that operation only.
 template <typename Body> int RunOperation(const char* operation, Body body)
 {
-    const bool isDone = Contain(body, [operation](const char* reason) {
-        LogFailure(std::string("PlixJsonDataParse::") + operation, reason);
+    const bool isDone = plix::Contain(body, [operation](const char* reason) {
+        plix::LogFailure(std::string("PlixJsonDataParse::") + operation, reason);
     });
     return isDone ? 0 : -1;
 }
@@ -26,7 +26,7 @@ int ParseComponent(const char* operation, const std::array<PlixJsonKey<Item>, Si
                    const std::shared_ptr<PlixDataItem>& item)
 {
     return RunOperation(operation,
-                        [&] { ReadKeys(keys, parse, node, dynamic_cast<Item&>(*item)); });
+                        [&] { plix::ReadKeys(keys, parse, node, dynamic_cast<Item&>(*item)); });
 }
 
 // Counts one level more for as long as it lives.
@@ -64,8 +64,8 @@ int PlixJsonDataParse::Parse(const std::string& text, PlixDataMgr& root)
 {
     int result = 0;
     const int parsed = RunOperation("Parse", [&] {
-        const Json::Value node = ReadJsonText(text);
-        if (TypeWord(node) != "bubble")
+        const Json::Value node = plix::ReadJsonText(text);
+        if (plix::TypeWord(node) != "bubble")
             return;
         root.SetMessageType("bubble");
         result = ParseBubble(node, root.GetBubble());
@@ -78,20 +78,21 @@ int PlixJsonDataParse::ParseBubble(const Json::Value& node,
 {
     return RunOperation("ParseBubble", [&] {
         item->SetIndex(0);
-        ReadKeys(kBubbleKeys, *this, node, dynamic_cast<PlixDataBubble&>(*item));
+        plix::ReadKeys(plix::kBubbleKeys, *this, node, dynamic_cast<PlixDataBubble&>(*item));
     });
 }
 
 int PlixJsonDataParse::ParseZone(const PlixJsonMember& zone,
                                  const std::shared_ptr<PlixDataContainer>& container)
 {
-    return RunOperation("ParseZone", [&] { AddComponent(RequireObject(zone), 0, *container); });
+    return RunOperation("ParseZone",
+                        [&] { AddComponent(plix::RequireObject(zone), 0, *container); });
 }
 
 void PlixJsonDataParse::AddComponent(const Json::Value& node, int index,
                                      PlixDataContainer& container)
 {
-    const int kind = ToItemKind(TypeWord(node));
+    const int kind = plix::ToItemKind(plix::TypeWord(node));
     const std::shared_ptr<PlixDataItem> item = creater_->Create(kind);
     const auto operation = parseTable_.find(kind);
     if (!item || operation == parseTable_.end())
@@ -106,65 +107,66 @@ int PlixJsonDataParse::ParseBox(const Json::Value& node, const std::shared_ptr<P
     return RunOperation("ParseBox", [&] {
         auto& box = dynamic_cast<PlixDataBox&>(*item);
         const Level level(nestedBoxes_);
-        ReadKeys(kBoxKeys, *this, node, box);
+        plix::ReadKeys(plix::kBoxKeys, *this, node, box);
         if (nestedBoxes_ > kMaxNestedBoxes)
             throw std::length_error("Boxes are nested deeper than "
                                     + std::to_string(kMaxNestedBoxes) + " levels.");
-        ReadKeys(kBoxContentsKeys, *this, node, box);
+        plix::ReadKeys(plix::kBoxContentsKeys, *this, node, box);
     });
 }
 
 int PlixJsonDataParse::ParseText(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseText", kTextKeys, *this, node, item);
+    return ParseComponent("ParseText", plix::kTextKeys, *this, node, item);
 }
 
 int PlixJsonDataParse::ParseImage(const Json::Value& node,
                                   const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseImage", kImageKeys, *this, node, item);
+    return ParseComponent("ParseImage", plix::kImageKeys, *this, node, item);
 }
 
 int PlixJsonDataParse::ParseIcon(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseIcon", kIconKeys, *this, node, item);
+    return ParseComponent("ParseIcon", plix::kIconKeys, *this, node, item);
 }
 
 int PlixJsonDataParse::ParseButton(const Json::Value& node,
                                    const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseButton", kButtonKeys, *this, node, item);
+    return ParseComponent("ParseButton", plix::kButtonKeys, *this, node, item);
 }
 
 int PlixJsonDataParse::ParseSpacer(const Json::Value& node,
                                    const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseSpacer", kSpacerKeys, *this, node, item);
+    return ParseComponent("ParseSpacer", plix::kSpacerKeys, *this, node, item);
 }
 
 int PlixJsonDataParse::ParseFiller(const Json::Value& node,
                                    const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseFiller", kFillerKeys, *this, node, item);
+    return ParseComponent("ParseFiller", plix::kFillerKeys, *this, node, item);
 }
 
 int PlixJsonDataParse::ParseSeparator(const Json::Value& node,
                                       const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseSeparator", kSeparatorKeys, *this, node, item);
+    return ParseComponent("ParseSeparator", plix::kSeparatorKeys, *this, node, item);
 }
 
 int PlixJsonDataParse::ParseAction(const PlixJsonMember& member, ST_ACTION& action)
 {
-    return RunOperation("ParseAction",
-                        [&] { ReadKeys(kActionKeys, *this, RequireObject(member), action); });
+    return RunOperation("ParseAction", [&] {
+        plix::ReadKeys(plix::kActionKeys, *this, plix::RequireObject(member), action);
+    });
 }
 
 int PlixJsonDataParse::ParseMultiLang(const PlixJsonMember& member, PlixLanguageMap& texts)
 {
     return RunOperation("ParseMultiLang", [&] {
-        const Json::Value& variants = RequireObject(member);
+        const Json::Value& variants = plix::RequireObject(member);
         for (const std::string& code : variants.getMemberNames())
-            texts.texts[code] = ToString({code, variants[code]});
+            texts.texts[code] = plix::ToString({code, variants[code]});
     });
 }

@@ -18,6 +18,8 @@ template <typename Target> struct PlixJsonKey {
     void (*read)(PlixJsonDataParse& parse, const PlixJsonMember& member, Target& target);
 };
 
+namespace plix {
+
 // Rows for plain values, by the setter they go to.
 
 template <typename Target, auto Setter> constexpr PlixJsonKey<Target> StringKey(const char* name)
@@ -65,3 +67,5 @@ constexpr auto JoinKeys(const std::array<PlixJsonKey<Target>, Sizes>&... parts)
     ((next = std::copy(parts.begin(), parts.end(), next)), ...);
     return all;
 }
+
+} // namespace plix

@@ -6,6 +6,8 @@
 #include <limits>
 #include <string_view>
 
+namespace plix {
+
 namespace {
 
 bool IsDigit(char c)
@@ -129,3 +131,5 @@ std::string WithoutDecimalPoints(const std::string& json)
     }
     return result;
 }
+
+} // namespace plix

@@ -8,6 +8,8 @@
 #include "model/PlixJsonDataParse.h"
 #include "model/PlixJsonKey.h"
 
+namespace plix {
+
 // The keys of a card message: one table per component, in reading order.
 // Whatever has to know the format - the reader, a linter, a schema - walks
 // these.
@@ -264,3 +266,5 @@ inline constexpr auto kActionKeys = std::to_array<PlixJsonKey<ST_ACTION>>({
     ActionTextsKey<&ST_ACTION::i18nDisplayTexts>("i18nDisplayTexts"),
     ActionTextKey<&ST_ACTION::copyText>("copyText"),
 });
+
+} // namespace plix

@@ -4,6 +4,8 @@
 
 #include <json/reader.h>
 
+namespace plix {
+
 Json::Value ReadJsonText(const std::string& text)
 {
     // Nobody reads comments, and the time to collect them grows with the square
@@ -14,3 +16,5 @@ Json::Value ReadJsonText(const std::string& text)
     Json::Reader().parse(WithoutDecimalPoints(text), value, kCollectComments);
     return value;
 }
+
+} // namespace plix

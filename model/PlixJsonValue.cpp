@@ -11,7 +11,7 @@ std::string Quoted(std::string_view text)
 {
     constexpr int kLongest = 40;
     const QString all = QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-    return '"' + ToLogText(all, kLongest).toStdString() + '"';
+    return '"' + plix::ToLogText(all, kLongest).toStdString() + '"';
 }
 
 // The parser's own conversion asks the locale for the decimal point.
@@ -50,7 +50,7 @@ PlixJsonTypeError::PlixJsonTypeError(const PlixJsonMember& member, const char* n
 {
 }
 
-std::string ToString(const PlixJsonMember& member)
+std::string plix::ToString(const PlixJsonMember& member)
 {
     switch (member.value.type()) {
     case Json::nullValue:
@@ -64,7 +64,7 @@ std::string ToString(const PlixJsonMember& member)
     }
 }
 
-int ToInteger(const PlixJsonMember& member)
+int plix::ToInteger(const PlixJsonMember& member)
 {
     const bool converts =
         member.value.isNull() || member.value.isBool() || member.value.isNumeric();
@@ -77,7 +77,7 @@ int ToInteger(const PlixJsonMember& member)
     }
 }
 
-bool ToBoolean(const PlixJsonMember& member)
+bool plix::ToBoolean(const PlixJsonMember& member)
 {
     if (member.value.isString())
         return !member.value.asString().empty();
@@ -86,21 +86,21 @@ bool ToBoolean(const PlixJsonMember& member)
     return member.value.asBool();
 }
 
-const Json::Value& RequireObject(const PlixJsonMember& member)
+const Json::Value& plix::RequireObject(const PlixJsonMember& member)
 {
     if (!member.value.isObject() && !member.value.isNull())
         throw PlixJsonTypeError(member, "an object");
     return member.value;
 }
 
-const Json::Value& RequireArray(const PlixJsonMember& member)
+const Json::Value& plix::RequireArray(const PlixJsonMember& member)
 {
     if (!member.value.isArray() && !member.value.isNull())
         throw PlixJsonTypeError(member, "an array");
     return member.value;
 }
 
-std::string TypeWord(const Json::Value& node)
+std::string plix::TypeWord(const Json::Value& node)
 {
     if (!node.isObject() || !node["type"].isString())
         return {};

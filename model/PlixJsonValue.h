@@ -20,6 +20,8 @@ public:
     PlixJsonTypeError(const PlixJsonMember& member, const char* needed);
 };
 
+namespace plix {
+
 // The conversions that are part of the card format. They are stricter than
 // jsoncpp's own with numbers where a string is needed, and more lenient with
 // anything where a boolean is needed; null counts as nothing given.
@@ -41,3 +43,5 @@ const Json::Value& RequireArray(const PlixJsonMember& member);
 // The "type" word of a component; empty for anything that is no object or has
 // no text there, since neither names a component.
 std::string TypeWord(const Json::Value& node);
+
+} // namespace plix

@@ -1,5 +1,7 @@
 #include "model/PlixLanguageText.h"
 
+namespace plix {
+
 std::string ChooseText(const PlixLanguageMap& variants, const std::string& language,
                        const std::string& plain)
 {
@@ -9,3 +11,5 @@ std::string ChooseText(const PlixLanguageMap& variants, const std::string& langu
     }
     return plain;
 }
+
+} // namespace plix

@@ -25,7 +25,7 @@ struct Offset {
     PlixLength Length(const PlixDataItemCommon& data) const
     {
         PlixLength length;
-        ParseLength((data.*text)(), length);
+        plix::ParseLength((data.*text)(), length);
         return length;
     }
 };
@@ -94,7 +94,7 @@ bool PlixBaseUI::HasAction()
 
 std::shared_ptr<PlixDataItem> PlixBaseUI::FindDataItem()
 {
-    const qlonglong key = GetGraphicsItem()->data(kDataItemRole).toLongLong();
+    const qlonglong key = GetGraphicsItem()->data(plix::kDataItemRole).toLongLong();
     return PlixItemRegistry::GetInstance().Find(key);
 }
 
@@ -105,8 +105,8 @@ void PlixBaseUI::ApplyPlacement(bool parentIsVertical)
         return;
     YogaLayoutItem& node = *GetYogaItem();
     if (!data->GetMargin().empty() && data->GetIndex() > 0) {
-        const int margin = ToLengthPixels(data->GetMargin());
-        SetLeadingMargin(node, margin, parentIsVertical, IsInRightToLeftBubble(*data));
+        const int margin = plix::ToLengthPixels(data->GetMargin());
+        plix::SetLeadingMargin(node, margin, parentIsVertical, plix::IsInRightToLeftBubble(*data));
         node.setHasMargin(true);
     }
     if (data->GetPosition() == "absolute")

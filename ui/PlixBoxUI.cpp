@@ -47,18 +47,18 @@ bool PlixBoxUI::Init()
     InitMouse(*data);
     horizontal_ = data->IsHorizontal() || data->IsBaseline();
     baseline_ = data->IsBaseline();
-    rightToLeft_ = IsInRightToLeftBubble(*data);
+    rightToLeft_ = plix::IsInRightToLeftBubble(*data);
     if (!data->GetBackgroundColor().empty())
-        setBackground(ToColor(data->GetBackgroundColor()));
-    cornerRadius_ = ToCornerRadius(data->GetCornerRadius());
+        setBackground(plix::ToColor(data->GetBackgroundColor()));
+    cornerRadius_ = plix::ToCornerRadius(data->GetCornerRadius());
     grow_ = data->GetGrow();
     setGrowFactor(grow_);
     InitDirection(*data);
     InitSize(*data);
     InitBorder(*data);
     InitPaddings(*data);
-    spacing_ = ToSpacingPixels(data->GetSpacing());
-    ApplyPlacement(IsInVerticalBox(*data));
+    spacing_ = plix::ToSpacingPixels(data->GetSpacing());
+    ApplyPlacement(plix::IsInVerticalBox(*data));
     ApplyPercentOffsets();
     InitPercentSize(*data);
     setFlags(flags() | ItemClipsChildrenToShape | ItemClipsToShape);
@@ -112,11 +112,11 @@ void PlixBoxUI::InitSize(const PlixDataBox& data)
 
 void PlixBoxUI::InitBorder(const PlixDataBox& data)
 {
-    const int width = ToBorderWidth(data.GetBorderWidth());
+    const int width = plix::ToBorderWidth(data.GetBorderWidth());
     if (width < 1 || data.GetBorderColor().empty())
         return;
     // The pen runs along the edge and loses its outer half to the clip.
-    border_.emplace(ToColor(data.GetBorderColor()), width + 1.0);
+    border_.emplace(plix::ToColor(data.GetBorderColor()), width + 1.0);
     borderWidth_ = width;
 }
 
@@ -160,7 +160,7 @@ void PlixBoxUI::addChild(YogaLayoutItem* child)
     if (!child)
         return;
     if (!horizontal_)
-        StretchInColumn(child);
+        plix::StretchInColumn(child);
     if (childCount() > 0 && spacing_ > 0)
         ApplySpacing(*child);
     if (baseline_)
@@ -176,12 +176,12 @@ void PlixBoxUI::addChild(YogaLayoutItem* child)
 void PlixBoxUI::ApplySpacing(YogaLayoutItem& child)
 {
     if (!child.hasMargin())
-        SetLeadingMargin(child, spacing_, !horizontal_, rightToLeft_);
+        plix::SetLeadingMargin(child, spacing_, !horizontal_, rightToLeft_);
 }
 
 int PlixBoxUI::setHighlightText(const QStringList& words)
 {
-    return HighlightChildren(*this, words);
+    return plix::HighlightChildren(*this, words);
 }
 
 void PlixBoxUI::setClickable(bool on)
@@ -237,7 +237,7 @@ void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
     painter->save();
     // By the item's own clip, a part may show a row of pixels more than the whole.
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setClipPath(RectanglePath(rect()), Qt::IntersectClip);
+    painter->setClipPath(plix::RectanglePath(rect()), Qt::IntersectClip);
     painter->setRenderHint(QPainter::Antialiasing);
     if (background_)
         PaintBackground(*painter, option->exposedRect);
@@ -248,8 +248,8 @@ void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
 
 void PlixBoxUI::PaintBackground(QPainter& painter, const QRectF& exposed) const
 {
-    const QPainterPath path =
-        cornerRadius_ >= 1 ? RoundedPath(rect(), cornerRadius_) : RectanglePath(exposed);
+    const QPainterPath path = cornerRadius_ >= 1 ? plix::RoundedPath(rect(), cornerRadius_)
+                                                 : plix::RectanglePath(exposed);
     painter.fillPath(path, *background_);
     // With a border it is filled twice, which makes translucent ones denser.
     if (border_)
@@ -263,7 +263,7 @@ void PlixBoxUI::PaintBorder(QPainter& painter) const
     if (cornerRadius_ >= 1)
         painter.fillPath(RoundedBorderPath(), border_->brush());
     else
-        painter.strokePath(RectanglePath(rect()), *border_);
+        painter.strokePath(plix::RectanglePath(rect()), *border_);
 }
 
 // The inner half of the pen. A clip to the outline would take away the outer
@@ -273,8 +273,8 @@ QPainterPath PlixBoxUI::RoundedBorderPath() const
 {
     const double width = border_->widthF() / 2;
     const QRectF inside = rect().adjusted(width, width, -width, -width);
-    QPainterPath path = RoundedPath(rect(), cornerRadius_);
+    QPainterPath path = plix::RoundedPath(rect(), cornerRadius_);
     if (inside.isValid())
-        path.addPath(RoundedPath(inside, std::max(cornerRadius_ - width, 0.0)));
+        path.addPath(plix::RoundedPath(inside, std::max(cornerRadius_ - width, 0.0)));
     return path;
 }

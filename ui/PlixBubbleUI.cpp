@@ -24,7 +24,7 @@ constexpr int kCornerRadius = 12;
 
 PlixBubbleUI::PlixBubbleUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
     : PlixWidgetUI(parent, parentLayout)
-    , background_(ToColor(kOthersColor), Qt::SolidPattern)
+    , background_(plix::ToColor(kOthersColor), Qt::SolidPattern)
 {
     setOrientation(Qt::Vertical);
 }
@@ -50,13 +50,13 @@ void PlixBubbleUI::SetFrom(int from)
 
 void PlixBubbleUI::addChild(YogaLayoutItem* child)
 {
-    StretchInColumn(child);
+    plix::StretchInColumn(child);
     YogaLayoutItem::addChild(child);
 }
 
 int PlixBubbleUI::setHighlightText(const QStringList& words)
 {
-    return HighlightChildren(*this, words);
+    return plix::HighlightChildren(*this, words);
 }
 
 void PlixBubbleUI::arrangeZones()
@@ -89,7 +89,7 @@ int PlixBubbleUI::ShownItems(const PlixDataContainer& zone, int index) const
         auto* const ui = dynamic_cast<PlixBaseUI*>(childAt(index + items));
         if (!ui)
             break;
-        const qlonglong key = ui->GetGraphicsItem()->data(kDataItemRole).toLongLong();
+        const qlonglong key = ui->GetGraphicsItem()->data(plix::kDataItemRole).toLongLong();
         if (key == PlixItemRegistry::KeyOf(data.get()))
             ++items;
     }
@@ -100,7 +100,7 @@ void PlixBubbleUI::FillBackground(int index, const PlixZoneStyle& style)
 {
     auto* const box = dynamic_cast<PlixBoxUI*>(childAt(index));
     if (box && !box->hasBackground() && !style.backgroundColor.empty())
-        box->setBackground(ToColor(style.backgroundColor));
+        box->setBackground(plix::ToColor(style.backgroundColor));
 }
 
 void PlixBubbleUI::InsertSeparator(int index, const PlixZoneStyle& style)
@@ -114,7 +114,7 @@ void PlixBubbleUI::InsertSeparator(int index, const PlixZoneStyle& style)
 
 void PlixBubbleUI::setBackgroundColor(const std::string& color)
 {
-    background_.setColor(ToColor(color));
+    background_.setColor(plix::ToColor(color));
     update();
 }
 
@@ -137,7 +137,7 @@ int PlixBubbleUI::modifyHeight(int height)
 
 QPainterPath PlixBubbleUI::shape() const
 {
-    return RoundedPath(boundingRect(), kCornerRadius);
+    return plix::RoundedPath(boundingRect(), kCornerRadius);
 }
 
 void PlixBubbleUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)

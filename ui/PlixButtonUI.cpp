@@ -84,10 +84,10 @@ bool PlixButtonUI::Init()
     InitLook(*data);
     InitFont(*data);
     InitSize(*data);
-    ApplyPlacement(!IsInRow(*data));
+    ApplyPlacement(!plix::IsInRow(*data));
     const bool isAbsolute = data->GetPosition() == "absolute";
     // A button that shares out nothing in a row would have no width at all.
-    hasLabelWidth_ = isAbsolute || (IsInRow(*data) && data->GetGrow() <= 0);
+    hasLabelWidth_ = isAbsolute || (plix::IsInRow(*data) && data->GetGrow() <= 0);
     ApplyLabelWidth();
     return true;
 }
@@ -102,10 +102,10 @@ void PlixButtonUI::InitLabel(const PlixDataButton& data)
 {
     std::string text;
     if (actionUnavailable_) {
-        text = PlixSettings::GetInstance().GetMultiLangText(kCheckOnMobileKey);
+        text = PlixSettings::GetInstance().GetMultiLangText(plix::kCheckOnMobileKey);
     } else if (const std::shared_ptr<ST_ACTION> action = data.GetAction()) {
         text = action->label;
-        for (const std::string& language : {GetCurrentLanguage(), std::string("default")}) {
+        for (const std::string& language : {plix::GetCurrentLanguage(), std::string("default")}) {
             const std::string variant = action->i18nLabels.Get(language);
             if (!variant.empty()) {
                 text = variant;
@@ -128,26 +128,26 @@ void PlixButtonUI::InitMouse()
 
 void PlixButtonUI::InitLook(const PlixDataButton& data)
 {
-    const Look look = FindKeyword(kLooks, data.GetStyle()).value_or(kUnknown);
+    const Look look = plix::FindKeyword(kLooks, data.GetStyle()).value_or(kUnknown);
     const auto color = [&](Colored part, const char* usual) {
         const bool isColored = look.colored == part && !data.GetColor().empty();
         return isColored ? data.GetColor() : std::string(usual);
     };
     plateColor_ = color(Colored::Plate, look.plate);
-    textPen_.setColor(ToColor(color(Colored::Label, look.label)));
+    textPen_.setColor(plix::ToColor(color(Colored::Label, look.label)));
 }
 
 void PlixButtonUI::InitFont(PlixDataButton& data)
 {
-    data.SetPixelSize(ToTextPixels(data.GetSize()));
+    data.SetPixelSize(plix::ToTextPixels(data.GetSize()));
     font_.setWeight(QFont::Bold);
     font_.setPixelSize(data.GetPixelSize());
 }
 
 void PlixButtonUI::InitSize(const PlixDataButton& data)
 {
-    if (const auto gravity = FindKeyword(kGravities, data.GetGravity()))
-        setAlignment(*gravity, IsInRow(data));
+    if (const auto gravity = plix::FindKeyword(kGravities, data.GetGravity()))
+        setAlignment(*gravity, plix::IsInRow(data));
     setGrowFactor(data.GetGrow());
     setHeight(data.GetHeight() == "sm" ? kSmallHeight : kHeight);
 }
@@ -196,13 +196,13 @@ void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWi
     if (!plateColor_.empty()) {
         painter->setRenderHint(QPainter::Antialiasing);
         painter->setPen(Qt::NoPen);
-        painter->setBrush(QBrush(ToColor(plateColor_), Qt::SolidPattern));
+        painter->setBrush(QBrush(plix::ToColor(plateColor_), Qt::SolidPattern));
         painter->drawRoundedRect(rect(), kPlateRadius, kPlateRadius, Qt::AbsoluteSize);
     }
     // Labels in large letters are higher than the button. Qt clips them, too, but
     // not everywhere to the same pixels, and with soft edges as those of the plate.
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setClipPath(RectanglePath(rect()), Qt::IntersectClip);
+    painter->setClipPath(plix::RectanglePath(rect()), Qt::IntersectClip);
     painter->setPen(textPen_);
     painter->setFont(font_);
     QTextOption option(Qt::AlignHCenter | Qt::AlignVCenter);

@@ -2,6 +2,8 @@
 
 #include "layout/YogaLayoutItem.h"
 
+namespace plix {
+
 void StretchInColumn(YogaLayoutItem* child)
 {
     YGUnit unit = YGUnitUndefined;
@@ -20,3 +22,5 @@ int HighlightChildren(const YogaLayoutItem& parent, const QStringList& words)
     }
     return found;
 }
+
+} // namespace plix

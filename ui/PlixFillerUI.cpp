@@ -20,7 +20,7 @@ bool PlixFillerUI::Init()
     const auto data = FindData<PlixDataFiller>();
     if (!data)
         return false;
-    const std::shared_ptr<PlixDataBox> box = ParentBox(*data);
+    const std::shared_ptr<PlixDataBox> box = plix::ParentBox(*data);
     const bool inColumn = box && box->IsVertical();
     const int grow = data->IsFlexDefault() && inColumn ? 0 : data->GetGrow();
     if (inColumn) {

@@ -2,6 +2,8 @@
 
 #include "layout/YogaLayoutItem.h"
 
+namespace plix {
+
 // The margin that separates an item from the one before it: above it in a
 // column, and in a row on the side where reading comes from.
 inline void SetLeadingMargin(YogaLayoutItem& item, double margin, bool inColumn, bool rightToLeft)
@@ -13,3 +15,5 @@ inline void SetLeadingMargin(YogaLayoutItem& item, double margin, bool inColumn,
     else
         item.setMargins(margin, 0, 0, 0);
 }
+
+} // namespace plix

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace plix {
+
 QPainterPath RoundedPath(const QRectF& rect, double radius)
 {
     const int half = static_cast<int>(rect.height()) / 2;
@@ -20,3 +22,5 @@ QPainterPath RectanglePath(const QRectF& rect)
     path.moveTo(rect.topLeft());
     return path;
 }
+
+} // namespace plix

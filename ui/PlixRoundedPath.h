@@ -3,6 +3,8 @@
 #include <QPainterPath>
 #include <QRectF>
 
+namespace plix {
+
 // A rounded rectangle whose corners take up its whole height at most.
 QPainterPath RoundedPath(const QRectF& rect, double radius);
 
@@ -11,3 +13,5 @@ QPainterPath RoundedPath(const QRectF& rect, double radius);
 // pixels, but only where nothing else is clipped to that is no rectangle: so a
 // paint of a part would show other pixels than a paint of the whole.
 QPainterPath RectanglePath(const QRectF& rect);
+
+} // namespace plix

@@ -24,10 +24,10 @@ bool PlixSeparatorUI::Init()
     const auto data = FindData<PlixDataSeparator>();
     if (!data)
         return false;
-    const bool inColumn = !ParentBox(*data) || IsInVerticalBox(*data);
+    const bool inColumn = !plix::ParentBox(*data) || plix::IsInVerticalBox(*data);
     if (!data->GetMargin().empty() && data->GetIndex() > 0) {
-        SetLeadingMargin(*this, ToLengthPixels(data->GetMargin()), inColumn,
-                         IsInRightToLeftBubble(*data));
+        plix::SetLeadingMargin(*this, plix::ToLengthPixels(data->GetMargin()), inColumn,
+                               plix::IsInRightToLeftBubble(*data));
         setHasMargin(true);
     }
     if (inColumn)
@@ -42,7 +42,7 @@ void PlixSeparatorUI::setColor(const std::string& color)
 {
     if (color.empty())
         return;
-    color_ = ToColor(color);
+    color_ = plix::ToColor(color);
     update();
 }
 

@@ -14,7 +14,7 @@ bool PlixSpacerUI::Init()
     if (!data)
         return false;
     const double size = data->GetSizePixels();
-    if (IsInVerticalBox(*data))
+    if (plix::IsInVerticalBox(*data))
         setHeight(size);
     else
         setWidth(size);

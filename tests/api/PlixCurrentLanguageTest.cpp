@@ -9,20 +9,20 @@ namespace {
 // No fixture: nothing has set a language in this process yet.
 TEST(PlixCurrentLanguage, IsEnglishUntilTheHostSetsAnother)
 {
-    EXPECT_EQ(GetCurrentLanguage(), "en");
+    EXPECT_EQ(plix::GetCurrentLanguage(), "en");
 }
 
 TEST(PlixCurrentLanguage, IsWhatTheHostHasSet)
 {
     std::string language = "zh-CN";
     Plix_SetCurrentLanguage(language);
-    EXPECT_EQ(GetCurrentLanguage(), "zh-CN");
+    EXPECT_EQ(plix::GetCurrentLanguage(), "zh-CN");
     language = "ko";
-    EXPECT_EQ(GetCurrentLanguage(), "zh-CN") << "a copy";
-    Plix_SetCurrentLanguage(GetCurrentLanguage());
-    EXPECT_EQ(GetCurrentLanguage(), "zh-CN");
+    EXPECT_EQ(plix::GetCurrentLanguage(), "zh-CN") << "a copy";
+    Plix_SetCurrentLanguage(plix::GetCurrentLanguage());
+    EXPECT_EQ(plix::GetCurrentLanguage(), "zh-CN");
     Plix_SetCurrentLanguage("");
-    EXPECT_EQ(GetCurrentLanguage(), "");
+    EXPECT_EQ(plix::GetCurrentLanguage(), "");
     Plix_SetCurrentLanguage("en");
 }
 

@@ -6,7 +6,7 @@ namespace {
 
 QString logText(const std::u16string& text, int longest = 40)
 {
-    return ToLogText(QString::fromStdU16String(text), longest);
+    return plix::ToLogText(QString::fromStdU16String(text), longest);
 }
 
 TEST(PlixLogText, ShowsWhatCannotBeSeen)

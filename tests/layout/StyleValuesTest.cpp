@@ -29,7 +29,7 @@ class LengthPixels : public testing::TestWithParam<PixelRow> { };
 
 TEST_P(LengthPixels, AreReadFromTheText)
 {
-    EXPECT_EQ(ToLengthPixels(GetParam().text), GetParam().value);
+    EXPECT_EQ(plix::ToLengthPixels(GetParam().text), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -63,7 +63,7 @@ class Percent : public testing::TestWithParam<PixelRow> { };
 
 TEST_P(Percent, IsTheWholeNumberBeforeTheSign)
 {
-    EXPECT_EQ(ToPercent(GetParam().text), GetParam().value);
+    EXPECT_EQ(plix::ToPercent(GetParam().text), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, Percent,
@@ -81,7 +81,7 @@ class ParsedLength : public testing::TestWithParam<LengthRow> { };
 TEST_P(ParsedLength, IsPixelsOrAPercentage)
 {
     PlixLength length;
-    ParseLength(GetParam().text, length);
+    plix::ParseLength(GetParam().text, length);
     EXPECT_EQ(length.px, GetParam().value.px);
     EXPECT_EQ(length.percent, GetParam().value.percent);
 }
@@ -101,8 +101,8 @@ INSTANTIATE_TEST_SUITE_P(Texts, ParsedLength,
 TEST(ParseLength, LeavesThePercentageOfAnEarlierTextWhenTheNewOneIsInPixels)
 {
     PlixLength length;
-    ParseLength("40%", length);
-    ParseLength("30px", length);
+    plix::ParseLength("40%", length);
+    plix::ParseLength("30px", length);
     EXPECT_EQ(length.px, 30);
     EXPECT_EQ(length.percent, 40);
 }
@@ -110,8 +110,8 @@ TEST(ParseLength, LeavesThePercentageOfAnEarlierTextWhenTheNewOneIsInPixels)
 TEST(ParseLength, TakesEverythingBackForAnEmptyText)
 {
     PlixLength length;
-    ParseLength("40%", length);
-    ParseLength("", length);
+    plix::ParseLength("40%", length);
+    plix::ParseLength("", length);
     EXPECT_EQ(length.px, -1);
     EXPECT_EQ(length.percent, 0);
 }
@@ -120,7 +120,7 @@ class Spacing : public testing::TestWithParam<PixelRow> { };
 
 TEST_P(Spacing, IsAWord)
 {
-    EXPECT_EQ(ToSpacingPixels(GetParam().text), GetParam().value);
+    EXPECT_EQ(plix::ToSpacingPixels(GetParam().text), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, Spacing,
@@ -137,7 +137,7 @@ class SpacerSize : public testing::TestWithParam<PixelRow> { };
 
 TEST_P(SpacerSize, IsAWordOrMedium)
 {
-    EXPECT_EQ(ToSpacerPixels(GetParam().text), GetParam().value);
+    EXPECT_EQ(plix::ToSpacerPixels(GetParam().text), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, SpacerSize,
@@ -153,7 +153,7 @@ class CornerRadius : public testing::TestWithParam<PixelRow> { };
 
 TEST_P(CornerRadius, HasATableOfItsOwn)
 {
-    EXPECT_EQ(ToCornerRadius(GetParam().text), GetParam().value);
+    EXPECT_EQ(plix::ToCornerRadius(GetParam().text), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -170,7 +170,7 @@ class BorderWidth : public testing::TestWithParam<PixelRow> { };
 
 TEST_P(BorderWidth, HasATableOfItsOwn)
 {
-    EXPECT_EQ(ToBorderWidth(GetParam().text), GetParam().value);
+    EXPECT_EQ(plix::ToBorderWidth(GetParam().text), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -189,7 +189,7 @@ class ImageSize : public testing::TestWithParam<ImageRow> { };
 
 TEST_P(ImageSize, IsAWordOrMedium)
 {
-    EXPECT_EQ(ToImageSize(GetParam().text), GetParam().value);
+    EXPECT_EQ(plix::ToImageSize(GetParam().text), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -225,7 +225,7 @@ class Color : public testing::TestWithParam<ColorRow> { };
 
 TEST_P(Color, FollowsQtsSyntax)
 {
-    const QColor color = ToColor(GetParam().text);
+    const QColor color = plix::ToColor(GetParam().text);
     EXPECT_EQ(color.isValid(), GetParam().value.isValid());
     EXPECT_EQ(color.rgba(), GetParam().value.rgba());
 }
@@ -250,7 +250,7 @@ class AlphaFirst : public testing::TestWithParam<AlphaRow> { };
 
 TEST_P(AlphaFirst, MovesTheLastTwoOfEightDigits)
 {
-    EXPECT_EQ(ToAlphaFirst(GetParam().text), GetParam().value);
+    EXPECT_EQ(plix::ToAlphaFirst(GetParam().text), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, AlphaFirst,

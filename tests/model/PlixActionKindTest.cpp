@@ -11,13 +11,13 @@ TEST(PlixActionKind, WordsOfTheFormat)
         int kind;
     } rows[] = {{"message", 1}, {"uri", 2}, {"postback", 3}};
     for (const auto& row : rows)
-        EXPECT_EQ(ToActionKind(row.word), row.kind) << row.word;
+        EXPECT_EQ(plix::ToActionKind(row.word), row.kind) << row.word;
 }
 
 TEST(PlixActionKind, AnyOtherWordIsNone)
 {
     for (const char* word : {"", "Uri", "URI", "uri ", "url", "Message", "postBack", "datetime"})
-        EXPECT_EQ(ToActionKind(word), 0) << word;
+        EXPECT_EQ(plix::ToActionKind(word), 0) << word;
 }
 
 } // namespace

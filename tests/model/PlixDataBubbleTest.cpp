@@ -18,7 +18,7 @@ public:
         if (hasFooter)
             bubble_->GetFooter()->AddChild(std::make_shared<PlixDataSpacer>());
     }
-    ~SizedBubble() { DiscardDataTree(bubble_); }
+    ~SizedBubble() { plix::DiscardDataTree(bubble_); }
 
     PlixDataBubble* operator->() const { return bubble_.get(); }
 
@@ -108,7 +108,7 @@ TEST(PlixDataBubble, IsTheParentOfTheZonesItems)
         zone.container->AddChild(child);
         EXPECT_EQ(child->GetParent(), bubble);
     }
-    DiscardDataTree(bubble);
+    plix::DiscardDataTree(bubble);
 }
 
 TEST(PlixDataBubble, TheRootHasNoPlaceAndDoesNotGrow)

@@ -30,25 +30,25 @@ TEST(PlixDataTree, KnowsTheBoxAround)
     const auto bubble = makeBubble();
     const auto box = addBox(*bubble->GetBody());
     const auto inner = addBox(*box->GetContainer());
-    EXPECT_EQ(ParentBox(*inner), box);
-    EXPECT_EQ(ParentBox(*box), nullptr) << "the bubble is no box";
-    EXPECT_EQ(ParentBox(*bubble), nullptr);
-    EXPECT_FALSE(IsInVerticalBox(*inner));
+    EXPECT_EQ(plix::ParentBox(*inner), box);
+    EXPECT_EQ(plix::ParentBox(*box), nullptr) << "the bubble is no box";
+    EXPECT_EQ(plix::ParentBox(*bubble), nullptr);
+    EXPECT_FALSE(plix::IsInVerticalBox(*inner));
     box->SetLayout("vertical");
-    EXPECT_TRUE(IsInVerticalBox(*inner));
-    EXPECT_FALSE(IsInVerticalBox(*box));
-    DiscardDataTree(bubble);
+    EXPECT_TRUE(plix::IsInVerticalBox(*inner));
+    EXPECT_FALSE(plix::IsInVerticalBox(*box));
+    plix::DiscardDataTree(bubble);
 }
 
 TEST(PlixDataTree, KnowsTheReadingDirectionOfTheBubble)
 {
     const auto bubble = makeBubble();
     const auto inner = addBox(*addBox(*bubble->GetBody())->GetContainer());
-    EXPECT_FALSE(IsInRightToLeftBubble(*inner));
+    EXPECT_FALSE(plix::IsInRightToLeftBubble(*inner));
     bubble->SetDirection("rtl");
-    EXPECT_TRUE(IsInRightToLeftBubble(*inner));
-    EXPECT_FALSE(IsInRightToLeftBubble(PlixDataText())) << "in no bubble at all";
-    DiscardDataTree(bubble);
+    EXPECT_TRUE(plix::IsInRightToLeftBubble(*inner));
+    EXPECT_FALSE(plix::IsInRightToLeftBubble(PlixDataText())) << "in no bubble at all";
+    plix::DiscardDataTree(bubble);
 }
 
 TEST(PlixDataTree, FreesEveryItemOfEveryZone)
@@ -61,7 +61,7 @@ TEST(PlixDataTree, FreesEveryItemOfEveryZone)
         items.push_back(outer);
         items.push_back(inner);
     }
-    DiscardDataTree(bubble);
+    plix::DiscardDataTree(bubble);
     bubble.reset();
     for (std::size_t i = 0; i < items.size(); ++i)
         EXPECT_TRUE(items[i].expired()) << i;
@@ -72,7 +72,7 @@ TEST(PlixDataTree, ItemsThatAreStillHeldLoseTheirParent)
     auto bubble = makeBubble();
     const auto outer = addBox(*bubble->GetBody());
     const auto inner = addBox(*outer->GetContainer());
-    DiscardDataTree(bubble);
+    plix::DiscardDataTree(bubble);
     EXPECT_EQ(outer->GetParent(), nullptr);
     EXPECT_EQ(inner->GetParent(), nullptr);
     EXPECT_EQ(outer->GetContainer()->GetChildCount(), 0);
@@ -87,7 +87,7 @@ TEST(PlixDataTree, IsTakenApartWithoutRecursion)
         innermost = addBox(*innermost->GetContainer());
     const std::weak_ptr<PlixDataItem> last = innermost;
     innermost.reset();
-    DiscardDataTree(bubble);
+    plix::DiscardDataTree(bubble);
     bubble.reset();
     EXPECT_TRUE(last.expired());
 }
@@ -95,7 +95,7 @@ TEST(PlixDataTree, IsTakenApartWithoutRecursion)
 TEST(PlixDataTree, ABubbleWithoutZonesCanBeDiscarded)
 {
     auto bubble = std::make_shared<PlixDataBubble>();
-    DiscardDataTree(bubble);
+    plix::DiscardDataTree(bubble);
     EXPECT_EQ(bubble.use_count(), 1);
 }
 

@@ -39,7 +39,7 @@ TEST(PlixItemRegistry, FindsNothingForUnknownKeys)
 
 TEST(PlixItemRegistry, ItemsLieUnderTheRoleThatHostsMayLookAt)
 {
-    EXPECT_EQ(kDataItemRole, 256);
+    EXPECT_EQ(plix::kDataItemRole, 256);
 }
 
 } // namespace

@@ -36,7 +36,7 @@ TEST(PlixJsonReals, HaveNoDecimalPoint)
         {"// 1.5\r1.5", "// 1.5\r15e-1"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(WithoutDecimalPoints(row.json), row.rewritten) << row.json;
+        EXPECT_EQ(plix::WithoutDecimalPoints(row.json), row.rewritten) << row.json;
 }
 
 TEST(PlixJsonReals, EverythingElseStaysAsItIs)
@@ -44,9 +44,9 @@ TEST(PlixJsonReals, EverythingElseStaysAsItIs)
     for (const char* json : {"",       " ",       "12",        "-12", "1e5", "25e-1", "-",  "1e",
                              "\"1.5",  "\"1.5\\", "\"1.5\\\"", "\"",  "/",   "/ ",    "/*", "/*1.5",
                              "/*1.5*", "//1.5",   "\".\"",     ".",   "...", "a.b"})
-        EXPECT_EQ(WithoutDecimalPoints(json), json);
+        EXPECT_EQ(plix::WithoutDecimalPoints(json), json);
     const std::string zeros("1\0.5\0", 5);
-    EXPECT_EQ(WithoutDecimalPoints(zeros), zeros);
+    EXPECT_EQ(plix::WithoutDecimalPoints(zeros), zeros);
 }
 
 // What the parser makes of a text and of what became of it: the value and how
@@ -60,7 +60,7 @@ std::string understood(const std::string& json)
 
 void expectSameMeaning(const std::string& json)
 {
-    EXPECT_EQ(understood(WithoutDecimalPoints(json)), understood(json)) << json;
+    EXPECT_EQ(understood(plix::WithoutDecimalPoints(json)), understood(json)) << json;
 }
 
 TEST(PlixJsonReals, BadNumbersStayBadAtTheSamePlace)
@@ -101,10 +101,10 @@ TEST(PlixJsonReals, LongNumbersKeepTheirValue)
 
     // What these mean, the C library of the system decides.
     const std::string many(100'000, '0');
-    EXPECT_EQ(WithoutDecimalPoints("0." + many + "1e100001"), "0" + many + "1e0");
-    EXPECT_EQ(WithoutDecimalPoints("1" + many + ".5e-100000"), "1" + many + "5e-100001");
-    EXPECT_EQ(WithoutDecimalPoints("1.5e" + many + "2"), "15e1");
-    EXPECT_EQ(WithoutDecimalPoints("1.5e2147483649"), "15e2147483648");
+    EXPECT_EQ(plix::WithoutDecimalPoints("0." + many + "1e100001"), "0" + many + "1e0");
+    EXPECT_EQ(plix::WithoutDecimalPoints("1" + many + ".5e-100000"), "1" + many + "5e-100001");
+    EXPECT_EQ(plix::WithoutDecimalPoints("1.5e" + many + "2"), "15e1");
+    EXPECT_EQ(plix::WithoutDecimalPoints("1.5e2147483649"), "15e2147483648");
 }
 
 TEST(PlixJsonReals, NoTextChangesItsMeaning)

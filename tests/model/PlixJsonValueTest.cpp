@@ -76,9 +76,9 @@ TEST(PlixJsonValue, Strings)
         SCOPED_TRACE(row.json);
         const Json::Value value = parsed(row.json);
         if (row.string)
-            EXPECT_EQ(ToString({"key", value}), *row.string);
+            EXPECT_EQ(plix::ToString({"key", value}), *row.string);
         else
-            EXPECT_THROW(ToString({"key", value}), PlixJsonTypeError);
+            EXPECT_THROW(plix::ToString({"key", value}), PlixJsonTypeError);
     }
 }
 
@@ -88,9 +88,9 @@ TEST(PlixJsonValue, Integers)
         SCOPED_TRACE(row.json);
         const Json::Value value = parsed(row.json);
         if (row.integer)
-            EXPECT_EQ(ToInteger({"key", value}), *row.integer);
+            EXPECT_EQ(plix::ToInteger({"key", value}), *row.integer);
         else
-            EXPECT_THROW(ToInteger({"key", value}), PlixJsonTypeError);
+            EXPECT_THROW(plix::ToInteger({"key", value}), PlixJsonTypeError);
     }
 }
 
@@ -98,7 +98,7 @@ TEST(PlixJsonValue, BooleansNeverFail)
 {
     for (const Conversion& row : kConversions) {
         SCOPED_TRACE(row.json);
-        EXPECT_EQ(ToBoolean({"key", parsed(row.json)}), row.boolean);
+        EXPECT_EQ(plix::ToBoolean({"key", parsed(row.json)}), row.boolean);
     }
 }
 
@@ -109,13 +109,13 @@ TEST(PlixJsonValue, ObjectsAndArraysAreRequiredOrNull)
         const Json::Value value = parsed(row.json);
         const PlixJsonMember member {"key", value};
         if (value.isObject() || value.isNull())
-            EXPECT_EQ(&RequireObject(member), &value);
+            EXPECT_EQ(&plix::RequireObject(member), &value);
         else
-            EXPECT_THROW(RequireObject(member), PlixJsonTypeError);
+            EXPECT_THROW(plix::RequireObject(member), PlixJsonTypeError);
         if (value.isArray() || value.isNull())
-            EXPECT_EQ(&RequireArray(member), &value);
+            EXPECT_EQ(&plix::RequireArray(member), &value);
         else
-            EXPECT_THROW(RequireArray(member), PlixJsonTypeError);
+            EXPECT_THROW(plix::RequireArray(member), PlixJsonTypeError);
     }
 }
 
@@ -127,32 +127,34 @@ TEST(PlixJsonValue, ComplaintsSayWhereWhatAndWhatIsNeeded)
         void (*convert)(const PlixJsonMember& member);
         const char* text;
     } rows[] = {
-        {"a number for a string", "16", [](const PlixJsonMember& m) { ToString(m); },
+        {"a number for a string", "16", [](const PlixJsonMember& m) { plix::ToString(m); },
          R"("key" must be a string, but is the number 16)"},
-        {"a real for a string", "1.5", [](const PlixJsonMember& m) { ToString(m); },
+        {"a real for a string", "1.5", [](const PlixJsonMember& m) { plix::ToString(m); },
          R"("key" must be a string, but is the number 1.5)"},
-        {"a real that is no sum of halves", "0.1", [](const PlixJsonMember& m) { ToString(m); },
+        {"a real that is no sum of halves", "0.1",
+         [](const PlixJsonMember& m) { plix::ToString(m); },
          R"("key" must be a string, but is the number 0.1)"},
-        {"a large real", "-2.5e300", [](const PlixJsonMember& m) { ToString(m); },
+        {"a large real", "-2.5e300", [](const PlixJsonMember& m) { plix::ToString(m); },
          R"("key" must be a string, but is the number -2.5e+300)"},
-        {"an array for a string", "[1]", [](const PlixJsonMember& m) { ToString(m); },
+        {"an array for a string", "[1]", [](const PlixJsonMember& m) { plix::ToString(m); },
          R"("key" must be a string, but is an array)"},
-        {"an object for a string", "{}", [](const PlixJsonMember& m) { ToString(m); },
+        {"an object for a string", "{}", [](const PlixJsonMember& m) { plix::ToString(m); },
          R"("key" must be a string, but is an object)"},
-        {"a string for a number", R"("3")", [](const PlixJsonMember& m) { ToInteger(m); },
+        {"a string for a number", R"("3")", [](const PlixJsonMember& m) { plix::ToInteger(m); },
          R"("key" must be a whole number, but is the string "3")"},
-        {"an array for a number", "[]", [](const PlixJsonMember& m) { ToInteger(m); },
+        {"an array for a number", "[]", [](const PlixJsonMember& m) { plix::ToInteger(m); },
          R"("key" must be a whole number, but is an array)"},
-        {"too large a number", "2147483648", [](const PlixJsonMember& m) { ToInteger(m); },
+        {"too large a number", "2147483648", [](const PlixJsonMember& m) { plix::ToInteger(m); },
          R"("key" must be a whole number from -2147483648 to 2147483647, but is the number )"
          "2147483648"},
-        {"a string for an object", R"("x")", [](const PlixJsonMember& m) { RequireObject(m); },
+        {"a string for an object", R"("x")",
+         [](const PlixJsonMember& m) { plix::RequireObject(m); },
          R"("key" must be an object, but is the string "x")"},
-        {"a boolean for an object", "true", [](const PlixJsonMember& m) { RequireObject(m); },
+        {"a boolean for an object", "true", [](const PlixJsonMember& m) { plix::RequireObject(m); },
          R"("key" must be an object, but is true)"},
-        {"a boolean for an array", "false", [](const PlixJsonMember& m) { RequireArray(m); },
+        {"a boolean for an array", "false", [](const PlixJsonMember& m) { plix::RequireArray(m); },
          R"("key" must be an array, but is false)"},
-        {"an object for an array", "{}", [](const PlixJsonMember& m) { RequireArray(m); },
+        {"an object for an array", "{}", [](const PlixJsonMember& m) { plix::RequireArray(m); },
          R"("key" must be an array, but is an object)"},
     };
     for (const auto& row : rows) {
@@ -181,7 +183,7 @@ TEST(PlixJsonValue, LongTextsAreShortenedBetweenCharacters)
         SCOPED_TRACE(row.behaviour);
         const Json::Value value(row.text);
         EXPECT_EQ(complaint([&] {
-                      ToInteger({"key", value});
+                      plix::ToInteger({"key", value});
                   }),
                   R"("key" must be a whole number, but is the string ")" + row.shown + '"');
     }
@@ -209,7 +211,7 @@ TEST(PlixJsonValue, TypeWords)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.json);
-        EXPECT_EQ(TypeWord(parsed(row.json)), row.word);
+        EXPECT_EQ(plix::TypeWord(parsed(row.json)), row.word);
     }
 }
 

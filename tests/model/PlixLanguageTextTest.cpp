@@ -36,7 +36,8 @@ TEST(PlixLanguageText, ChoosesTheLanguageThenTheDefaultThenThePlainText)
         {"neither", PlixLanguageMap(), "en", "plain"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(ChooseText(row.variants, row.language, "plain"), row.expected) << row.behaviour;
+        EXPECT_EQ(plix::ChooseText(row.variants, row.language, "plain"), row.expected)
+            << row.behaviour;
 }
 
 } // namespace

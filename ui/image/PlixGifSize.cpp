@@ -3,6 +3,8 @@
 #include "ui/image/PlixByteReader.h"
 #include "ui/image/PlixGifPixelCount.h"
 
+namespace plix {
+
 namespace {
 
 // The length of a table of colours, by the byte that announces it.
@@ -79,3 +81,5 @@ QSize ReadGifSize(const QByteArray& bytes)
     }
     return hasFrame ? size : QSize();
 }
+
+} // namespace plix

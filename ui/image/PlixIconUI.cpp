@@ -17,11 +17,11 @@ bool PlixIconUI::Init()
     if (!data)
         return false;
     setAcceptedMouseButtons(Qt::NoButton);
-    Download(ChooseText(data->GetUrls(), GetCurrentLanguage(), data->GetUrl()));
-    data->SetPixelSize(ToTextPixels(data->GetSize()));
+    Download(plix::ChooseText(data->GetUrls(), plix::GetCurrentLanguage(), data->GetUrl()));
+    data->SetPixelSize(plix::ToTextPixels(data->GetSize()));
     // Both lengths are given, not one and the ratio: an icon that grows in a row
     // must not make the row higher.
-    const double ratio = ToAspectRatio(data->GetAspectRatio());
+    const double ratio = plix::ToAspectRatio(data->GetAspectRatio());
     const double width = data->GetPixelSize() * ratio;
     setHeight(data->GetPixelSize());
     setWidth(width);

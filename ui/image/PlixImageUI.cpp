@@ -44,7 +44,7 @@ bool PlixImageUI::Init()
     if (!data)
         return false;
     InitAction(*data);
-    Download(ChooseText(data->GetUrls(), GetCurrentLanguage(), data->GetUrl()));
+    Download(plix::ChooseText(data->GetUrls(), plix::GetCurrentLanguage(), data->GetUrl()));
     InitSize(*data);
     if (data->GetAspectMode() == "cover")
         SetAspectMode(AspectMode::Cover);
@@ -56,7 +56,7 @@ bool PlixImageUI::Init()
 
 void PlixImageUI::InitAction(const PlixDataImage& data)
 {
-    clickable_ = !data.IsAppOnlyAction() && HasKnownAction(data);
+    clickable_ = !data.IsAppOnlyAction() && plix::HasKnownAction(data);
     if (clickable_)
         setCursor(Qt::PointingHandCursor);
     else
@@ -66,7 +66,7 @@ void PlixImageUI::InitAction(const PlixDataImage& data)
 void PlixImageUI::InitSize(PlixDataImage& data)
 {
     const double width = data.GetSizePixels();
-    const double ratio = ToAspectRatio(data.GetAspectRatio());
+    const double ratio = plix::ToAspectRatio(data.GetAspectRatio());
     if (width > kNoFixedWidth) {
         // The height is set, too: an image that grows in a row must not make the
         // row higher.
@@ -79,7 +79,7 @@ void PlixImageUI::InitSize(PlixDataImage& data)
     // Columns stretch what has no width; in a row it would have none unless it
     // grows.
     const bool growsInRow = data.GetGrow() > 0 && !data.IsAbsolute();
-    if (IsInRow(data) && !growsInRow) {
+    if (plix::IsInRow(data) && !growsInRow) {
         setWidthPercent(100);
         setShrinkFactor(1);
     }
@@ -87,13 +87,13 @@ void PlixImageUI::InitSize(PlixDataImage& data)
 
 void PlixImageUI::InitAlignment(const PlixDataImage& data)
 {
-    const bool parentIsHorizontal = IsInRow(data);
+    const bool parentIsHorizontal = plix::IsInRow(data);
     Placement placement;
-    const auto align = FindKeyword(kAligns, data.GetAlign());
+    const auto align = plix::FindKeyword(kAligns, data.GetAlign());
     setAlignment(align ? align->flag : Qt::AlignLeft, parentIsHorizontal);
     if (align)
-        placement.x = IsInRightToLeftBubble(data) ? 1 - align->place : align->place;
-    if (const auto gravity = FindKeyword(kGravities, data.GetGravity())) {
+        placement.x = plix::IsInRightToLeftBubble(data) ? 1 - align->place : align->place;
+    if (const auto gravity = plix::FindKeyword(kGravities, data.GetGravity())) {
         setAlignment(gravity->flag, parentIsHorizontal);
         placement.y = gravity->place;
     }

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace plix {
+
 namespace {
 
 constexpr int kMarkerBytes = 2;
@@ -72,3 +74,5 @@ PlixJpegPixels ReadJpegPixels(const QByteArray& bytes)
     pixels.bytes.append(bytes.constData() + keptUpTo, bytes.size() - keptUpTo);
     return pixels;
 }
+
+} // namespace plix

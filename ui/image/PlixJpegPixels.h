@@ -11,4 +11,8 @@ struct PlixJpegPixels {
     int scans = 0;
 };
 
+namespace plix {
+
 PlixJpegPixels ReadJpegPixels(const QByteArray& bytes);
+
+} // namespace plix

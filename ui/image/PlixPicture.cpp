@@ -132,7 +132,7 @@ QImage PlixPicture::open()
         return {}; // it was no picture, and is the same
     opened_ = version;
     size_ = QSize();
-    const auto file = ReadPictureFile(fileName_);
+    const auto file = plix::ReadPictureFile(fileName_);
     if (!file)
         return {};
     auto movie = std::make_unique<PlixMovie>(*file);

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+namespace plix {
+
 namespace {
 
 QByteArray ReadFile(const QString& path)
@@ -47,3 +49,5 @@ std::optional<PlixPictureFile> ReadPictureFile(const QString& path)
         return std::nullopt;
     return file;
 }
+
+} // namespace plix

@@ -13,6 +13,8 @@ struct PlixPictureFile {
     QSize size; // in pixels
 };
 
+namespace plix {
+
 // What counts as unreadable beyond these: a card may name any picture, and few
 // bytes can ask for gigabytes or minutes.
 constexpr qint64 kMaximumPictureFileBytes = qint64 {32} * 1024 * 1024;
@@ -24,3 +26,5 @@ constexpr int kMaximumJpegScans = 64;
 // is no regular file, may not be read, is of no known format or exceeds the
 // limits above. Does not wait for anything but the disk.
 std::optional<PlixPictureFile> ReadPictureFile(const QString& path);
+
+} // namespace plix

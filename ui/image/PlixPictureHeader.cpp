@@ -9,6 +9,8 @@
 #include <climits>
 #include <cstdlib>
 
+namespace plix {
+
 namespace {
 
 bool IsWebP(const QByteArray& bytes)
@@ -50,3 +52,5 @@ QSize PictureSize(const QByteArray& bytes, const QByteArray& format)
     const qint64 height = std::abs(qint64 {size.height()});
     return {size.width(), static_cast<int>(std::min<qint64>(height, INT_MAX))};
 }
+
+} // namespace plix

@@ -50,15 +50,15 @@ PlixPictureTarget::PlixPictureTarget(const QRectF& area, double dpiFactor)
         area_.setSize(QSizeF(size_) / dpiFactor);
 }
 
-void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area)
+void plix::DrawPicture(QPainter& painter, const QImage& image, const QRectF& area)
 {
     const Mapping mapping = MapToDevice(painter, image, area);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !mapping.isExact);
     painter.drawImage(mapping.area, image);
 }
 
-void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area,
-                 const QPainterPath& outline)
+void plix::DrawPicture(QPainter& painter, const QImage& image, const QRectF& area,
+                       const QPainterPath& outline)
 {
     const Mapping mapping = MapToDevice(painter, image, area);
     QTransform onPicture = QTransform::fromTranslate(mapping.area.x(), mapping.area.y());
@@ -68,7 +68,7 @@ void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area,
     // A brush goes on beside its picture. The clip has hard edges: Qt forgets how
     // soft they are where the part that is painted leaves a rectangle of it.
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setClipPath(RectanglePath(mapping.area), Qt::IntersectClip);
+    painter.setClipPath(plix::RectanglePath(mapping.area), Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !mapping.isExact);
     painter.fillPath(outline, brush);

@@ -23,9 +23,13 @@ private:
     QSize size_;
 };
 
+namespace plix {
+
 // Fills `area` with the picture. Where that means a device pixel for a picture's
 // pixel, they are drawn as they are, on the nearest whole device pixels.
 void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area);
 // The same, inside an outline.
 void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area,
                  const QPainterPath& outline);
+
+} // namespace plix

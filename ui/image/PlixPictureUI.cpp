@@ -30,7 +30,7 @@ void PlixPictureUI::Download(const std::string& url)
 {
     // The host's failure costs this picture, not the card.
     if (downloadFunc_)
-        Contain([&] { FileArrived(downloadFunc_(url)); }, &LogFailedBuild);
+        plix::Contain([&] { FileArrived(downloadFunc_(url)); }, &plix::LogFailedBuild);
 }
 
 void PlixPictureUI::FileArrived(const std::string& path)
@@ -56,14 +56,14 @@ QString PlixPictureUI::pictureFile() const
 void PlixPictureUI::InitCommon(const PlixDataItemCommon& data)
 {
     setGrowFactor(data.GetGrow());
-    ApplyPlacement(IsInVerticalBox(data));
+    ApplyPlacement(plix::IsInVerticalBox(data));
     ApplyPercentOffsets();
 }
 
 void PlixPictureUI::SetBackground(const std::string& color)
 {
     if (!color.empty())
-        background_.emplace(ToColor(color), Qt::SolidPattern);
+        background_.emplace(plix::ToColor(color), Qt::SolidPattern);
 }
 
 void PlixPictureUI::inheritCornerRadius(int radius)
@@ -97,7 +97,7 @@ void PlixPictureUI::PaintBackground(QPainter& painter) const
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawPath(RoundedPath(rect(), cornerRadius_));
+    painter.drawPath(plix::RoundedPath(rect(), cornerRadius_));
 }
 
 QRectF PlixPictureUI::DrawingArea(const QSize& picture) const
@@ -127,7 +127,7 @@ void PlixPictureUI::PaintPicture(QPainter& painter)
     if (image.isNull())
         return;
     if (cornerRadius_ < 1)
-        DrawPicture(painter, image, target.area());
+        plix::DrawPicture(painter, image, target.area());
     else
-        DrawPicture(painter, image, target.area(), RoundedPath(rect(), cornerRadius_));
+        plix::DrawPicture(painter, image, target.area(), plix::RoundedPath(rect(), cornerRadius_));
 }

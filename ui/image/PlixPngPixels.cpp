@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace plix {
+
 QByteArray PngPixelsOnly(const QByteArray& bytes)
 {
     constexpr int kSignature = 8;
@@ -25,3 +27,5 @@ QByteArray PngPixelsOnly(const QByteArray& bytes)
     }
     return kept;
 }
+
+} // namespace plix

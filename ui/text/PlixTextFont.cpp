@@ -2,6 +2,8 @@
 
 #include "layout/PlixKeywordTable.h"
 
+namespace plix {
+
 namespace {
 
 constexpr std::array kSizes = std::to_array<PlixKeyword<int>>({{"xxs", 11},
@@ -36,3 +38,5 @@ void ApplyFontWords(QFont& font, const std::string& weight, const std::string& d
     if (style == "italic")
         font.setStyle(QFont::StyleItalic);
 }
+
+} // namespace plix

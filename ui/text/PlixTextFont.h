@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace plix {
+
 // The size table that texts, spans and icons share: "xxs" 11 ... "5xl" 74
 // pixels, 16 for no word and for any other.
 int ToTextPixels(const std::string& size);
@@ -14,3 +16,5 @@ int ToTextPixels(const std::string& size);
 //   style       "italic"
 void ApplyFontWords(QFont& font, const std::string& weight, const std::string& decoration,
                     const std::string& style);
+
+} // namespace plix

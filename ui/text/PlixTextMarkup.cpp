@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace plix {
+
 namespace {
 
 // Where the first `opener` ends, beyond the end of the text if there is none.
@@ -46,3 +48,5 @@ QString EscapeMarkup(const QString& text)
         escaped.replace(replacement.before, replacement.after);
     return escaped;
 }
+
+} // namespace plix

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace plix {
+
 // Whether `text` carries an element of the inline markup: what QRegExp finds
 // with "<[em].*/>|<e.*</e>|<m.*</m>", case-sensitively, but in linear time.
 bool HasMarkup(const QString& text);
@@ -10,3 +12,5 @@ bool HasMarkup(const QString& text);
 // already is undone first, so that nothing is escaped twice; a text that spells
 // an escaped entity on purpose pays for that and is read as the entity.
 QString EscapeMarkup(const QString& text);
+
+} // namespace plix

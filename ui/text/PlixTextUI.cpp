@@ -39,7 +39,7 @@ constexpr char kHighlightColor[] = "#118DFF";
 // free space to grow into, since they are all that could make some.
 bool IsShrinkWrapped(const PlixDataBox& box)
 {
-    const std::shared_ptr<PlixDataBox> parent = ParentBox(box);
+    const std::shared_ptr<PlixDataBox> parent = plix::ParentBox(box);
     const bool stretches = !parent || parent->IsVertical();
     const PlixLength width = box.GetWidthLength();
     return !stretches && box.GetGrow() <= 0 && width.px <= 0 && width.percent <= 0;
@@ -78,7 +78,7 @@ bool PlixTextUI::Init()
     InitColor(*data);
     InitAction(*data);
     InitFont(*data);
-    const std::shared_ptr<PlixDataBox> box = ParentBox(*data);
+    const std::shared_ptr<PlixDataBox> box = plix::ParentBox(*data);
     baseline_ = box && box->IsBaseline();
     wrap_ = data->GetWrap();
     InitAlignment(*data);
@@ -105,9 +105,9 @@ void PlixTextUI::InitWrapMode()
 void PlixTextUI::InitColor(const PlixDataText& data)
 {
     if (!data.GetColor().empty())
-        setDefaultTextColor(ToColor(data.GetColor()));
+        setDefaultTextColor(plix::ToColor(data.GetColor()));
     else
-        setDefaultTextColor(ToColor(colorMode_ == kFromMyself ? kOwnColor : kOthersColor));
+        setDefaultTextColor(plix::ToColor(colorMode_ == kFromMyself ? kOwnColor : kOthersColor));
 }
 
 void PlixTextUI::InitAction(const PlixDataText& data)
@@ -115,7 +115,7 @@ void PlixTextUI::InitAction(const PlixDataText& data)
     if (data.IsAppOnlyAction()) {
         unsupported_ = true;
         setAcceptedMouseButtons(Qt::NoButton);
-    } else if (!unsupported_ && HasKnownAction(data)) {
+    } else if (!unsupported_ && plix::HasKnownAction(data)) {
         hasOwnAction_ = true;
         setClickable(true);
     }
@@ -124,16 +124,16 @@ void PlixTextUI::InitAction(const PlixDataText& data)
 void PlixTextUI::InitFont(PlixDataText& data)
 {
     QFont itemFont = font();
-    ApplyFontWords(itemFont, data.GetWeight(), data.GetDecoration(), data.GetStyle());
-    data.SetPixelSize(ToTextPixels(data.GetSize()));
+    plix::ApplyFontWords(itemFont, data.GetWeight(), data.GetDecoration(), data.GetStyle());
+    data.SetPixelSize(plix::ToTextPixels(data.GetSize()));
     itemFont.setPixelSize(data.GetPixelSize());
     setFont(itemFont);
 }
 
 void PlixTextUI::InitAlignment(const PlixDataText& data)
 {
-    const bool parentIsHorizontal = IsInRow(data);
-    const bool rightToLeft = IsInRightToLeftBubble(data);
+    const bool parentIsHorizontal = plix::IsInRow(data);
+    const bool rightToLeft = plix::IsInRightToLeftBubble(data);
     Qt::Alignment alignment = Qt::AlignLeft;
     if (data.GetAlign() == "center") {
         alignment = Qt::AlignHCenter;
@@ -151,7 +151,7 @@ void PlixTextUI::InitAlignment(const PlixDataText& data)
 
 void PlixTextUI::InitGravity(const PlixDataText& data)
 {
-    const bool parentIsHorizontal = IsInRow(data);
+    const bool parentIsHorizontal = plix::IsInRow(data);
     if (data.GetGravity() == "center") {
         YogaLayoutItem::setAlignment(Qt::AlignVCenter, parentIsHorizontal);
         gravity_ = Gravity::Center;
@@ -167,28 +167,30 @@ void PlixTextUI::InsertContent(const PlixDataText& data)
 {
     if (unsupported_) {
         ClearText();
-        InsertText(PlixSettings::GetInstance().GetMultiLangText(kCheckOnMobileKey));
+        InsertText(PlixSettings::GetInstance().GetMultiLangText(plix::kCheckOnMobileKey));
         return;
     }
     if (data.GetSpans().empty())
-        InsertText(ChooseText(data.GetTexts(), GetCurrentLanguage(), data.GetText()));
+        InsertText(plix::ChooseText(data.GetTexts(), plix::GetCurrentLanguage(), data.GetText()));
     for (const PlixDataSpan& span : data.GetSpans())
         InsertSpan(span);
 }
 
 void PlixTextUI::InsertSpan(const PlixDataSpan& span)
 {
-    const std::string source = ChooseText(span.GetTexts(), GetCurrentLanguage(), span.GetText());
+    const std::string source =
+        plix::ChooseText(span.GetTexts(), plix::GetCurrentLanguage(), span.GetText());
     QFont spanFont = font();
-    ApplyFontWords(spanFont, span.GetWeight(), span.GetDecoration(), span.GetStyle());
+    plix::ApplyFontWords(spanFont, span.GetWeight(), span.GetDecoration(), span.GetStyle());
     if (!span.GetSize().empty())
-        spanFont.setPixelSize(ToTextPixels(span.GetSize()));
+        spanFont.setPixelSize(plix::ToTextPixels(span.GetSize()));
     QTextCharFormat format;
     format.setFont(spanFont);
     // The family is the item's, which follows the host's.
     format.clearProperty(QTextFormat::FontFamily);
     format.clearProperty(QTextFormat::FontFamilies);
-    format.setForeground(span.GetColor().empty() ? defaultTextColor() : ToColor(span.GetColor()));
+    format.setForeground(span.GetColor().empty() ? defaultTextColor()
+                                                 : plix::ToColor(span.GetColor()));
     const bool vanishes = !source.empty() && QString::fromStdString(source).isEmpty();
     InsertText(vanishes ? " " : source, &format);
 }
@@ -196,7 +198,7 @@ void PlixTextUI::InsertSpan(const PlixDataSpan& span)
 void PlixTextUI::InsertText(const std::string& text, const QTextCharFormat* format)
 {
     const QString inserted = QString::fromStdString(text);
-    InsertRichText(NeedsEscaping(inserted) ? EscapeMarkup(inserted) : inserted, true, format);
+    InsertRichText(NeedsEscaping(inserted) ? plix::EscapeMarkup(inserted) : inserted, true, format);
 }
 
 // In a bubble that reads from left to right, a paragraph that reads the other way
@@ -204,10 +206,10 @@ void PlixTextUI::InsertText(const std::string& text, const QTextCharFormat* form
 // "end" is the bubble's side, where the other values of a column end.
 void PlixTextUI::KeepSides(const PlixDataText& data)
 {
-    if (data.GetAlign() == "center" || IsInRightToLeftBubble(data))
+    if (data.GetAlign() == "center" || plix::IsInRightToLeftBubble(data))
         return;
     if (data.GetAlign() != "end") {
-        if (!IsInRow(data) && document()->begin().textDirection() == Qt::RightToLeft)
+        if (!plix::IsInRow(data) && document()->begin().textDirection() == Qt::RightToLeft)
             YogaLayoutItem::setAlignment(Qt::AlignRight, false);
         return;
     }
@@ -224,14 +226,14 @@ void PlixTextUI::KeepSides(const PlixDataText& data)
 bool PlixTextUI::NeedsEscaping(const QString& text) const
 {
     const PlixDataMgr* manager = Manager();
-    return manager && manager->GetDisplayParam().markupEnabled && !HasMarkup(text);
+    return manager && manager->GetDisplayParam().markupEnabled && !plix::HasMarkup(text);
 }
 
 void PlixTextUI::InitWidth(const PlixDataText& data)
 {
     const int grow = data.GetGrow();
-    const std::shared_ptr<PlixDataBox> box = ParentBox(data);
-    if (IsInRow(data) && grow >= 1 && !data.IsAbsolute() && !IsShrinkWrapped(*box)) {
+    const std::shared_ptr<PlixDataBox> box = plix::ParentBox(data);
+    if (plix::IsInRow(data) && grow >= 1 && !data.IsAbsolute() && !IsShrinkWrapped(*box)) {
         // Without a bound: where one equals the share of the row but for the
         // rounding of floats, Yoga gives the item no width at all, for good.
         setWidth(0);
@@ -335,7 +337,7 @@ void PlixTextUI::LimitLinesToRectangle()
 
 int PlixTextUI::setHighlightText(const QStringList& words)
 {
-    HighlightText(words, QBrush(ToColor(kHighlightColor), Qt::SolidPattern));
+    HighlightText(words, QBrush(plix::ToColor(kHighlightColor), Qt::SolidPattern));
     const QString text = toPlainText();
     const bool isFound = std::any_of(words.begin(), words.end(), [&](const QString& word) {
         return text.indexOf(word, 0, Qt::CaseInsensitive) >= 0;
