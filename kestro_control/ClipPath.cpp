@@ -1,6 +1,6 @@
 #include "ClipPath.h"
 
-void addClipRectangle(QPainterPath& path, const QRectF& rect)
+void AddClipRectangle(QPainterPath& path, const QRectF& rect)
 {
     path.addRect(rect);
     // One element more than what Qt takes for a rectangle. It encloses nothing.

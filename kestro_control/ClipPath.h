@@ -7,4 +7,4 @@
 // to the pixels whose middle is inside. A plain rectangle it rounds outwards to
 // whole pixels, but only where nothing else is clipped to that is no rectangle:
 // so a paint of a part would show other pixels than a paint of the whole.
-void addClipRectangle(QPainterPath& path, const QRectF& rect);
+void AddClipRectangle(QPainterPath& path, const QRectF& rect);

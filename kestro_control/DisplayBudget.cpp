@@ -6,23 +6,23 @@
 
 namespace {
 
-constexpr int limit = 16000;
-constexpr int wordLimit = 2000;
+constexpr int kMaximumCost = 16000;
+constexpr int kMaximumWordCost = 2000;
 
-constexpr int characterCost = 1;
-constexpr int extraCost = 8;
-constexpr int joinerCost = 40;
+constexpr int kCharacterCost = 1;
+constexpr int kExtraCost = 8;
+constexpr int kJoinerCost = 40;
 
 // That many on a letter are still common in living languages.
-constexpr int cheapMarks = 2;
+constexpr int kOrdinaryMarks = 2;
 
 // Fonts take long over the emoji that it joins.
-constexpr uint zeroWidthJoiner = 0x200D;
+constexpr uint kZeroWidthJoiner = 0x200D;
 
 // Texts of no more characters have no need of being looked at closely.
-constexpr int harmlessLength = wordLimit / (characterCost + extraCost);
+constexpr int kHarmlessLength = kMaximumWordCost / (kCharacterCost + kExtraCost);
 
-uint codePointAt(const QString& text, int at)
+uint CodePointAt(const QString& text, int at)
 {
     const QChar character = text.at(at);
     if (character.isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate())
@@ -30,13 +30,13 @@ uint codePointAt(const QString& text, int at)
     return character.unicode();
 }
 
-bool endsLine(uint character)
+bool EndsLine(uint character)
 {
     return character == '\n' || character == '\r' || character == QChar::ParagraphSeparator
         || character == QChar::LineSeparator;
 }
 
-bool isMark(uint character)
+bool IsMark(uint character)
 {
     const QChar::Category category = QChar::category(character);
     return category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing;
@@ -44,7 +44,7 @@ bool isMark(uint character)
 
 // The scripts of Chinese and Japanese as one: they change all the time, and
 // lines break anywhere between them.
-QChar::Script scriptOf(uint character)
+QChar::Script ScriptOf(uint character)
 {
     const QChar::Script script = QChar::script(character);
     return script == QChar::Script_Hiragana || script == QChar::Script_Katakana ? QChar::Script_Han
@@ -53,17 +53,17 @@ QChar::Script scriptOf(uint character)
 
 } // namespace
 
-DisplayBudget::Order DisplayBudget::orderOf(uint character)
+DisplayBudget::Direction DisplayBudget::DirectionOf(uint character)
 {
     switch (QChar::direction(character)) {
     case QChar::DirL:
-        return Order::LeftToRight;
+        return Direction::LeftToRight;
     case QChar::DirR:
     case QChar::DirAL:
-        return Order::RightToLeft;
+        return Direction::RightToLeft;
     case QChar::DirEN:
     case QChar::DirAN:
-        return Order::Number;
+        return Direction::Number;
     case QChar::DirLRE:
     case QChar::DirLRO:
     case QChar::DirRLE:
@@ -73,16 +73,16 @@ DisplayBudget::Order DisplayBudget::orderOf(uint character)
     case QChar::DirRLI:
     case QChar::DirFSI:
     case QChar::DirPDI:
-        return Order::Explicit;
+        return Direction::Explicit;
     default:
-        return Order::Any;
+        return Direction::Neutral;
     }
 }
 
-int DisplayBudget::Take(const QString& text)
+int DisplayBudget::Spend(const QString& text)
 {
-    used_ += extraCost;
-    if (used_ + text.size() <= harmlessLength) {
+    used_ += kExtraCost;
+    if (used_ + text.size() <= kHarmlessLength) {
         used_ += text.size();
         usedByWord_ += text.size();
         return text.size();
@@ -96,10 +96,10 @@ int DisplayBudget::Take(const QString& text)
             usedByWord_ = 0;
             wordEnd = finder.toNextBoundary();
         }
-        const uint character = codePointAt(text, at);
+        const uint character = CodePointAt(text, at);
         const int length = QChar::requiresSurrogates(character) ? 2 : 1;
-        const int cost = CostOf(character) + length - 1;
-        if (used_ + cost > limit || usedByWord_ + cost > wordLimit)
+        const int cost = CostOfNext(character) + length - 1;
+        if (used_ + cost > kMaximumCost || usedByWord_ + cost > kMaximumWordCost)
             break;
         used_ += cost;
         usedByWord_ += cost;
@@ -112,28 +112,29 @@ int DisplayBudget::Take(const QString& text)
     return splitsLineEnd ? at - 1 : at;
 }
 
-int DisplayBudget::CostOf(uint character)
+int DisplayBudget::CostOfNext(uint character)
 {
-    marksInARow_ = isMark(character) ? marksInARow_ + 1 : 0;
-    if (character == zeroWidthJoiner)
-        return characterCost + joinerCost;
+    marksInARow_ = IsMark(character) ? marksInARow_ + 1 : 0;
+    if (character == kZeroWidthJoiner)
+        return kCharacterCost + kJoinerCost;
     const bool isExtra =
-        ChangesWriting(character) || marksInARow_ > cheapMarks || endsLine(character);
-    return characterCost + (isExtra ? extraCost : 0);
+        StartsRun(character) || marksInARow_ > kOrdinaryMarks || EndsLine(character);
+    return kCharacterCost + (isExtra ? kExtraCost : 0);
 }
 
 // Whether the text engine divides the text in front of the character.
 // Characters that go with any script or direction do not matter.
-bool DisplayBudget::ChangesWriting(uint character)
+bool DisplayBudget::StartsRun(uint character)
 {
-    const QChar::Script script = scriptOf(character);
+    const QChar::Script script = ScriptOf(character);
     const bool changesScript = script > QChar::Script_Common && script != script_;
     if (changesScript)
         script_ = script;
 
-    const Order order = orderOf(character);
-    const bool changesOrder = order != Order::Any && (order != order_ || order == Order::Explicit);
-    if (changesOrder)
-        order_ = order;
-    return changesScript || changesOrder;
+    const Direction direction = DirectionOf(character);
+    const bool changesDirection = direction != Direction::Neutral
+        && (direction != direction_ || direction == Direction::Explicit);
+    if (changesDirection)
+        direction_ = direction;
+    return changesScript || changesDirection;
 }

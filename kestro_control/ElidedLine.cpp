@@ -8,19 +8,19 @@
 
 namespace {
 
-constexpr QChar ellipsis(0x2026);
-constexpr QChar popDirectionalFormatting(0x202C);
-constexpr QChar popDirectionalIsolate(0x2069);
+constexpr QChar kEllipsis(0x2026);
+constexpr QChar kPopDirectionalFormatting(0x202C);
+constexpr QChar kPopDirectionalIsolate(0x2069);
 
 // More characters than any line shows. Without a bound, a text of marks that
 // take no width would be tried out at its full length again and again.
-constexpr int mostCharacters = 4096;
+constexpr int kMaximumCharacters = 4096;
 
 // Wider than any line, and well within what the text engine can count.
-constexpr qreal unlimitedWidth = 1 << 22;
+constexpr qreal kUnlimitedWidth = 1 << 22;
 
 // Where the text may be cut, in ascending order, both its ends included.
-std::vector<int> cutPositions(const QString& text)
+std::vector<int> CutPositions(const QString& text)
 {
     std::vector<int> positions {0};
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
@@ -29,7 +29,7 @@ std::vector<int> cutPositions(const QString& text)
     return positions;
 }
 
-int lengthWithoutTrailingSpace(const QString& text, int length)
+int LengthWithoutTrailingSpace(const QString& text, int length)
 {
     while (length > 0 && text.at(length - 1).isSpace())
         --length;
@@ -39,17 +39,17 @@ int lengthWithoutTrailingSpace(const QString& text, int length)
 // Ends what the text may leave open of explicit directions, so that the
 // ellipsis stands at the end of the line and not inside of them. Ends without
 // a beginning mean nothing, so what the text has ended itself needs no care.
-QString directionEnds(const QString& text)
+QString DirectionEnds(const QString& text)
 {
     QString ends;
     for (const QChar character : text) {
         const QChar::Direction direction = character.direction();
         if (direction == QChar::DirLRE || direction == QChar::DirRLE || direction == QChar::DirLRO
             || direction == QChar::DirRLO)
-            ends.append(popDirectionalFormatting);
+            ends.append(kPopDirectionalFormatting);
         else if (direction == QChar::DirLRI || direction == QChar::DirRLI
                  || direction == QChar::DirFSI)
-            ends.append(popDirectionalIsolate);
+            ends.append(kPopDirectionalIsolate);
     }
     std::reverse(ends.begin(), ends.end());
     return ends;
@@ -57,7 +57,7 @@ QString directionEnds(const QString& text)
 
 // The formats of the first `length` characters, and of `tailLength` more that
 // look like the last of them.
-QVector<QTextLayout::FormatRange> formatsWithTail(const QVector<QTextLayout::FormatRange>& formats,
+QVector<QTextLayout::FormatRange> FormatsWithTail(const QVector<QTextLayout::FormatRange>& formats,
                                                   int length, int tailLength)
 {
     QVector<QTextLayout::FormatRange> result;
@@ -72,7 +72,7 @@ QVector<QTextLayout::FormatRange> formatsWithTail(const QVector<QTextLayout::For
     return result;
 }
 
-QTextOption oneLine(QTextOption option, bool aligned)
+QTextOption OneLineOption(QTextOption option, bool aligned)
 {
     option.setWrapMode(QTextOption::NoWrap);
     if (!aligned)
@@ -80,21 +80,21 @@ QTextOption oneLine(QTextOption option, bool aligned)
     return option;
 }
 
-ElisionSource withoutPictures(ElisionSource source)
+ElisionSource WithoutPictures(ElisionSource source)
 {
-    EmojiPicture::Replace(source.text, source.formats);
+    EmojiPicture::ReplaceWithPlaceholders(source.text, source.formats);
     return source;
 }
 
 } // namespace
 
 ElidedLine::ElidedLine(ElisionSource source, std::optional<qreal> width)
-    : source_(withoutPictures(std::move(source)))
-    , pictures_(EmojiPicture::Among(source_.formats))
+    : source_(WithoutPictures(std::move(source)))
+    , pictures_(EmojiPicture::PicturesIn(source_.formats))
     , width_(width)
 {
     layout_.setFont(source_.font);
-    layout_.setTextOption(oneLine(source_.option, width_.has_value()));
+    layout_.setTextOption(OneLineOption(source_.option, width_.has_value()));
     // The line is drawn more often than it is made.
     layout_.setCacheEnabled(true);
 
@@ -125,7 +125,7 @@ void ElidedLine::DrawPictures(QPainter* painter, const QPointF& origin) const
 // by halving, from near where it is expected.
 int ElidedLine::LongestFittingLength()
 {
-    const std::vector<int> cuts = cutPositions(source_.text.left(mostCharacters));
+    const std::vector<int> cuts = CutPositions(source_.text.left(kMaximumCharacters));
     const auto expected = std::lower_bound(cuts.begin(), cuts.end(), source_.expectedLength);
 
     std::size_t fitting = 0; // The bare ellipsis, which is shown in any case.
@@ -154,18 +154,18 @@ bool ElidedLine::Fits(int length)
 
 void ElidedLine::LayOut(int length)
 {
-    const int kept = lengthWithoutTrailingSpace(source_.text, length);
+    const int kept = LengthWithoutTrailingSpace(source_.text, length);
     if (layout_.lineCount() > 0 && kept == laidOutLength_)
         return;
     laidOutLength_ = kept;
 
     const QString start = source_.text.left(kept);
-    const QString tail = directionEnds(start) + ellipsis;
+    const QString tail = DirectionEnds(start) + kEllipsis;
     layout_.setText(start + tail);
-    layout_.setFormats(formatsWithTail(source_.formats, kept, tail.size()));
+    layout_.setFormats(FormatsWithTail(source_.formats, kept, tail.size()));
     layout_.beginLayout();
     QTextLine line = layout_.createLine();
     line.setLeadingIncluded(true);
-    line.setLineWidth(width_.value_or(unlimitedWidth));
+    line.setLineWidth(width_.value_or(kUnlimitedWidth));
     layout_.endLayout();
 }

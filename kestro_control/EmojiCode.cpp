@@ -9,10 +9,10 @@
 
 namespace {
 
-constexpr int mostDigits = 6;
-constexpr uint keycap = 0x20E3;
+constexpr int kMaximumDigits = 6;
+constexpr uint kKeycap = 0x20E3;
 
-struct CodePoints {
+struct CodePointRange {
     uint first;
     uint last;
 
@@ -21,7 +21,7 @@ struct CodePoints {
 
 // What shows something by itself: the blocks that emoji are taken from, with
 // room for those that Unicode has yet to add.
-constexpr std::array<CodePoints, 17> pictures {{
+constexpr std::array<CodePointRange, 17> kEmojiRanges {{
     {0xA9, 0xA9},
     {0xAE, 0xAE},
     {0x203C, 0x203C},
@@ -42,26 +42,27 @@ constexpr std::array<CodePoints, 17> pictures {{
 }};
 
 // What begins a keycap.
-constexpr std::array<CodePoints, 3> keys {{{'#', '#'}, {'*', '*'}, {'0', '9'}}};
+constexpr std::array<CodePointRange, 3> kKeycapBases {{{'#', '#'}, {'*', '*'}, {'0', '9'}}};
 
 // What joins and varies: the joiner, the variation selectors, the keycap and
 // the tags that spell the names of flags.
-constexpr std::array<CodePoints, 4> modifiers {{
+constexpr std::array<CodePointRange, 4> kModifiers {{
     {0x200D, 0x200D},
     {0xFE0E, 0xFE0F},
-    {keycap, keycap},
+    {kKeycap, kKeycap},
     {0xE0020, 0xE007F},
 }};
 
-template <std::size_t count> bool isIn(const std::array<CodePoints, count>& table, uint codePoint)
+template <std::size_t count>
+bool IsIn(const std::array<CodePointRange, count>& table, uint codePoint)
 {
     return std::any_of(table.begin(), table.end(),
-                       [codePoint](CodePoints range) { return range.Contains(codePoint); });
+                       [codePoint](CodePointRange range) { return range.Contains(codePoint); });
 }
 
-std::optional<uint> hexadecimalNumber(QStringView digits)
+std::optional<uint> HexadecimalNumber(QStringView digits)
 {
-    if (digits.isEmpty() || digits.size() > mostDigits)
+    if (digits.isEmpty() || digits.size() > kMaximumDigits)
         return std::nullopt;
     for (const QChar digit : digits) {
         if (!std::isxdigit(static_cast<unsigned char>(digit.toLatin1())))
@@ -70,17 +71,17 @@ std::optional<uint> hexadecimalNumber(QStringView digits)
     return digits.toUInt(nullptr, 16);
 }
 
-bool areEmoji(const QVector<uint>& codePoints)
+bool AreEmoji(const QVector<uint>& codePoints)
 {
     const uint first = codePoints.front();
-    const bool isKeycap = isIn(keys, first) && codePoints.back() == keycap;
-    return (isKeycap || isIn(pictures, first))
+    const bool isKeycap = IsIn(kKeycapBases, first) && codePoints.back() == kKeycap;
+    return (isKeycap || IsIn(kEmojiRanges, first))
         && std::all_of(codePoints.begin() + 1, codePoints.end(), [](uint codePoint) {
-               return isIn(pictures, codePoint) || isIn(modifiers, codePoint);
+               return IsIn(kEmojiRanges, codePoint) || IsIn(kModifiers, codePoint);
            });
 }
 
-bool isOneCharacter(const QString& characters)
+bool IsOneCharacter(const QString& characters)
 {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, characters);
     return finder.toNextBoundary() == characters.size();
@@ -97,15 +98,15 @@ std::optional<EmojiCode> EmojiCode::Read(QStringView name)
 {
     QVector<uint> codePoints;
     for (const QStringView part : name.split(QLatin1Char('-'))) {
-        const auto codePoint = hexadecimalNumber(part);
-        if (!codePoint || codePoints.size() == mostCodePoints)
+        const auto codePoint = HexadecimalNumber(part);
+        if (!codePoint || codePoints.size() == kMaximumCodePoints)
             return std::nullopt;
         codePoints.push_back(*codePoint);
     }
-    if (!areEmoji(codePoints))
+    if (!AreEmoji(codePoints))
         return std::nullopt;
     const QString characters = QString::fromUcs4(codePoints.constData(), codePoints.size());
-    return isOneCharacter(characters) ? std::optional(EmojiCode(characters)) : std::nullopt;
+    return IsOneCharacter(characters) ? std::optional(EmojiCode(characters)) : std::nullopt;
 }
 
 QString EmojiCode::Name() const

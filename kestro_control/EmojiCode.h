@@ -9,9 +9,9 @@
 class EmojiCode {
 public:
     // No longer than this; the longest emoji in use have ten code points.
-    static constexpr int mostCodePoints = 16;
+    static constexpr int kMaximumCodePoints = 16;
     // In characters: code points have at most six digits.
-    static constexpr int longestName = mostCodePoints * 7 - 1;
+    static constexpr int kMaximumNameLength = kMaximumCodePoints * 7 - 1;
 
     // From hexadecimal code points joined by "-". Nothing when they are not
     // such as emoji are made of, or when they are several emoji.

@@ -14,14 +14,14 @@ namespace {
 
 // Enough for any text. What is shown larger, the painter scales as far as it is
 // seen.
-constexpr int largestPicture = 256;
+constexpr int kMaximumSide = 256;
 
 // Of all items together: thirty pictures of the largest size.
-constexpr int maxScaledBytes = 8 * 1024 * 1024;
+constexpr int kMaximumScaledBytes = 8 * 1024 * 1024;
 
 // Of the square that a picture is shown in: as high as a line of its font.
-struct Room {
-    explicit Room(const QTextFormat& format)
+struct EmojiCell {
+    explicit EmojiCell(const QTextFormat& format)
     {
         const QFontMetrics metrics(format.toCharFormat().font());
         side = metrics.height();
@@ -33,32 +33,32 @@ struct Room {
 };
 
 // Has a glyph in the text's own font, so that the line does not grow.
-constexpr QChar inkless(0x2014);
+constexpr QChar kPlaceholder(0x2014);
 
 // Takes no width. A line of nothing but objects would have no descent.
-constexpr QChar strut(0x200B);
+constexpr QChar kStrut(0x200B);
 
-ScaledPictures& scaledPictures()
+ScaledPictures& SharedScaledPictures()
 {
     // Never destroyed: the application's scene may go last of all.
-    static auto* const pictures = new ScaledPictures(maxScaledBytes);
+    static auto* const pictures = new ScaledPictures(kMaximumScaledBytes);
     return *pictures;
 }
 
-QImage withinBounds(const QImage& picture)
+QImage LimitedInSize(const QImage& picture)
 {
-    if (picture.width() <= largestPicture && picture.height() <= largestPicture)
+    if (picture.width() <= kMaximumSide && picture.height() <= kMaximumSide)
         return picture;
-    return picture.scaled(largestPicture, largestPicture, Qt::KeepAspectRatio,
+    return picture.scaled(kMaximumSide, kMaximumSide, Qt::KeepAspectRatio,
                           Qt::SmoothTransformation);
 }
 
-QTextCharFormat inklessFormat(QTextCharFormat format)
+QTextCharFormat PlaceholderFormat(QTextCharFormat format)
 {
     QFont font = format.font();
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0);
-    const qreal ownWidth = QFontMetricsF(font).horizontalAdvance(inkless);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, Room(format).side - ownWidth);
+    const qreal ownWidth = QFontMetricsF(font).horizontalAdvance(kPlaceholder);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, EmojiCell(format).side - ownWidth);
     format.setFont(font);
     format.setForeground(Qt::transparent);
     format.clearProperty(QTextFormat::ObjectType);
@@ -71,39 +71,39 @@ void EmojiPicture::Insert(QTextCursor& cursor, const QTextCharFormat& format,
                           const QString& characters, const QImage& picture)
 {
     QTextCharFormat object = format;
-    object.setObjectType(objectType);
+    object.setObjectType(kObjectType);
     object.setProperty(TextProperty::EmojiCharacters, characters);
-    object.setProperty(TextProperty::EmojiPicture, withinBounds(picture));
+    object.setProperty(TextProperty::EmojiPicture, LimitedInSize(picture));
     cursor.insertText(QString(QChar::ObjectReplacementCharacter), object);
 
     QTextCharFormat strutFormat = format;
     strutFormat.setProperty(TextProperty::EmojiCharacters, QString());
-    cursor.insertText(QString(strut), strutFormat);
+    cursor.insertText(QString(kStrut), strutFormat);
 }
 
-bool EmojiPicture::IsIn(const QTextFormat& format)
+bool EmojiPicture::IsPicture(const QTextFormat& format)
 {
     return format.hasProperty(TextProperty::EmojiPicture);
 }
 
 QVector<QTextLayout::FormatRange>
-EmojiPicture::Among(const QVector<QTextLayout::FormatRange>& formats)
+EmojiPicture::PicturesIn(const QVector<QTextLayout::FormatRange>& formats)
 {
     QVector<QTextLayout::FormatRange> pictures;
     std::copy_if(formats.begin(), formats.end(), std::back_inserter(pictures),
-                 [](const auto& range) { return IsIn(range.format); });
+                 [](const auto& range) { return IsPicture(range.format); });
     return pictures;
 }
 
 void EmojiPicture::Draw(QPainter* painter, const QPointF& start, const QTextCharFormat& format)
 {
-    const Room room(format);
-    const QRectF square(start.x(), start.y() + room.descent - room.side, room.side, room.side);
+    const EmojiCell cell(format);
+    const QRectF square(start.x(), start.y() + cell.descent - cell.side, cell.side, cell.side);
 
     const auto picture = format.property(TextProperty::EmojiPicture).value<QImage>();
     const QSize pixels = painter->deviceTransform().mapRect(square).size().toSize();
-    const bool isOrdinary = pixels.width() <= largestPicture && pixels.height() <= largestPicture;
-    const QImage image = isOrdinary ? scaledPictures().Get(picture, pixels) : picture;
+    const bool isOrdinary = pixels.width() <= kMaximumSide && pixels.height() <= kMaximumSide;
+    const QImage image = isOrdinary ? SharedScaledPictures().Get(picture, pixels) : picture;
     QRectF place(QPointF(), QSizeF(image.size()).scaled(square.size(), Qt::KeepAspectRatio));
     place.moveCenter(square.center());
     const bool wasSmooth = painter->testRenderHint(QPainter::SmoothPixmapTransform);
@@ -114,16 +114,17 @@ void EmojiPicture::Draw(QPainter* painter, const QPointF& start, const QTextChar
 
 qreal EmojiPicture::Width(const QTextCharFormat& format)
 {
-    return Room(format).side;
+    return EmojiCell(format).side;
 }
 
-void EmojiPicture::Replace(QString& text, QVector<QTextLayout::FormatRange>& formats)
+void EmojiPicture::ReplaceWithPlaceholders(QString& text,
+                                           QVector<QTextLayout::FormatRange>& formats)
 {
     for (QTextLayout::FormatRange& range : formats) {
-        if (!IsIn(range.format))
+        if (!IsPicture(range.format))
             continue;
-        range.format = inklessFormat(range.format);
-        text.replace(range.start, range.length, QString(range.length, inkless));
+        range.format = PlaceholderFormat(range.format);
+        text.replace(range.start, range.length, QString(range.length, kPlaceholder));
     }
 }
 
@@ -131,8 +132,8 @@ void EmojiPicture::Replace(QString& text, QVector<QTextLayout::FormatRange>& for
 // the descent, where there is room for it in any case.
 QSizeF EmojiPicture::intrinsicSize(QTextDocument*, int, const QTextFormat& format)
 {
-    const Room room(format);
-    return QSizeF(room.side, room.side - room.descent);
+    const EmojiCell cell(format);
+    return QSizeF(cell.side, cell.side - cell.descent);
 }
 
 void EmojiPicture::drawObject(QPainter* painter, const QRectF& rect, QTextDocument*, int,

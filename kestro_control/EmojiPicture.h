@@ -16,15 +16,15 @@ class EmojiPicture : public QObject, public QTextObjectInterface {
     Q_INTERFACES(QTextObjectInterface)
 
 public:
-    static constexpr int objectType = QTextFormat::UserObject + 1;
+    static constexpr int kObjectType = QTextFormat::UserObject + 1;
 
     // Text around it has `format`.
     static void Insert(QTextCursor& cursor, const QTextCharFormat& format,
                        const QString& characters, const QImage& picture);
 
-    static bool IsIn(const QTextFormat& format);
+    static bool IsPicture(const QTextFormat& format);
     static QVector<QTextLayout::FormatRange>
-    Among(const QVector<QTextLayout::FormatRange>& formats);
+    PicturesIn(const QVector<QTextLayout::FormatRange>& formats);
 
     // Draws the picture of `format` where the text has its baseline at `start`.
     static void Draw(QPainter* painter, const QPointF& start, const QTextCharFormat& format);
@@ -34,7 +34,7 @@ public:
 
     // Layouts outside of a document know no objects. Puts characters in their
     // place that take as much room and leave no ink.
-    static void Replace(QString& text, QVector<QTextLayout::FormatRange>& formats);
+    static void ReplaceWithPlaceholders(QString& text, QVector<QTextLayout::FormatRange>& formats);
 
     // ----- QTextObjectInterface
     QSizeF intrinsicSize(QTextDocument* document, int position, const QTextFormat& format) override;

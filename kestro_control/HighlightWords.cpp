@@ -5,7 +5,7 @@
 namespace {
 
 // Character by character, as QString compares without case: positions stay.
-QString withoutCase(const QString& text)
+QString CaseFolded(const QString& text)
 {
     QString folded = text;
     for (int at = 0; at < folded.size(); ++at) {
@@ -25,7 +25,7 @@ QString withoutCase(const QString& text)
 // For every start of a word, the length of the longest shorter start of the
 // word that it ends with: where the search goes on when the next character
 // does not match (Knuth, Morris and Pratt).
-std::vector<int> fallbacksOf(const QString& word)
+std::vector<int> FallbackLengths(const QString& word)
 {
     std::vector<int> fallbacks(static_cast<std::size_t>(word.size()) + 1, 0);
     int matched = 0;
@@ -39,9 +39,9 @@ std::vector<int> fallbacksOf(const QString& word)
     return fallbacks;
 }
 
-void coverWord(const QString& word, const QString& text, std::vector<bool>& covered)
+void CoverWord(const QString& word, const QString& text, std::vector<bool>& covered)
 {
-    const std::vector<int> fallbacks = fallbacksOf(word);
+    const std::vector<int> fallbacks = FallbackLengths(word);
     int matched = 0;
     int coveredEnd = 0;
     for (int at = 0; at < text.size(); ++at) {
@@ -63,21 +63,21 @@ HighlightWords::HighlightWords(const QStringList& words)
 {
     for (const QString& word : words) {
         if (!word.isEmpty())
-            words_.push_back(withoutCase(word));
-        if (words_.size() == mostWords)
+            words_.push_back(CaseFolded(word));
+        if (words_.size() == kMaximumWords)
             break;
     }
     std::sort(words_.begin(), words_.end());
     words_.erase(std::unique(words_.begin(), words_.end()), words_.end());
 }
 
-std::vector<std::pair<int, int>> HighlightWords::Cover(const QString& text) const
+std::vector<std::pair<int, int>> HighlightWords::CoveredRanges(const QString& text) const
 {
     std::vector<bool> covered(static_cast<std::size_t>(text.size()), false);
-    const QString folded = withoutCase(text);
+    const QString folded = CaseFolded(text);
     for (const QString& word : words_) {
         if (word.size() <= folded.size())
-            coverWord(word, folded, covered);
+            CoverWord(word, folded, covered);
     }
 
     std::vector<std::pair<int, int>> stretches;

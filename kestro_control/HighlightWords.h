@@ -10,7 +10,7 @@
 class HighlightWords {
 public:
     // More words than anyone looks for; what is beyond them is left out.
-    static constexpr std::size_t mostWords = 1000;
+    static constexpr std::size_t kMaximumWords = 1000;
 
     HighlightWords() = default;
     explicit HighlightWords(const QStringList& words);
@@ -20,7 +20,7 @@ public:
     // The stretches of `text`, as pairs of start and end, that occurrences of
     // the words cover, in ascending order, with room between them. Takes time
     // that grows with the length of the text for every word.
-    std::vector<std::pair<int, int>> Cover(const QString& text) const;
+    std::vector<std::pair<int, int>> CoveredRanges(const QString& text) const;
 
     friend bool operator==(const HighlightWords&, const HighlightWords&) = default;
 

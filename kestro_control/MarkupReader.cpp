@@ -11,14 +11,14 @@
 namespace {
 
 // "-" and as many digits as the smallest number has.
-constexpr int longestNumber = 20;
+constexpr int kMaximumNumberLength = 20;
 
 struct Entity {
     QLatin1String name;
     QChar character;
 };
 
-const std::array<Entity, 3> entities {{
+const std::array<Entity, 3> kEntities {{
     {QLatin1String("&lt;"), QLatin1Char('<')},
     {QLatin1String("&gt;"), QLatin1Char('>')},
     {QLatin1String("&amp;"), QLatin1Char('&')},
@@ -29,16 +29,16 @@ struct MentionTag {
     MarkupRun::Kind kind;
 };
 
-const std::array<MentionTag, 2> mentionTags {{
+const std::array<MentionTag, 2> kMentionTags {{
     {QLatin1String("<m user=\""), MarkupRun::Kind::UserMention},
     {QLatin1String("<m bot=\""), MarkupRun::Kind::BotMention},
 }};
 
-const QLatin1String mentionEnd("</m>");
-const QLatin1String emojiStart("<e code=\"");
-const QLatin1String emojiEnd("</e>");
+const QLatin1String kMentionEnd("</m>");
+const QLatin1String kEmojiStart("<e code=\"");
+const QLatin1String kEmojiEnd("</e>");
 
-QString withoutEntities(QStringView text)
+QString Unescaped(QStringView text)
 {
     QString result;
     result.reserve(static_cast<int>(text.size()));
@@ -46,7 +46,7 @@ QString withoutEntities(QStringView text)
         QChar character = text.front();
         qsizetype length = 1;
         if (character == QLatin1Char('&')) {
-            for (const Entity& entity : entities) {
+            for (const Entity& entity : kEntities) {
                 if (text.startsWith(entity.name)) {
                     character = entity.character;
                     length = entity.name.size();
@@ -62,7 +62,7 @@ QString withoutEntities(QStringView text)
 
 // Only the digits that numbers are written with in the markup: QString would
 // also take "+1" and " 1".
-std::optional<qint64> decimalNumber(QStringView digits)
+std::optional<qint64> DecimalNumber(QStringView digits)
 {
     const QStringView unsignedDigits = digits.startsWith(QLatin1Char('-')) ? digits.mid(1) : digits;
     for (const QChar digit : unsignedDigits) {
@@ -87,7 +87,7 @@ public:
             if (text_[at_] != QLatin1Char('<') || !ReadElement())
                 ++at_;
         }
-        EndText(at_);
+        AddTextUntil(at_);
         return std::move(runs_);
     }
 
@@ -105,7 +105,7 @@ private:
             return false;
         }
         const qsizetype end = at_;
-        EndText(start);
+        AddTextUntil(start);
         runs_.push_back(std::move(*run));
         at_ = textStart_ = end;
         return true;
@@ -113,32 +113,32 @@ private:
 
     std::optional<MarkupRun> ReadMention()
     {
-        for (const MentionTag& tag : mentionTags) {
+        for (const MentionTag& tag : kMentionTags) {
             if (!Skip(tag.start))
                 continue;
-            const auto number = decimalNumber(ReadAttribute(longestNumber));
+            const auto number = DecimalNumber(ReadAttribute(kMaximumNumberLength));
             if (!number || !Skip(QLatin1String("\">")))
                 return std::nullopt;
             const QStringView name = ReadContent();
-            if (name.isEmpty() || !Skip(mentionEnd))
+            if (name.isEmpty() || !Skip(kMentionEnd))
                 return std::nullopt;
-            return MarkupRun {tag.kind, withoutEntities(name), *number, {}};
+            return MarkupRun {tag.kind, Unescaped(name), *number, {}};
         }
         return std::nullopt;
     }
 
     std::optional<MarkupRun> ReadEmoji()
     {
-        if (!Skip(emojiStart))
+        if (!Skip(kEmojiStart))
             return std::nullopt;
-        const auto emoji = EmojiCode::Read(ReadAttribute(EmojiCode::longestName));
+        const auto emoji = EmojiCode::Read(ReadAttribute(EmojiCode::kMaximumNameLength));
         if (!emoji)
             return std::nullopt;
         if (!Skip(QLatin1String("\"/>"))) {
             if (!Skip(QLatin1String("\">")))
                 return std::nullopt;
             ReadContent();
-            if (!Skip(emojiEnd))
+            if (!Skip(kEmojiEnd))
                 return std::nullopt;
         }
         return MarkupRun {MarkupRun::Kind::Emoji, emoji->Characters(), 0, emoji->Name()};
@@ -153,10 +153,10 @@ private:
     }
 
     // What is longer cannot be right and is not looked at.
-    QStringView ReadAttribute(int longest)
+    QStringView ReadAttribute(int maximumLength)
     {
         const qsizetype start = at_;
-        while (at_ < text_.size() && at_ - start < longest && text_[at_] != QLatin1Char('"'))
+        while (at_ < text_.size() && at_ - start < maximumLength && text_[at_] != QLatin1Char('"'))
             ++at_;
         return text_.mid(start, at_ - start);
     }
@@ -172,13 +172,11 @@ private:
         return text_.mid(start, at_ - start);
     }
 
-    void EndText(qsizetype end)
+    void AddTextUntil(qsizetype end)
     {
         if (end > textStart_)
-            runs_.push_back({MarkupRun::Kind::Text,
-                             withoutEntities(text_.mid(textStart_, end - textStart_)),
-                             0,
-                             {}});
+            runs_.push_back(
+                {MarkupRun::Kind::Text, Unescaped(text_.mid(textStart_, end - textStart_)), 0, {}});
     }
 
     const QStringView text_;
@@ -190,7 +188,7 @@ private:
 
 } // namespace
 
-std::vector<MarkupRun> readMarkup(const QString& text)
+std::vector<MarkupRun> ReadMarkup(const QString& text)
 {
     return Reader(text).Runs();
 }

@@ -20,4 +20,4 @@ struct MarkupRun {
 // Reads the markup that TextItem documents, in one pass: what is not part of a
 // well-formed element is text. No run is empty, and no two runs of text follow
 // each other.
-std::vector<MarkupRun> readMarkup(const QString& text);
+std::vector<MarkupRun> ReadMarkup(const QString& text);

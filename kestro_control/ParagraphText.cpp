@@ -33,7 +33,7 @@ int ParagraphText::DocumentPosition(int index) const
     return start_ + (positions_.empty() ? index : positions_[static_cast<std::size_t>(index)]);
 }
 
-QString asPlainText(QString text)
+QString AsPlainText(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     for (QChar& character : text) {
@@ -55,7 +55,7 @@ QString asPlainText(QString text)
     return text;
 }
 
-QString plainTextOf(const QTextDocument& document)
+QString PlainTextOf(const QTextDocument& document)
 {
     QString text;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
@@ -63,5 +63,5 @@ QString plainTextOf(const QTextDocument& document)
             text += QLatin1Char('\n');
         text += ParagraphText(block).Characters();
     }
-    return asPlainText(text);
+    return AsPlainText(text);
 }

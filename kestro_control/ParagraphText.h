@@ -29,6 +29,6 @@ private:
 };
 
 // `text` as QTextDocument::toPlainText() would tell it.
-QString asPlainText(QString text);
+QString AsPlainText(QString text);
 
-QString plainTextOf(const QTextDocument& document);
+QString PlainTextOf(const QTextDocument& document);

@@ -32,8 +32,8 @@ struct Paragraph {
     QVector<QTextLayout::FormatRange> formats;
 };
 
-QVector<QTextLayout::FormatRange> formatsFrom(const QVector<QTextLayout::FormatRange>& formats,
-                                              int start, int end)
+QVector<QTextLayout::FormatRange> FormatsBetween(const QVector<QTextLayout::FormatRange>& formats,
+                                                 int start, int end)
 {
     QVector<QTextLayout::FormatRange> result;
     const auto endsBefore = [](const QTextLayout::FormatRange& range, int position) {
@@ -49,7 +49,7 @@ QVector<QTextLayout::FormatRange> formatsFrom(const QVector<QTextLayout::FormatR
 
 // Whether anything that leaves ink follows. Spaces and line ends that the line
 // limit hides are nothing a reader would miss.
-bool hasTextFrom(const QTextDocument& document, int position)
+bool HasVisibleTextFrom(const QTextDocument& document, int position)
 {
     const int end = document.characterCount();
     while (position < end && document.characterAt(position).isSpace())
@@ -57,7 +57,7 @@ bool hasTextFrom(const QTextDocument& document, int position)
     return position < end;
 }
 
-int forcedLineEnd(const QString& text, int start)
+int ForcedLineEnd(const QString& text, int start)
 {
     const int end = text.indexOf(QChar::LineSeparator, start);
     return end < 0 ? text.size() : end;
@@ -65,7 +65,7 @@ int forcedLineEnd(const QString& text, int start)
 
 // Spaces at the end of a line that did not wrap count in its natural width.
 // They are side by side at one of its edges, whatever the direction.
-qreal trailingSpaceWidth(const QTextBlock& block, const QTextLine& line)
+qreal TrailingSpaceWidth(const QTextBlock& block, const QTextLine& line)
 {
     const QTextDocument& document = *block.document();
     const int end = line.textStart() + line.textLength();
@@ -79,17 +79,17 @@ qreal trailingSpaceWidth(const QTextBlock& block, const QTextLine& line)
     return std::abs(line.cursorToX(end) - line.cursorToX(textEnd));
 }
 
-int expectedLength(const QTextLine& line, qreal width)
+int ExpectedLength(const QTextLine& line, qreal width)
 {
     const qreal share = std::min(1.0, width / std::max(1.0, line.naturalTextWidth()));
     return static_cast<int>(line.textLength() * share);
 }
 
 // Farther than ink stands out from any line.
-constexpr qreal farAway = 4096;
+constexpr qreal kMaximumOverhang = 4096;
 
 // As the eye weighs the colours, from 0 for black to 1 for white.
-qreal luminance(const QColor& color)
+qreal Luminance(const QColor& color)
 {
     const auto linear = [](qreal part) { return std::pow(part, 2.2); };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
@@ -98,20 +98,20 @@ qreal luminance(const QColor& color)
 
 // Black on light grounds and white on dark ones, as they look on white paper.
 // The threshold has the same contrast to both.
-QColor textColorOn(const QBrush& ground)
+QColor TextColorOn(const QBrush& background)
 {
-    const qreal alpha = ground.color().alphaF();
-    const qreal light = alpha * luminance(ground.color()) + (1 - alpha);
+    const qreal alpha = background.color().alphaF();
+    const qreal light = alpha * Luminance(background.color()) + (1 - alpha);
     return light > 0.179 ? Qt::black : Qt::white;
 }
 
 // A format for all of a line.
-QTextLayout::FormatRange onGround(const QBrush& ground, const QTextLine& line)
+QTextLayout::FormatRange HighlightFormat(const QBrush& background, const QTextLine& line)
 {
     QTextLayout::FormatRange range;
     range.start = line.textStart();
     range.length = line.textLength();
-    range.format.setForeground(textColorOn(ground));
+    range.format.setForeground(TextColorOn(background));
     // The grounds of spans would cover the highlight.
     range.format.setBackground(Qt::NoBrush);
     return range;
@@ -121,12 +121,12 @@ QTextLayout::FormatRange onGround(const QBrush& ground, const QTextLine& line)
 
 class ShownLines::Builder {
 public:
-    Builder(const QTextDocument& document, int maxCount, bool elide, bool goesOn,
+    Builder(const QTextDocument& document, int maxCount, bool elide, bool hasMoreText,
             std::vector<Line>& lines)
         : document_(document)
         , maxCount_(maxCount)
         , elide_(elide)
-        , goesOn_(goesOn)
+        , hasMoreText_(hasMoreText)
         , lines_(lines)
     {
     }
@@ -159,7 +159,7 @@ private:
     {
         Line shown;
         shown.line = line;
-        shown.origin = blockOrigin + QPointF(0, movedDown_);
+        shown.origin = blockOrigin + QPointF(0, shiftDown_);
         shown.rect = TextRect(line, shown.origin);
         shown.alignment = block.layout()->textOption().alignment();
         shown.layoutStart = block.position();
@@ -183,7 +183,8 @@ private:
     bool IsCutAt(int position) const
     {
         const bool isLast = position == document_.characterCount() - 1;
-        return (IsFull() && hasTextFrom(document_, position)) || (goesOn_ && (IsFull() || isLast));
+        return (IsFull() && HasVisibleTextFrom(document_, position))
+            || (hasMoreText_ && (IsFull() || isLast));
     }
 
     // `isCut`: text is left over behind the line. Else the line is too wide.
@@ -192,16 +193,16 @@ private:
         Line& shown = lines_.back();
         const QTextLine line = shown.line;
         const int start = line.textStart();
-        const int end = isCut ? forcedLineEnd(paragraph.text, start) : start + line.textLength();
+        const int end = isCut ? ForcedLineEnd(paragraph.text, start) : start + line.textLength();
         const std::optional<qreal> width = AvailableWidth(block, line);
 
         ElisionSource source;
         source.text = paragraph.text.mid(start, end - start);
-        source.formats = formatsFrom(paragraph.formats, start, end);
+        source.formats = FormatsBetween(paragraph.formats, start, end);
         source.font = document_.defaultFont();
         source.option = block.layout()->textOption();
         if (width)
-            source.expectedLength = expectedLength(line, *width);
+            source.expectedLength = ExpectedLength(line, *width);
         source.isTooWide = !isCut;
 
         shown.elided = std::make_unique<ElidedLine>(std::move(source), width);
@@ -209,14 +210,14 @@ private:
         shown.layoutStart += start;
         shown.origin += line.position();
         shown.rect = TextRect(shown.line, shown.origin);
-        movedDown_ += shown.line.height() - line.height();
+        shiftDown_ += shown.line.height() - line.height();
     }
 
     bool IsTooWide(const QTextBlock& block, const QTextLine& line) const
     {
         const std::optional<qreal> width = AvailableWidth(block, line);
         return width && line.naturalTextWidth() > *width
-            && line.naturalTextWidth() - trailingSpaceWidth(block, line) > *width;
+            && line.naturalTextWidth() - TrailingSpaceWidth(block, line) > *width;
     }
 
     // QTextLine::width() is of no help: it grows with a text that is too wide.
@@ -239,11 +240,11 @@ private:
     const QTextDocument& document_;
     const int maxCount_;
     const bool elide_;
-    const bool goesOn_;
+    const bool hasMoreText_;
     std::vector<Line>& lines_;
     // How much higher than in the document the lines above have become: an
     // ellipsis can bring tall text into its line, or drive it out.
-    qreal movedDown_ = 0;
+    qreal shiftDown_ = 0;
 };
 
 ShownLines::ShownLines() = default;
@@ -251,10 +252,10 @@ ShownLines::~ShownLines() = default;
 ShownLines::ShownLines(ShownLines&&) noexcept = default;
 ShownLines& ShownLines::operator=(ShownLines&&) noexcept = default;
 
-ShownLines::ShownLines(const QTextDocument& document, int maxCount, bool elide, bool goesOn)
+ShownLines::ShownLines(const QTextDocument& document, int maxCount, bool elide, bool hasMoreText)
 {
     if (!document.isEmpty())
-        Builder(document, maxCount, elide, goesOn, lines_).AddLines();
+        Builder(document, maxCount, elide, hasMoreText, lines_).AddLines();
 
     const bool hasWidth = document.textWidth() >= 0;
     const qreal width = hasWidth ? document.textWidth() : WidestLine();
@@ -331,13 +332,13 @@ bool ShownLines::HasInkOutside(qreal width) const
 std::vector<QRectF> ShownLines::GlyphRects(int start, int end) const
 {
     std::vector<QRectF> rects;
-    for (auto line = FirstLineWith(start); line < lines_.size() && lines_[line].Start() < end;
-         ++line)
+    for (auto line = FirstLineEndingAfter(start);
+         line < lines_.size() && lines_[line].Start() < end; ++line)
         lines_[line].AddGlyphRects(start, end, rects);
     return rects;
 }
 
-std::size_t ShownLines::FirstLineWith(int position) const
+std::size_t ShownLines::FirstLineEndingAfter(int position) const
 {
     const auto first =
         std::partition_point(lines_.begin(), lines_.end(),
@@ -355,8 +356,8 @@ void ShownLines::Highlight(const QTextDocument& document, const HighlightWords& 
     for (QTextBlock block = document.begin(); block.isValid() && block.position() < shownEnd;
          block = block.next()) {
         const ParagraphText text(block);
-        const auto pictures = EmojiPicture::Among(block.textFormats());
-        for (const auto& [start, end] : words.Cover(text.Characters()))
+        const auto pictures = EmojiPicture::PicturesIn(block.textFormats());
+        for (const auto& [start, end] : words.CoveredRanges(text.Characters()))
             Highlight(text.DocumentPosition(start), text.DocumentPosition(end), pictures);
     }
     for (Line& line : lines_)
@@ -365,7 +366,7 @@ void ShownLines::Highlight(const QTextDocument& document, const HighlightWords& 
 
 void ShownLines::Highlight(int start, int end, const FormatRanges& pictures)
 {
-    for (auto i = FirstLineWith(start); i < lines_.size() && lines_[i].Start() < end; ++i) {
+    for (auto i = FirstLineEndingAfter(start); i < lines_.size() && lines_[i].Start() < end; ++i) {
         Line& line = lines_[i];
         std::vector<QRectF> rects;
         line.AddGlyphRects(start, end, rects);
@@ -434,12 +435,12 @@ void ShownLines::Line::AddPictureRects(const FormatRanges& pictures, int start, 
 void ShownLines::Line::MergeHighlights()
 {
     std::sort(highlighted.begin(), highlighted.end());
-    std::vector<Span> merged;
-    for (const Span& span : highlighted) {
-        if (!merged.empty() && span.first <= merged.back().second)
-            merged.back().second = std::max(merged.back().second, span.second);
+    std::vector<Interval> merged;
+    for (const Interval& interval : highlighted) {
+        if (!merged.empty() && interval.first <= merged.back().second)
+            merged.back().second = std::max(merged.back().second, interval.second);
         else
-            merged.push_back(span);
+            merged.push_back(interval);
     }
     highlighted = std::move(merged);
 }
@@ -450,7 +451,7 @@ QPainterPath ShownLines::Line::HighlightedPath() const
     const qreal top = std::floor(rect.top());
     const qreal bottom = std::ceil(rect.bottom());
     for (const auto& [left, right] : highlighted)
-        addClipRectangle(path, QRectF(QPointF(left, top), QPointF(right, bottom)));
+        AddClipRectangle(path, QRectF(QPointF(left, top), QPointF(right, bottom)));
     return path;
 }
 
@@ -464,7 +465,8 @@ void ShownLines::Line::Draw(QPainter* painter, const QBrush& highlight) const
     }
     const QPainterPath inside = HighlightedPath();
     QPainterPath outside;
-    outside.addRect(rect.adjusted(-farAway, -farAway, farAway, farAway));
+    outside.addRect(
+        rect.adjusted(-kMaximumOverhang, -kMaximumOverhang, kMaximumOverhang, kMaximumOverhang));
     outside.addPath(inside);
 
     painter->save();
@@ -475,7 +477,7 @@ void ShownLines::Line::Draw(QPainter* painter, const QBrush& highlight) const
     painter->save();
     painter->setClipPath(inside, Qt::IntersectClip);
     painter->fillRect(inside.boundingRect(), highlight);
-    const QTextLayout::FormatRange range = onGround(highlight, line);
+    const QTextLayout::FormatRange range = HighlightFormat(highlight, line);
     DrawText(painter, &range);
     painter->restore();
 }

@@ -24,7 +24,7 @@ public:
     ShownLines();
     // `maxCount` 0: no limit. `goesOn`: there is more text than the document
     // holds.
-    ShownLines(const QTextDocument& document, int maxCount, bool elide, bool goesOn);
+    ShownLines(const QTextDocument& document, int maxCount, bool elide, bool hasMoreText);
     ~ShownLines();
     ShownLines(ShownLines&&) noexcept;
     ShownLines& operator=(ShownLines&&) noexcept;
@@ -53,7 +53,7 @@ public:
 
 private:
     // From left to right.
-    using Span = std::pair<qreal, qreal>;
+    using Interval = std::pair<qreal, qreal>;
     using FormatRanges = QVector<QTextLayout::FormatRange>;
 
     struct Line {
@@ -67,7 +67,7 @@ private:
         // Where the document has the first character of the line's layout.
         int layoutStart = 0;
         // Without overlaps, in ascending order.
-        std::vector<Span> highlighted;
+        std::vector<Interval> highlighted;
 
         // The text of the document that is shown.
         int Start() const;
@@ -85,7 +85,7 @@ private:
     };
     class Builder;
 
-    std::size_t FirstLineWith(int position) const;
+    std::size_t FirstLineEndingAfter(int position) const;
     void Highlight(int start, int end, const FormatRanges& pictures);
 
     qreal WidestLine() const;

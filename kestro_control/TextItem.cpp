@@ -35,39 +35,39 @@ namespace {
 
 // Lengths beyond 2^23 overflow the text engine's fixed-point numbers; this
 // leaves room for what it adds up.
-constexpr qreal widestItem = 1 << 20;
+constexpr qreal kMaximumWidth = 1 << 20;
 
-constexpr qreal naturalWidth = -1;
+constexpr qreal kNaturalWidth = -1;
 
 // Farther than ink stands out above or below a text.
-constexpr qreal farAway = 4096;
+constexpr qreal kMaximumOverhang = 4096;
 
-const QColor defaultMentionColor(0x11, 0x8D, 0xFF);
+const QColor kDefaultMentionColor(0x11, 0x8D, 0xFF);
 
-qreal fixedWidth(qreal width)
+qreal FixedWidth(qreal width)
 {
     if (!std::isfinite(width) || width < 0)
-        return naturalWidth;
-    return std::min(width, widestItem);
+        return kNaturalWidth;
+    return std::min(width, kMaximumWidth);
 }
 
 // An item without room shows nothing, so its lines may be as long as they are.
-qreal documentWidth(qreal width)
+qreal DocumentWidth(qreal width)
 {
-    return width == 0 ? naturalWidth : width;
+    return width == 0 ? kNaturalWidth : width;
 }
 
 // All between the left and the right edge of an item, in whole pixels.
-QPainterPath sidesOf(const QRectF& rect)
+QPainterPath SideClip(const QRectF& rect)
 {
     QPainterPath path;
-    addClipRectangle(
-        path,
-        QRectF(0, rect.top() - farAway, std::ceil(rect.width()), rect.height() + 2 * farAway));
+    AddClipRectangle(path,
+                     QRectF(0, rect.top() - kMaximumOverhang, std::ceil(rect.width()),
+                            rect.height() + 2 * kMaximumOverhang));
     return path;
 }
 
-bool isWrapMode(QTextOption::WrapMode mode)
+bool IsWrapMode(QTextOption::WrapMode mode)
 {
     switch (mode) {
     case QTextOption::NoWrap:
@@ -98,7 +98,7 @@ public:
     // Whether `text` can be shown besides all that is there.
     bool HasRoomFor(const QString& text) const;
 
-    void TakeFontFamily();
+    void UseApplicationFontFamily();
 
     // The lines on show, laid out when they are asked for first.
     const ShownLines& Shown();
@@ -106,14 +106,14 @@ public:
     const ShownLines& ShownHighlighted();
 
     // Whether what is shown has to be cut at the left and right edges.
-    bool IsCutAtSides();
+    bool NeedsSideClip();
 
     std::optional<Mention> MentionAt(const QPointF& point);
 
     void Press(QGraphicsSceneMouseEvent* event);
     void Release(QGraphicsSceneMouseEvent* event);
     void Hover(QGraphicsSceneHoverEvent* event);
-    void SetHandShown(bool shown);
+    void ShowPointingHand(bool shown);
 
     // What is shown is about to change, or has just changed in the document.
     void Invalidate();
@@ -122,7 +122,7 @@ public:
     EmojiPicture emojiPictures;
     QTextDocument document;
     QColor textColor = QGuiApplication::palette().color(QPalette::Text);
-    QColor mentionColor = defaultMentionColor;
+    QColor mentionColor = kDefaultMentionColor;
     int maxLineCount = 0;
     bool elide = false;
     bool hasNoRoom = false;
@@ -140,12 +140,12 @@ private:
     void InsertText(QTextCursor& cursor, const QString& text, const QTextCharFormat& format);
     void InsertMention(QTextCursor& cursor, const MarkupRun& run, QTextCharFormat format);
     void InsertEmoji(QTextCursor& cursor, const MarkupRun& run, const QTextCharFormat& format);
-    void Hide(const QString& text);
+    void AddHiddenText(const QString& text);
 
     TextItem& item_;
     ShownLines shown_;
     bool isShownValid_ = false;
-    std::optional<bool> isCutAtSides_;
+    std::optional<bool> needsSideClip_;
     std::optional<MentionAreas> mentions_;
     QPointer<QAbstractTextDocumentLayout> watchedLayout_;
 
@@ -156,7 +156,7 @@ private:
     int lastMentionId_ = 0;
 
     // The cursor of the item, if any, while there is a hand in its place.
-    std::optional<std::optional<QCursor>> cursorBeneathHand_;
+    std::optional<std::optional<QCursor>> cursorBeforeHand_;
 };
 
 TextItem::Private::Private(TextItem& textItem)
@@ -196,11 +196,11 @@ void TextItem::Private::InsertText(QTextCursor& cursor, const QString& text,
 {
     if (text.isEmpty())
         return;
-    const int shown = hiddenText_.isEmpty() ? budget_.Take(text) : 0;
+    const int shown = hiddenText_.isEmpty() ? budget_.Spend(text) : 0;
     if (shown > 0)
         cursor.insertText(text.left(shown), format);
     if (shown < text.size())
-        Hide(text.mid(shown));
+        AddHiddenText(text.mid(shown));
 }
 
 void TextItem::Private::InsertMention(QTextCursor& cursor, const MarkupRun& run,
@@ -223,18 +223,18 @@ void TextItem::Private::InsertEmoji(QTextCursor& cursor, const MarkupRun& run,
     const QString object(QChar::ObjectReplacementCharacter);
     if (picture.isNull()) {
         InsertText(cursor, run.text, format);
-    } else if (!hiddenText_.isEmpty() || budget_.Take(object) == 0) {
-        Hide(run.text);
+    } else if (!hiddenText_.isEmpty() || budget_.Spend(object) == 0) {
+        AddHiddenText(run.text);
     } else {
-        document.documentLayout()->registerHandler(EmojiPicture::objectType, &emojiPictures);
+        document.documentLayout()->registerHandler(EmojiPicture::kObjectType, &emojiPictures);
         EmojiPicture::Insert(cursor, format, run.text, picture);
         hasPictures_ = true;
     }
 }
 
-void TextItem::Private::Hide(const QString& text)
+void TextItem::Private::AddHiddenText(const QString& text)
 {
-    hiddenText_ += asPlainText(text);
+    hiddenText_ += AsPlainText(text);
 }
 
 void TextItem::Private::ReplaceText(const QString& text)
@@ -257,15 +257,15 @@ void TextItem::Private::ReplaceText(const QString& text)
 
 QString TextItem::Private::PlainText() const
 {
-    return (hasPictures_ ? plainTextOf(document) : document.toPlainText()) + hiddenText_;
+    return (hasPictures_ ? PlainTextOf(document) : document.toPlainText()) + hiddenText_;
 }
 
 bool TextItem::Private::HasRoomFor(const QString& text) const
 {
-    return hiddenText_.isEmpty() && DisplayBudget(budget_).Take(text) == text.size();
+    return hiddenText_.isEmpty() && DisplayBudget(budget_).Spend(text) == text.size();
 }
 
-void TextItem::Private::TakeFontFamily()
+void TextItem::Private::UseApplicationFontFamily()
 {
     const KestroControlSupport* support =
         KestroControlManager::GetInstance()->GetKestroControlSupport();
@@ -300,11 +300,11 @@ const ShownLines& TextItem::Private::ShownHighlighted()
 }
 
 // A clip costs as much as half of a text's lines, and few texts need one.
-bool TextItem::Private::IsCutAtSides()
+bool TextItem::Private::NeedsSideClip()
 {
-    if (!isCutAtSides_)
-        isCutAtSides_ = Shown().HasInkOutside(std::ceil(item_.boundingRect().width()));
-    return *isCutAtSides_;
+    if (!needsSideClip_)
+        needsSideClip_ = Shown().HasInkOutside(std::ceil(item_.boundingRect().width()));
+    return *needsSideClip_;
 }
 
 std::optional<Mention> TextItem::Private::MentionAt(const QPointF& point)
@@ -345,21 +345,20 @@ void TextItem::Private::Release(QGraphicsSceneMouseEvent* event)
 
 void TextItem::Private::Hover(QGraphicsSceneHoverEvent* event)
 {
-    SetHandShown(MentionAt(event->pos()).has_value());
+    ShowPointingHand(MentionAt(event->pos()).has_value());
     event->ignore();
 }
 
-void TextItem::Private::SetHandShown(bool shown)
+void TextItem::Private::ShowPointingHand(bool shown)
 {
-    if (shown == cursorBeneathHand_.has_value())
+    if (shown == cursorBeforeHand_.has_value())
         return;
     if (shown) {
-        cursorBeneathHand_.emplace(item_.hasCursor() ? std::optional(item_.cursor())
-                                                     : std::nullopt);
+        cursorBeforeHand_.emplace(item_.hasCursor() ? std::optional(item_.cursor()) : std::nullopt);
         item_.setCursor(Qt::PointingHandCursor);
         return;
     }
-    const std::optional<QCursor> before = *std::exchange(cursorBeneathHand_, std::nullopt);
+    const std::optional<QCursor> before = *std::exchange(cursorBeforeHand_, std::nullopt);
     if (before)
         item_.setCursor(*before);
     else
@@ -386,9 +385,9 @@ void TextItem::Private::Invalidate()
     item_.prepareGeometryChange();
     isShownValid_ = false;
     shown_ = ShownLines();
-    isCutAtSides_.reset();
+    needsSideClip_.reset();
     mentions_.reset();
-    SetHandShown(false);
+    ShowPointingHand(false);
     item_.update();
     item_.updateGeometry();
 }
@@ -401,7 +400,7 @@ TextItem::TextItem(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
     setGraphicsItem(this);
     setAcceptDrops(false);
     setAcceptHoverEvents(false);
-    private_->TakeFontFamily();
+    private_->UseApplicationFontFamily();
 }
 
 TextItem::~TextItem()
@@ -413,9 +412,9 @@ TextItem::~TextItem()
 
 void TextItem::InsertRichText(const QString& text, bool append, const QTextCharFormat* format)
 {
-    QString behind;
+    QString earlierText;
     if (!append && !private_->HasRoomFor(text)) {
-        behind = toPlainText();
+        earlierText = toPlainText();
         ClearText();
     }
     const QTextCharFormat runFormat = format ? *format : QTextCharFormat();
@@ -424,13 +423,13 @@ void TextItem::InsertRichText(const QString& text, bool append, const QTextCharF
         cursor.movePosition(QTextCursor::End);
     cursor.beginEditBlock();
     if (private_->markupEnabled) {
-        for (const MarkupRun& run : readMarkup(text))
+        for (const MarkupRun& run : ReadMarkup(text))
             private_->Insert(cursor, run, runFormat);
     } else {
         private_->Insert(cursor, {MarkupRun::Kind::Text, text, 0, {}}, runFormat);
     }
-    if (!behind.isEmpty())
-        private_->Insert(cursor, {MarkupRun::Kind::Text, behind, 0, {}}, QTextCharFormat());
+    if (!earlierText.isEmpty())
+        private_->Insert(cursor, {MarkupRun::Kind::Text, earlierText, 0, {}}, QTextCharFormat());
     cursor.endEditBlock();
 }
 
@@ -516,7 +515,7 @@ void TextItem::HighlightText(const QStringList& words, const QBrush& brush)
 void TextItem::SetWrapMode(QTextOption::WrapMode mode)
 {
     QTextOption option = private_->document.defaultTextOption();
-    if (mode == option.wrapMode() || !isWrapMode(mode))
+    if (mode == option.wrapMode() || !IsWrapMode(mode))
         return;
     option.setWrapMode(mode);
     private_->Invalidate();
@@ -525,13 +524,13 @@ void TextItem::SetWrapMode(QTextOption::WrapMode mode)
 
 void TextItem::SetFixedItemWidth(qreal width)
 {
-    const qreal newWidth = fixedWidth(width);
+    const qreal newWidth = FixedWidth(width);
     if (newWidth == textWidth())
         return;
     private_->Invalidate();
     private_->hasNoRoom = newWidth == 0;
-    if (documentWidth(newWidth) != private_->document.textWidth())
-        private_->document.setTextWidth(documentWidth(newWidth));
+    if (DocumentWidth(newWidth) != private_->document.textWidth())
+        private_->document.setTextWidth(DocumentWidth(newWidth));
 }
 
 void TextItem::setTextWidth(qreal width)
@@ -547,7 +546,7 @@ qreal TextItem::textWidth() const
 void TextItem::adjustSize()
 {
     if (private_->hasNoRoom)
-        SetFixedItemWidth(naturalWidth);
+        SetFixedItemWidth(kNaturalWidth);
     private_->document.adjustSize();
 }
 
@@ -610,7 +609,7 @@ bool TextItem::IsReadOnly() const
 void TextItem::FontChanged()
 {
     if (IsUseFontBonding())
-        private_->TakeFontFamily();
+        private_->UseApplicationFontFamily();
 }
 
 QSizeF TextItem::sizeHint(Qt::SizeHint which, const QSizeF&) const
@@ -664,8 +663,8 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
         return;
     painter->save();
     painter->setPen(private_->textColor);
-    if (private_->IsCutAtSides())
-        painter->setClipPath(sidesOf(rect), Qt::IntersectClip);
+    if (private_->NeedsSideClip())
+        painter->setClipPath(SideClip(rect), Qt::IntersectClip);
     const bool isPart = option && option->exposedRect.isValid();
     private_->ShownHighlighted().Draw(painter, isPart ? option->exposedRect : rect,
                                       private_->highlightBrush);
@@ -721,7 +720,7 @@ void TextItem::hoverMoveEvent(QGraphicsSceneHoverEvent* event)
 
 void TextItem::hoverLeaveEvent(QGraphicsSceneHoverEvent* event)
 {
-    private_->SetHandShown(false);
+    private_->ShowPointingHand(false);
     IsReadOnly() ? event->ignore() : QGraphicsTextItem::hoverLeaveEvent(event);
 }
 

@@ -63,7 +63,7 @@ class Markup : public testing::TestWithParam<MarkupRow> { };
 
 TEST_P(Markup, IsReadAsDocumented)
 {
-    EXPECT_EQ(describe(readMarkup(QString::fromUtf8(GetParam().text))).toStdString(),
+    EXPECT_EQ(describe(ReadMarkup(QString::fromUtf8(GetParam().text))).toStdString(),
               GetParam().runs);
 }
 
@@ -118,7 +118,7 @@ class MalformedMarkup : public testing::TestWithParam<const char*> { };
 TEST_P(MalformedMarkup, IsShownAsItStands)
 {
     const QString text = QString::fromUtf8(GetParam());
-    const std::vector<MarkupRun> runs = readMarkup(text);
+    const std::vector<MarkupRun> runs = ReadMarkup(text);
     ASSERT_EQ(runs.size(), 1U) << describe(runs).toStdString();
     EXPECT_EQ(runs[0].kind, MarkupRun::Kind::Text);
     EXPECT_EQ(runs[0].text, text);
@@ -161,8 +161,8 @@ TEST(MalformedMarkup, WithTooManyCodePointsIsShownAsItStands)
         return QStringLiteral("<e code=\"1F468") + QStringLiteral("-200D-1F468").repeated(joined)
             + QStringLiteral("\"/>");
     };
-    EXPECT_EQ(readMarkup(element(7)).front().kind, MarkupRun::Kind::Emoji);
-    EXPECT_EQ(readMarkup(element(8)).front().text, element(8));
+    EXPECT_EQ(ReadMarkup(element(7)).front().kind, MarkupRun::Kind::Emoji);
+    EXPECT_EQ(ReadMarkup(element(8)).front().text, element(8));
 }
 
 // Where an element starts, the whole rest of the text is matched against what
@@ -231,7 +231,7 @@ TEST(GeneratedMarkup, IsReadAsByANaiveReader)
         QString text;
         for (int rest = length(random); rest > 0; --rest)
             text += QString::fromUtf8(pieces[piece(random)]);
-        const QString read = describe(readMarkup(text));
+        const QString read = describe(ReadMarkup(text));
         ASSERT_EQ(read, describe(readNaively(text))) << text.toStdString();
         elements += read.contains(QLatin1String("user ")) || read.contains(QLatin1String("emoji "));
     }
@@ -243,7 +243,7 @@ TEST(LongMarkup, IsReadToItsEnd)
     for (const char* opener : {"<m user=\"1\">", "<m user=\"", "<e code=\"1F600\">", "<e code=\"",
                                "<m user=\"1\">a", "<", "&"}) {
         const QString text = QString::fromUtf8(opener).repeated(100000);
-        const std::vector<MarkupRun> runs = readMarkup(text);
+        const std::vector<MarkupRun> runs = ReadMarkup(text);
         ASSERT_EQ(runs.size(), 1U);
         EXPECT_EQ(runs[0].text, text);
     }
