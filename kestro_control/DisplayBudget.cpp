@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace kestro {
+
 namespace {
 
 constexpr int kMaximumCost = 16000;
@@ -138,3 +140,5 @@ bool DisplayBudget::StartsRun(uint character)
         direction_ = direction;
     return changesScript || changesDirection;
 }
+
+} // namespace kestro

@@ -3,6 +3,8 @@
 #include <QChar>
 #include <QString>
 
+namespace kestro {
+
 // How much more of a text may be laid out; see the display limit of TextItem.
 class DisplayBudget {
 public:
@@ -24,3 +26,5 @@ private:
     QChar::Script script_ = QChar::Script_Unknown;
     Direction direction_ = Direction::Neutral;
 };
+
+} // namespace kestro

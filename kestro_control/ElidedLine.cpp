@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace kestro {
+
 namespace {
 
 constexpr QChar kEllipsis(0x2026);
@@ -169,3 +171,5 @@ void ElidedLine::LayOut(int length)
     line.setLineWidth(width_.value_or(kUnlimitedWidth));
     layout_.endLayout();
 }
+
+} // namespace kestro

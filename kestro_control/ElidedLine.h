@@ -11,6 +11,8 @@
 
 class QPainter;
 
+namespace kestro {
+
 // Text that is to become one line, with the formats it has in its paragraph.
 struct ElisionSource {
     QString text;
@@ -51,3 +53,5 @@ private:
     QTextLayout layout_;
     int laidOutLength_ = 0;
 };
+
+} // namespace kestro

@@ -7,6 +7,8 @@
 #include <array>
 #include <cctype>
 
+namespace kestro {
+
 namespace {
 
 constexpr int kMaximumDigits = 6;
@@ -116,3 +118,5 @@ QString EmojiCode::Name() const
         parts.append(QString::number(codePoint, 16).toUpper());
     return parts.join(QLatin1Char('-'));
 }
+
+} // namespace kestro

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace kestro {
+
 // The code points of one emoji.
 class EmojiCode {
 public:
@@ -27,3 +29,5 @@ private:
 
     QString characters_;
 };
+
+} // namespace kestro

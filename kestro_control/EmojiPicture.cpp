@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <iterator>
 
+namespace kestro {
+
 namespace {
 
 // Enough for any text. What is shown larger, the painter scales as far as it is
@@ -141,3 +143,5 @@ void EmojiPicture::drawObject(QPainter* painter, const QRectF& rect, QTextDocume
 {
     Draw(painter, rect.bottomLeft(), format.toCharFormat());
 }
+
+} // namespace kestro

@@ -9,6 +9,8 @@
 
 class QTextCursor;
 
+namespace kestro {
+
 // Emoji that are shown as pictures: one object character each, whose format
 // holds the picture and the characters that it stands for.
 class EmojiPicture : public QObject, public QTextObjectInterface {
@@ -41,3 +43,5 @@ public:
     void drawObject(QPainter* painter, const QRectF& rect, QTextDocument* document, int position,
                     const QTextFormat& format) override;
 };
+
+} // namespace kestro

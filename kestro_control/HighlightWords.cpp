@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace kestro {
+
 namespace {
 
 // Character by character, as QString compares without case: positions stay.
@@ -89,3 +91,5 @@ std::vector<std::pair<int, int>> HighlightWords::CoveredRanges(const QString& te
     }
     return stretches;
 }
+
+} // namespace kestro

@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+namespace kestro {
+
 // Words that are looked for in any text, whatever their case.
 class HighlightWords {
 public:
@@ -27,3 +29,5 @@ public:
 private:
     std::vector<QString> words_;
 };
+
+} // namespace kestro

@@ -8,6 +8,8 @@
 #include <array>
 #include <optional>
 
+namespace kestro {
+
 namespace {
 
 // "-" and as many digits as the smallest number has.
@@ -192,3 +194,5 @@ std::vector<MarkupRun> ReadMarkup(const QString& text)
 {
     return Reader(text).Runs();
 }
+
+} // namespace kestro

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace kestro {
+
 // A stretch of text as the markup in it divides it.
 struct MarkupRun {
     enum class Kind { Text, UserMention, BotMention, Emoji };
@@ -21,3 +23,5 @@ struct MarkupRun {
 // well-formed element is text. No run is empty, and no two runs of text follow
 // each other.
 std::vector<MarkupRun> ReadMarkup(const QString& text);
+
+} // namespace kestro

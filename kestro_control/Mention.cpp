@@ -4,6 +4,8 @@
 
 #include <QTextCharFormat>
 
+namespace kestro {
+
 void Mention::WriteTo(QTextCharFormat& format) const
 {
     format.setProperty(TextProperty::MentionIsBot, isBot);
@@ -19,3 +21,5 @@ std::optional<Mention> Mention::ReadFrom(const QTextFormat& format)
                     format.property(TextProperty::MentionUserNo).toLongLong(),
                     format.intProperty(TextProperty::MentionId)};
 }
+
+} // namespace kestro

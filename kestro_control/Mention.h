@@ -7,6 +7,8 @@
 class QTextCharFormat;
 class QTextFormat;
 
+namespace kestro {
+
 // Who is mentioned in a stretch of text, as the format of the text carries it.
 struct Mention {
     bool isBot = false;
@@ -17,3 +19,5 @@ struct Mention {
     void WriteTo(QTextCharFormat& format) const;
     static std::optional<Mention> ReadFrom(const QTextFormat& format);
 };
+
+} // namespace kestro

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace kestro {
+
 MentionAreas::MentionAreas(const QTextDocument& document, const ShownLines& shown)
 {
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
@@ -28,3 +30,5 @@ std::optional<Mention> MentionAreas::At(const QPointF& point) const
     });
     return area == areas_.end() ? std::nullopt : std::optional(area->mention);
 }
+
+} // namespace kestro

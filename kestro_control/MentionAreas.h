@@ -9,6 +9,9 @@
 
 class QPointF;
 class QTextDocument;
+
+namespace kestro {
+
 class ShownLines;
 
 // Where the mentions of a document are on show. As ShownLines, a picture of the
@@ -28,3 +31,5 @@ private:
 
     std::vector<Area> areas_;
 };
+
+} // namespace kestro

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <numeric>
 
+namespace kestro {
+
 ParagraphText::ParagraphText(const QTextBlock& block)
     : characters_(block.text())
     , start_(block.position())
@@ -65,3 +67,5 @@ QString PlainTextOf(const QTextDocument& document)
     }
     return AsPlainText(text);
 }
+
+} // namespace kestro

@@ -7,6 +7,8 @@
 class QTextBlock;
 class QTextDocument;
 
+namespace kestro {
+
 // The text of a paragraph as it is read and searched: with the characters that
 // emoji pictures stand for.
 class ParagraphText {
@@ -32,3 +34,5 @@ private:
 QString AsPlainText(QString text);
 
 QString PlainTextOf(const QTextDocument& document);
+
+} // namespace kestro

@@ -2,6 +2,8 @@
 
 #include <memory>
 
+namespace kestro {
+
 ScaledPictures::ScaledPictures(int maxBytes)
     : pictures_(maxBytes)
 {
@@ -18,3 +20,5 @@ QImage ScaledPictures::Get(const QImage& picture, const QSize& size)
     pictures_.insert(key, scaled.release(), static_cast<int>(result.sizeInBytes()));
     return result;
 }
+
+} // namespace kestro

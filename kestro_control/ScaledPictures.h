@@ -6,6 +6,8 @@
 
 #include <utility>
 
+namespace kestro {
+
 // Pictures in the sizes that they are shown in: what is painted again is not
 // scaled again. Those that were not painted for longest go first.
 class ScaledPictures {
@@ -23,3 +25,5 @@ private:
 
     QCache<Key, QImage> pictures_;
 };
+
+} // namespace kestro

@@ -17,6 +17,8 @@
 #include <cmath>
 #include <optional>
 
+namespace kestro {
+
 namespace {
 
 // The text of a paragraph with its formats, taken out of the document once for
@@ -488,3 +490,5 @@ void ShownLines::Line::DrawText(QPainter* painter, const QTextLayout::FormatRang
     if (elided)
         elided->DrawPictures(painter, origin);
 }
+
+} // namespace kestro

@@ -10,10 +10,13 @@
 #include <utility>
 #include <vector>
 
-class ElidedLine;
-class HighlightWords;
 class QPainter;
 class QTextDocument;
+
+namespace kestro {
+
+class ElidedLine;
+class HighlightWords;
 
 // The lines of a document that are shown under a line limit: which, where, and
 // with which ellipses. A picture of the document as it is laid out at the time;
@@ -94,3 +97,5 @@ private:
     std::vector<Line> lines_;
     QRectF boundingRect_;
 };
+
+} // namespace kestro

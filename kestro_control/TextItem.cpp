@@ -31,6 +31,14 @@
 #include <optional>
 #include <utility>
 
+using kestro::DisplayBudget;
+using kestro::EmojiPicture;
+using kestro::HighlightWords;
+using kestro::MarkupRun;
+using kestro::Mention;
+using kestro::MentionAreas;
+using kestro::ShownLines;
+
 namespace {
 
 // Lengths beyond 2^23 overflow the text engine's fixed-point numbers; this
@@ -61,9 +69,9 @@ qreal DocumentWidth(qreal width)
 QPainterPath SideClip(const QRectF& rect)
 {
     QPainterPath path;
-    AddClipRectangle(path,
-                     QRectF(0, rect.top() - kMaximumOverhang, std::ceil(rect.width()),
-                            rect.height() + 2 * kMaximumOverhang));
+    kestro::AddClipRectangle(path,
+                             QRectF(0, rect.top() - kMaximumOverhang, std::ceil(rect.width()),
+                                    rect.height() + 2 * kMaximumOverhang));
     return path;
 }
 
@@ -234,7 +242,7 @@ void TextItem::Private::InsertEmoji(QTextCursor& cursor, const MarkupRun& run,
 
 void TextItem::Private::AddHiddenText(const QString& text)
 {
-    hiddenText_ += AsPlainText(text);
+    hiddenText_ += kestro::AsPlainText(text);
 }
 
 void TextItem::Private::ReplaceText(const QString& text)
@@ -257,7 +265,7 @@ void TextItem::Private::ReplaceText(const QString& text)
 
 QString TextItem::Private::PlainText() const
 {
-    return (hasPictures_ ? PlainTextOf(document) : document.toPlainText()) + hiddenText_;
+    return (hasPictures_ ? kestro::PlainTextOf(document) : document.toPlainText()) + hiddenText_;
 }
 
 bool TextItem::Private::HasRoomFor(const QString& text) const
@@ -423,7 +431,7 @@ void TextItem::InsertRichText(const QString& text, bool append, const QTextCharF
         cursor.movePosition(QTextCursor::End);
     cursor.beginEditBlock();
     if (private_->markupEnabled) {
-        for (const MarkupRun& run : ReadMarkup(text))
+        for (const MarkupRun& run : kestro::ReadMarkup(text))
             private_->Insert(cursor, run, runFormat);
     } else {
         private_->Insert(cursor, {MarkupRun::Kind::Text, text, 0, {}}, runFormat);

@@ -2,8 +2,8 @@
 
 #include <QTextFormat>
 
-// What the library keeps in the formats of a text, besides Qt's own.
-namespace TextProperty {
+// The library's own properties of text formats.
+namespace kestro::TextProperty {
 
 enum {
     MentionIsBot = QTextFormat::UserProperty + 1,
@@ -13,4 +13,4 @@ enum {
     EmojiPicture,
 };
 
-} // namespace TextProperty
+} // namespace kestro::TextProperty

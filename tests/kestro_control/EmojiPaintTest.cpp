@@ -183,7 +183,7 @@ TEST(EmojiPaint, FillsItsPlaceInAnyZoom)
 TEST(ScaledPictures, KeepsABoundedNumberOfBytes)
 {
     constexpr int maxBytes = 100 * 100 * 4 * 5;
-    ScaledPictures pictures(maxBytes);
+    kestro::ScaledPictures pictures(maxBytes);
     QImage picture(100, 100, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::red);
     const qint64 first = pictures.Get(picture, {90, 90}).cacheKey();
@@ -197,7 +197,7 @@ TEST(ScaledPictures, KeepsABoundedNumberOfBytes)
 
 TEST(ScaledPictures, GivesWhatItCannotKeep)
 {
-    ScaledPictures pictures(100);
+    kestro::ScaledPictures pictures(100);
     QImage picture(100, 100, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::red);
     EXPECT_EQ(pictures.Get(picture, {50, 50}).size(), QSize(50, 50));

@@ -61,7 +61,7 @@ TEST(HighlightWords, CoverWhatANaiveSearchFinds)
         for (int count = static_cast<int>(random() % 4); count > 0; --count)
             words.append(generated(static_cast<int>(random() % 5)));
         const Stretches expected = coverNaively(text, words);
-        ASSERT_EQ(HighlightWords(words).CoveredRanges(text), expected)
+        ASSERT_EQ(kestro::HighlightWords(words).CoveredRanges(text), expected)
             << text.toStdString() << ": " << words.join(QLatin1Char('|')).toStdString();
         found += !expected.empty();
     }
@@ -71,9 +71,9 @@ TEST(HighlightWords, CoverWhatANaiveSearchFinds)
 TEST(HighlightWords, AreBoundedInNumber)
 {
     QStringList words;
-    for (std::size_t i = 0; i <= HighlightWords::kMaximumWords; ++i)
+    for (std::size_t i = 0; i <= kestro::HighlightWords::kMaximumWords; ++i)
         words.append(QStringLiteral("<%1>").arg(i));
-    const HighlightWords kept(words);
+    const kestro::HighlightWords kept(words);
     EXPECT_FALSE(kept.CoveredRanges(words.at(words.size() - 2)).empty());
     EXPECT_TRUE(kept.CoveredRanges(words.last()).empty());
 }
@@ -84,7 +84,7 @@ TEST(HighlightWords, OfOneLetterInALongTextAreFound)
     QStringList words;
     for (int length = 1; length < 100; ++length)
         words.append(text.left(length * 1000));
-    EXPECT_EQ(HighlightWords(words).CoveredRanges(text), Stretches({{0, text.size()}}));
+    EXPECT_EQ(kestro::HighlightWords(words).CoveredRanges(text), Stretches({{0, text.size()}}));
 }
 
 // ----- In an item

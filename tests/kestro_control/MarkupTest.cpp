@@ -19,6 +19,9 @@
 
 namespace {
 
+using kestro::MarkupRun;
+using kestro::ReadMarkup;
+
 const QString family = QString::fromUtf8("👨‍👩‍👧");
 
 QString describe(const std::vector<MarkupRun>& runs)
