@@ -5,7 +5,8 @@ namespace kestro {
 void AddClipRectangle(QPainterPath& path, const QRectF& rect)
 {
     path.addRect(rect);
-    // One element more than what Qt takes for a rectangle. It encloses nothing.
+    // Qt does not recognise a path with this additional element as a rectangle.
+    // The element encloses nothing.
     path.moveTo(rect.topLeft());
 }
 

@@ -5,10 +5,11 @@
 
 namespace kestro {
 
-// Adds a rectangle to a path to clip to. Qt clips to it as to any other path:
-// to the pixels whose middle is inside. A plain rectangle it rounds outwards to
-// whole pixels, but only where nothing else is clipped to that is no rectangle:
-// so a paint of a part would show other pixels than a paint of the whole.
+// Adds a rectangle to a clip path, but so that Qt does not recognise it as one.
+// Qt then clips to the pixels whose centre is inside, as with any other path. It
+// would round a plain rectangle outwards to whole pixels, but only if all other
+// clips of the painter are rectangles, too. So painting a part of an item could
+// show other pixels than painting all of it.
 void AddClipRectangle(QPainterPath& path, const QRectF& rect);
 
 } // namespace kestro

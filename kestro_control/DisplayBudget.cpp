@@ -15,13 +15,13 @@ constexpr int kCharacterCost = 1;
 constexpr int kExtraCost = 8;
 constexpr int kJoinerCost = 40;
 
-// That many on a letter are still common in living languages.
+// The number of marks on one letter that is usual in living languages.
 constexpr int kOrdinaryMarks = 2;
 
-// Fonts take long over the emoji that it joins.
+// The emoji sequences that it joins are slow to shape.
 constexpr uint kZeroWidthJoiner = 0x200D;
 
-// Texts of no more characters have no need of being looked at closely.
+// Texts up to this length are fast to lay out, whatever their characters are.
 constexpr int kHarmlessLength = kMaximumWordCost / (kCharacterCost + kExtraCost);
 
 uint CodePointAt(const QString& text, int at)
@@ -44,8 +44,8 @@ bool IsMark(uint character)
     return category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing;
 }
 
-// The scripts of Chinese and Japanese as one: they change all the time, and
-// lines break anywhere between them.
+// Counts the scripts of Japanese as one, that of Chinese: Japanese texts switch
+// between them all the time, and lines can break at every switch.
 QChar::Script ScriptOf(uint character)
 {
     const QChar::Script script = QChar::script(character);
@@ -124,8 +124,9 @@ int DisplayBudget::CostOfNext(uint character)
     return kCharacterCost + (isExtra ? kExtraCost : 0);
 }
 
-// Whether the text engine divides the text in front of the character.
-// Characters that go with any script or direction do not matter.
+// Whether the text engine starts a new run of text at the character, because it
+// has another script or direction than the text before it. Characters that occur
+// in all scripts, or have no direction of their own, start none.
 bool DisplayBudget::StartsRun(uint character)
 {
     const QChar::Script script = ScriptOf(character);

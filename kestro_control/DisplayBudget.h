@@ -5,11 +5,11 @@
 
 namespace kestro {
 
-// How much more of a text may be laid out; see the display limit of TextItem.
+// Counts the cost of a text up to the display limit that TextItem.h describes.
 class DisplayBudget {
 public:
-    // How many characters of the start of `text`, which continues what was
-    // taken before, may be shown. Takes them.
+    // Returns how many characters of the start of `text` may be shown, and spends
+    // their cost. `text` continues the text of the earlier calls.
     int Spend(const QString& text);
 
 private:
@@ -17,6 +17,7 @@ private:
 
     static Direction DirectionOf(uint character);
 
+    // These remember `character` for the next call.
     int CostOfNext(uint character);
     bool StartsRun(uint character);
 

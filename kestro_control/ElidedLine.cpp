@@ -14,14 +14,14 @@ constexpr QChar kEllipsis(0x2026);
 constexpr QChar kPopDirectionalFormatting(0x202C);
 constexpr QChar kPopDirectionalIsolate(0x2069);
 
-// More characters than any line shows. Without a bound, a text of marks that
-// take no width would be tried out at its full length again and again.
+// More characters than any line shows. Without a maximum, a long text of marks
+// without width would be laid out in full several times.
 constexpr int kMaximumCharacters = 4096;
 
-// Wider than any line, and well within what the text engine can count.
+// Wider than any line, and well within the text engine's number format.
 constexpr qreal kUnlimitedWidth = 1 << 22;
 
-// Where the text may be cut, in ascending order, both its ends included.
+// Where the text may be cut, in ascending order, including its start and end.
 std::vector<int> CutPositions(const QString& text)
 {
     std::vector<int> positions {0};
@@ -38,9 +38,9 @@ int LengthWithoutTrailingSpace(const QString& text, int length)
     return length;
 }
 
-// Ends what the text may leave open of explicit directions, so that the
-// ellipsis stands at the end of the line and not inside of them. Ends without
-// a beginning mean nothing, so what the text has ended itself needs no care.
+// Characters that end all explicit directions in the text, so that the ellipsis
+// is at the end of the line and not inside of one. Some may have ended in the text
+// already; ending them again has no effect.
 QString DirectionEnds(const QString& text)
 {
     QString ends;
@@ -57,8 +57,8 @@ QString DirectionEnds(const QString& text)
     return ends;
 }
 
-// The formats of the first `length` characters, and of `tailLength` more that
-// look like the last of them.
+// The formats of the first `length` characters. The last format is extended to
+// `tailLength` characters that follow.
 QVector<QTextLayout::FormatRange> FormatsWithTail(const QVector<QTextLayout::FormatRange>& formats,
                                                   int length, int tailLength)
 {
@@ -97,7 +97,7 @@ ElidedLine::ElidedLine(ElisionSource source, std::optional<qreal> width)
 {
     layout_.setFont(source_.font);
     layout_.setTextOption(OneLineOption(source_.option, width_.has_value()));
-    // The line is drawn more often than it is made.
+    // The line is drawn more often than it is laid out.
     layout_.setCacheEnabled(true);
 
     LayOut(width_ ? LongestFittingLength() : source_.text.size());
@@ -122,15 +122,14 @@ void ElidedLine::DrawPictures(QPainter* painter, const QPointF& origin) const
     }
 }
 
-// The widths of the starts of a text grow with their length (but for what
-// ligatures and kerning take back), so the longest one that fits is searched
-// by halving, from near where it is expected.
+// The more characters, the wider the line (except for small effects of ligatures
+// and kerning). So this is a binary search, which starts near the expected length.
 int ElidedLine::LongestFittingLength()
 {
     const std::vector<int> cuts = CutPositions(source_.text.left(kMaximumCharacters));
     const auto expected = std::lower_bound(cuts.begin(), cuts.end(), source_.expectedLength);
 
-    std::size_t fitting = 0; // The bare ellipsis, which is shown in any case.
+    std::size_t fitting = 0; // The ellipsis alone is always shown.
     const bool isAllTooWide = source_.isTooWide && cuts.back() == source_.text.size();
     std::size_t tooLong = isAllTooWide ? cuts.size() - 1 : cuts.size();
     auto probe = static_cast<std::size_t>(expected - cuts.begin());

@@ -13,33 +13,33 @@ class QPainter;
 
 namespace kestro {
 
-// Text that is to become one line, with the formats it has in its paragraph.
+// The text from which an elided line is made, and its formats in the paragraph.
 struct ElisionSource {
     QString text;
     QVector<QTextLayout::FormatRange> formats;
     QFont font;
     QTextOption option;
-    // About how much of the text will fit: where the search for it starts.
+    // About how many characters will fit: the search starts there.
     int expectedLength = 0;
-    // Whether all of the text is known not to fit. Lines of single characters
-    // that are too wide, of which there can be many, need no search then.
+    // Whether it is known that not all of the text fits. Lines of one character
+    // that are too wide then need no search; there can be many of them.
     bool isTooWide = false;
 };
 
-// As much of the start of a text as fits a width together with the ellipsis
-// that ends it. Cut between characters as readers know them, never inside one.
+// A line with the start of a text and an ellipsis: as much of the text as fits
+// into a width. Never cuts inside a grapheme, which readers see as one character.
 class ElidedLine {
 public:
-    // Without `width` all of the text fits.
+    // Without `width`, all of the text fits.
     ElidedLine(ElisionSource source, std::optional<qreal> width);
 
-    // At (0, 0), as wide as the width and aligned in it.
+    // Its position is (0, 0). It has the given width and is aligned in it.
     QTextLine Line() const;
 
-    // How much of the text is left.
+    // How many characters of the text are shown.
     int Length() const { return laidOutLength_; }
 
-    // Draws what the layout cannot: pictures in the text.
+    // Draws the pictures in the text, which QTextLayout does not draw.
     void DrawPictures(QPainter* painter, const QPointF& origin) const;
 
 private:

@@ -21,8 +21,8 @@ struct CodePointRange {
     bool Contains(uint codePoint) const { return codePoint >= first && codePoint <= last; }
 };
 
-// What shows something by itself: the blocks that emoji are taken from, with
-// room for those that Unicode has yet to add.
+// Code points that can be emoji of their own: the Unicode blocks that contain
+// emoji, including code points that are not assigned yet.
 constexpr std::array<CodePointRange, 17> kEmojiRanges {{
     {0xA9, 0xA9},
     {0xAE, 0xAE},
@@ -43,11 +43,11 @@ constexpr std::array<CodePointRange, 17> kEmojiRanges {{
     {0x1F000, 0x1FAFF},
 }};
 
-// What begins a keycap.
+// The first code points of keycap emoji.
 constexpr std::array<CodePointRange, 3> kKeycapBases {{{'#', '#'}, {'*', '*'}, {'0', '9'}}};
 
-// What joins and varies: the joiner, the variation selectors, the keycap and
-// the tags that spell the names of flags.
+// Code points that join or change others: the zero width joiner, the variation
+// selectors, the keycap and the tags that spell the names of flags.
 constexpr std::array<CodePointRange, 4> kModifiers {{
     {0x200D, 0x200D},
     {0xFE0E, 0xFE0F},

@@ -10,16 +10,16 @@ namespace kestro {
 // The code points of one emoji.
 class EmojiCode {
 public:
-    // No longer than this; the longest emoji in use have ten code points.
+    // The longest emoji in use have ten code points.
     static constexpr int kMaximumCodePoints = 16;
-    // In characters: code points have at most six digits.
+    // In characters: code points have at most six digits, with "-" between them.
     static constexpr int kMaximumNameLength = kMaximumCodePoints * 7 - 1;
 
-    // From hexadecimal code points joined by "-". Nothing when they are not
-    // such as emoji are made of, or when they are several emoji.
+    // Reads hexadecimal code points that are joined by "-". Returns nothing if
+    // they do not form an emoji, or form several.
     static std::optional<EmojiCode> Read(QStringView name);
 
-    // In upper case, without leading zeros.
+    // The code points as Read() takes them, in upper case, without leading zeros.
     QString Name() const;
 
     QString Characters() const { return characters_; }

@@ -14,14 +14,14 @@ namespace kestro {
 
 namespace {
 
-// Enough for any text. What is shown larger, the painter scales as far as it is
-// seen.
+// In pixels; enough for any text. A picture that is shown larger is scaled by the
+// painter, and only its visible part.
 constexpr int kMaximumSide = 256;
 
-// Of all items together: thirty pictures of the largest size.
+// For all items together: 32 pictures of the maximum size.
 constexpr int kMaximumScaledBytes = 8 * 1024 * 1024;
 
-// Of the square that a picture is shown in: as high as a line of its font.
+// The square in which a picture is shown. It is as high as a line of its font.
 struct EmojiCell {
     explicit EmojiCell(const QTextFormat& format)
     {
@@ -34,15 +34,16 @@ struct EmojiCell {
     int descent;
 };
 
-// Has a glyph in the text's own font, so that the line does not grow.
+// An em dash. The text's own font has a glyph for it, so the line does not grow.
 constexpr QChar kPlaceholder(0x2014);
 
-// Takes no width. A line of nothing but objects would have no descent.
+// A zero width space, which follows every picture. A line that consists of objects
+// only would have no descent.
 constexpr QChar kStrut(0x200B);
 
 ScaledPictures& SharedScaledPictures()
 {
-    // Never destroyed: the application's scene may go last of all.
+    // Never destroyed, because the application may delete its scene last.
     static auto* const pictures = new ScaledPictures(kMaximumScaledBytes);
     return *pictures;
 }
@@ -104,12 +105,12 @@ void EmojiPicture::Draw(QPainter* painter, const QPointF& start, const QTextChar
 
     const auto picture = format.property(TextProperty::EmojiPicture).value<QImage>();
     const QSize pixels = painter->deviceTransform().mapRect(square).size().toSize();
-    const bool isOrdinary = pixels.width() <= kMaximumSide && pixels.height() <= kMaximumSide;
-    const QImage image = isOrdinary ? SharedScaledPictures().Get(picture, pixels) : picture;
+    const bool isScaledHere = pixels.width() <= kMaximumSide && pixels.height() <= kMaximumSide;
+    const QImage image = isScaledHere ? SharedScaledPictures().Get(picture, pixels) : picture;
     QRectF place(QPointF(), QSizeF(image.size()).scaled(square.size(), Qt::KeepAspectRatio));
     place.moveCenter(square.center());
     const bool wasSmooth = painter->testRenderHint(QPainter::SmoothPixmapTransform);
-    painter->setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth || !isOrdinary);
+    painter->setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth || !isScaledHere);
     painter->drawImage(place, image);
     painter->setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth);
 }
@@ -130,8 +131,8 @@ void EmojiPicture::ReplaceWithPlaceholders(QString& text,
     }
 }
 
-// The text engine stands objects on the baseline. The picture reaches down to
-// the descent, where there is room for it in any case.
+// The text engine puts objects onto the baseline. The picture also covers the
+// descent, for which there is always room.
 QSizeF EmojiPicture::intrinsicSize(QTextDocument*, int, const QTextFormat& format)
 {
     const EmojiCell cell(format);

@@ -11,8 +11,8 @@ class QTextCursor;
 
 namespace kestro {
 
-// Emoji that are shown as pictures: one object character each, whose format
-// holds the picture and the characters that it stands for.
+// Emoji that are shown as pictures. In the document, each is an object character,
+// whose format contains the picture and the characters that it stands for.
 class EmojiPicture : public QObject, public QTextObjectInterface {
     Q_OBJECT
     Q_INTERFACES(QTextObjectInterface)
@@ -20,22 +20,23 @@ class EmojiPicture : public QObject, public QTextObjectInterface {
 public:
     static constexpr int kObjectType = QTextFormat::UserObject + 1;
 
-    // Text around it has `format`.
+    // `format` is that of the text around it.
     static void Insert(QTextCursor& cursor, const QTextCharFormat& format,
                        const QString& characters, const QImage& picture);
 
     static bool IsPicture(const QTextFormat& format);
+    // The ranges that are pictures.
     static QVector<QTextLayout::FormatRange>
     PicturesIn(const QVector<QTextLayout::FormatRange>& formats);
 
-    // Draws the picture of `format` where the text has its baseline at `start`.
+    // Draws the picture of `format`. `start` is its left end on the baseline.
     static void Draw(QPainter* painter, const QPointF& start, const QTextCharFormat& format);
 
-    // How wide a picture of `format` is.
+    // The width that the picture of `format` takes up in a line.
     static qreal Width(const QTextCharFormat& format);
 
-    // Layouts outside of a document know no objects. Puts characters in their
-    // place that take as much room and leave no ink.
+    // Replaces pictures with invisible characters of the same width, because
+    // layouts outside of a document do not support objects.
     static void ReplaceWithPlaceholders(QString& text, QVector<QTextLayout::FormatRange>& formats);
 
     // ----- QTextObjectInterface

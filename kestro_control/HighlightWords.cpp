@@ -6,7 +6,8 @@ namespace kestro {
 
 namespace {
 
-// Character by character, as QString compares without case: positions stay.
+// Folds each character by itself, as QString does in comparisons without case, so
+// that positions stay the same.
 QString CaseFolded(const QString& text)
 {
     QString folded = text;
@@ -24,9 +25,9 @@ QString CaseFolded(const QString& text)
     return folded;
 }
 
-// For every start of a word, the length of the longest shorter start of the
-// word that it ends with: where the search goes on when the next character
-// does not match (Knuth, Morris and Pratt).
+// The table of the Knuth-Morris-Pratt search. For every prefix of the word, it has
+// the length of the longest shorter prefix that the prefix ends with. The search
+// continues there when the next character does not match.
 std::vector<int> FallbackLengths(const QString& word)
 {
     std::vector<int> fallbacks(static_cast<std::size_t>(word.size()) + 1, 0);
@@ -82,14 +83,14 @@ std::vector<std::pair<int, int>> HighlightWords::CoveredRanges(const QString& te
             CoverWord(word, folded, covered);
     }
 
-    std::vector<std::pair<int, int>> stretches;
+    std::vector<std::pair<int, int>> ranges;
     auto start = std::find(covered.begin(), covered.end(), true);
     while (start != covered.end()) {
         const auto end = std::find(start, covered.end(), false);
-        stretches.emplace_back(start - covered.begin(), end - covered.begin());
+        ranges.emplace_back(start - covered.begin(), end - covered.begin());
         start = std::find(end, covered.end(), true);
     }
-    return stretches;
+    return ranges;
 }
 
 } // namespace kestro

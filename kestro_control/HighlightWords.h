@@ -8,10 +8,10 @@
 
 namespace kestro {
 
-// Words that are looked for in any text, whatever their case.
+// Words to search for in texts, in upper or lower case.
 class HighlightWords {
 public:
-    // More words than anyone looks for; what is beyond them is left out.
+    // Further words are ignored.
     static constexpr std::size_t kMaximumWords = 1000;
 
     HighlightWords() = default;
@@ -19,9 +19,9 @@ public:
 
     bool IsEmpty() const { return words_.empty(); }
 
-    // The stretches of `text`, as pairs of start and end, that occurrences of
-    // the words cover, in ascending order, with room between them. Takes time
-    // that grows with the length of the text for every word.
+    // The ranges of `text` that occurrences of the words cover, as pairs of start
+    // and end. They are in ascending order and neither overlap nor touch. The time
+    // is proportional to the length of the text for every word.
     std::vector<std::pair<int, int>> CoveredRanges(const QString& text) const;
 
     friend bool operator==(const HighlightWords&, const HighlightWords&) = default;

@@ -24,10 +24,10 @@ KestroControlSupport* KestroControlManager::GetKestroControlSupport() const
 
 void KestroControlManager::FontFamilyChanged()
 {
-    const std::vector<KestroFontBindSupport*> told(items_.begin(), items_.end());
+    const std::vector<KestroFontBindSupport*> items(items_.begin(), items_.end());
     std::exception_ptr failure;
-    for (KestroFontBindSupport* item : told) {
-        // An item that was told before may have deleted this one.
+    for (KestroFontBindSupport* item : items) {
+        // The call for an earlier item may have deleted this one.
         if (items_.count(item) == 0 || !item->IsUseFontBonding())
             continue;
         try {

@@ -12,7 +12,7 @@ namespace kestro {
 
 namespace {
 
-// "-" and as many digits as the smallest number has.
+// The smallest 64-bit number has "-" and 19 digits.
 constexpr int kMaximumNumberLength = 20;
 
 struct Entity {
@@ -62,8 +62,8 @@ QString Unescaped(QStringView text)
     return result;
 }
 
-// Only the digits that numbers are written with in the markup: QString would
-// also take "+1" and " 1".
+// Checks the digits itself, because QStringView::toLongLong() also accepts "+1"
+// and " 1".
 std::optional<qint64> DecimalNumber(QStringView digits)
 {
     const QStringView unsignedDigits = digits.startsWith(QLatin1Char('-')) ? digits.mid(1) : digits;
@@ -154,7 +154,7 @@ private:
         return true;
     }
 
-    // What is longer cannot be right and is not looked at.
+    // A longer one cannot be valid, so the rest of it is not read.
     QStringView ReadAttribute(int maximumLength)
     {
         const qsizetype start = at_;
@@ -163,9 +163,9 @@ private:
         return text_.mid(start, at_ - start);
     }
 
-    // Up to the next tag, whichever it is. Where that is not the one that ends
-    // the element, reading goes on behind the element's start, so that nothing
-    // is read more than twice.
+    // Reads up to the next "<". If that is not the tag that ends the element, the
+    // element is text, and reading continues after its own "<". So nothing is
+    // read more than twice.
     QStringView ReadContent()
     {
         const qsizetype start = at_;
@@ -183,7 +183,7 @@ private:
 
     const QStringView text_;
     qsizetype at_ = 0;
-    // Where the text begins that no run holds yet.
+    // The start of the text that is not in a run yet.
     qsizetype textStart_ = 0;
     std::vector<MarkupRun> runs_;
 };

@@ -6,22 +6,22 @@
 
 namespace kestro {
 
-// A stretch of text as the markup in it divides it.
+// A part of a text with markup: plain text or one element.
 struct MarkupRun {
     enum class Kind { Text, UserMention, BotMention, Emoji };
 
     Kind kind = Kind::Text;
-    // As it is to be shown; of an emoji, its Unicode characters.
+    // The text to show; for an emoji, its Unicode characters.
     QString text;
-    // Of a mention: who is mentioned.
+    // For a mention: the number of the user or bot.
     qint64 number = 0;
-    // Of an emoji: its code points, as KestroControlSupport is asked for them.
+    // For an emoji: its code points, as KestroControlSupport takes them.
     QString emojiCode;
 };
 
-// Reads the markup that TextItem documents, in one pass: what is not part of a
-// well-formed element is text. No run is empty, and no two runs of text follow
-// each other.
+// Reads the markup that TextItem.h describes, in linear time. Everything outside of
+// well-formed elements is text. No run is empty, and no two text runs follow each
+// other.
 std::vector<MarkupRun> ReadMarkup(const QString& text);
 
 } // namespace kestro

@@ -9,11 +9,11 @@ class QTextFormat;
 
 namespace kestro {
 
-// Who is mentioned in a stretch of text, as the format of the text carries it.
+// A mention of a user or a bot, as it is stored in the format of its text.
 struct Mention {
     bool isBot = false;
     qint64 userNo = 0;
-    // Tells mentions of the same user apart.
+    // Unique in the item, so that two mentions of the same user differ.
     int id = 0;
 
     void WriteTo(QTextCharFormat& format) const;

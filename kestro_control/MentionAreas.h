@@ -14,8 +14,8 @@ namespace kestro {
 
 class ShownLines;
 
-// Where the mentions of a document are on show. As ShownLines, a picture of the
-// document as it is laid out at the time.
+// Where the mentions of a document are shown. Like ShownLines, it must not be used
+// after the document has changed.
 class MentionAreas {
 public:
     MentionAreas() = default;

@@ -41,8 +41,8 @@ QString AsPlainText(QString text)
     for (QChar& character : text) {
         switch (character.unicode()) {
         case '\r':
-        case 0xFDD0: // Where QTextDocument begins and
-        case 0xFDD1: // ends a frame.
+        case 0xFDD0: // QTextDocument's start of a frame
+        case 0xFDD1: // and its end.
         case QChar::ParagraphSeparator:
         case QChar::LineSeparator:
             character = QLatin1Char('\n');

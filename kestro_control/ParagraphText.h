@@ -9,30 +9,31 @@ class QTextDocument;
 
 namespace kestro {
 
-// The text of a paragraph as it is read and searched: with the characters that
-// emoji pictures stand for.
+// The text of a paragraph, in which every emoji picture is replaced with the
+// characters that it stands for.
 class ParagraphText {
 public:
     explicit ParagraphText(const QTextBlock& block);
 
     const QString& Characters() const { return characters_; }
 
-    // Where the document has the character at `index`, which may be one past
+    // The document's position of the character at `index`, which may be one past
     // the last.
     int DocumentPosition(int index) const;
 
 private:
     QString characters_;
-    // Of the document's first character.
+    // The document's position of the paragraph.
     int start_;
-    // Of every character in the block, and of the end. Empty: they are the
-    // same.
+    // The position in the block of each character, and of the end. Empty if it is
+    // the character's index.
     std::vector<int> positions_;
 };
 
-// `text` as QTextDocument::toPlainText() would tell it.
+// `text` as QTextDocument::toPlainText() would return it.
 QString AsPlainText(QString text);
 
+// QTextDocument::toPlainText(), with the characters of the emoji pictures.
 QString PlainTextOf(const QTextDocument& document);
 
 } // namespace kestro

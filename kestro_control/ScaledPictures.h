@@ -8,19 +8,20 @@
 
 namespace kestro {
 
-// Pictures in the sizes that they are shown in: what is painted again is not
-// scaled again. Those that were not painted for longest go first.
+// A cache of pictures in the sizes in which they are shown, so that repeated
+// painting does not scale them again. The least recently painted ones are removed
+// first.
 class ScaledPictures {
 public:
     explicit ScaledPictures(int maxBytes);
 
-    // The picture in its own proportions, as large as fits into `size`.
+    // The picture, scaled to fit into `size` without changing its proportions.
     QImage Get(const QImage& picture, const QSize& size);
 
     int Bytes() const { return pictures_.totalCost(); }
 
 private:
-    // The picture's key, and the size as one number.
+    // QImage::cacheKey() and the size as one number.
     using Key = std::pair<qint64, qint64>;
 
     QCache<Key, QImage> pictures_;

@@ -21,8 +21,7 @@ namespace kestro {
 
 namespace {
 
-// The text of a paragraph with its formats, taken out of the document once for
-// all its lines.
+// A copy of the text and the formats of a paragraph, made once for all its lines.
 struct Paragraph {
     explicit Paragraph(const QTextBlock& block)
         : text(block.text())
@@ -49,8 +48,8 @@ QVector<QTextLayout::FormatRange> FormatsBetween(const QVector<QTextLayout::Form
     return result;
 }
 
-// Whether anything that leaves ink follows. Spaces and line ends that the line
-// limit hides are nothing a reader would miss.
+// Whether anything visible follows. There is no ellipsis for spaces and line ends,
+// because readers do not miss them.
 bool HasVisibleTextFrom(const QTextDocument& document, int position)
 {
     const int end = document.characterCount();
@@ -59,14 +58,15 @@ bool HasVisibleTextFrom(const QTextDocument& document, int position)
     return position < end;
 }
 
+// The end of the line that starts at `start` if it does not wrap.
 int ForcedLineEnd(const QString& text, int start)
 {
     const int end = text.indexOf(QChar::LineSeparator, start);
     return end < 0 ? text.size() : end;
 }
 
-// Spaces at the end of a line that did not wrap count in its natural width.
-// They are side by side at one of its edges, whatever the direction.
+// The natural width of a line that did not wrap includes the spaces at its end.
+// They are next to each other at one of its edges, whatever their direction.
 qreal TrailingSpaceWidth(const QTextBlock& block, const QTextLine& line)
 {
     const QTextDocument& document = *block.document();
@@ -75,22 +75,23 @@ qreal TrailingSpaceWidth(const QTextBlock& block, const QTextLine& line)
     while (textEnd > line.textStart()
            && document.characterAt(block.position() + textEnd - 1).isSpace())
         --textEnd;
-    // Places in long lines are dear, and most lines end in no space.
+    // cursorToX() is slow on long lines, and most have no trailing space.
     if (textEnd == end)
         return 0;
     return std::abs(line.cursorToX(end) - line.cursorToX(textEnd));
 }
 
+// An estimate of how many characters of the line fit into `width`.
 int ExpectedLength(const QTextLine& line, qreal width)
 {
     const qreal share = std::min(1.0, width / std::max(1.0, line.naturalTextWidth()));
     return static_cast<int>(line.textLength() * share);
 }
 
-// Farther than ink stands out from any line.
+// In pixels; the ink of a line never reaches farther out of it.
 constexpr qreal kMaximumOverhang = 4096;
 
-// As the eye weighs the colours, from 0 for black to 1 for white.
+// The relative luminance of a colour, from 0 for black to 1 for white.
 qreal Luminance(const QColor& color)
 {
     const auto linear = [](qreal part) { return std::pow(part, 2.2); };
@@ -98,8 +99,8 @@ qreal Luminance(const QColor& color)
         + 0.0722 * linear(color.blueF());
 }
 
-// Black on light grounds and white on dark ones, as they look on white paper.
-// The threshold has the same contrast to both.
+// Black on light backgrounds and white on dark ones. Translucent backgrounds are
+// assumed to be on white. The threshold has the same contrast to black and white.
 QColor TextColorOn(const QBrush& background)
 {
     const qreal alpha = background.color().alphaF();
@@ -107,20 +108,21 @@ QColor TextColorOn(const QBrush& background)
     return light > 0.179 ? Qt::black : Qt::white;
 }
 
-// A format for all of a line.
+// The format of highlighted text, for a whole line.
 QTextLayout::FormatRange HighlightFormat(const QBrush& background, const QTextLine& line)
 {
     QTextLayout::FormatRange range;
     range.start = line.textStart();
     range.length = line.textLength();
     range.format.setForeground(TextColorOn(background));
-    // The grounds of spans would cover the highlight.
+    // The backgrounds of spans would cover the highlight.
     range.format.setBackground(Qt::NoBrush);
     return range;
 }
 
 } // namespace
 
+// Makes the lines of a document, up to the line limit.
 class ShownLines::Builder {
 public:
     Builder(const QTextDocument& document, int maxCount, bool elide, bool hasMoreText,
@@ -147,7 +149,7 @@ private:
     {
         const QPointF origin = document_.documentLayout()->blockBoundingRect(block).topLeft();
         QTextLayout& layout = *block.layout();
-        // What is shown is drawn and asked for places again and again.
+        // Shown lines are drawn and measured many times.
         layout.setCacheEnabled(true);
         std::optional<Paragraph> paragraph;
         for (int i = 0; i < layout.lineCount() && !IsFull(); ++i) {
@@ -168,8 +170,8 @@ private:
         lines_.push_back(std::move(shown));
     }
 
-    // Both concern the line that was added last.
-
+    // Elides the line that was added last. The first call that needs `paragraph`
+    // creates it.
     void ElideIfNeeded(const QTextBlock& block, std::optional<Paragraph>& paragraph)
     {
         const QTextLine& line = lines_.back().line;
@@ -189,7 +191,8 @@ private:
             || (hasMoreText_ && (IsFull() || isLast));
     }
 
-    // `isCut`: text is left over behind the line. Else the line is too wide.
+    // Elides the line that was added last. `isCut`: text that follows the line is
+    // not shown. Otherwise the line is too wide.
     void Elide(const QTextBlock& block, const Paragraph& paragraph, bool isCut)
     {
         Line& shown = lines_.back();
@@ -222,7 +225,8 @@ private:
             && line.naturalTextWidth() - TrailingSpaceWidth(block, line) > *width;
     }
 
-    // QTextLine::width() is of no help: it grows with a text that is too wide.
+    // The width of the document without margins. QTextLine::width() may be larger,
+    // because it grows with a text that is too wide.
     std::optional<qreal> AvailableWidth(const QTextBlock& block, const QTextLine& line) const
     {
         if (document_.textWidth() < 0)
@@ -244,8 +248,9 @@ private:
     const bool elide_;
     const bool hasMoreText_;
     std::vector<Line>& lines_;
-    // How much higher than in the document the lines above have become: an
-    // ellipsis can bring tall text into its line, or drive it out.
+    // How much lower the next line is than in the document. Elided lines can be
+    // higher or lower than the document's: an ellipsis can remove tall text from
+    // its line or bring some in.
     qreal shiftDown_ = 0;
 };
 
@@ -276,7 +281,7 @@ qreal ShownLines::WidestLine() const
     return width;
 }
 
-// Without a width of its own, the document does not align its lines.
+// A document without a width does not align its lines.
 void ShownLines::AlignLinesIn(qreal width)
 {
     for (Line& line : lines_) {
@@ -315,7 +320,7 @@ qreal ShownLines::FirstAscent() const
 void ShownLines::Draw(QPainter* painter, const QRectF& exposed, const QBrush& highlight) const
 {
     for (const Line& line : lines_) {
-        // Ink may stand out from its line, but not as far as the next but one.
+        // Ink may reach into the next line, but not beyond it.
         const qreal overhang = line.rect.height();
         if (line.rect.top() - overhang <= exposed.bottom()
             && line.rect.bottom() + overhang >= exposed.top())
@@ -360,13 +365,13 @@ void ShownLines::Highlight(const QTextDocument& document, const HighlightWords& 
         const ParagraphText text(block);
         const auto pictures = EmojiPicture::PicturesIn(block.textFormats());
         for (const auto& [start, end] : words.CoveredRanges(text.Characters()))
-            Highlight(text.DocumentPosition(start), text.DocumentPosition(end), pictures);
+            HighlightRange(text.DocumentPosition(start), text.DocumentPosition(end), pictures);
     }
     for (Line& line : lines_)
         line.MergeHighlights();
 }
 
-void ShownLines::Highlight(int start, int end, const FormatRanges& pictures)
+void ShownLines::HighlightRange(int start, int end, const FormatRanges& pictures)
 {
     for (auto i = FirstLineEndingAfter(start); i < lines_.size() && lines_[i].Start() < end; ++i) {
         Line& line = lines_[i];
@@ -374,7 +379,7 @@ void ShownLines::Highlight(int start, int end, const FormatRanges& pictures)
         line.AddGlyphRects(start, end, rects);
         if (!line.elided)
             line.AddPictureRects(pictures, start, end, rects);
-        // As far as the text engine draws the grounds of spans.
+        // In whole pixels, as the text engine draws the backgrounds of spans.
         for (const QRectF& rect : rects)
             line.highlighted.emplace_back(std::floor(rect.left()), std::ceil(rect.right()));
     }
@@ -397,7 +402,7 @@ void ShownLines::Line::AddGlyphRects(int start, int end, std::vector<QRectF>& re
     const int last = std::min(end, End());
     if (first >= last)
         return;
-    // Of one direction each, so that they are where the text is seen.
+    // A glyph run has one direction, so that its text is in one rectangle.
     for (const QGlyphRun& run : line.glyphRuns(first - layoutStart, last - first))
         rects.push_back(run.boundingRect().translated(origin));
 }
@@ -415,7 +420,8 @@ QRectF ShownLines::Line::Ink() const
     return ink;
 }
 
-// Pictures have no glyphs, but the struts behind them have.
+// Pictures have no glyphs, but the zero width space after each of them has one, at
+// its edge.
 void ShownLines::Line::AddPictureRects(const FormatRanges& pictures, int start, int end,
                                        std::vector<QRectF>& rects) const
 {
@@ -457,8 +463,8 @@ QPainterPath ShownLines::Line::HighlightedPath() const
     return path;
 }
 
-// What is highlighted is drawn apart from the rest, so that it can have another
-// colour without another layout.
+// Draws the highlighted text separately, so that it can have another colour without
+// a new layout.
 void ShownLines::Line::Draw(QPainter* painter, const QBrush& highlight) const
 {
     if (highlighted.empty() || highlight.style() == Qt::NoBrush) {

@@ -18,15 +18,15 @@ namespace kestro {
 class ElidedLine;
 class HighlightWords;
 
-// The lines of a document that are shown under a line limit: which, where, and
-// with which ellipses. A picture of the document as it is laid out at the time;
-// it must not be used after the document has changed.
+// The shown lines of a document that has a line limit: their positions, ellipses
+// and highlights. Refers to the document's layout, so it must not be used after the
+// document has changed.
 class ShownLines {
 public:
     // No line.
     ShownLines();
-    // `maxCount` 0: no limit. `goesOn`: there is more text than the document
-    // holds.
+    // `maxCount` 0: no limit. `hasMoreText`: the text continues after the end of
+    // the document.
     ShownLines(const QTextDocument& document, int maxCount, bool elide, bool hasMoreText);
     ~ShownLines();
     ShownLines(ShownLines&&) noexcept;
@@ -36,47 +36,49 @@ public:
     bool IsElided() const;
     QRectF BoundingRect() const;
 
-    // From the top of the first line to its baseline. There must be a line.
+    // The distance from the top of the first line to its baseline. There must be a
+    // line.
     qreal FirstAscent() const;
 
-    // What the shown glyphs of the text between two positions of the document
-    // take up, from their fonts' ascents to their descents.
+    // The rectangles of the shown glyphs between two positions of the document,
+    // each as high as the ascent and descent of its font.
     std::vector<QRectF> GlyphRects(int start, int end) const;
 
     // Replaces the earlier highlight.
     void Highlight(const QTextDocument& document, const HighlightWords& words);
 
-    // Whether glyphs leave ink left of 0 or right of `width`: slanted ones do, and
-    // those of lines that are too wide.
+    // Whether glyphs have ink (the pixels that they paint) left of 0 or right of
+    // `width`. This happens with slanted glyphs and with lines that are too wide.
     bool HasInkOutside(qreal width) const;
 
-    // Draws the lines that may leave ink in `exposed`, and what is highlighted
-    // on a ground of `highlight`.
+    // Draws the lines that may have ink in `exposed`. Highlighted text has
+    // `highlight` as its background.
     void Draw(QPainter* painter, const QRectF& exposed, const QBrush& highlight) const;
 
 private:
-    // From left to right.
+    // Left and right x coordinate.
     using Interval = std::pair<qreal, qreal>;
     using FormatRanges = QVector<QTextLayout::FormatRange>;
 
     struct Line {
         QTextLine line;
-        // Where the line's own coordinates have their origin.
+        // The origin of the line's own coordinates, in those of the item.
         QPointF origin;
-        // The text on it: natural width, full height.
+        // The rectangle of its text: natural width, full height.
         QRectF rect;
         Qt::Alignment alignment;
+        // The owner of `line` if it ends in an ellipsis; null otherwise.
         std::unique_ptr<ElidedLine> elided;
-        // Where the document has the first character of the line's layout.
+        // The document's position of the first character of the line's layout.
         int layoutStart = 0;
         // Without overlaps, in ascending order.
         std::vector<Interval> highlighted;
 
-        // The text of the document that is shown.
+        // The document's positions of the shown text.
         int Start() const;
         int End() const;
 
-        // As far as its glyphs leave ink, and the line itself.
+        // The rectangle of the line and of the ink of its glyphs.
         QRectF Ink() const;
         void AddGlyphRects(int start, int end, std::vector<QRectF>& rects) const;
         void AddPictureRects(const FormatRanges& pictures, int start, int end,
@@ -89,7 +91,7 @@ private:
     class Builder;
 
     std::size_t FirstLineEndingAfter(int position) const;
-    void Highlight(int start, int end, const FormatRanges& pictures);
+    void HighlightRange(int start, int end, const FormatRanges& pictures);
 
     qreal WidestLine() const;
     void AlignLinesIn(qreal width);

@@ -41,13 +41,13 @@ using kestro::ShownLines;
 
 namespace {
 
-// Lengths beyond 2^23 overflow the text engine's fixed-point numbers; this
-// leaves room for what it adds up.
+// Lengths beyond 2^23 overflow the text engine's fixed-point numbers; this leaves
+// room for sums.
 constexpr qreal kMaximumWidth = 1 << 20;
 
 constexpr qreal kNaturalWidth = -1;
 
-// Farther than ink stands out above or below a text.
+// In pixels; the ink of a text never reaches farther above or below it.
 constexpr qreal kMaximumOverhang = 4096;
 
 const QColor kDefaultMentionColor(0x11, 0x8D, 0xFF);
@@ -59,13 +59,14 @@ qreal FixedWidth(qreal width)
     return std::min(width, kMaximumWidth);
 }
 
-// An item without room shows nothing, so its lines may be as long as they are.
+// An item of width 0 shows nothing, but has the height of its natural width.
 qreal DocumentWidth(qreal width)
 {
     return width == 0 ? kNaturalWidth : width;
 }
 
-// All between the left and the right edge of an item, in whole pixels.
+// A clip path that cuts at the left and right edges of an item only, rounded out to
+// whole pixels.
 QPainterPath SideClip(const QRectF& rect)
 {
     QPainterPath path;
@@ -90,30 +91,35 @@ bool IsWrapMode(QTextOption::WrapMode mode)
 
 } // namespace
 
+// Owns the document and computes what is shown of it: ShownLines has the lines,
+// MentionAreas the places that can be clicked. Both are made when they are needed
+// and dropped by Invalidate().
 class TextItem::Private {
 public:
     explicit Private(TextItem& textItem);
     ~Private();
 
-    // Inserts at `cursor`, as far as the display limit lets it.
+    // Inserts at `cursor` what the display limit allows, and keeps the rest as
+    // hidden text.
     void Insert(QTextCursor& cursor, const MarkupRun& run, const QTextCharFormat& format);
 
-    // Without a format of its own.
+    // `text` has no format.
     void ReplaceText(const QString& text);
 
     QString PlainText() const;
 
-    // Whether `text` can be shown besides all that is there.
+    // Whether all of `text` can be shown in addition to the present text.
     bool HasRoomFor(const QString& text) const;
 
     void UseApplicationFontFamily();
 
-    // The lines on show, laid out when they are asked for first.
+    // The shown lines. The first call after a change lays them out.
     const ShownLines& Shown();
 
+    // The same, with highlights.
     const ShownLines& ShownHighlighted();
 
-    // Whether what is shown has to be cut at the left and right edges.
+    // Whether text would be drawn outside of the left and right edges.
     bool NeedsSideClip();
 
     std::optional<Mention> MentionAt(const QPointF& point);
@@ -123,10 +129,10 @@ public:
     void Hover(QGraphicsSceneHoverEvent* event);
     void ShowPointingHand(bool shown);
 
-    // What is shown is about to change, or has just changed in the document.
+    // To be called before a change of what is shown, or after one in the document.
     void Invalidate();
 
-    // Outlives the document, which holds on to it.
+    // Destroyed after the document, which keeps a pointer to it.
     EmojiPicture emojiPictures;
     QTextDocument document;
     QColor textColor = QGuiApplication::palette().color(QPalette::Text);
@@ -140,7 +146,7 @@ public:
     HighlightWords highlightWords;
     QBrush highlightBrush;
     bool isHighlightValid = true;
-    // The mention that the left button went down on.
+    // The id of the mention on which the left button was pressed.
     std::optional<int> pressedMention;
 
 private:
@@ -158,12 +164,12 @@ private:
     QPointer<QAbstractTextDocumentLayout> watchedLayout_;
 
     DisplayBudget budget_;
-    // What of the text is beyond the display limit.
+    // The text beyond the display limit.
     QString hiddenText_;
     bool hasPictures_ = false;
     int lastMentionId_ = 0;
 
-    // The cursor of the item, if any, while there is a hand in its place.
+    // Set while a mention shows the pointing hand: the item's own cursor, if any.
     std::optional<std::optional<QCursor>> cursorBeforeHand_;
 };
 
@@ -307,7 +313,7 @@ const ShownLines& TextItem::Private::ShownHighlighted()
     return shown_;
 }
 
-// A clip costs as much as half of a text's lines, and few texts need one.
+// Clipping takes half as long as drawing the text, and few texts need it.
 bool TextItem::Private::NeedsSideClip()
 {
     if (!needsSideClip_)
@@ -344,7 +350,7 @@ void TextItem::Private::Release(QGraphicsSceneMouseEvent* event)
     const std::optional<Mention> mention = MentionAt(event->pos());
     if (!mention || mention->id != pressed)
         return;
-    // Whoever hears of it may delete the item.
+    // Slots may delete the item.
     if (mention->isBot)
         Q_EMIT item_.BotMentionClicked(mention->userNo);
     else
@@ -373,8 +379,8 @@ void TextItem::Private::ShowPointingHand(bool shown)
         item_.unsetCursor();
 }
 
-// The layout tells of changes of which the document says nothing: of its
-// width, its font and its default text option.
+// The layout reports changes that the document does not: of its width, its font and
+// its default text option.
 void TextItem::Private::WatchLayout()
 {
     QAbstractTextDocumentLayout* const layout = document.documentLayout();
@@ -386,10 +392,11 @@ void TextItem::Private::WatchLayout()
 
 void TextItem::Private::Invalidate()
 {
-    // Nobody has seen what is shown since it was invalidated last.
+    // Already invalid; nothing to announce.
     if (!isShownValid_)
         return;
-    // The scene asks for the old rectangle meanwhile.
+    // prepareGeometryChange() calls boundingRect(), which must still return the old
+    // one.
     item_.prepareGeometryChange();
     isShownValid_ = false;
     shown_ = ShownLines();
@@ -413,7 +420,7 @@ TextItem::TextItem(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
 
 TextItem::~TextItem()
 {
-    // The base's control lives longer than the document.
+    // The base's control is destroyed after the document.
     if (!IsReadOnly())
         QGraphicsTextItem::setDocument(nullptr);
 }
@@ -679,8 +686,8 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
     painter->restore();
 }
 
-// The base's handlers leave events accepted even when there is no control to
-// handle them, so a read-only item goes past them all.
+// The base's handlers leave events accepted even without a text control, so
+// read-only items do not call them.
 
 bool TextItem::sceneEvent(QEvent* event)
 {
@@ -705,7 +712,7 @@ void TextItem::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
     IsReadOnly() ? private_->Release(event) : QGraphicsTextItem::mouseReleaseEvent(event);
 }
 
-// A double click is two clicks.
+// Replaces the second press of a double click, which counts as two clicks.
 void TextItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
 {
     IsReadOnly() ? private_->Press(event) : QGraphicsTextItem::mouseDoubleClickEvent(event);

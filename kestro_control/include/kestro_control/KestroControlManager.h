@@ -9,28 +9,28 @@
 class KestroControlSupport;
 class KestroFontBindSupport;
 
-// Where the controls of the process find the application's support object, and
-// who tells them when its answers have changed. Like all of the library it
-// belongs to the GUI thread.
+// Gives the controls of the process the application's support object, and tells
+// them when its font family has changed. To be used in the GUI thread only, like
+// the whole library.
 class KESTRO_CONTROL_API KestroControlManager {
 public:
-    // The one manager of the process, made at the first call. It is never
-    // destroyed, so that items that outlive main() can still ask it.
+    // The one manager of the process, created by the first call. It is never
+    // destroyed, so that items that outlive main() can still use it.
     static KestroControlManager* GetInstance();
 
-    // `support` stays the caller's, who may delete it at any time: there is
-    // none from then on. Null: there is no support object. Items that follow
-    // the application's font are told.
+    // The caller keeps the ownership of `support` and may delete it at any time;
+    // there is no support object then. Null: there is none. Calls
+    // FontFamilyChanged().
     void SetKestroControlSupport(KestroControlSupport* support);
 
-    // What was set last, unless it is gone; null when nothing was.
+    // The object that was set last; null if none was set or if it was deleted.
     KestroControlSupport* GetKestroControlSupport() const;
 
-    // To be called by the application when the support object's font family
-    // has changed: calls FontChanged() on every item that follows it. Items may
-    // come and go meanwhile; those that come are not told. What an item throws,
-    // as when the support object does, leaves when all are told; of several
-    // exceptions the last.
+    // The application calls this when the font family of its support object has
+    // changed. Calls FontChanged() on every item that follows the application's
+    // font. These calls may create and delete items; new items are not called.
+    // If an item or the support object throws, the exception is rethrown after
+    // all items were called; if several do, the last one.
     void FontFamilyChanged();
 
 private:

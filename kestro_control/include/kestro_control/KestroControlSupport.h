@@ -5,23 +5,24 @@
 #include <QImage>
 #include <QString>
 
-// What the controls ask of the application that shows them. The application
+// What the controls need from the application that shows them. The application
 // implements it and registers its object with KestroControlManager.
 class KESTRO_CONTROL_API KestroControlSupport {
 public:
     KestroControlSupport() = default;
-    // KestroControlManager forgets the object.
+    // Removes the object from KestroControlManager.
     virtual ~KestroControlSupport();
 
-    // The font family of the application's own texts, as QFont::setFamily
-    // takes it. Items ask when they are created and when the manager is told
-    // of a change; an empty answer changes nothing.
+    // The font family of the application's own texts, in the form that
+    // QFont::setFamily() takes. Items call this when they are created and when
+    // the font family has changed. If it is empty, they keep their font.
     virtual QString GetFontFamily() const = 0;
 
-    // The application's own picture of an emoji, whose Unicode code points
-    // `code` names: in upper case hexadecimal, joined by "-", as in
-    // "1F469-200D-1F4BB". Null, as here: the emoji is shown as text. A picture
-    // is kept by the items that show it, so it can be shared among them.
+    // The application's own picture of an emoji. `code` holds the Unicode code
+    // points of the emoji, in upper case hexadecimal and joined by "-":
+    // "1F469-200D-1F4BB". If the picture is null, as it is here, the emoji is
+    // shown as text. Items keep the picture. Return copies of one QImage for the
+    // same code, so that the items share its pixels.
     virtual QImage GetEmojiImage(const QString& code) const;
 
 private:

@@ -4,19 +4,20 @@
 
 #include <QtGlobal>
 
-// A mix-in for items whose font can follow the application's font. For as long
-// as it lives, KestroControlManager knows it and tells it of changes.
+// A mix-in for items whose font can follow the application's font. The
+// constructor registers it with KestroControlManager, which then calls
+// FontChanged(); the destructor removes it.
 class KESTRO_CONTROL_API KestroFontBindSupport {
 public:
     KestroFontBindSupport();
     virtual ~KestroFontBindSupport();
 
-    // The application's font has changed: an item that follows it overrides
-    // this and takes the new font. Does nothing here.
+    // Called when the application's font family has changed. Items override it
+    // to set their font. This one does nothing.
     virtual void FontChanged();
 
-    // Whether the item's font follows the application's; it does unless set
-    // otherwise. Overrides of FontChanged() are to ask this first.
+    // Whether the item's font follows the application's; true at first. Overrides
+    // of FontChanged() must check it.
     bool IsUseFontBonding() const;
     void SetUseFontBonding(bool use);
 
