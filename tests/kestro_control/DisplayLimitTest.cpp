@@ -1,4 +1,4 @@
-// How much of a text is laid out. Work is counted here, in characters.
+// How much of a text is laid out, in characters.
 #include "Ink.h"
 
 #include <kestro_control/KestroControlManager.h>
@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int million = 1'000'000;
+constexpr int kMillion = 1'000'000;
 
 int displayed(const TextItem& item)
 {
@@ -34,8 +34,8 @@ QString repeated(const char* unit, int length)
 struct LimitRow {
     const char* name;
     QString text;
-    int least;
-    int most;
+    int minimum;
+    int maximum;
 
     friend std::ostream& operator<<(std::ostream& out, const LimitRow& row)
     {
@@ -45,15 +45,15 @@ struct LimitRow {
 
 class DisplayLimit : public testing::TestWithParam<LimitRow> { };
 
-TEST_P(DisplayLimit, BoundsWhatIsLaidOut)
+TEST_P(DisplayLimit, LimitsTheTextThatIsLaidOut)
 {
     const LimitItem item(GetParam().text);
-    EXPECT_GE(displayed(item), GetParam().least);
-    EXPECT_LE(displayed(item), GetParam().most);
+    EXPECT_GE(displayed(item), GetParam().minimum);
+    EXPECT_LE(displayed(item), GetParam().maximum);
     EXPECT_TRUE(item.toPlainText().startsWith(item.document()->toPlainText()));
 }
 
-TEST_P(DisplayLimit, LosesNothing)
+TEST_P(DisplayLimit, KeepsAllOfThePlainText)
 {
     const LimitItem item(GetParam().text);
     QString all = GetParam().text;
@@ -62,34 +62,34 @@ TEST_P(DisplayLimit, LosesNothing)
     EXPECT_EQ(item.property("plainText").toString(), all);
 }
 
-TEST_P(DisplayLimit, HoldsForTextInPieces)
+TEST_P(DisplayLimit, AppliesToTextInPieces)
 {
     LimitItem item;
     for (int at = 0; at < 50000; at += 97)
         item.InsertRichText(GetParam().text.mid(at, 97), true);
-    EXPECT_LE(displayed(item), GetParam().most + 2000);
+    EXPECT_LE(displayed(item), GetParam().maximum + 2000);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     PathologicalTexts, DisplayLimit,
     testing::Values(
-        LimitRow {"Unbroken", repeated("a", million), 1900, 2000},
-        LimitRow {"Words", repeated("some words ", million), 15900, 16000},
-        LimitRow {"Chinese", repeated("晚上", million), 15900, 16000},
-        LimitRow {"AlternatingDirections", repeated("aש", million), 200, 300},
-        LimitRow {"AlternatingDirectionsOfWords", repeated("a ש ", million), 2800, 3300},
-        LimitRow {"AlternatingScripts", repeated("aя", million), 200, 300},
-        LimitRow {"DigitsInHebrew", repeated("ש1", million), 200, 300},
-        LimitRow {"ExplicitDirections", repeated("\u202a\u2069", million), 200, 2000},
-        LimitRow {"Marks", QLatin1Char('a') + repeated("\u0301", million / 10), 200, 300},
-        LimitRow {"Nuls", QString(million, QChar(0)), 1000, 16000},
-        LimitRow {"LoneSurrogates", QString(million, QChar(0xD83D)), 1000, 16000},
-        LimitRow {"LineEnds", QString(million, QLatin1Char('\n')), 1700, 1800},
-        LimitRow {"WindowsLineEnds", repeated("\r\n", million), 800, 1800},
-        LimitRow {"Emoji", repeated("😀", million), 10000, 16000}),
+        LimitRow {"Unbroken", repeated("a", kMillion), 1900, 2000},
+        LimitRow {"Words", repeated("some words ", kMillion), 15900, 16000},
+        LimitRow {"Chinese", repeated("晚上", kMillion), 15900, 16000},
+        LimitRow {"AlternatingDirections", repeated("aש", kMillion), 200, 300},
+        LimitRow {"AlternatingDirectionsOfWords", repeated("a ש ", kMillion), 2800, 3300},
+        LimitRow {"AlternatingScripts", repeated("aя", kMillion), 200, 300},
+        LimitRow {"DigitsInHebrew", repeated("ש1", kMillion), 200, 300},
+        LimitRow {"ExplicitDirections", repeated("\u202a\u2069", kMillion), 200, 2000},
+        LimitRow {"Marks", QLatin1Char('a') + repeated("\u0301", kMillion / 10), 200, 300},
+        LimitRow {"Nuls", QString(kMillion, QChar(0)), 1000, 16000},
+        LimitRow {"LoneSurrogates", QString(kMillion, QChar(0xD83D)), 1000, 16000},
+        LimitRow {"LineEnds", QString(kMillion, QLatin1Char('\n')), 1700, 1800},
+        LimitRow {"WindowsLineEnds", repeated("\r\n", kMillion), 800, 1800},
+        LimitRow {"Emoji", repeated("😀", kMillion), 10000, 16000}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST(DisplayLimit, IsFarAboveRealTexts)
+TEST(DisplayLimit, ShowsRealTextsInFull)
 {
     for (const char* sentence :
          {"Dinner is ready at seven, please bring some juice. ",
@@ -102,7 +102,7 @@ TEST(DisplayLimit, IsFarAboveRealTexts)
     }
 }
 
-TEST(DisplayLimit, IsFarAboveRealSpans)
+TEST(DisplayLimit, ShowsRealSpansInFull)
 {
     for (const char* span : {"word ", "some words ", "晚上", "שלום "}) {
         LimitItem item;
@@ -112,10 +112,10 @@ TEST(DisplayLimit, IsFarAboveRealSpans)
     }
 }
 
-TEST(DisplayLimit, EndsInAnEllipsis)
+TEST(DisplayLimit, EndsTheTextInAnEllipsis)
 {
     for (int lines : {0, 3}) {
-        LimitItem item(repeated("some words ", million));
+        LimitItem item(repeated("some words ", kMillion));
         item.SetMaxLineCount(lines);
         item.SetFixedItemWidth(300);
         EXPECT_FALSE(item.IsElided());
@@ -128,7 +128,7 @@ TEST(DisplayLimit, EndsInAnEllipsis)
     EXPECT_FALSE(fits.IsElided());
 }
 
-TEST(DisplayLimit, IsForTheWholeItem)
+TEST(DisplayLimit, AppliesToTheWholeItem)
 {
     const QString half = repeated("some words ", 9000);
     LimitItem item(half);
@@ -137,7 +137,7 @@ TEST(DisplayLimit, IsForTheWholeItem)
     EXPECT_LE(displayed(item), 16000);
     const int before = displayed(item);
     item.InsertRichText(QStringLiteral("more"), true);
-    EXPECT_EQ(displayed(item), before) << "nothing is shown behind what is not";
+    EXPECT_EQ(displayed(item), before) << "text after hidden text is hidden";
     EXPECT_EQ(item.toPlainText(), half + half + QStringLiteral("more"));
 }
 
@@ -152,10 +152,10 @@ TEST(DisplayLimit, ShowsWhatIsInsertedAtTheStart)
     EXPECT_GT(displayed(item), 15000);
 }
 
-TEST(DisplayLimit, StartsAnewWithTheText)
+TEST(DisplayLimit, IsResetWhenTheTextIsReplaced)
 {
     const QString text = repeated("some words ", 9000);
-    LimitItem item(repeated("some words ", million));
+    LimitItem item(repeated("some words ", kMillion));
     item.ClearText();
     EXPECT_EQ(item.toPlainText(), QString());
     item.InsertRichText(text, true);
@@ -188,7 +188,7 @@ TEST(DisplayLimit, DoesNotSplitASurrogatePairOrALineEnd)
     }
 }
 
-TEST(DisplayLimit, HoldsForEmojiPictures)
+TEST(DisplayLimit, AppliesToEmojiPictures)
 {
     class Support : public KestroControlSupport {
     public:
@@ -206,11 +206,10 @@ TEST(DisplayLimit, HoldsForEmojiPictures)
     EXPECT_EQ(item.toPlainText().size(), 200000 / 17 * 2);
 }
 
-// A text that never ends must not take endless lines either.
-TEST(DisplayLimit, BoundsTheLines)
+TEST(DisplayLimit, LimitsTheNumberOfLines)
 {
     for (const char* unit : {"a\n", "\u2028", "a b "}) {
-        LimitItem item(repeated(unit, million));
+        LimitItem item(repeated(unit, kMillion));
         item.SetElide(true);
         item.SetFixedItemWidth(1);
         EXPECT_LE(item.ShownLineCount(), 16001) << unit;

@@ -1,5 +1,5 @@
-// Where an elided line ends. What it must look like is found out by trying
-// every possible cut, and drawn by an item that has the cut text as its text.
+// Where an elided line ends. The expected text is found by trying every possible
+// cut. A second item, which has it as its whole text, draws the expected picture.
 #include "Ink.h"
 
 #include <kestro_control/TextItem.h>
@@ -49,7 +49,7 @@ struct ElidedItem : ElisionItem {
     }
 };
 
-// The looks of `text`, one line for each of its paragraphs.
+// The picture of `text` with one line for each paragraph.
 QImage pictureOf(const QString& text, qreal width)
 {
     ElisionItem item(text);
@@ -90,12 +90,11 @@ template <class Row> std::string rowName(const testing::TestParamInfo<Row>& row)
 
 struct ScriptRow {
     const char* name;
-    // What readers take for single characters, separated by "|".
+    // Graphemes, separated by "|".
     const char* characters;
     Qt::LayoutDirection direction;
     Qt::Alignment alignment;
-    // The ellipsis is at the line's left end.
-    bool ellipsisAtLeft;
+    bool isEllipsisAtLeft;
 
     friend std::ostream& operator<<(std::ostream& out, const ScriptRow& row)
     {
@@ -122,7 +121,7 @@ protected:
     QStringList characters_;
 };
 
-TEST_P(ElisionOfScript, FillsTheWidthAndCutsBetweenCharacters)
+TEST_P(ElisionOfScript, ShowsAsManyWholeCharactersAsFit)
 {
     for (auto mode : {QTextOption::NoWrap, QTextOption::WordWrap, QTextOption::WrapAnywhere,
                       QTextOption::WrapAtWordBoundaryOrAnywhere}) {
@@ -147,14 +146,14 @@ TEST_P(ElisionOfScript, FillsTheWidthAndCutsBetweenCharacters)
     }
 }
 
-TEST_P(ElisionOfScript, HasTheDotsAtTheEndOfTheLine)
+TEST_P(ElisionOfScript, HasTheEllipsisAtTheEndOfTheLine)
 {
     ElidedItem item(Text(), 130);
     Prepare(item);
     const Ink ink(item, 2);
     QRectF end = ink.Rect();
     const qreal dots = QFontMetricsF(item.font()).horizontalAdvance(ellipsis) * 0.6;
-    if (GetParam().ellipsisAtLeft)
+    if (GetParam().isEllipsisAtLeft)
         end.setRight(end.left() + dots);
     else
         end.setLeft(end.right() - dots);
@@ -162,7 +161,7 @@ TEST_P(ElisionOfScript, HasTheDotsAtTheEndOfTheLine)
     EXPECT_LT(ink.RectIn(end).height(), 4);
 }
 
-TEST_P(ElisionOfScript, StaysInTheBoundingRectangle)
+TEST_P(ElisionOfScript, DrawsInsideTheBoundingRect)
 {
     for (qreal width = 12; width < 200; width += 7) {
         ElidedItem item(Text(), width, 2);
@@ -172,8 +171,9 @@ TEST_P(ElisionOfScript, StaysInTheBoundingRectangle)
     }
 }
 
-// Names and the like come wrapped in direction marks; the cut falls inside.
-TEST(ElisionInsideDirectionMarks, HasTheDotsAtTheEndOfTheLine)
+// Programs put direction marks around names, for example. The text is cut inside
+// of such a pair.
+TEST(ElisionInsideDirectionMarks, HasTheEllipsisAtTheEndOfTheLine)
 {
     const QString latin = QStringLiteral("HHHHHHHHHHHHHHHHHHHHHHHH");
     const QString hebrew = QString::fromUtf8("םםםםםםםםםםםםםםםםםםםםםםםם");
@@ -232,7 +232,7 @@ INSTANTIATE_TEST_SUITE_P(
             Qt::LayoutDirectionAuto, Qt::AlignLeft, false}),
     rowName<ScriptRow>);
 
-TEST(ElisionOfWrappedText, RunsOnPastTheLastBreak)
+TEST(ElisionOfWrappedText, ContinuesTheLastLinePastItsBreak)
 {
     const qreal width = naturalWidth(QStringLiteral("alpha be")) + 1;
     ElidedItem item(QStringLiteral("alpha beta gammadelta"), width, 2);
@@ -245,21 +245,21 @@ TEST(ElisionOfWrappedText, RunsOnPastTheLastBreak)
     EXPECT_EQ(Ink(item).Picture(), pictureOf(expected, width));
 }
 
-TEST(ElisionOfWrappedText, IsNotNeededWhenTheLinesAreEnough)
+TEST(ElisionOfWrappedText, DoesNotHappenWhenAllLinesAreShown)
 {
     ElidedItem item(QStringLiteral("alpha beta"), naturalWidth(QStringLiteral("alpha ")), 2);
     EXPECT_EQ(item.ShownLineCount(), 2);
     EXPECT_FALSE(item.IsElided());
 }
 
-TEST(ElisionAtParagraphEnds, AppendsTheEllipsisWhereItFits)
+TEST(ElisionAtParagraphEnds, AppendsTheEllipsisIfItFits)
 {
     ElidedItem item(QStringLiteral("one\ntwo"), 200);
     EXPECT_TRUE(item.IsElided());
     EXPECT_EQ(Ink(item).Picture(), pictureOf(QStringLiteral("one") + ellipsis, 200));
 }
 
-TEST(ElisionAtParagraphEnds, CutsTheLineWhereItDoesNot)
+TEST(ElisionAtParagraphEnds, ShortensTheLineIfTheEllipsisDoesNotFit)
 {
     const qreal width = naturalWidth(QStringLiteral("alpha")) + 1;
     ElidedItem item(QStringLiteral("alpha\ntwo"), width);
@@ -274,13 +274,13 @@ TEST(ElisionAtParagraphEnds, StopsAtALineSeparator)
     EXPECT_EQ(Ink(item).Picture(), pictureOf(QStringLiteral("one") + ellipsis, 200));
 }
 
-TEST(ElisionAtParagraphEnds, StandsAloneInAnEmptyLastLine)
+TEST(ElisionAtParagraphEnds, ShowsOnlyTheEllipsisInAnEmptyLine)
 {
     ElidedItem item(QStringLiteral("one\n\ntwo"), 200, 2);
     EXPECT_EQ(Ink(item).Picture(), pictureOf(QStringLiteral("one\n") + ellipsis, 200));
 }
 
-TEST(ElisionAtParagraphEnds, IsNotNeededWhenNothingVisibleFollows)
+TEST(ElisionAtParagraphEnds, DoesNotHappenWhenNothingVisibleFollows)
 {
     EXPECT_FALSE(ElidedItem(QStringLiteral("one\n\n  \n"), 200).IsElided());
     EXPECT_TRUE(ElidedItem(QStringLiteral("one\n\n  \n."), 200).IsElided());
@@ -295,7 +295,7 @@ TEST(ElisionInTheNaturalWidth, AppendsTheEllipsis)
     EXPECT_EQ(Ink(item).Picture(), Ink(*std::make_unique<ElisionItem>(expected)).Picture());
 }
 
-TEST(ElisionInTheNaturalWidth, KeepsRightToLeftTextInItsRectangle)
+TEST(ElisionInTheNaturalWidth, KeepsRightToLeftTextInItsBoundingRect)
 {
     ElidedItem item(QString::fromUtf8("שלום\nעולם"));
     EXPECT_EQ(item.boundingRect().left(), 0);
@@ -353,7 +353,7 @@ TEST(ElisionOfWideLines, RespectsTheMarginsOfTheFrame)
     EXPECT_NEAR(ink.left(), 15, 2);
 }
 
-TEST(ElisionWithoutRoom, ShowsTheBareEllipsis)
+TEST(ElisionInATinyWidth, ShowsOnlyTheEllipsis)
 {
     for (qreal width : {0.5, 3.0, 10.0}) {
         ElidedItem item(QStringLiteral("WWW"), width);
@@ -364,7 +364,7 @@ TEST(ElisionWithoutRoom, ShowsTheBareEllipsis)
     }
 }
 
-TEST(ElisionSwitch, IsOffAtFirst)
+TEST(Elision, IsOffAtFirst)
 {
     ElisionItem item(QStringLiteral("one\ntwo"));
     item.SetMaxLineCount(1);
@@ -427,7 +427,7 @@ QTextCharFormat tall(const TextItem& item)
     return format;
 }
 
-TEST(ElisionOfSpans, TakesTheHeightOfWhatIsLeft)
+TEST(ElisionOfSpans, RemovesTheHeightOfHiddenText)
 {
     ElidedItem item(QStringLiteral("HHHHHHHHHH\nb"), 80, 0);
     item.SetWrapMode(QTextOption::NoWrap);
@@ -442,7 +442,7 @@ TEST(ElisionOfSpans, TakesTheHeightOfWhatIsLeft)
     EXPECT_EQ(item.FirstLineAscent(), ascent);
 }
 
-TEST(ElisionOfSpans, TakesTheHeightOfWhatIsBroughtIn)
+TEST(ElisionOfSpans, AddsTheHeightOfTextFromTheNextLine)
 {
     ElidedItem item(QStringLiteral("HH "), 160);
     const qreal low = item.boundingRect().height();
@@ -453,7 +453,7 @@ TEST(ElisionOfSpans, TakesTheHeightOfWhatIsBroughtIn)
     EXPECT_TRUE(item.boundingRect().contains(Ink(item).Rect()));
 }
 
-TEST(ElisionOfLongText, LooksAtWhatCanFitOnly)
+TEST(ElisionOfLongText, FindsTheLongestStartThatFits)
 {
     ElidedItem item(QStringLiteral("word ").repeated(20000), 150);
     item.SetWrapMode(QTextOption::NoWrap);
@@ -463,7 +463,7 @@ TEST(ElisionOfLongText, LooksAtWhatCanFitOnly)
     EXPECT_EQ(Ink(item).Picture(), pictureOf(longestElided(start, 150), 150));
 }
 
-TEST(ElisionOfLongText, EndsForCharactersWithoutWidth)
+TEST(ElisionOfLongText, WorksWithCharactersWithoutWidth)
 {
     const QString marks = QStringLiteral("a") + QString(50000, QChar(0x200B));
     ElidedItem item(marks + QStringLiteral("\nb"), 100);

@@ -1,5 +1,5 @@
-// Pictures of emoji are scaled once for each size, and to no size that nobody
-// sees at once.
+// Pictures of emoji are scaled once for each size, and never to a size that is much
+// larger than what is visible of them.
 #include "ScaledPictures.h"
 
 #include <kestro_control/KestroControlManager.h>
@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int largestSide = 256;
+constexpr int kMaximumSide = 256;
 
 const QString smile = QStringLiteral("<e code=\"1F600\"/>");
 
@@ -46,7 +46,7 @@ private:
     QImage picture_;
 };
 
-// Remembers the images that it is to draw.
+// Records the images that are drawn.
 class ImageRecorder : public QPaintEngine {
 public:
     ImageRecorder()
@@ -102,7 +102,7 @@ struct EmojiItem : TextItem {
     }
 };
 
-// Images that were made at different times have different keys.
+// Images that were scaled separately have different keys.
 std::set<qint64> keysOf(const std::vector<QImage>& images)
 {
     std::set<qint64> keys;
@@ -111,7 +111,7 @@ std::set<qint64> keysOf(const std::vector<QImage>& images)
     return keys;
 }
 
-TEST(EmojiPaint, ScalesNothingWhenItIsRepeated)
+TEST(EmojiPaint, DoesNotScaleAgainWhenRepeated)
 {
     const PictureSupport support({100, 80});
     EmojiItem item;
@@ -122,7 +122,7 @@ TEST(EmojiPaint, ScalesNothingWhenItIsRepeated)
         device.paint(other, 2);
     }
     EXPECT_EQ(device.images().size(), 12u);
-    EXPECT_EQ(keysOf(device.images()).size(), 1u) << "items share what was scaled";
+    EXPECT_EQ(keysOf(device.images()).size(), 1u) << "items share the scaled picture";
 }
 
 TEST(EmojiPaint, ScalesOnceForEachSize)
@@ -137,7 +137,7 @@ TEST(EmojiPaint, ScalesOnceForEachSize)
     EXPECT_EQ(keysOf(device.images()).size(), 4u);
 }
 
-TEST(EmojiPaint, ScalesToWhatFitsTheLine)
+TEST(EmojiPaint, ScalesToTheHeightOfTheLine)
 {
     const PictureSupport support({100, 50});
     EmojiItem item;
@@ -147,7 +147,7 @@ TEST(EmojiPaint, ScalesToWhatFitsTheLine)
     EXPECT_EQ(device.images().front().size(), QSize(side, side / 2));
 }
 
-TEST(EmojiPaint, MakesNoLargePictureInAnyZoom)
+TEST(EmojiPaint, MakesNoLargePictureAtAnyZoom)
 {
     const PictureSupport support({4000, 3000});
     EmojiItem item;
@@ -156,13 +156,13 @@ TEST(EmojiPaint, MakesNoLargePictureInAnyZoom)
         device.paint(item, zoom);
         ASSERT_EQ(device.images().size(), 2u);
         for (const QImage& image : device.images()) {
-            EXPECT_LE(image.width(), largestSide) << zoom;
-            EXPECT_LE(image.height(), largestSide) << zoom;
+            EXPECT_LE(image.width(), kMaximumSide) << zoom;
+            EXPECT_LE(image.height(), kMaximumSide) << zoom;
         }
     }
 }
 
-TEST(EmojiPaint, FillsItsPlaceInAnyZoom)
+TEST(EmojiPaint, FillsItsSquareAtAnyZoom)
 {
     const PictureSupport support({60, 60});
     EmojiItem item;
@@ -180,7 +180,7 @@ TEST(EmojiPaint, FillsItsPlaceInAnyZoom)
     }
 }
 
-TEST(ScaledPictures, KeepsABoundedNumberOfBytes)
+TEST(ScaledPictures, HaveAMaximumSizeInBytes)
 {
     constexpr int maxBytes = 100 * 100 * 4 * 5;
     kestro::ScaledPictures pictures(maxBytes);
@@ -192,10 +192,10 @@ TEST(ScaledPictures, KeepsABoundedNumberOfBytes)
         EXPECT_EQ(pictures.Get(picture, {side, side}).size(), QSize(side, side));
         EXPECT_LE(pictures.Bytes(), maxBytes);
     }
-    EXPECT_NE(pictures.Get(picture, {90, 90}).cacheKey(), first) << "it went to make room";
+    EXPECT_NE(pictures.Get(picture, {90, 90}).cacheKey(), first) << "it was removed to make room";
 }
 
-TEST(ScaledPictures, GivesWhatItCannotKeep)
+TEST(ScaledPictures, ScalePicturesThatAreTooLargeToKeep)
 {
     kestro::ScaledPictures pictures(100);
     QImage picture(100, 100, QImage::Format_ARGB32_Premultiplied);

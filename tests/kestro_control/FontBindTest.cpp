@@ -24,7 +24,7 @@ TEST(KestroControlManager, IsOneObject)
     EXPECT_EQ(KestroControlManager::GetInstance(), KestroControlManager::GetInstance());
 }
 
-TEST(KestroControlManager, HandsOutTheSupportThatWasSetLast)
+TEST(KestroControlManager, ReturnsTheSupportThatWasSetLast)
 {
     KestroControlManager* const manager = KestroControlManager::GetInstance();
     EXPECT_EQ(manager->GetKestroControlSupport(), nullptr);
@@ -41,7 +41,7 @@ TEST(KestroControlManager, HandsOutTheSupportThatWasSetLast)
     EXPECT_EQ(manager->GetKestroControlSupport(), nullptr);
 }
 
-TEST(KestroControlManager, ForgetsASupportThatIsGone)
+TEST(KestroControlManager, ForgetsADeletedSupport)
 {
     KestroControlManager* const manager = KestroControlManager::GetInstance();
     Support kept;
@@ -72,7 +72,7 @@ public:
     std::function<void()> reaction;
 };
 
-TEST(FontFamilyChange, IsToldToItemsThatFollowTheFont)
+TEST(FontFamilyChange, ReachesItemsThatFollowTheFont)
 {
     KestroControlManager* const manager = KestroControlManager::GetInstance();
     CountingItem item;
@@ -93,23 +93,23 @@ TEST(FontFamilyChange, IsToldToItemsThatFollowTheFont)
     EXPECT_EQ(unbound.changes, 1);
 }
 
-TEST(FontFamilyChange, IsNotToldToItemsThatAreGone)
+TEST(FontFamilyChange, SkipsDeletedItems)
 {
     auto item = std::make_unique<CountingItem>();
     item.reset();
     KestroControlManager::GetInstance()->FontFamilyChanged();
 }
 
-// Whichever is told first deletes all the others.
+// The first item that is called deletes all others.
 TEST(FontFamilyChange, MayDeleteItems)
 {
     std::vector<std::unique_ptr<CountingItem>> items;
-    int told = 0;
+    int calls = 0;
     for (int i = 0; i < 20; ++i) {
         items.push_back(std::make_unique<CountingItem>());
         CountingItem* const item = items.back().get();
-        item->reaction = [&items, &told, item] {
-            ++told;
+        item->reaction = [&items, &calls, item] {
+            ++calls;
             for (auto& other : items) {
                 if (other.get() != item)
                     other.reset();
@@ -117,7 +117,7 @@ TEST(FontFamilyChange, MayDeleteItems)
         };
     }
     KestroControlManager::GetInstance()->FontFamilyChanged();
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(calls, 1);
 }
 
 TEST(FontFamilyChange, MayCreateItems)
@@ -133,7 +133,7 @@ TEST(FontFamilyChange, MayCreateItems)
     EXPECT_EQ(item.changes, 1);
 }
 
-TEST(FontFamilyChange, IsToldToAllWhateverOneThrows)
+TEST(FontFamilyChange, ReachesAllItemsWhenOneThrows)
 {
     CountingItem items[3];
     for (CountingItem& item : items)
@@ -155,7 +155,7 @@ TEST(FontFamilyChange, MayChangeTheSupport)
 
 // ----- Text items
 
-TEST(TextItemFont, IsTheApplicationsFromTheStart)
+TEST(TextItemFont, HasTheFamilyOfTheApplicationFromTheStart)
 {
     const QString own = TextItem().font().family();
     ASSERT_NE(own, QStringLiteral("Some Family"));
@@ -166,7 +166,7 @@ TEST(TextItemFont, IsTheApplicationsFromTheStart)
     EXPECT_EQ(TextItem().font().family(), own);
 }
 
-TEST(TextItemFont, FollowsTheApplications)
+TEST(TextItemFont, FollowsTheFamilyOfTheApplication)
 {
     KestroControlManager* const manager = KestroControlManager::GetInstance();
     TextItem item;
@@ -187,7 +187,7 @@ TEST(TextItemFont, FollowsTheApplications)
     EXPECT_EQ(item.font().family(), QStringLiteral("Other Family"));
 }
 
-TEST(TextItemFont, StaysWhenItIsNotBound)
+TEST(TextItemFont, KeepsItsFamilyWithoutFontBonding)
 {
     TextItem item;
     item.setFont(QFont(QStringLiteral("DejaVu Sans")));
@@ -201,7 +201,7 @@ TEST(TextItemFont, StaysWhenItIsNotBound)
     EXPECT_EQ(item.font().family(), QStringLiteral("Some Family"));
 }
 
-TEST(KestroFontBindSupport, BindsTheFontUnlessToldOtherwise)
+TEST(KestroFontBindSupport, FollowsTheFontUnlessSwitchedOff)
 {
     KestroFontBindSupport item;
     EXPECT_TRUE(item.IsUseFontBonding());

@@ -1,5 +1,5 @@
-// What is drawn behind highlighted words. Where it must be is told by an item
-// whose words have a background of their own.
+// What is drawn behind highlighted words. It is compared with an item whose words
+// have a background in their format.
 #include "HighlightWords.h"
 #include "Ink.h"
 
@@ -17,12 +17,12 @@
 
 namespace {
 
-const QColor ground(255, 255, 0);
+const QColor highlightColor(255, 255, 0);
 
-using Stretches = std::vector<std::pair<int, int>>;
+using Ranges = std::vector<std::pair<int, int>>;
 
-// Every word at every position.
-Stretches coverNaively(const QString& text, const QStringList& words)
+// Searches for every word at every position.
+Ranges coverNaively(const QString& text, const QStringList& words)
 {
     std::vector<bool> covered(static_cast<std::size_t>(text.size()) + 1, false);
     for (const QString& word : words) {
@@ -32,18 +32,18 @@ Stretches coverNaively(const QString& text, const QStringList& words)
              at = text.indexOf(word, at + 1, Qt::CaseInsensitive))
             std::fill_n(covered.begin() + at, word.size(), true);
     }
-    Stretches stretches;
+    Ranges ranges;
     for (int at = 0; at < text.size(); ++at) {
         if (!covered[static_cast<std::size_t>(at)])
             continue;
-        if (stretches.empty() || stretches.back().second != at)
-            stretches.emplace_back(at, at);
-        stretches.back().second = at + 1;
+        if (ranges.empty() || ranges.back().second != at)
+            ranges.emplace_back(at, at);
+        ranges.back().second = at + 1;
     }
-    return stretches;
+    return ranges;
 }
 
-TEST(HighlightWords, CoverWhatANaiveSearchFinds)
+TEST(HighlightWords, FindTheSameAsANaiveSearch)
 {
     const char* const letters[] = {"a", "A", "b", "B", "ab", " ", "é", "É", "ς", "σ", "𐐀", "𐐨"};
     std::mt19937 random(11);
@@ -60,7 +60,7 @@ TEST(HighlightWords, CoverWhatANaiveSearchFinds)
         QStringList words;
         for (int count = static_cast<int>(random() % 4); count > 0; --count)
             words.append(generated(static_cast<int>(random() % 5)));
-        const Stretches expected = coverNaively(text, words);
+        const Ranges expected = coverNaively(text, words);
         ASSERT_EQ(kestro::HighlightWords(words).CoveredRanges(text), expected)
             << text.toStdString() << ": " << words.join(QLatin1Char('|')).toStdString();
         found += !expected.empty();
@@ -68,7 +68,7 @@ TEST(HighlightWords, CoverWhatANaiveSearchFinds)
     EXPECT_GT(found, 1000);
 }
 
-TEST(HighlightWords, AreBoundedInNumber)
+TEST(HighlightWords, HaveAMaximumNumber)
 {
     QStringList words;
     for (std::size_t i = 0; i <= kestro::HighlightWords::kMaximumWords; ++i)
@@ -78,13 +78,13 @@ TEST(HighlightWords, AreBoundedInNumber)
     EXPECT_TRUE(kept.CoveredRanges(words.last()).empty());
 }
 
-TEST(HighlightWords, OfOneLetterInALongTextAreFound)
+TEST(HighlightWords, AreFoundInALongTextOfOneLetter)
 {
     const QString text(200000, QLatin1Char('a'));
     QStringList words;
     for (int length = 1; length < 100; ++length)
         words.append(text.left(length * 1000));
-    EXPECT_EQ(kestro::HighlightWords(words).CoveredRanges(text), Stretches({{0, text.size()}}));
+    EXPECT_EQ(kestro::HighlightWords(words).CoveredRanges(text), Ranges({{0, text.size()}}));
 }
 
 // ----- In an item
@@ -134,11 +134,11 @@ protected:
         item.SetFixedItemWidth(GetParam().width);
     }
 
-    // Gives the words their ground by means of formats.
+    // Gives the words the background by their format.
     void Mark(TextItem& item) const
     {
         QTextCharFormat marked;
-        marked.setBackground(ground);
+        marked.setBackground(highlightColor);
         QTextCursor cursor(item.document());
         for (const auto& [start, end] : coverNaively(item.toPlainText(), Words())) {
             cursor.setPosition(start);
@@ -148,26 +148,26 @@ protected:
     }
 };
 
-// The stretches of ground along a row of pixels.
-Stretches groundAlong(const QImage& picture, int y)
+// The ranges of background in a row of pixels.
+Ranges highlightAlong(const QImage& picture, int y)
 {
-    Stretches stretches;
+    Ranges ranges;
     for (int x = 0; x < picture.width(); ++x) {
-        if (picture.pixelColor(x, y) != ground)
+        if (picture.pixelColor(x, y) != highlightColor)
             continue;
-        if (stretches.empty() || stretches.back().second != x)
-            stretches.emplace_back(x, x);
-        stretches.back().second = x + 1;
+        if (ranges.empty() || ranges.back().second != x)
+            ranges.emplace_back(x, x);
+        ranges.back().second = x + 1;
     }
-    return stretches;
+    return ranges;
 }
 
-TEST_P(Highlight, IsWhereTheWordsAre)
+TEST_P(Highlight, IsBehindTheWords)
 {
     for (qreal scale : {1.0, 1.5, 2.0}) {
         HighlightItem item;
         Fill(item);
-        item.HighlightText(Words(), ground);
+        item.HighlightText(Words(), highlightColor);
         HighlightItem expected;
         Fill(expected);
         Mark(expected);
@@ -179,13 +179,13 @@ TEST_P(Highlight, IsWhereTheWordsAre)
         for (int line = 0; line < item.ShownLineCount(); ++line) {
             // Close to the top of the line, above its letters.
             const int y = static_cast<int>((50 + line * lineHeight + 1.5) * scale);
-            const Stretches found = groundAlong(picture, y);
-            const Stretches wanted = groundAlong(expectedPicture, y);
-            ASSERT_EQ(found.size(), wanted.size()) << "line " << line;
+            const Ranges found = highlightAlong(picture, y);
+            const Ranges expectedRanges = highlightAlong(expectedPicture, y);
+            ASSERT_EQ(found.size(), expectedRanges.size()) << "line " << line;
             for (std::size_t i = 0; i < found.size(); ++i) {
-                // Formats take the kerning away at the ends of the words.
-                EXPECT_NEAR(found[i].first, wanted[i].first, scale) << "line " << line;
-                EXPECT_NEAR(found[i].second, wanted[i].second, scale) << "line " << line;
+                // At the ends of the words, formats remove the kerning.
+                EXPECT_NEAR(found[i].first, expectedRanges[i].first, scale) << "line " << line;
+                EXPECT_NEAR(found[i].second, expectedRanges[i].second, scale) << "line " << line;
                 pixels += found[i].second - found[i].first;
             }
         }
@@ -193,42 +193,42 @@ TEST_P(Highlight, IsWhereTheWordsAre)
     }
 }
 
-TEST_P(Highlight, ChangesNothingBesidesTheWords)
+TEST_P(Highlight, ChangesOnlyTheWords)
 {
     HighlightItem item;
     Fill(item);
     const QImage before = Ink(item).Picture();
-    item.HighlightText(Words(), ground);
-    const QImage during = Ink(item).Picture();
-    ASSERT_NE(during, before);
+    item.HighlightText(Words(), highlightColor);
+    const QImage highlighted = Ink(item).Picture();
+    ASSERT_NE(highlighted, before);
 
     item.HighlightText(Words(), QColor(0, 255, 255));
-    const QImage otherGround = Ink(item).Picture();
+    const QImage withOtherColor = Ink(item).Picture();
     for (int y = 0; y < before.height(); ++y) {
         for (int x = 0; x < before.width(); ++x) {
-            // What depends on the ground is highlighted, and nothing else.
-            if (during.pixel(x, y) == otherGround.pixel(x, y)
-                && during.pixelColor(x, y) != QColor(Qt::black)) {
-                ASSERT_EQ(during.pixel(x, y), before.pixel(x, y)) << x << ", " << y;
+            // Only highlighted pixels depend on the background.
+            if (highlighted.pixel(x, y) == withOtherColor.pixel(x, y)
+                && highlighted.pixelColor(x, y) != QColor(Qt::black)) {
+                ASSERT_EQ(highlighted.pixel(x, y), before.pixel(x, y)) << x << ", " << y;
             }
         }
     }
 }
 
-TEST_P(Highlight, LeavesNoTraceWhenItIsGone)
+TEST_P(Highlight, IsRemovedCompletely)
 {
     for (const QStringList& none : {QStringList(), QStringList {QString(), QString()}}) {
         HighlightItem item;
         Fill(item);
         const QImage before = Ink(item).Picture();
-        item.HighlightText(Words(), ground);
+        item.HighlightText(Words(), highlightColor);
         EXPECT_NE(Ink(item).Picture(), before);
-        item.HighlightText(none, ground);
+        item.HighlightText(none, highlightColor);
         EXPECT_EQ(Ink(item).Picture(), before);
     }
 }
 
-TEST_P(Highlight, LaysNothingOut)
+TEST_P(Highlight, CausesNoLayout)
 {
     HighlightItem item;
     Fill(item);
@@ -238,9 +238,9 @@ TEST_P(Highlight, LaysNothingOut)
     QObject::connect(item.document()->documentLayout(), &QAbstractTextDocumentLayout::update,
                      [&layouts] { ++layouts; });
     QObject::connect(item.document(), &QTextDocument::contentsChange, [&changes] { ++changes; });
-    item.HighlightText(Words(), ground);
+    item.HighlightText(Words(), highlightColor);
     Ink(item).Rect();
-    item.HighlightText({}, ground);
+    item.HighlightText({}, highlightColor);
     Ink(item).Rect();
     EXPECT_EQ(layouts, 0);
     EXPECT_EQ(changes, 0);
@@ -276,8 +276,8 @@ TEST(HighlightOfItem, ReplacesTheEarlierOne)
     HighlightItem item(QStringLiteral("some words"));
     HighlightItem expected(QStringLiteral("some words"));
     item.HighlightText({QStringLiteral("some")}, Qt::green);
-    item.HighlightText({QStringLiteral("words")}, ground);
-    expected.HighlightText({QStringLiteral("words")}, ground);
+    item.HighlightText({QStringLiteral("words")}, highlightColor);
+    expected.HighlightText({QStringLiteral("words")}, highlightColor);
     EXPECT_EQ(Ink(item).Picture(), Ink(expected).Picture());
     EXPECT_FALSE(Ink(item).Has(Qt::green));
 }
@@ -285,17 +285,17 @@ TEST(HighlightOfItem, ReplacesTheEarlierOne)
 TEST(HighlightOfItem, FollowsTheText)
 {
     HighlightItem item(QStringLiteral("some"));
-    item.HighlightText({QStringLiteral("word")}, ground);
-    EXPECT_FALSE(Ink(item).Has(ground));
+    item.HighlightText({QStringLiteral("word")}, highlightColor);
+    EXPECT_FALSE(Ink(item).Has(highlightColor));
     item.InsertRichText(QStringLiteral(" words"), true);
-    EXPECT_TRUE(Ink(item).Has(ground));
+    EXPECT_TRUE(Ink(item).Has(highlightColor));
     item.SetFixedItemWidth(50);
-    EXPECT_TRUE(Ink(item).Has(ground));
+    EXPECT_TRUE(Ink(item).Has(highlightColor));
     item.ClearText();
-    EXPECT_FALSE(Ink(item).Has(ground));
+    EXPECT_FALSE(Ink(item).Has(highlightColor));
 }
 
-TEST(HighlightOfItem, GivesTheTextAColourThatCanBeRead)
+TEST(HighlightOfItem, HasReadableText)
 {
     for (const QColor& background :
          {QColor(255, 255, 0), QColor(0, 0, 90), QColor(0x11, 0x8D, 0xFF), QColor(0, 0, 0),
@@ -309,19 +309,19 @@ TEST(HighlightOfItem, GivesTheTextAColourThatCanBeRead)
     }
 }
 
-TEST(HighlightOfItem, CoversTheGroundsOfSpans)
+TEST(HighlightOfItem, CoversTheBackgroundsOfSpans)
 {
     QTextCharFormat format;
     format.setBackground(Qt::green);
     HighlightItem item;
     item.InsertRichText(QStringLiteral("word"), true, &format);
     ASSERT_TRUE(Ink(item).Has(Qt::green));
-    item.HighlightText({QStringLiteral("word")}, ground);
+    item.HighlightText({QStringLiteral("word")}, highlightColor);
     EXPECT_FALSE(Ink(item).Has(Qt::green));
-    EXPECT_TRUE(Ink(item).Has(ground));
+    EXPECT_TRUE(Ink(item).Has(highlightColor));
 }
 
-TEST(HighlightOfItem, IsNoneWithoutABrush)
+TEST(HighlightOfItem, NeedsABrush)
 {
     HighlightItem item(QStringLiteral("word"));
     const QImage before = Ink(item).Picture();
@@ -329,7 +329,7 @@ TEST(HighlightOfItem, IsNoneWithoutABrush)
     EXPECT_EQ(Ink(item).Picture(), before);
 }
 
-TEST(HighlightOfElidedLine, IsOnWhatIsShown)
+TEST(HighlightOfElidedLine, IsBehindShownWords)
 {
     for (const char* text : {"some words and more and more", "שלום words ועוד ועוד ועוד"}) {
         HighlightItem item(QString::fromUtf8(text));
@@ -337,39 +337,40 @@ TEST(HighlightOfElidedLine, IsOnWhatIsShown)
         item.SetMaxLineCount(1);
         item.SetFixedItemWidth(150);
         ASSERT_TRUE(item.IsElided());
-        item.HighlightText({QStringLiteral("word")}, ground);
+        item.HighlightText({QStringLiteral("word")}, highlightColor);
         const QImage picture = Ink(item).Picture();
         HighlightItem whole(QString::fromUtf8(text));
         whole.SetFixedItemWidth(1000);
-        whole.HighlightText({QStringLiteral("word")}, ground);
+        whole.HighlightText({QStringLiteral("word")}, highlightColor);
         const QImage wholePicture = Ink(whole).Picture();
 
-        const Stretches found = groundAlong(picture, 52);
-        const Stretches wanted = groundAlong(wholePicture, 52);
+        const Ranges found = highlightAlong(picture, 52);
+        const Ranges expectedRanges = highlightAlong(wholePicture, 52);
         ASSERT_EQ(found.size(), 1U);
-        ASSERT_EQ(wanted.size(), 1U);
-        EXPECT_NEAR(found[0].second - found[0].first, wanted[0].second - wanted[0].first, 1);
+        ASSERT_EQ(expectedRanges.size(), 1U);
+        EXPECT_NEAR(found[0].second - found[0].first,
+                    expectedRanges[0].second - expectedRanges[0].first, 1);
     }
 }
 
-TEST(HighlightOfElidedLine, IsNotOnWhatIsLeftOut)
+TEST(HighlightOfElidedLine, IsNotBehindTheEllipsis)
 {
     HighlightItem item(QStringLiteral("some words and more and more"));
     item.SetElide(true);
     item.SetMaxLineCount(1);
     item.SetFixedItemWidth(150);
-    item.HighlightText({QStringLiteral("more"), QString(QChar(0x2026))}, ground);
-    EXPECT_FALSE(Ink(item).Has(ground));
+    item.HighlightText({QStringLiteral("more"), QString(QChar(0x2026))}, highlightColor);
+    EXPECT_FALSE(Ink(item).Has(highlightColor));
 }
 
-TEST(HighlightOfElidedLine, IsOnTheShownPartOfAWord)
+TEST(HighlightOfElidedLine, IsBehindTheShownPartOfAWord)
 {
     HighlightItem item(QStringLiteral("wordswordswordswords"));
     item.SetElide(true);
     item.SetMaxLineCount(1);
     item.SetFixedItemWidth(150);
-    item.HighlightText({item.toPlainText()}, ground);
-    const Stretches found = groundAlong(Ink(item).Picture(), 52);
+    item.HighlightText({item.toPlainText()}, highlightColor);
+    const Ranges found = highlightAlong(Ink(item).Picture(), 52);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].first, 50);
     EXPECT_LT(found[0].second, 200) << "the ellipsis belongs to no word";

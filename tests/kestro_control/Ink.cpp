@@ -6,16 +6,16 @@
 
 namespace {
 
-constexpr qreal margin = 50;
+constexpr qreal kMargin = 50;
 
 } // namespace
 
 Ink::Ink(QGraphicsItem& item, qreal scale)
     : scale_(scale)
 {
-    const QRectF paper = item.boundingRect().adjusted(-margin, -margin, margin, margin);
-    origin_ = paper.topLeft();
-    picture_ = QImage((paper.size() * scale).toSize(), QImage::Format_RGB32);
+    const QRectF area = item.boundingRect().adjusted(-kMargin, -kMargin, kMargin, kMargin);
+    origin_ = area.topLeft();
+    picture_ = QImage((area.size() * scale).toSize(), QImage::Format_RGB32);
     picture_.fill(Qt::white);
 
     QPainter painter(&picture_);
@@ -36,8 +36,8 @@ QRectF Ink::RectIn(const QRectF& area) const
     QRect inked;
     for (int y = 0; y < picture_.height(); ++y) {
         for (int x = 0; x < picture_.width(); ++x) {
-            const QPointF middle = QPointF(x + 0.5, y + 0.5) / scale_ + origin_;
-            if (area.contains(middle) && picture_.pixel(x, y) != qRgb(255, 255, 255))
+            const QPointF centre = QPointF(x + 0.5, y + 0.5) / scale_ + origin_;
+            if (area.contains(centre) && picture_.pixel(x, y) != qRgb(255, 255, 255))
                 inked |= QRect(x, y, 1, 1);
         }
     }

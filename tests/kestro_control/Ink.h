@@ -6,17 +6,19 @@
 
 class QGraphicsItem;
 
-// What an item paints, on white paper that reaches beyond it on all sides.
+// A picture of what an item paints on a white background. It has a margin around
+// the item's bounding rectangle.
 class Ink {
 public:
     explicit Ink(QGraphicsItem& item, qreal scale = 1);
 
-    // What is not white, in the item's coordinates; empty when nothing is.
+    // The bounding rectangle of all pixels that are not white, in the item's
+    // coordinates; empty if there are none.
     QRectF Rect() const;
-    // The part of it inside `area`.
+    // The same for the pixels inside `area`.
     QRectF RectIn(const QRectF& area) const;
 
-    // Whether any pixel has just this colour.
+    // Whether any pixel has exactly this colour.
     bool Has(const QColor& color) const;
 
     const QImage& Picture() const { return picture_; }

@@ -1,4 +1,4 @@
-// What the markup reader makes of a text, and what an item shows of it.
+// What the markup reader returns, and what an item shows of markup.
 #include "EmojiCode.h"
 #include "Ink.h"
 #include "MarkupReader.h"
@@ -118,7 +118,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class MalformedMarkup : public testing::TestWithParam<const char*> { };
 
-TEST_P(MalformedMarkup, IsShownAsItStands)
+TEST_P(MalformedMarkup, IsText)
 {
     const QString text = QString::fromUtf8(GetParam());
     const std::vector<MarkupRun> runs = ReadMarkup(text);
@@ -158,7 +158,7 @@ INSTANTIATE_TEST_SUITE_P(
                     R"(<e code="1F600">a</m>)", R"(<e user="1"/>)", R"(<E code="1F600"/>)",
                     R"(<e code="1F600"x="y"/>)"));
 
-TEST(MalformedMarkup, WithTooManyCodePointsIsShownAsItStands)
+TEST(MalformedMarkup, IncludesEmojiOfTooManyCodePoints)
 {
     const auto element = [](int joined) {
         return QStringLiteral("<e code=\"1F468") + QStringLiteral("-200D-1F468").repeated(joined)
@@ -168,8 +168,7 @@ TEST(MalformedMarkup, WithTooManyCodePointsIsShownAsItStands)
     EXPECT_EQ(ReadMarkup(element(8)).front().text, element(8));
 }
 
-// Where an element starts, the whole rest of the text is matched against what
-// elements look like.
+// Matches the whole rest of the text against regular expressions at every position.
 std::vector<MarkupRun> readNaively(const QString& text)
 {
     const QRegularExpression mention(
@@ -238,10 +237,10 @@ TEST(GeneratedMarkup, IsReadAsByANaiveReader)
         ASSERT_EQ(read, describe(readNaively(text))) << text.toStdString();
         elements += read.contains(QLatin1String("user ")) || read.contains(QLatin1String("emoji "));
     }
-    EXPECT_GT(elements, 1000) << "the texts are to have elements in them";
+    EXPECT_GT(elements, 1000) << "many texts must contain elements";
 }
 
-TEST(LongMarkup, IsReadToItsEnd)
+TEST(MalformedMarkup, IsTextAtAnyLength)
 {
     for (const char* opener : {"<m user=\"1\">", "<m user=\"", "<e code=\"1F600\">", "<e code=\"",
                                "<m user=\"1\">a", "<", "&"}) {
@@ -281,13 +280,13 @@ TEST(TextItemMarkup, IsOffAtFirst)
     EXPECT_FALSE(item.acceptHoverEvents());
 }
 
-TEST(TextItemMarkup, IsShownAsTextWithoutTags)
+TEST(TextItemMarkup, IsShownWithoutTags)
 {
     EXPECT_EQ(MarkupItem(mixed).toPlainText(),
               QStringLiteral("Ada & ") + family + QLatin1Char('!'));
 }
 
-TEST(TextItemMarkup, IsForInsertionsWhileItIsOn)
+TEST(TextItemMarkup, AppliesToInsertionsWhileItIsEnabled)
 {
     MarkupItem item(QStringLiteral("&lt;"));
     item.SetMarkupEnabled(false);
@@ -299,7 +298,7 @@ TEST(TextItemMarkup, IsForInsertionsWhileItIsOn)
     EXPECT_EQ(item.toPlainText(), mixed);
 }
 
-TEST(TextItemMarkup, KeepsTheOrderOfItsRunsAtTheStart)
+TEST(TextItemMarkup, KeepsItsOrderWhenInsertedAtTheStart)
 {
     MarkupItem item(QStringLiteral("end"));
     item.InsertRichText(mixed, false);
@@ -342,14 +341,14 @@ public:
 
     QImage GetEmojiImage(const QString& code) const override
     {
-        asked.append(code);
+        requestedCodes.append(code);
         QImage picture(size, QImage::Format_ARGB32_Premultiplied);
         picture.fill(pictureColor);
         return picture;
     }
 
     QSize size {64, 64};
-    mutable QStringList asked;
+    mutable QStringList requestedCodes;
 };
 
 const QString smile = QStringLiteral("<e code=\"1f600\">:-)</e>");
@@ -368,15 +367,15 @@ QRectF pictureRect(QGraphicsItem& item)
     return rect;
 }
 
-TEST(EmojiPicture, IsAskedForByItsCode)
+TEST(EmojiPicture, IsRequestedByItsCode)
 {
     const PictureSupport support;
     const MarkupItem item(smile + QStringLiteral("<e code=\"1F469-200d-1F4BB\"/>"));
-    EXPECT_EQ(support.asked,
+    EXPECT_EQ(support.requestedCodes,
               QStringList({QStringLiteral("1F600"), QStringLiteral("1F469-200D-1F4BB")}));
 }
 
-TEST(EmojiPicture, IsShownInTheHeightOfTheLine)
+TEST(EmojiPicture, IsAsHighAsTheLine)
 {
     const PictureSupport support;
     const qreal lineHeight = MarkupItem(QStringLiteral("H")).boundingRect().height();
@@ -408,7 +407,7 @@ TEST(EmojiPicture, KeepsItsProportions)
     EXPECT_NEAR(rect.width(), item.boundingRect().width(), 1);
 }
 
-TEST(EmojiPicture, IsItsCharactersInThePlainText)
+TEST(EmojiPicture, AppearsAsItsCharactersInThePlainText)
 {
     const PictureSupport support;
     MarkupItem item(QStringLiteral("a") + smile + smile + QStringLiteral("\nb") + smile
@@ -420,7 +419,7 @@ TEST(EmojiPicture, IsItsCharactersInThePlainText)
     EXPECT_EQ(item.toPlainText(), QString());
 }
 
-TEST(EmojiPicture, LeavesObjectCharactersOfTheTextAlone)
+TEST(EmojiPicture, DoesNotAffectObjectCharactersInTheText)
 {
     const PictureSupport support;
     const QString object(QChar::ObjectReplacementCharacter);
@@ -459,23 +458,24 @@ TEST(EmojiPicture, IsHighlightedWhereItIs)
             return picture;
         }
     } const support;
-    const QColor ground(255, 255, 0);
+    const QColor background(255, 255, 0);
     for (const char* pattern : {"%1 end", "start %1", "%1 סוף", "שלום %1 סוף", "see שלום %1 סוף"}) {
         for (qreal width : {-1.0, 400.0, 60.0}) {
             MarkupItem item(QString::fromUtf8(pattern).arg(smile));
             item.SetFixedItemWidth(width);
             const QRectF picture = pictureRect(item);
-            item.HighlightText({smileText}, ground);
+            item.HighlightText({smileText}, background);
             const Ink ink(item, 4);
-            QRectF grounds;
+            QRectF backgroundRect;
             for (int y = 0; y < ink.Picture().height(); ++y) {
                 for (int x = 0; x < ink.Picture().width(); ++x) {
-                    if (ink.Picture().pixelColor(x, y) == ground)
-                        grounds |= QRectF(QPointF(x, y) / 4 - QPointF(50, 50), QSizeF(0.25, 0.25));
+                    if (ink.Picture().pixelColor(x, y) == background)
+                        backgroundRect |=
+                            QRectF(QPointF(x, y) / 4 - QPointF(50, 50), QSizeF(0.25, 0.25));
                 }
             }
-            EXPECT_NEAR(grounds.center().x(), picture.center().x(), 1) << pattern << width;
-            EXPECT_NEAR(grounds.width(), 24, 1) << pattern << width;
+            EXPECT_NEAR(backgroundRect.center().x(), picture.center().x(), 1) << pattern << width;
+            EXPECT_NEAR(backgroundRect.width(), 24, 1) << pattern << width;
         }
     }
 }
@@ -491,7 +491,7 @@ TEST(EmojiPicture, IsNotShownWhereItIsCutOff)
     EXPECT_TRUE(pictureRect(item).isEmpty());
 }
 
-TEST(EmojiPicture, IsATextWithoutOne)
+TEST(EmojiPicture, IsReplacedByTextIfThereIsNone)
 {
     class Without : public PictureSupport {
         QImage GetEmojiImage(const QString& code) const override

@@ -1,4 +1,4 @@
-// Mentions under the mouse: where they are hit, and what comes of it. The
+// Mentions under the mouse: where they are hit, clicks and the mouse cursor. The
 // events go through a view, as the user's do.
 #include "Ink.h"
 
@@ -46,10 +46,10 @@ private:
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent*) override { ++presses; }
 };
 
-// An item in a view, above another one.
-class Stage {
+// A view that shows a text item above another item.
+class MentionView {
 public:
-    Stage()
+    MentionView()
         : below_(-1000, -1000, 3000, 3000)
     {
         QFont font(QStringLiteral("DejaVu Sans"));
@@ -72,7 +72,7 @@ public:
         view_.show();
     }
 
-    ~Stage()
+    ~MentionView()
     {
         if (item_)
             scene_.removeItem(item_.get());
@@ -107,7 +107,7 @@ public:
         Release(at);
     }
 
-    // Middles of pixels that show just `color`, not too many of them.
+    // The centres of some pixels that have exactly this colour.
     std::vector<QPointF> PixelsOf(const QColor& color)
     {
         const Ink ink(*item_);
@@ -147,34 +147,34 @@ class MentionHit : public testing::TestWithParam<HitRow> {
 protected:
     void SetUp() override
     {
-        stage_.Item().SetElide(true);
-        stage_.Item().SetFixedItemWidth(GetParam().width);
-        stage_.Item().SetMaxLineCount(GetParam().maxLines);
-        stage_.Item().InsertRichText(QString::fromUtf8(GetParam().text), true);
+        view_.Item().SetElide(true);
+        view_.Item().SetFixedItemWidth(GetParam().width);
+        view_.Item().SetMaxLineCount(GetParam().maxLines);
+        view_.Item().InsertRichText(QString::fromUtf8(GetParam().text), true);
     }
 
-    Stage stage_;
+    MentionView view_;
 };
 
-TEST_P(MentionHit, IsExactlyOnItsGlyphs)
+TEST_P(MentionHit, IsOnItsGlyphsOnly)
 {
-    const std::vector<QPointF> mentioned = stage_.PixelsOf(mentionColor);
+    const std::vector<QPointF> mentioned = view_.PixelsOf(mentionColor);
     ASSERT_GT(mentioned.size(), 20U);
     for (const QPointF& at : mentioned) {
-        stage_.clicks.clear();
-        stage_.ClickAt(at);
-        ASSERT_EQ(stage_.clicks, std::vector<Click>({{false, 5}})) << at.x() << ", " << at.y();
+        view_.clicks.clear();
+        view_.ClickAt(at);
+        ASSERT_EQ(view_.clicks, std::vector<Click>({{false, 5}})) << at.x() << ", " << at.y();
     }
-    EXPECT_EQ(stage_.PressesBelow(), 0);
+    EXPECT_EQ(view_.PressesBelow(), 0);
 
-    const std::vector<QPointF> others = stage_.PixelsOf(textColor);
+    const std::vector<QPointF> others = view_.PixelsOf(textColor);
     ASSERT_GT(others.size(), 20U);
-    stage_.clicks.clear();
+    view_.clicks.clear();
     for (const QPointF& at : others) {
-        stage_.ClickAt(at);
-        ASSERT_TRUE(stage_.clicks.empty()) << at.x() << ", " << at.y();
+        view_.ClickAt(at);
+        ASSERT_TRUE(view_.clicks.empty()) << at.x() << ", " << at.y();
     }
-    EXPECT_EQ(stage_.PressesBelow(), static_cast<int>(others.size()));
+    EXPECT_EQ(view_.PressesBelow(), static_cast<int>(others.size()));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -197,43 +197,44 @@ INSTANTIATE_TEST_SUITE_P(
         HitRow {"Chinese", "晚上<m user=\"5\">王小明</m>一起吃饭吗", 100, 0}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST(MentionHitElided, LeavesTheEllipsisOut)
+TEST(MentionHitInElidedText, ExcludesTheEllipsis)
 {
     for (const char* text :
          {"HH <m user=\"5\">Hans Huber the Third</m>", "שם <m user=\"5\">עדה כהן לוי ברק</m>"}) {
-        Stage stage;
-        stage.Item().SetElide(true);
-        stage.Item().SetMaxLineCount(1);
-        stage.Item().SetFixedItemWidth(150);
-        stage.Item().InsertRichText(QString::fromUtf8(text), true);
-        ASSERT_TRUE(stage.Item().IsElided());
+        MentionView view;
+        view.Item().SetElide(true);
+        view.Item().SetMaxLineCount(1);
+        view.Item().SetFixedItemWidth(150);
+        view.Item().InsertRichText(QString::fromUtf8(text), true);
+        ASSERT_TRUE(view.Item().IsElided());
         const bool endsAtLeft = QString::fromUtf8(text).front().direction() == QChar::DirR;
-        const QRectF ink = Ink(stage.Item()).Rect();
-        const qreal dots = QFontMetricsF(stage.Item().font()).horizontalAdvance(QChar(0x2026));
+        const QRectF ink = Ink(view.Item()).Rect();
+        const qreal ellipsisWidth =
+            QFontMetricsF(view.Item().font()).horizontalAdvance(QChar(0x2026));
         int hits = 0;
-        for (const QPointF& at : stage.PixelsOf(mentionColor)) {
+        for (const QPointF& at : view.PixelsOf(mentionColor)) {
             const qreal toEnd = endsAtLeft ? at.x() - ink.left() : ink.right() - at.x();
-            // Between the dots and the last letter, either may be hit.
-            if (toEnd > dots * 0.75 && toEnd < dots * 1.25)
+            // Between the ellipsis and the last letter, either may be hit.
+            if (toEnd > ellipsisWidth * 0.75 && toEnd < ellipsisWidth * 1.25)
                 continue;
-            stage.clicks.clear();
-            stage.ClickAt(at);
-            EXPECT_EQ(stage.clicks.empty(), toEnd < dots) << at.x() << " in " << text;
-            hits += !stage.clicks.empty();
+            view.clicks.clear();
+            view.ClickAt(at);
+            EXPECT_EQ(view.clicks.empty(), toEnd < ellipsisWidth) << at.x() << " in " << text;
+            hits += !view.clicks.empty();
         }
         EXPECT_GT(hits, 20);
     }
 }
 
-TEST(MentionHitElided, MissesWhatTheLineLimitHides)
+TEST(MentionHitInElidedText, ExcludesHiddenLines)
 {
-    Stage stage;
-    stage.Item().InsertRichText(QStringLiteral("HHH\n<m user=\"5\">HHH</m>"), true);
-    const std::vector<QPointF> mentioned = stage.PixelsOf(mentionColor);
+    MentionView view;
+    view.Item().InsertRichText(QStringLiteral("HHH\n<m user=\"5\">HHH</m>"), true);
+    const std::vector<QPointF> mentioned = view.PixelsOf(mentionColor);
     ASSERT_FALSE(mentioned.empty());
-    stage.Item().SetMaxLineCount(1);
-    stage.ClickAt(mentioned.front());
-    EXPECT_TRUE(stage.clicks.empty());
+    view.Item().SetMaxLineCount(1);
+    view.ClickAt(mentioned.front());
+    EXPECT_TRUE(view.clicks.empty());
 }
 
 // ----- Clicks
@@ -242,180 +243,181 @@ class MentionClick : public testing::Test {
 protected:
     MentionClick()
     {
-        stage_.Item().InsertRichText(QStringLiteral("HHH <m user=\"-9223372036854775808\">HHH</m> "
-                                                    "<m bot=\"77\">MMM</m><m bot=\"77\">WWW</m>"),
-                                     true);
+        view_.Item().InsertRichText(QStringLiteral("HHH <m user=\"-9223372036854775808\">HHH</m> "
+                                                   "<m bot=\"77\">MMM</m><m bot=\"77\">WWW</m>"),
+                                    true);
     }
 
     QPointF MiddleOf(const char* text)
     {
-        const QString shown = stage_.Item().toPlainText();
+        const QString shown = view_.Item().toPlainText();
         const int start = shown.lastIndexOf(QLatin1String(text));
-        const QFontMetricsF metrics(stage_.Item().font());
+        const QFontMetricsF metrics(view_.Item().font());
         return {metrics.horizontalAdvance(shown.left(start))
                     + metrics.horizontalAdvance(QLatin1String(text)) / 2,
-                stage_.Item().boundingRect().center().y()};
+                view_.Item().boundingRect().center().y()};
     }
 
-    Stage stage_;
+    MentionView view_;
 };
 
-TEST_F(MentionClick, TellsTheUserNumber)
+TEST_F(MentionClick, ReportsTheNumberOfAUser)
 {
-    stage_.ClickAt(MiddleOf("HHH"));
-    EXPECT_EQ(stage_.clicks, std::vector<Click>({{false, std::numeric_limits<qint64>::min()}}));
+    view_.ClickAt(MiddleOf("HHH"));
+    EXPECT_EQ(view_.clicks, std::vector<Click>({{false, std::numeric_limits<qint64>::min()}}));
 }
 
-TEST_F(MentionClick, TellsTheNumberOfABot)
+TEST_F(MentionClick, ReportsTheNumberOfABot)
 {
-    stage_.ClickAt(MiddleOf("MMM"));
-    EXPECT_EQ(stage_.clicks, std::vector<Click>({{true, 77}}));
+    view_.ClickAt(MiddleOf("MMM"));
+    EXPECT_EQ(view_.clicks, std::vector<Click>({{true, 77}}));
 }
 
-TEST_F(MentionClick, NeedsNoTextControl)
+TEST_F(MentionClick, CreatesNoTextControl)
 {
-    stage_.ClickAt(MiddleOf("MMM"));
-    for (const QObject* child : stage_.Item().children())
+    view_.ClickAt(MiddleOf("MMM"));
+    for (const QObject* child : view_.Item().children())
         EXPECT_FALSE(child->inherits("QWidgetTextControl"));
 }
 
-TEST_F(MentionClick, IsPressedAndReleasedOnTheSameMention)
+TEST_F(MentionClick, NeedsPressAndReleaseOnTheSameMention)
 {
-    stage_.Press(MiddleOf("HHH"));
-    stage_.Release(MiddleOf("MMM"));
-    stage_.Press(MiddleOf("MMM"));
-    stage_.Release(MiddleOf("WWW"));
-    stage_.Press(MiddleOf("MMM"));
-    stage_.Release({5, 10});
-    EXPECT_TRUE(stage_.clicks.empty());
-    EXPECT_EQ(stage_.PressesBelow(), 0);
-    stage_.Press({5, 10});
-    stage_.Release(MiddleOf("MMM"));
-    EXPECT_TRUE(stage_.clicks.empty());
-    EXPECT_EQ(stage_.PressesBelow(), 1);
+    view_.Press(MiddleOf("HHH"));
+    view_.Release(MiddleOf("MMM"));
+    view_.Press(MiddleOf("MMM"));
+    view_.Release(MiddleOf("WWW"));
+    view_.Press(MiddleOf("MMM"));
+    view_.Release({5, 10});
+    EXPECT_TRUE(view_.clicks.empty());
+    EXPECT_EQ(view_.PressesBelow(), 0);
+    view_.Press({5, 10});
+    view_.Release(MiddleOf("MMM"));
+    EXPECT_TRUE(view_.clicks.empty());
+    EXPECT_EQ(view_.PressesBelow(), 1);
 }
 
-TEST_F(MentionClick, MayWanderMeanwhile)
+TEST_F(MentionClick, MayLeaveTheMentionBetweenPressAndRelease)
 {
-    stage_.Press(MiddleOf("MMM"));
-    stage_.Move({5, 10});
-    stage_.Move(MiddleOf("MMM"));
-    stage_.Release(MiddleOf("MMM"));
-    EXPECT_EQ(stage_.clicks.size(), 1U);
+    view_.Press(MiddleOf("MMM"));
+    view_.Move({5, 10});
+    view_.Move(MiddleOf("MMM"));
+    view_.Release(MiddleOf("MMM"));
+    EXPECT_EQ(view_.clicks.size(), 1U);
 }
 
-TEST_F(MentionClick, IsOfTheLeftButton)
+TEST_F(MentionClick, NeedsTheLeftButton)
 {
     for (Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
-        stage_.Send(QEvent::MouseButtonPress, MiddleOf("MMM"), button);
-        stage_.Send(QEvent::MouseButtonRelease, MiddleOf("MMM"), button);
+        view_.Send(QEvent::MouseButtonPress, MiddleOf("MMM"), button);
+        view_.Send(QEvent::MouseButtonRelease, MiddleOf("MMM"), button);
     }
-    EXPECT_TRUE(stage_.clicks.empty());
-    EXPECT_EQ(stage_.PressesBelow(), 2);
+    EXPECT_TRUE(view_.clicks.empty());
+    EXPECT_EQ(view_.PressesBelow(), 2);
 }
 
-TEST_F(MentionClick, IsOneForEachPressOfADoubleClick)
+TEST_F(MentionClick, HappensTwiceInADoubleClick)
 {
-    stage_.ClickAt(MiddleOf("MMM"));
-    stage_.Send(QEvent::MouseButtonDblClick, MiddleOf("MMM"));
-    stage_.Release(MiddleOf("MMM"));
-    EXPECT_EQ(stage_.clicks.size(), 2U);
-    EXPECT_EQ(stage_.PressesBelow(), 0);
+    view_.ClickAt(MiddleOf("MMM"));
+    view_.Send(QEvent::MouseButtonDblClick, MiddleOf("MMM"));
+    view_.Release(MiddleOf("MMM"));
+    EXPECT_EQ(view_.clicks.size(), 2U);
+    EXPECT_EQ(view_.PressesBelow(), 0);
 }
 
-TEST_F(MentionClick, IsNoneWhenTheTextHasChangedMeanwhile)
+TEST_F(MentionClick, DoesNotHappenWhenTheTextWasReplaced)
 {
     const QString again = QStringLiteral("<m user=\"1\">MMMMMMMMMMMMMMMMMM</m>");
-    stage_.Press(MiddleOf("MMM"));
-    stage_.Item().ClearText();
-    stage_.Item().InsertRichText(again, true);
-    stage_.Release({20, 10});
-    EXPECT_TRUE(stage_.clicks.empty());
-    stage_.ClickAt({20, 10});
-    EXPECT_EQ(stage_.clicks.size(), 1U);
+    view_.Press(MiddleOf("MMM"));
+    view_.Item().ClearText();
+    view_.Item().InsertRichText(again, true);
+    view_.Release({20, 10});
+    EXPECT_TRUE(view_.clicks.empty());
+    view_.ClickAt({20, 10});
+    EXPECT_EQ(view_.clicks.size(), 1U);
 }
 
 TEST_F(MentionClick, MayDeleteTheItem)
 {
-    QObject::connect(&stage_.Item(), &TextItem::BotMentionClicked, [this] { stage_.DeleteItem(); });
-    stage_.ClickAt(MiddleOf("MMM"));
-    EXPECT_EQ(stage_.clicks.size(), 1U);
+    QObject::connect(&view_.Item(), &TextItem::BotMentionClicked, [this] { view_.DeleteItem(); });
+    view_.ClickAt(MiddleOf("MMM"));
+    EXPECT_EQ(view_.clicks.size(), 1U);
 }
 
-TEST_F(MentionClick, IsNothingInAnEditableItem)
+TEST_F(MentionClick, DoesNotHappenInAnEditableItem)
 {
-    stage_.Item().SetReadOnly(false);
-    stage_.ClickAt(MiddleOf("MMM"));
-    EXPECT_TRUE(stage_.clicks.empty());
-    stage_.Item().SetReadOnly(true);
-    stage_.ClickAt(MiddleOf("MMM"));
-    EXPECT_EQ(stage_.clicks.size(), 1U);
+    view_.Item().SetReadOnly(false);
+    view_.ClickAt(MiddleOf("MMM"));
+    EXPECT_TRUE(view_.clicks.empty());
+    view_.Item().SetReadOnly(true);
+    view_.ClickAt(MiddleOf("MMM"));
+    EXPECT_EQ(view_.clicks.size(), 1U);
 }
 
-TEST(MentionForgery, IsNotPossibleInPlainText)
+TEST(MentionMarkup, IsNotClickableWhileMarkupIsDisabled)
 {
-    Stage stage;
-    stage.Item().SetMarkupEnabled(false);
-    stage.Item().InsertRichText(QStringLiteral("<m user=\"5\">HHHH</m>"), true);
-    EXPECT_TRUE(stage.PixelsOf(mentionColor).empty());
-    for (const QPointF& at : stage.PixelsOf(textColor))
-        stage.ClickAt(at);
-    EXPECT_TRUE(stage.clicks.empty());
+    MentionView view;
+    view.Item().SetMarkupEnabled(false);
+    view.Item().InsertRichText(QStringLiteral("<m user=\"5\">HHHH</m>"), true);
+    EXPECT_TRUE(view.PixelsOf(mentionColor).empty());
+    for (const QPointF& at : view.PixelsOf(textColor))
+        view.ClickAt(at);
+    EXPECT_TRUE(view.clicks.empty());
 }
 
-// Text next to a mention takes nothing of it over.
-TEST(MentionForgery, IsNotPossibleBesideAMention)
+TEST(TextNextToAMention, IsNotClickable)
 {
-    Stage stage;
-    stage.Item().InsertRichText(QStringLiteral("<m user=\"5\">MM</m>"), true);
-    stage.Item().InsertRichText(QStringLiteral("HH"), true);
-    stage.Item().InsertRichText(QStringLiteral("HH"), false);
-    for (const QPointF& at : stage.PixelsOf(textColor))
-        stage.ClickAt(at);
-    EXPECT_TRUE(stage.clicks.empty());
+    MentionView view;
+    view.Item().InsertRichText(QStringLiteral("<m user=\"5\">MM</m>"), true);
+    view.Item().InsertRichText(QStringLiteral("HH"), true);
+    view.Item().InsertRichText(QStringLiteral("HH"), false);
+    for (const QPointF& at : view.PixelsOf(textColor))
+        view.ClickAt(at);
+    EXPECT_TRUE(view.clicks.empty());
 }
 
-// ----- Hover
+// ----- The mouse cursor
 
-TEST_F(MentionClick, IsPromisedByAHand)
+using MentionCursor = MentionClick;
+
+TEST_F(MentionCursor, IsAPointingHand)
 {
-    stage_.Move({5, 10});
-    EXPECT_FALSE(stage_.Item().hasCursor());
-    stage_.Move(MiddleOf("MMM"));
-    EXPECT_EQ(stage_.Item().cursor().shape(), Qt::PointingHandCursor);
-    stage_.Move({5, 10});
-    EXPECT_FALSE(stage_.Item().hasCursor());
-    stage_.Move(MiddleOf("MMM"));
-    stage_.Move({300, 300});
-    EXPECT_FALSE(stage_.Item().hasCursor());
+    view_.Move({5, 10});
+    EXPECT_FALSE(view_.Item().hasCursor());
+    view_.Move(MiddleOf("MMM"));
+    EXPECT_EQ(view_.Item().cursor().shape(), Qt::PointingHandCursor);
+    view_.Move({5, 10});
+    EXPECT_FALSE(view_.Item().hasCursor());
+    view_.Move(MiddleOf("MMM"));
+    view_.Move({300, 300});
+    EXPECT_FALSE(view_.Item().hasCursor());
 }
 
-TEST_F(MentionClick, GivesTheItemsOwnCursorBack)
+TEST_F(MentionCursor, RestoresTheCursorOfTheItem)
 {
-    stage_.Item().setCursor(Qt::IBeamCursor);
-    stage_.Move(MiddleOf("MMM"));
-    EXPECT_EQ(stage_.Item().cursor().shape(), Qt::PointingHandCursor);
-    stage_.Move({5, 10});
-    EXPECT_EQ(stage_.Item().cursor().shape(), Qt::IBeamCursor);
+    view_.Item().setCursor(Qt::IBeamCursor);
+    view_.Move(MiddleOf("MMM"));
+    EXPECT_EQ(view_.Item().cursor().shape(), Qt::PointingHandCursor);
+    view_.Move({5, 10});
+    EXPECT_EQ(view_.Item().cursor().shape(), Qt::IBeamCursor);
 }
 
-TEST_F(MentionClick, TakesTheHandAwayWithTheText)
+TEST_F(MentionCursor, IsRemovedWithTheText)
 {
-    stage_.Move(MiddleOf("MMM"));
-    stage_.Item().ClearText();
-    EXPECT_FALSE(stage_.Item().hasCursor());
+    view_.Move(MiddleOf("MMM"));
+    view_.Item().ClearText();
+    EXPECT_FALSE(view_.Item().hasCursor());
 }
 
-TEST_F(MentionClick, NeedsHoverEventsOnlyWhileThereIsAMention)
+TEST_F(MentionCursor, NeedsHoverEventsOnlyWhileThereIsAMention)
 {
-    EXPECT_TRUE(stage_.Item().acceptHoverEvents());
-    stage_.Item().SetReadOnly(false);
-    stage_.Item().SetReadOnly(true);
-    EXPECT_TRUE(stage_.Item().acceptHoverEvents());
-    stage_.Item().ClearText();
-    EXPECT_FALSE(stage_.Item().acceptHoverEvents());
-    stage_.Item().InsertRichText(QStringLiteral("no mention"), true);
-    EXPECT_FALSE(stage_.Item().acceptHoverEvents());
+    EXPECT_TRUE(view_.Item().acceptHoverEvents());
+    view_.Item().SetReadOnly(false);
+    view_.Item().SetReadOnly(true);
+    EXPECT_TRUE(view_.Item().acceptHoverEvents());
+    view_.Item().ClearText();
+    EXPECT_FALSE(view_.Item().acceptHoverEvents());
+    view_.Item().InsertRichText(QStringLiteral("no mention"), true);
+    EXPECT_FALSE(view_.Item().acceptHoverEvents());
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Read-only and editable items: events, the text control, and who owns what.
+// Read-only and editable items: events, the text control and ownership.
 #include "Ink.h"
 
 #include <kestro_control/TextItem.h>
@@ -68,12 +68,12 @@ private:
     void mousePressEvent(QGraphicsSceneMouseEvent*) override { ++presses; }
 };
 
-TEST(TextItemReadOnly, IsHowItemsAreCreated)
+TEST(TextItemReadOnly, IsTheInitialState)
 {
     EXPECT_TRUE(TextItem().IsReadOnly());
 }
 
-TEST(TextItemReadOnly, NeverNeedsATextControl)
+TEST(TextItemReadOnly, NeverCreatesATextControl)
 {
     QGraphicsScene scene;
     OpenTextItem item;
@@ -92,7 +92,7 @@ TEST(TextItemReadOnly, NeverNeedsATextControl)
     item.defaultTextColor();
     item.ShownLineCount();
     item.shape();
-    Ink paintsIt(item);
+    const Ink painted(item);
     type(scene, item, 'x');
     QEvent focus(QEvent::ShortcutOverride);
     scene.sendEvent(&item, &focus);
@@ -130,7 +130,7 @@ TEST(TextItemReadOnly, AcceptsNoMouseHoverOrKeyEvent)
     EXPECT_EQ(item.toPlainText(), text);
 }
 
-TEST(TextItemReadOnly, LetsTheItemBelowHaveTheClick)
+TEST(TextItemReadOnly, LeavesClicksToTheItemBelow)
 {
     QGraphicsScene scene;
     PressCounter below(0, 0, 200, 200);
@@ -147,7 +147,7 @@ TEST(TextItemReadOnly, LetsTheItemBelowHaveTheClick)
     EXPECT_EQ(below.presses, 1);
 }
 
-TEST(TextItemEditable, TakesWhatTheUserTypes)
+TEST(TextItemEditable, InsertsWhatTheUserTypes)
 {
     QGraphicsScene scene;
     TextItem item;
@@ -190,7 +190,7 @@ TEST(TextItemEditable, ShowsAllOfTheText)
     EXPECT_LT(Ink(item).Rect().height(), limited.height());
 }
 
-TEST(TextItemEditable, GivesTheDocumentBackUnharmed)
+TEST(TextItemEditable, KeepsTheDocument)
 {
     TextItem item;
     item.InsertRichText(text, true);
@@ -206,7 +206,7 @@ TEST(TextItemEditable, GivesTheDocumentBackUnharmed)
     EXPECT_EQ(item.toPlainText(), text + QLatin1Char('!'));
 }
 
-TEST(TextItemBase, ActsOnADocumentOfItsOwn)
+TEST(TextItemBase, HasADocumentOfItsOwn)
 {
     TextItem item;
     item.InsertRichText(text, true);
@@ -217,7 +217,7 @@ TEST(TextItemBase, ActsOnADocumentOfItsOwn)
     EXPECT_EQ(base.boundingRect(), item.boundingRect());
 }
 
-TEST(TextItemLifetime, EndsInEveryState)
+TEST(TextItemDeletion, WorksInEveryState)
 {
     for (int changes = 0; changes < 4; ++changes) {
         QGraphicsScene scene;
@@ -234,7 +234,7 @@ TEST(TextItemLifetime, EndsInEveryState)
     }
 }
 
-TEST(TextItemLifetime, EndsBeforeThatOfACursor)
+TEST(TextItemDeletion, MakesTextCursorsNull)
 {
     for (bool readOnly : {true, false}) {
         auto item = std::make_unique<TextItem>();
@@ -246,7 +246,7 @@ TEST(TextItemLifetime, EndsBeforeThatOfACursor)
     }
 }
 
-TEST(TextItemLifetime, EndsBeforeOrAfterThatOfItsLayout)
+TEST(TextItemDeletion, WorksBeforeAndAfterThatOfTheLayout)
 {
     for (bool layoutFirst : {true, false}) {
         QGraphicsScene scene;
@@ -266,7 +266,7 @@ TEST(TextItemLifetime, EndsBeforeOrAfterThatOfItsLayout)
     }
 }
 
-TEST(TextItemLifetime, EndsWithThatOfItsParent)
+TEST(TextItemDeletion, HappensWithThatOfTheParent)
 {
     auto* const parent = new QGraphicsRectItem;
     auto* const item = new TextItem(parent);

@@ -1,4 +1,4 @@
-// What a TextItem leaves on paper.
+// What a TextItem paints.
 #include "Ink.h"
 
 #include <kestro_control/TextItem.h>
@@ -38,7 +38,7 @@ struct ScriptRow {
 
 class TextItemInk : public testing::TestWithParam<ScriptRow> { };
 
-TEST_P(TextItemInk, LiesInTheBoundingRectangle)
+TEST_P(TextItemInk, IsInsideTheBoundingRect)
 {
     for (qreal scale : {1.0, 2.0}) {
         for (qreal width : {-1.0, 300.0, 95.0}) {
@@ -48,7 +48,7 @@ TEST_P(TextItemInk, LiesInTheBoundingRectangle)
             item.SetFixedItemWidth(width);
             const QRectF ink = Ink(item, scale).Rect();
             ASSERT_FALSE(ink.isEmpty());
-            // Glyphs may stick out by the odd pixel of their smooth edges.
+            // Antialiased edges of glyphs may extend beyond it by a pixel or two.
             const QRectF rect = item.boundingRect().adjusted(-2, -2, 2, 2);
             EXPECT_TRUE(rect.contains(ink)) << "width " << width << ", scale " << scale;
             EXPECT_GT(ink.height(), item.boundingRect().height() / 2);
@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ScriptRow {"Mixed", "Dinner ארוחת הערב at 7"}),
     rowName<ScriptRow>);
 
-TEST(TextItemRendering, DrawsNothingBeyondTheLineLimit)
+TEST(TextItemRendering, DrawsOnlyTheLinesWithinTheLimit)
 {
     TextItem item;
     useFont(item);
@@ -98,7 +98,7 @@ TEST(TextItemRendering, UsesTheDefaultColourUnlessASpanHasOne)
     EXPECT_TRUE(Ink(item).Has(QColor(200, 0, 0)));
 }
 
-TEST(TextItemRendering, DrawsInvalidColoursInBlack)
+TEST(TextItemRendering, DrawsInBlackIfTheColourIsInvalid)
 {
     TextItem item;
     useFont(item, 60);
@@ -109,7 +109,7 @@ TEST(TextItemRendering, DrawsInvalidColoursInBlack)
 
 TEST(TextItemRendering, DrawsTheLinesAndBackgroundsOfSpans)
 {
-    // Spaces leave no ink but that of their format.
+    // Spaces themselves paint nothing; only their format does.
     const QString spaces = QString(5, QChar::Nbsp);
     TextItem plain;
     useFont(plain, 30);
@@ -130,7 +130,7 @@ TEST(TextItemRendering, DrawsTheLinesAndBackgroundsOfSpans)
     }
 }
 
-TEST(TextItemRendering, LeavesThePenAsItWas)
+TEST(TextItemRendering, RestoresThePen)
 {
     TextItem item;
     useFont(item);
@@ -148,8 +148,8 @@ struct AlignmentRow {
     const char* text;
     Qt::Alignment alignment;
     Qt::LayoutDirection direction;
-    // Where the text is in the free width: 0 left, 0.5 centre, 1 right.
-    qreal place;
+    // The position of the text in the free width: 0 left, 0.5 centre, 1 right.
+    qreal position;
 
     friend std::ostream& operator<<(std::ostream& out, const AlignmentRow& row)
     {
@@ -172,17 +172,17 @@ protected:
     TextItem item_;
 };
 
-TEST_P(TextItemAlignment, PlacesTheTextInTheFixedWidth)
+TEST_P(TextItemAlignment, AppliesToTheFixedWidth)
 {
     item_.SetFixedItemWidth(300);
     const QRectF ink = Ink(item_).Rect();
     ASSERT_FALSE(ink.isEmpty());
-    EXPECT_NEAR(ink.left(), (300 - ink.width()) * GetParam().place, 3);
+    EXPECT_NEAR(ink.left(), (300 - ink.width()) * GetParam().position, 3);
 }
 
-// The short line moves within the width of the wide one, also when the widest
-// line of the text is not shown.
-TEST_P(TextItemAlignment, PlacesShortLinesInTheNaturalWidth)
+// The short line is aligned in the width of the widest shown line; a wider line is
+// hidden by the line limit.
+TEST_P(TextItemAlignment, AppliesToShortLinesInTheNaturalWidth)
 {
     const QString wide = QString::fromUtf8(GetParam().text).repeated(4);
     item_.InsertRichText(QLatin1Char('\n') + wide + QLatin1Char('\n') + wide.repeated(3), true);
@@ -192,7 +192,7 @@ TEST_P(TextItemAlignment, PlacesShortLinesInTheNaturalWidth)
     const QRectF ink = Ink(item_).RectIn(firstLine);
     ASSERT_FALSE(ink.isEmpty());
     EXPECT_LT(ink.width(), rect.width() / 2);
-    EXPECT_NEAR(ink.left(), (rect.width() - ink.width()) * GetParam().place, 3);
+    EXPECT_NEAR(ink.left(), (rect.width() - ink.width()) * GetParam().position, 3);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -208,7 +208,7 @@ INSTANTIATE_TEST_SUITE_P(
         AlignmentRow {"HebrewInLeftToRightText", "םםם", Qt::AlignLeft, Qt::LeftToRight, 0}),
     rowName<AlignmentRow>);
 
-TEST(TextItemRendering, DrawsTheTextWhereAFrameMarginMovesIt)
+TEST(TextItemRendering, DrawsTheTextBelowTheFrameMargin)
 {
     TextItem item;
     useFont(item);
@@ -220,7 +220,7 @@ TEST(TextItemRendering, DrawsTheTextWhereAFrameMarginMovesIt)
     EXPECT_EQ(Ink(item).Rect(), before.translated(0, 100));
 }
 
-TEST(TextItemRendering, SetsCapitalsOnTheBaseline)
+TEST(TextItemRendering, DrawsCapitalsOnTheBaseline)
 {
     TextItem item;
     useFont(item, 60);

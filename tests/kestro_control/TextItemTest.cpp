@@ -1,4 +1,4 @@
-// The text a TextItem holds, and the lines and rectangle it shows of it.
+// The text of a TextItem, and the lines and rectangle that it shows.
 #include "Ink.h"
 
 #include <kestro_control/TextItem.h>
@@ -21,13 +21,13 @@
 
 namespace {
 
-constexpr int pixelSize = 16;
+constexpr int kPixelSize = 16;
 
 struct TestItem : TextItem {
     TestItem()
     {
         QFont testFont(QStringLiteral("DejaVu Sans"));
-        testFont.setPixelSize(pixelSize);
+        testFont.setPixelSize(kPixelSize);
         setFont(testFont);
     }
 
@@ -42,13 +42,13 @@ struct TestItem : TextItem {
 
 const QString threeWords = QStringLiteral("alpha beta gamma");
 
-// As narrow as its widest word, so that every word is a line.
+// The width of the widest word, in which every word is a line.
 qreal oneWordWidth(const TextItem& item)
 {
     return std::ceil(QFontMetricsF(item.font()).horizontalAdvance(QStringLiteral("gamma"))) + 1;
 }
 
-TEST(TextItemShown, NothingOfAnEmptyText)
+TEST(TextItemLines, AreNoneWithoutText)
 {
     const TestItem item;
     EXPECT_EQ(item.ShownLineCount(), 0);
@@ -57,14 +57,14 @@ TEST(TextItemShown, NothingOfAnEmptyText)
     EXPECT_EQ(item.FirstLineAscent(), QFontMetricsF(item.font()).ascent());
 }
 
-TEST(TextItemShown, AnEmptyTextKeepsItsFixedWidth)
+TEST(TextItemBoundingRect, KeepsTheFixedWidthWithoutText)
 {
     TestItem item;
     item.SetFixedItemWidth(120);
     EXPECT_EQ(item.boundingRect(), QRectF(0, 0, 120, 0));
 }
 
-TEST(TextItemShown, OneLineInItsNaturalWidth)
+TEST(TextItemBoundingRect, HasTheNaturalWidthOfOneLine)
 {
     const TestItem item(threeWords);
     EXPECT_EQ(item.ShownLineCount(), 1);
@@ -74,7 +74,7 @@ TEST(TextItemShown, OneLineInItsNaturalWidth)
     EXPECT_NEAR(item.boundingRect().height(), item.LineHeight(), 1);
 }
 
-TEST(TextItemShown, TheWidestShownLineMakesTheNaturalWidth)
+TEST(TextItemBoundingRect, IsAsWideAsTheWidestShownLine)
 {
     TestItem item(QStringLiteral("ab\nabcd\nabcdefghijkl"));
     const qreal all = item.boundingRect().width();
@@ -83,7 +83,7 @@ TEST(TextItemShown, TheWidestShownLineMakesTheNaturalWidth)
     EXPECT_EQ(item.boundingRect().width(), TestItem(QStringLiteral("abcd")).boundingRect().width());
 }
 
-TEST(TextItemShown, LinesWrapInTheFixedWidth)
+TEST(TextItemLines, WrapAtTheFixedWidth)
 {
     TestItem item(threeWords);
     const qreal lineHeight = item.boundingRect().height();
@@ -93,7 +93,7 @@ TEST(TextItemShown, LinesWrapInTheFixedWidth)
     EXPECT_NEAR(item.boundingRect().height(), 3 * lineHeight, 3);
 }
 
-TEST(TextItemShown, EmptyParagraphsAreLines)
+TEST(TextItemLines, IncludeEmptyParagraphs)
 {
     EXPECT_EQ(TestItem(QStringLiteral("\n")).ShownLineCount(), 2);
     EXPECT_EQ(TestItem(QStringLiteral("a\n\nb")).ShownLineCount(), 3);
@@ -101,7 +101,7 @@ TEST(TextItemShown, EmptyParagraphsAreLines)
               TestItem(QStringLiteral("a\nb")).boundingRect().height());
 }
 
-TEST(TextItemShown, TheLineLimitCutsTheRectangle)
+TEST(TextItemLineLimit, ReducesTheBoundingRect)
 {
     TestItem item(QStringLiteral("a\nb\nc"));
     const QRectF all = item.boundingRect();
@@ -112,7 +112,7 @@ TEST(TextItemShown, TheLineLimitCutsTheRectangle)
     EXPECT_EQ(item.toPlainText(), QStringLiteral("a\nb\nc"));
 }
 
-TEST(TextItemShown, NoLineLimitByZeroAndLess)
+TEST(TextItemLineLimit, IsOffWhenZeroOrNegative)
 {
     TestItem item(QStringLiteral("a\nb\nc"));
     for (int limit : {0, -1, std::numeric_limits<int>::min()}) {
@@ -122,7 +122,7 @@ TEST(TextItemShown, NoLineLimitByZeroAndLess)
     }
 }
 
-TEST(TextItemShown, ALimitBeyondTheTextChangesNothing)
+TEST(TextItemLineLimit, HasNoEffectWhenTheTextIsShorter)
 {
     TestItem item(QStringLiteral("a\nb"));
     const QRectF all = item.boundingRect();
@@ -130,9 +130,9 @@ TEST(TextItemShown, ALimitBeyondTheTextChangesNothing)
     EXPECT_EQ(item.boundingRect(), all);
 }
 
-class TextItemNoWidth : public testing::TestWithParam<qreal> { };
+class TextItemInvalidWidth : public testing::TestWithParam<qreal> { };
 
-TEST_P(TextItemNoWidth, BringsBackTheNaturalWidth)
+TEST_P(TextItemInvalidWidth, RestoresTheNaturalWidth)
 {
     TestItem item(threeWords);
     const QRectF natural = item.boundingRect();
@@ -142,12 +142,12 @@ TEST_P(TextItemNoWidth, BringsBackTheNaturalWidth)
     EXPECT_EQ(item.textWidth(), -1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Widths, TextItemNoWidth,
+INSTANTIATE_TEST_SUITE_P(Values, TextItemInvalidWidth,
                          testing::Values(-1.0, -1e300, std::numeric_limits<qreal>::quiet_NaN(),
                                          std::numeric_limits<qreal>::infinity(),
                                          -std::numeric_limits<qreal>::infinity()));
 
-TEST(TextItemWithoutRoom, IsAsHighAsItsLineAndShowsNothing)
+TEST(TextItemZeroWidth, KeepsTheHeightAndShowsNothing)
 {
     TestItem item(threeWords);
     const QRectF natural = item.boundingRect();
@@ -158,7 +158,7 @@ TEST(TextItemWithoutRoom, IsAsHighAsItsLineAndShowsNothing)
     EXPECT_EQ(item.toPlainText(), threeWords);
 }
 
-TEST(TextItemWithoutRoom, GetsItBackWithAnyOtherWidth)
+TEST(TextItemZeroWidth, EndsWithAnyOtherWidth)
 {
     TestItem item(threeWords);
     const QRectF natural = item.boundingRect();
@@ -173,7 +173,7 @@ TEST(TextItemWithoutRoom, GetsItBackWithAnyOtherWidth)
     EXPECT_FALSE(Ink(item).Rect().isEmpty());
 }
 
-TEST(TextItemEdges, CutWhatIsWiderThanTheItem)
+TEST(TextItemEdges, ClipLinesThatAreTooWide)
 {
     TestItem item(QStringLiteral("WWWWWWWW"));
     item.SetWrapMode(QTextOption::NoWrap);
@@ -184,7 +184,7 @@ TEST(TextItemEdges, CutWhatIsWiderThanTheItem)
     EXPECT_GT(ink.right(), 45);
 }
 
-TEST(TextItemWidth, AHugeOneIsCutToWhatTheEngineCanCount)
+TEST(TextItemWidth, HasAMaximum)
 {
     TestItem item(threeWords);
     item.SetFixedItemWidth(1e300);
@@ -193,7 +193,7 @@ TEST(TextItemWidth, AHugeOneIsCutToWhatTheEngineCanCount)
     EXPECT_GT(item.boundingRect().width(), 1e5);
 }
 
-TEST(TextItemWidth, ATinyOneStillShowsTheText)
+TEST(TextItemWidth, MayBeSmallerThanAPixel)
 {
     TestItem item(threeWords);
     item.SetFixedItemWidth(0.001);
@@ -216,10 +216,10 @@ std::string rowName(const testing::TestParamInfo<NamedText>& info)
     return info.param.name;
 }
 
-// A text must not wrap in the very width it asked for.
+// A text must not wrap at its own natural width.
 class TextItemNaturalWidth : public testing::TestWithParam<NamedText> { };
 
-TEST_P(TextItemNaturalWidth, IsEnoughForTheTextOnOneLine)
+TEST_P(TextItemNaturalWidth, FitsTheTextOnOneLine)
 {
     for (bool italic : {false, true}) {
         TestItem item(QString::fromUtf8(GetParam().text));
@@ -253,7 +253,7 @@ TEST(TextItemText, IsInsertedAtTheEndOrAtTheStart)
     EXPECT_EQ(item.toPlainText(), QStringLiteral("abc"));
 }
 
-TEST(TextItemText, IsNeverTakenForHtml)
+TEST(TextItemText, IsNeverReadAsHtml)
 {
     const QString html = QStringLiteral("<b>&amp;</b><br/><img src=\"x\">");
     const TestItem item(html);
@@ -269,7 +269,7 @@ TEST(TextItemText, IsReplacedBySetPlainText)
     EXPECT_EQ(item.ShownLineCount(), 2);
 }
 
-TEST(TextItemText, IsAllThatClearTextRemoves)
+TEST(TextItemClearText, KeepsFontWidthAndFrameFormat)
 {
     TestItem item(threeWords);
     const QFont font = item.font();
@@ -287,7 +287,7 @@ TEST(TextItemText, IsAllThatClearTextRemoves)
     EXPECT_EQ(item.boundingRect().top(), 30);
 }
 
-TEST(TextItemText, DoesNotPassTheFormatOfRemovedTextOn)
+TEST(TextItemClearText, RemovesTheFormatsOfTheText)
 {
     QTextCharFormat big;
     big.setFontPointSize(60);
@@ -304,7 +304,7 @@ TEST(TextItemText, DoesNotPassTheFormatOfRemovedTextOn)
     EXPECT_EQ(item.boundingRect(), TestItem(QStringLiteral("\na")).boundingRect());
 }
 
-TEST(TextItemText, OfUnusualCharactersDoesNoHarm)
+TEST(TextItemText, MayContainUnusualCharacters)
 {
     const QChar nul(0);
     const QChar highSurrogate(0xD83D);
@@ -325,11 +325,11 @@ TEST(TextItemText, OfUnusualCharactersDoesNoHarm)
     }
 }
 
-TEST(TextItemFormats, OfASpanOverrideTheFont)
+TEST(TextItemFormats, OverrideTheFontOfTheItem)
 {
     QTextCharFormat big;
     QFont bigFont = TestItem().font();
-    bigFont.setPixelSize(3 * pixelSize);
+    bigFont.setPixelSize(3 * kPixelSize);
     big.setFont(bigFont);
     TestItem item(QStringLiteral("small "));
     const QRectF small = item.boundingRect();
@@ -337,17 +337,17 @@ TEST(TextItemFormats, OfASpanOverrideTheFont)
     EXPECT_NEAR(item.boundingRect().height(), 3 * small.height(), 3);
 }
 
-TEST(TextItemFormats, TextWithoutOneFollowsTheFont)
+TEST(TextItemFont, AppliesToTextWithoutAFormat)
 {
     TestItem item(threeWords);
     const QRectF before = item.boundingRect();
     QFont font = item.font();
-    font.setPixelSize(2 * pixelSize);
+    font.setPixelSize(2 * kPixelSize);
     item.setFont(font);
     EXPECT_NEAR(item.boundingRect().width(), 2 * before.width(), 2);
 }
 
-TEST(TextItemWrapMode, NoWrapKeepsTheLine)
+TEST(TextItemWrapMode, DecidesWhetherLinesWrap)
 {
     TestItem item(threeWords);
     item.SetFixedItemWidth(oneWordWidth(item));
@@ -357,7 +357,7 @@ TEST(TextItemWrapMode, NoWrapKeepsTheLine)
     EXPECT_EQ(item.ShownLineCount(), 3);
 }
 
-TEST(TextItemWrapMode, UnknownOnesChangeNothing)
+TEST(TextItemWrapMode, IgnoresUnknownValues)
 {
     TestItem item(threeWords);
     item.SetFixedItemWidth(oneWordWidth(item));
@@ -367,7 +367,7 @@ TEST(TextItemWrapMode, UnknownOnesChangeNothing)
               QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
-TEST(TextItemDocument, AFrameMarginMovesTheTextDown)
+TEST(TextItemDocument, MovesTheTextDownByItsFrameMargin)
 {
     TestItem item(threeWords);
     const QRectF before = item.boundingRect();
@@ -411,7 +411,7 @@ TEST(TextItemDocument, IsLaidOutOnceWhenSpansAreInsertedFirst)
     for (int i = 0; i < 10; ++i)
         item.InsertRichText(threeWords, true);
     int layouts = 0;
-    // Asking for the layout makes it, and lays the text out for the first time.
+    // documentLayout() creates the layout and lays out the text for the first time.
     QObject::connect(item.document()->documentLayout(), &QAbstractTextDocumentLayout::update,
                      [&layouts] { ++layouts; });
     item.boundingRect();
@@ -425,7 +425,7 @@ TEST(TextItemDocument, IsLaidOutOnceWhenSpansAreInsertedFirst)
     EXPECT_EQ(layouts, 3);
 }
 
-TEST(TextItemProperties, TellWhatIsShown)
+TEST(TextItemProperties, ReturnWhatIsShown)
 {
     TestItem item(QStringLiteral("one\ntwo\nthree"));
     item.SetMaxLineCount(2);
@@ -436,17 +436,17 @@ TEST(TextItemProperties, TellWhatIsShown)
     EXPECT_EQ(item.property("font").value<QFont>(), item.font());
 }
 
-TEST(TextItemLayoutItem, WishesForItsHeightOnly)
+TEST(TextItemLayoutItem, HintsItsHeightOnly)
 {
     TestItem item(threeWords);
-    const QSizeF wish(-1, item.boundingRect().height());
-    EXPECT_EQ(item.sizeHint(Qt::MinimumSize), wish);
-    EXPECT_EQ(item.sizeHint(Qt::PreferredSize), wish);
-    EXPECT_EQ(item.sizeHint(Qt::MaximumSize), wish);
+    const QSizeF hint(-1, item.boundingRect().height());
+    EXPECT_EQ(item.sizeHint(Qt::MinimumSize), hint);
+    EXPECT_EQ(item.sizeHint(Qt::PreferredSize), hint);
+    EXPECT_EQ(item.sizeHint(Qt::MaximumSize), hint);
     EXPECT_EQ(item.sizeHint(Qt::MinimumDescent), QSizeF(-1, -1));
 }
 
-TEST(TextItemLayoutItem, ForgetsOldWishesWhenTheTextChanges)
+TEST(TextItemLayoutItem, UpdatesItsHintWhenTheTextChanges)
 {
     TestItem item(QStringLiteral("a"));
     const qreal oneLine = item.effectiveSizeHint(Qt::PreferredSize).height();
@@ -454,7 +454,7 @@ TEST(TextItemLayoutItem, ForgetsOldWishesWhenTheTextChanges)
     EXPECT_GT(item.effectiveSizeHint(Qt::PreferredSize).height(), oneLine);
 }
 
-TEST(TextItemLayoutItem, IsMovedToItsGeometry)
+TEST(TextItemLayoutItem, MovesToItsGeometry)
 {
     TestItem item(threeWords);
     const QRectF shown = item.boundingRect();
@@ -471,27 +471,27 @@ TEST(TextItemLayoutItem, IsTheGraphicsItemOfItself)
     EXPECT_EQ(qobject_cast<QGraphicsLayoutItem*>(&item), static_cast<QGraphicsLayoutItem*>(&item));
 }
 
-TEST(TextItemScene, FindsTheItemWhereItsTextIsNow)
+TEST(TextItemScene, FindsTheItemWhereItsTextIs)
 {
     QGraphicsScene scene(-1000, -1000, 2000, 2000);
     auto* const item = new TestItem(QStringLiteral("a"));
     scene.addItem(item);
-    // Enough items for the scene to keep them by place.
+    // Enough items to make the scene use its index.
     for (int i = 0; i < 400; ++i)
         scene.addRect(QRectF(-900 + 4 * i, -500, 3, 3));
-    const QPointF later(2, 30 * item->boundingRect().height());
+    const QPointF laterLine(2, 30 * item->boundingRect().height());
     QApplication::processEvents();
-    ASSERT_FALSE(scene.items(later).contains(item));
+    ASSERT_FALSE(scene.items(laterLine).contains(item));
     item->InsertRichText(QStringLiteral("\nb").repeated(40), true);
     QApplication::processEvents();
-    EXPECT_TRUE(scene.items(later).contains(item));
-    EXPECT_TRUE(item->shape().contains(later));
-    EXPECT_TRUE(item->contains(later));
+    EXPECT_TRUE(scene.items(laterLine).contains(item));
+    EXPECT_TRUE(item->shape().contains(laterLine));
+    EXPECT_TRUE(item->contains(laterLine));
     item->SetMaxLineCount(1);
     QApplication::processEvents();
-    EXPECT_FALSE(scene.items(later).contains(item));
-    EXPECT_FALSE(item->shape().contains(later));
-    EXPECT_FALSE(item->contains(later));
+    EXPECT_FALSE(scene.items(laterLine).contains(item));
+    EXPECT_FALSE(item->shape().contains(laterLine));
+    EXPECT_FALSE(item->contains(laterLine));
 }
 
 class PaintCounter : public TestItem {
@@ -516,7 +516,7 @@ private:
     int paints_ = 0;
 };
 
-TEST(TextItemScene, PaintsTheItemWhenItsLooksChangeAndOnlyThen)
+TEST(TextItemScene, RepaintsTheItemOnlyWhenItLooksDifferent)
 {
     QGraphicsScene scene(0, 0, 300, 300);
     PaintCounter item(QStringLiteral("aa"));
@@ -547,7 +547,7 @@ TEST(TextItemScene, PaintsTheItemWhenItsLooksChangeAndOnlyThen)
     EXPECT_FALSE(item.IsPainted());
 }
 
-TEST(TextItemScene, PaintsACachedItemAnewWhenItsTextChanges)
+TEST(TextItemScene, RepaintsACachedItemWhenItsTextChanges)
 {
     QGraphicsScene scene(0, 0, 300, 300);
     PaintCounter item(QStringLiteral("ab"));
