@@ -108,8 +108,8 @@ public:
 
     QString PlainText() const;
 
-    // Whether all of `text` can be shown in addition to the present text.
-    bool HasRoomFor(const QString& text) const;
+    // Whether all of `text` can be inserted without exceeding the display limit.
+    bool IsWithinDisplayLimit(const QString& text) const;
 
     void UseApplicationFontFamily();
 
@@ -139,7 +139,7 @@ public:
     QColor mentionColor = kDefaultMentionColor;
     int maxLineCount = 0;
     bool elide = false;
-    bool hasNoRoom = false;
+    bool hasZeroWidth = false;
     bool readOnly = true;
     bool markupEnabled = false;
     bool hasMentions = false;
@@ -147,7 +147,7 @@ public:
     QBrush highlightBrush;
     bool isHighlightValid = true;
     // The id of the mention on which the left button was pressed.
-    std::optional<int> pressedMention;
+    std::optional<int> pressedMentionId;
 
 private:
     void WatchLayout();
@@ -274,7 +274,7 @@ QString TextItem::Private::PlainText() const
     return (hasPictures_ ? kestro::PlainTextOf(document) : document.toPlainText()) + hiddenText_;
 }
 
-bool TextItem::Private::HasRoomFor(const QString& text) const
+bool TextItem::Private::IsWithinDisplayLimit(const QString& text) const
 {
     return hiddenText_.isEmpty() && DisplayBudget(budget_).Spend(text) == text.size();
 }
@@ -335,18 +335,18 @@ void TextItem::Private::Press(QGraphicsSceneMouseEvent* event)
 {
     const std::optional<Mention> mention = MentionAt(event->pos());
     if (event->button() == Qt::LeftButton && mention)
-        pressedMention = mention->id;
+        pressedMentionId = mention->id;
     else
         event->ignore();
 }
 
 void TextItem::Private::Release(QGraphicsSceneMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton || !pressedMention) {
+    if (event->button() != Qt::LeftButton || !pressedMentionId) {
         event->ignore();
         return;
     }
-    const int pressed = *std::exchange(pressedMention, std::nullopt);
+    const int pressed = *std::exchange(pressedMentionId, std::nullopt);
     const std::optional<Mention> mention = MentionAt(event->pos());
     if (!mention || mention->id != pressed)
         return;
@@ -428,7 +428,7 @@ TextItem::~TextItem()
 void TextItem::InsertRichText(const QString& text, bool append, const QTextCharFormat* format)
 {
     QString earlierText;
-    if (!append && !private_->HasRoomFor(text)) {
+    if (!append && !private_->IsWithinDisplayLimit(text)) {
         earlierText = toPlainText();
         ClearText();
     }
@@ -543,7 +543,7 @@ void TextItem::SetFixedItemWidth(qreal width)
     if (newWidth == textWidth())
         return;
     private_->Invalidate();
-    private_->hasNoRoom = newWidth == 0;
+    private_->hasZeroWidth = newWidth == 0;
     if (DocumentWidth(newWidth) != private_->document.textWidth())
         private_->document.setTextWidth(DocumentWidth(newWidth));
 }
@@ -555,12 +555,12 @@ void TextItem::setTextWidth(qreal width)
 
 qreal TextItem::textWidth() const
 {
-    return private_->hasNoRoom ? 0 : private_->document.textWidth();
+    return private_->hasZeroWidth ? 0 : private_->document.textWidth();
 }
 
 void TextItem::adjustSize()
 {
-    if (private_->hasNoRoom)
+    if (private_->hasZeroWidth)
         SetFixedItemWidth(kNaturalWidth);
     private_->document.adjustSize();
 }
@@ -650,7 +650,7 @@ QRectF TextItem::boundingRect() const
     if (!IsReadOnly())
         return QGraphicsTextItem::boundingRect();
     QRectF rect = private_->Shown().BoundingRect();
-    if (private_->hasNoRoom)
+    if (private_->hasZeroWidth)
         rect.setWidth(0);
     return rect;
 }
@@ -703,7 +703,7 @@ void TextItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
 
 void TextItem::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
 {
-    IsReadOnly() ? event->setAccepted(private_->pressedMention.has_value())
+    IsReadOnly() ? event->setAccepted(private_->pressedMentionId.has_value())
                  : QGraphicsTextItem::mouseMoveEvent(event);
 }
 
