@@ -6,6 +6,10 @@ readonly PLIX_PACKAGES=(
     qtbase5-dev libjsoncpp-dev libgtest-dev
     fonts-dejavu-core fonts-dejavu-extra fonts-noto-cjk fonts-noto-color-emoji)
 
+# What only the benchmarks need.
+readonly PLIX_BENCH_PACKAGES=(
+    libbenchmark-dev qtdeclarative5-dev qml-module-qtquick2 qml-module-qtquick-layouts)
+
 say() { printf '%s\n' "$*" >&2; }
 
 # Prints those of the named packages that are not installed.

@@ -1,0 +1,59 @@
+#include "ElementReader.h"
+
+#include "RecordingDevice.h"
+#include "TextReader.h"
+
+#include <QGraphicsObject>
+#include <QVariant>
+
+namespace bench {
+namespace {
+
+// Only the bubble cuts itself to its outline; what it fills is as round.
+std::vector<PaintedFill> fillsOf(const QGraphicsItem& item, const PaintRecord& record)
+{
+    std::vector<PaintedFill> fills = record.fills;
+    if (item.flags() & QGraphicsItem::ItemClipsToShape) {
+        for (PaintedFill& fill : fills)
+            fill.path = item.shape();
+    }
+    return fills;
+}
+
+std::optional<Picture> pictureOf(const QGraphicsObject& item, const PaintRecord& record)
+{
+    const QString file = item.property("pictureFile").toString();
+    if (file.isEmpty() || record.pictures.empty())
+        return std::nullopt;
+    return Picture {file, record.pictures.front()};
+}
+
+void readChildren(const QGraphicsItem& item, Element& element)
+{
+    std::vector<QRectF> rects;
+    for (QGraphicsItem* child : item.childItems()) {
+        if (!child->isVisible())
+            continue;
+        element.children.push_back(readElement(*child));
+        rects.push_back(element.children.back().rect);
+    }
+    element.flow = flowOf(element.rect.size(), rects);
+}
+
+} // namespace
+
+Element readElement(QGraphicsItem& card)
+{
+    Element element;
+    element.rect = card.mapRectToParent(card.boundingRect());
+    const PaintRecord record = recordPaint(card);
+    element.fills = fillsOf(card, record);
+    if (const QGraphicsObject* object = card.toGraphicsObject()) {
+        element.text = readText(*object, record);
+        element.picture = pictureOf(*object, record);
+    }
+    readChildren(card, element);
+    return element;
+}
+
+} // namespace bench

@@ -1,0 +1,33 @@
+#include "ExampleCards.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace bench {
+namespace {
+
+Card readCard(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(path));
+    return {"example/" + QFileInfo(path).completeBaseName().toStdString(),
+            file.readAll().toStdString()};
+}
+
+} // namespace
+
+std::vector<Card> exampleCards(const QString& folder)
+{
+    const QDir directory(folder);
+    std::vector<Card> cards;
+    for (const QString& name :
+         directory.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name))
+        cards.push_back(readCard(directory.filePath(name)));
+    if (cards.empty())
+        qFatal("There are no cards in %s", qPrintable(folder));
+    return cards;
+}
+
+} // namespace bench

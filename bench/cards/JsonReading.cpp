@@ -1,0 +1,15 @@
+#include "JsonReading.h"
+
+#include <json/json.h>
+
+namespace bench {
+
+void parseJson(const std::string& text)
+{
+    constexpr bool collectComments = false;
+    Json::Value value;
+    if (!Json::Reader().parse(text, value, collectComments))
+        std::terminate();
+}
+
+} // namespace bench
