@@ -13,6 +13,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QDir>
 #include <QGraphicsItem>
 #include <QRegularExpression>
 
@@ -74,19 +75,19 @@ void CardBench::addAlternatives()
     ways_.push_back(std::make_unique<LabelWay>(card_, content_));
 }
 
-CardResult CardBench::measure(int rounds)
+CardResult CardBench::measure(int rounds, const QString& pictureFolder)
 {
     CardResult result {card_.name, countOf(content_), {}};
     for (const auto& way : ways_)
         result.ways.push_back({way->name(), {}, {}, 0});
-    check(result);
+    check(result, pictureFolder);
     for (std::size_t i = 0; i < ways_.size(); ++i)
         result.ways[i].memory = weighLife(*ways_[i]);
     takeTimes(rounds, result);
     return result;
 }
 
-void CardBench::check(CardResult& result)
+void CardBench::check(CardResult& result, const QString& pictureFolder)
 {
     QImage ourPicture;
     for (std::size_t i = 0; i < ways_.size(); ++i) {
@@ -97,11 +98,28 @@ void CardBench::check(CardResult& result)
         }
         if (i == 0)
             ourPicture = way.picture();
-        if (!haveSameTexts(textsOf(content_), way.texts()))
-            qFatal("%s shows other texts of %s", way.name(), card_.name.c_str());
+        checkTexts(way);
         result.ways[i].pictureDifference = pictureDifference(ourPicture, way.picture());
+        if (!pictureFolder.isEmpty())
+            savePicture(way, pictureFolder);
         way.run(Step::Delete);
     }
+}
+
+void CardBench::checkTexts(const Way& way) const
+{
+    if (!haveSameTexts(textsOf(content_), way.texts()))
+        qFatal("%s: %s shows other texts", card_.name.c_str(), way.name());
+}
+
+void CardBench::savePicture(const Way& way, const QString& folder) const
+{
+    QString card = QString::fromStdString(card_.name);
+    card.replace(QLatin1Char('/'), QLatin1Char('_'));
+    const QString path =
+        QStringLiteral("%1/%2_%3.png").arg(folder, card, QLatin1String(way.name()));
+    if (!QDir().mkpath(folder) || !way.picture().save(path))
+        qFatal("%s cannot be written", qPrintable(path));
 }
 
 void CardBench::takeTimes(int rounds, CardResult& result)

@@ -24,12 +24,14 @@ public:
     void addAlternatives();
 
     // Checks that all ways show the same, weighs them, and takes their times in
-    // turn, `rounds` times.
-    CardResult measure(int rounds);
+    // turn, `rounds` times. Their pictures go to a folder, unless it is empty.
+    CardResult measure(int rounds, const QString& pictureFolder);
 
 private:
     void readContent();
-    void check(CardResult& result);
+    void check(CardResult& result, const QString& pictureFolder);
+    void checkTexts(const Way& way) const;
+    void savePicture(const Way& way, const QString& folder) const;
     void takeTimes(int rounds, CardResult& result);
 
     const CardHost& host_;

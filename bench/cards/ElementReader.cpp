@@ -9,13 +9,17 @@
 namespace bench {
 namespace {
 
-// Only the bubble cuts itself to its outline; what it fills is as round.
+// The bubble fills a rectangle and cuts itself to its outline: by hand, the
+// outline is filled.
 std::vector<PaintedFill> fillsOf(const QGraphicsItem& item, const PaintRecord& record)
 {
     std::vector<PaintedFill> fills = record.fills;
-    if (item.flags() & QGraphicsItem::ItemClipsToShape) {
-        for (PaintedFill& fill : fills)
-            fill.path = item.shape();
+    if (!(item.flags() & QGraphicsItem::ItemClipsToShape))
+        return fills;
+    const QPainterPath shape = item.shape();
+    for (PaintedFill& fill : fills) {
+        if (shape.elementCount() > fill.path.elementCount())
+            fill.path = shape;
     }
     return fills;
 }

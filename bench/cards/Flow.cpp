@@ -64,6 +64,7 @@ Flow flowOf(const QSizeF& size, const std::vector<QRectF>& rects)
     qreal end = 0;
     for (const QRectF& rect : column) {
         Flow::Place place = placeOf(rect, end, columnSize, paddings);
+        flow.isPile = flow.isPile || place.top < -tolerance;
         if (flow.isRow)
             std::swap(place.left, place.top);
         flow.places.push_back(place);

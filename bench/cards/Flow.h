@@ -18,6 +18,8 @@ struct Flow {
     };
 
     bool isRow = false;
+    // They lie on each other, so that neither a row nor a column has them.
+    bool isPile = false;
     QMarginsF paddings;
     std::vector<Place> places;
 };

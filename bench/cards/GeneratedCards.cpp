@@ -51,14 +51,14 @@ Card boxes(int count)
 // A row is five elements: the box and four texts.
 Card rows(int count)
 {
-    const std::string row = box("horizontal", repeated(text("Juice"), 4));
+    const std::string row = box("horizontal", repeated(text("Dinner"), 4));
     return {"rows/" + std::to_string(count), column(repeated(row, count / 5))};
 }
 
 // Rows and columns in turn, the body among them.
 Card nestedBoxes(int levels)
 {
-    std::string content = text("Juice");
+    std::string content = text("Dinner");
     for (int level = levels; level > 0; --level)
         content = box(level % 2 == 1 ? "vertical" : "horizontal", content);
     return {"nested/" + std::to_string(levels), bubble("mega", content)};

@@ -3,7 +3,7 @@
 #include "BoxLook.h"
 #include "Element.h"
 
-#include <QUrl>
+#include <utility>
 
 namespace bench {
 namespace {
@@ -33,50 +33,64 @@ QString alignmentName(Qt::Alignment alignment)
     return alignment & Qt::AlignRight ? QStringLiteral("right") : QStringLiteral("left");
 }
 
+// A free width at both sides.
+struct Indent {
+    qreal left = 0;
+    qreal right = 0;
+};
+
+QString styleOf(const Indent& indent, qreal above)
+{
+    return QStringLiteral("margin-left:%1px;margin-right:%2px;margin-top:%3px;")
+        .arg(number(indent.left), number(indent.right), number(above));
+}
+
+QString backgroundOf(const Element& element)
+{
+    const QColor color = lookOf(element).color;
+    return color.isValid() ? QStringLiteral("background-color:%1;").arg(color.name()) : QString();
+}
+
 class HtmlWriter {
 public:
-    // With a free height above it.
-    void write(const Element& element, qreal above);
+    void write(const Element& element, const Indent& indent);
 
     QString takeHtml() { return std::move(html_); }
 
 private:
-    void writeText(const Element& element, qreal above);
+    void writeText(const Element& element, const Indent& indent);
     void writeSpans(const Text& text);
-    void writePicture(const Element& element, qreal above);
-    void writeBox(const Element& element, qreal above);
-    void writeRow(const Element& element);
-    void writeColumn(const Element& element);
-    void writeGround(const Element& element, qreal above);
-
+    void writePicture(const Element& element, const Indent& indent);
+    void writeLeaf(const Element& element, const Indent& indent);
+    void writeColumn(const Element& element, const Indent& indent);
+    void writeTable(const Element& element, const Indent& indent);
+    void writeCells(const Element& row);
     QString html_;
+    // The free height above what comes next.
+    qreal above_ = 0;
 };
 
-bool isFree(const Element& element)
-{
-    return element.children.empty() && !element.text && !element.picture
-        && !lookOf(element).color.isValid();
-}
-
-void HtmlWriter::write(const Element& element, qreal above)
+void HtmlWriter::write(const Element& element, const Indent& indent)
 {
     if (element.text)
-        writeText(element, above);
+        writeText(element, indent);
     else if (element.picture)
-        writePicture(element, above);
-    else if (!element.children.empty())
-        writeBox(element, above);
+        writePicture(element, indent);
+    else if (element.children.empty())
+        writeLeaf(element, indent);
+    else if (element.flow.isRow || lookOf(element).color.isValid())
+        writeTable(element, indent);
     else
-        writeGround(element, above);
+        writeColumn(element, indent);
 }
 
-void HtmlWriter::writeText(const Element& element, qreal above)
+void HtmlWriter::writeText(const Element& element, const Indent& indent)
 {
     const Text& text = *element.text;
-    html_ += QStringLiteral("<p align=%1 style=\"margin-top:%2px;white-space:%3;%4\">")
-                 .arg(alignmentName(text.alignment), number(above),
+    html_ += QStringLiteral("<p align=%1 style=\"%2white-space:%3;%4%5\">")
+                 .arg(alignmentName(text.alignment), styleOf(indent, std::exchange(above_, 0)),
                       text.lineCount > 1 ? QStringLiteral("pre-wrap") : QStringLiteral("pre"),
-                      cssOf(text.font, text.color));
+                      backgroundOf(element), cssOf(text.font, text.color));
     writeSpans(text);
     html_ += QStringLiteral("</p>");
 }
@@ -95,74 +109,69 @@ void HtmlWriter::writeSpans(const Text& text)
     html_ += escaped(text.shown.mid(end));
 }
 
-void HtmlWriter::writePicture(const Element& element, qreal above)
+void HtmlWriter::writePicture(const Element& element, const Indent& indent)
 {
     const QRectF& target = element.picture->painted.target;
-    html_ += QStringLiteral("<p style=\"margin-top:%1px;margin-left:%2px\">"
-                            "<img src=\"%3\" width=%4 height=%5></p>")
-                 .arg(number(above + target.y()), number(target.x()), element.picture->file,
+    const Indent inside {indent.left + target.x(), indent.right};
+    html_ += QStringLiteral("<p style=\"%1\"><img src=\"%2\" width=%3 height=%4></p>")
+                 .arg(styleOf(inside, std::exchange(above_, 0) + target.y()), element.picture->file,
                       number(target.width()), number(target.height()));
 }
 
-// A paragraph as high as the element.
-void HtmlWriter::writeGround(const Element& element, qreal above)
+// Free height, or a paragraph with a background that is as high.
+void HtmlWriter::writeLeaf(const Element& element, const Indent& indent)
 {
-    const BoxLook look = lookOf(element);
-    if (!look.color.isValid())
+    const QString background = backgroundOf(element);
+    if (background.isEmpty()) {
+        above_ += element.rect.height();
         return;
-    html_ += QStringLiteral("<p style=\"margin-top:%1px;font-size:1px;line-height:%2px;"
-                            "background-color:%3\">&#160;</p>")
-                 .arg(number(above), number(element.rect.height()), look.color.name());
+    }
+    html_ += QStringLiteral("<p style=\"%1%2font-size:1px\"><img width=1 height=%3></p>")
+                 .arg(styleOf(indent, std::exchange(above_, 0)), background,
+                      number(element.rect.height()));
 }
 
-void HtmlWriter::writeBox(const Element& element, qreal above)
-{
-    const BoxLook look = lookOf(element);
-    const QString ground =
-        look.color.isValid() ? QStringLiteral(" bgcolor=") + look.color.name() : QString();
-    html_ += QStringLiteral("<table cellspacing=0 cellpadding=0 width=%1 style=\"margin-top:%2px\""
-                            "%3><tr>")
-                 .arg(number(element.rect.width()), number(above), ground);
-    if (element.flow.isRow)
-        writeRow(element);
-    else
-        writeColumn(element);
-    html_ += QStringLiteral("</tr></table>");
-}
-
-void HtmlWriter::writeRow(const Element& element)
+// Nothing but what is in it: tables inside of tables take long.
+void HtmlWriter::writeColumn(const Element& element, const Indent& indent)
 {
     const QMarginsF& paddings = element.flow.paddings;
     for (std::size_t i = 0; i < element.children.size(); ++i) {
         const Flow::Place& place = element.flow.places[i];
-        const Element& child = element.children[i];
-        html_ += QStringLiteral("<td width=%1 style=\"padding-left:%2px;padding-bottom:%3px\">")
-                     .arg(number(place.left + child.rect.width()), number(place.left),
-                          number(paddings.bottom()));
-        write(child, paddings.top() + place.top);
-        html_ += QStringLiteral("</td>");
+        above_ += place.top;
+        write(element.children[i],
+              {indent.left + paddings.left() + place.left, indent.right + paddings.right()});
     }
-    html_ += QStringLiteral("<td></td>");
+    above_ += paddings.bottom();
 }
 
-void HtmlWriter::writeColumn(const Element& element)
+void HtmlWriter::writeTable(const Element& element, const Indent& indent)
 {
-    const QMarginsF& paddings = element.flow.paddings;
-    html_ +=
-        QStringLiteral("<td style=\"padding-left:%1px;padding-right:%2px;padding-bottom:%3px\">")
-            .arg(number(paddings.left()), number(paddings.right()), number(paddings.bottom()));
-    qreal above = 0;
-    for (std::size_t i = 0; i < element.children.size(); ++i) {
-        const Element& child = element.children[i];
-        above += element.flow.places[i].top;
-        if (isFree(child)) {
-            above += child.rect.height();
-            continue;
-        }
-        write(child, above);
-        above = 0;
+    html_ += QStringLiteral("<table cellspacing=0 cellpadding=0 width=%1 style=\"%2%3\"><tr>")
+                 .arg(number(element.rect.width()), styleOf(indent, std::exchange(above_, 0)),
+                      backgroundOf(element));
+    if (element.flow.isRow) {
+        writeCells(element);
+    } else {
+        html_ += QStringLiteral("<td>");
+        writeColumn(element, {});
+        html_ += QStringLiteral("</td>");
+        // Paddings at the end go to what is below the table.
     }
-    html_ += QStringLiteral("</td>");
+    html_ += QStringLiteral("</tr></table>");
+}
+
+void HtmlWriter::writeCells(const Element& row)
+{
+    const QMarginsF& paddings = row.flow.paddings;
+    for (std::size_t i = 0; i < row.children.size(); ++i) {
+        const Flow::Place& place = row.flow.places[i];
+        const Element& child = row.children[i];
+        html_ += QStringLiteral("<td width=%1>").arg(number(place.left + child.rect.width()));
+        above_ = paddings.top() + place.top;
+        write(child, {place.left, 0});
+        html_ += QStringLiteral("</td>");
+    }
+    above_ = paddings.bottom();
 }
 
 } // namespace
@@ -170,7 +179,7 @@ void HtmlWriter::writeColumn(const Element& element)
 QString htmlOf(const Element& card)
 {
     HtmlWriter writer;
-    writer.write(card, 0);
+    writer.write(card, {});
     return writer.takeHtml();
 }
 

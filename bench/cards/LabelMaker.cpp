@@ -51,8 +51,21 @@ QString richText(const Text& text)
     return html + text.shown.mid(end).toHtmlEscaped();
 }
 
-std::unique_ptr<QGraphicsWidget> makeText(const Text& text)
+// A button.
+void showPlate(QLabel& label, const QColor& color, const QSize& size)
 {
+    QPalette palette = label.palette();
+    palette.setColor(QPalette::Window, color);
+    label.setPalette(palette);
+    label.setAttribute(Qt::WA_TranslucentBackground, false);
+    label.setAutoFillBackground(true);
+    label.setAlignment(Qt::AlignCenter);
+    label.setFixedSize(size);
+}
+
+std::unique_ptr<QGraphicsWidget> makeText(const Element& element)
+{
+    const Text& text = *element.text;
     std::unique_ptr<QLabel> label = makeLabel();
     label->setTextFormat(text.spans.empty() ? Qt::PlainText : Qt::RichText);
     label->setFont(text.font);
@@ -63,6 +76,9 @@ std::unique_ptr<QGraphicsWidget> makeText(const Text& text)
     const int width = qCeil(text.width);
     label->setFixedSize(
         width, text.lineCount > 1 ? label->heightForWidth(width) : label->sizeHint().height());
+    const BoxLook look = lookOf(element);
+    if (look.color.isValid())
+        showPlate(*label, look.color, element.rect.size().toSize());
     return proxyOf(std::move(label));
 }
 
@@ -114,9 +130,25 @@ QMarginsF marginsOf(const Flow& flow)
     return margins;
 }
 
+// Placed without a layout.
+void addPile(QGraphicsWidget& widget, const Element& element)
+{
+    for (const Element& child : element.children) {
+        QGraphicsWidget* item = makeLabels(child).release();
+        item->setParentItem(&widget);
+        item->setGeometry(child.rect);
+    }
+    widget.setMinimumSize(element.rect.size());
+    widget.setMaximumSize(element.rect.size());
+}
+
 std::unique_ptr<QGraphicsWidget> makeBox(const Element& element)
 {
     std::unique_ptr<QGraphicsWidget> widget = makeGround(element);
+    if (element.flow.isPile) {
+        addPile(*widget, element);
+        return widget;
+    }
     auto* layout = new QGraphicsLinearLayout(element.flow.isRow ? Qt::Horizontal : Qt::Vertical);
     layout->setSpacing(0);
     const QMarginsF margins = marginsOf(element.flow);
@@ -132,7 +164,7 @@ std::unique_ptr<QGraphicsWidget> makeBox(const Element& element)
 std::unique_ptr<QGraphicsWidget> makeLabels(const Element& element)
 {
     if (element.text)
-        return makeText(*element.text);
+        return makeText(element);
     if (element.picture)
         return makePicture(element);
     if (!element.children.empty())

@@ -41,7 +41,6 @@ LabelWay::LabelWay(const Card& card, const Element& content)
     on(Step::FirstPaint, [this] { paint(); });
     before(Step::RepaintScene, [this] { canvas_.clear(root_->size()); });
     on(Step::RepaintScene, [this] { paint(); });
-    on(Step::OtherWidth, [this] { setWidth(); });
     on(Step::Delete, [this] { root_.reset(); });
 }
 
@@ -54,7 +53,8 @@ void LabelWay::build()
 {
     root_ = makeLabels(content_);
     scene_->addItem(root_.get());
-    root_->layout()->activate();
+    if (root_->layout())
+        root_->layout()->activate();
     root_->resize(root_->effectiveSizeHint(Qt::PreferredSize));
 }
 
@@ -69,14 +69,6 @@ void LabelWay::paint()
     QPainter painter;
     canvas_.begin(painter);
     scene_->render(&painter, QRectF(QPointF(), root_->size()), root_->sceneBoundingRect());
-}
-
-void LabelWay::setWidth()
-{
-    constexpr qreal narrower = 0.9;
-    root_->setMinimumWidth(0);
-    root_->resize(root_->size().width() * narrower, root_->size().height());
-    root_->layout()->activate();
 }
 
 QStringList LabelWay::texts() const

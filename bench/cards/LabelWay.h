@@ -15,7 +15,8 @@ namespace bench {
 struct Card;
 struct Element;
 
-// QLabels in linear layouts of a graphics scene, through proxies.
+// QLabels in linear layouts of a graphics scene, through proxies. Their sizes are
+// set once: a proxy does not hand on how high a label is in another width.
 class LabelWay : public Way {
 public:
     // Both have to live longer.
@@ -29,7 +30,6 @@ private:
     void build();
     void makeReady();
     void paint();
-    void setWidth();
 
     const Element& content_;
     std::unique_ptr<QGraphicsScene> scene_;

@@ -28,6 +28,8 @@ void addOptions(QCommandLineParser& parser)
          QStringLiteral("folder"), QStringLiteral(PLIX_BENCH_EXAMPLES "/cards")},
         {QStringLiteral("images"), QStringLiteral("The folder of their pictures."),
          QStringLiteral("folder"), QStringLiteral(PLIX_BENCH_EXAMPLES "/images")},
+        {QStringLiteral("pictures"), QStringLiteral("Writes what each way paints to a folder."),
+         QStringLiteral("folder")},
         {QStringLiteral("count"), QStringLiteral("Reads and builds one card, for callgrind."),
          QStringLiteral("card")},
         {QStringLiteral("limit"), QStringLiteral("With --count: by hand instead.")},
@@ -54,6 +56,7 @@ Options readOptions()
     options.rounds =
         valueOr(parser, QStringLiteral("rounds"), isQuick ? quickRounds : allRounds).toInt();
     options.jsonFile = parser.value(QStringLiteral("json"));
+    options.pictureFolder = parser.value(QStringLiteral("pictures"));
     options.counted = parser.value(QStringLiteral("count"));
     options.countLimit = parser.isSet(QStringLiteral("limit"));
     if (options.rounds < 1)

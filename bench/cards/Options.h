@@ -12,6 +12,8 @@ struct Options {
     int rounds = 0;
     // Where the results go as JSON, too. Empty: nowhere.
     QString jsonFile;
+    // Where the picture of each way goes, to look at. Empty: nowhere.
+    QString pictureFolder;
     // The card whose reading and building callgrind counts. Empty: none.
     QString counted;
     // Counts what is built by hand instead.

@@ -56,10 +56,12 @@ public:
 
 private:
     void writeText(const Text& text, const QString& place);
+    void writePlate(const Element& element, const QString& place);
     void writePicture(const Element& element, const QString& place);
     void writeLeaf(const Element& element, const QString& place);
     void writeBox(const Element& element, const QString& place);
     void writeLayout(const Element& element, const QString& place);
+    void writePile(const Element& element, const QString& place);
 
     QString text_;
     int layouts_ = 0;
@@ -81,15 +83,22 @@ QString placeIn(const Flow& flow, std::size_t index, std::size_t count)
     const qreal top = place.top + (flow.isRow ? paddings.top() : 0);
     const qreal right = flow.isRow && !isLast ? 0 : paddings.right();
     const qreal bottom = flow.isRow || isLast ? paddings.bottom() : 0;
-    return QStringLiteral("Layout.alignment: Qt.AlignLeft | Qt.AlignTop; Layout.leftMargin: %1; "
-                          "Layout.topMargin: %2; Layout.rightMargin: %3; Layout.bottomMargin: %4; ")
-        .arg(number(left), number(top), number(right), number(bottom));
+    const QString width =
+        place.isStretched && !flow.isRow ? QStringLiteral("Layout.fillWidth: true; ") : QString();
+    return width
+        + QStringLiteral("Layout.alignment: Qt.AlignLeft | Qt.AlignTop; Layout.leftMargin: %1; "
+                         "Layout.topMargin: %2; Layout.rightMargin: %3; Layout.bottomMargin: %4; ")
+              .arg(number(left), number(top), number(right), number(bottom));
 }
 
 void QmlWriter::write(const Element& element, const QString& place)
 {
-    if (element.text)
-        writeText(*element.text, place);
+    if (element.text && lookOf(element).color.isValid())
+        writePlate(element, place);
+    else if (element.text)
+        writeText(
+            *element.text,
+            place + QStringLiteral("Layout.preferredWidth: %1; ").arg(number(element.text->width)));
     else if (element.picture)
         writePicture(element, place);
     else if (element.children.empty())
@@ -101,8 +110,8 @@ void QmlWriter::write(const Element& element, const QString& place)
 void QmlWriter::writeText(const Text& text, const QString& place)
 {
     const bool hasSpans = !text.spans.empty();
-    text_ += QStringLiteral("Text { %1Layout.preferredWidth: %2; horizontalAlignment: %3; ")
-                 .arg(place, number(text.width), alignmentName(text.alignment));
+    text_ += QStringLiteral("Text { %1horizontalAlignment: %2; ")
+                 .arg(place, alignmentName(text.alignment));
     text_ += QStringLiteral("font.family: %1; font.pixelSize: %2; font.bold: %3; font.italic: %4; ")
                  .arg(quoted(text.font.family()))
                  .arg(text.font.pixelSize())
@@ -113,6 +122,19 @@ void QmlWriter::writeText(const Text& text, const QString& place)
                       QLatin1String(hasSpans ? "Text.StyledText" : "Text.PlainText"),
                       QLatin1String(text.lineCount > 1 ? "Text.Wrap" : "Text.NoWrap"),
                       quoted(hasSpans ? spanMarkup(text) : text.shown));
+}
+
+// A button.
+void QmlWriter::writePlate(const Element& element, const QString& place)
+{
+    const BoxLook look = lookOf(element);
+    text_ += QStringLiteral("Rectangle { %1%2color: %3; radius: %4\n")
+                 .arg(place, sizeFor(element.rect.size()), quoted(look.color.name(QColor::HexArgb)),
+                      number(look.radius));
+    writeText(*element.text,
+              QStringLiteral("anchors.fill: parent; verticalAlignment: "
+                             "Text.AlignVCenter; "));
+    text_ += QStringLiteral("}\n");
 }
 
 void QmlWriter::writePicture(const Element& element, const QString& place)
@@ -156,8 +178,25 @@ void QmlWriter::writeBox(const Element& element, const QString& place)
     text_ += QStringLiteral("}\n");
 }
 
+void QmlWriter::writePile(const Element& element, const QString& place)
+{
+    text_ +=
+        QStringLiteral("Item { %1implicitHeight: %2\n").arg(place, number(element.rect.height()));
+    for (const Element& child : element.children) {
+        write(child,
+              QStringLiteral("x: %1; y: %2; width: %3; height: %4; ")
+                  .arg(number(child.rect.x()), number(child.rect.y()), number(child.rect.width()),
+                       number(child.rect.height())));
+    }
+    text_ += QStringLiteral("}\n");
+}
+
 void QmlWriter::writeLayout(const Element& element, const QString& place)
 {
+    if (element.flow.isPile) {
+        writePile(element, place);
+        return;
+    }
     text_ += QLatin1String(element.flow.isRow ? "RowLayout { " : "ColumnLayout { ") + place
         + QStringLiteral("spacing: 0\n");
     const std::size_t count = element.children.size();

@@ -66,7 +66,7 @@ void measure(const CardHost& host, const Options& options)
         bench.addCounterparts();
         if (hasAlternatives(card))
             bench.addAlternatives();
-        results.push_back(bench.measure(options.rounds));
+        results.push_back(bench.measure(options.rounds, options.pictureFolder));
         report.writeCard(results.back());
     }
     report.writeSummary(results);
