@@ -27,8 +27,9 @@ BoxLook lookOf(const Element& element)
     if (element.fills.empty())
         return {};
     const PaintedFill& fill = element.fills.front();
-    const QColor color = fill.brush.style() == Qt::NoBrush ? QColor() : fill.brush.color();
-    return {color, radiusOf(fill.path)};
+    const bool isBorder =
+        fill.brush.style() == Qt::NoBrush || !fill.path.contains(fill.path.boundingRect().center());
+    return isBorder ? BoxLook() : BoxLook {fill.brush.color(), radiusOf(fill.path)};
 }
 
 } // namespace bench

@@ -30,6 +30,8 @@ struct Text {
     Qt::Alignment alignment = Qt::AlignLeft;
     qreal width = 0;
     int lineCount = 0;
+    // Of a button, in the middle of its rectangle.
+    bool isLabel = false;
     // Of the first line, below the top of the element.
     qreal baseline = 0;
     std::vector<Span> spans;

@@ -3,6 +3,9 @@
 #include "BoxLook.h"
 #include "Element.h"
 
+#include <QFontMetricsF>
+
+#include <algorithm>
 #include <utility>
 
 namespace bench {
@@ -41,7 +44,7 @@ struct Indent {
 
 QString styleOf(const Indent& indent, qreal above)
 {
-    return QStringLiteral("margin-left:%1px;margin-right:%2px;margin-top:%3px;")
+    return QStringLiteral("margin:0;margin-left:%1px;margin-right:%2px;margin-top:%3px;")
         .arg(number(indent.left), number(indent.right), number(above));
 }
 
@@ -49,6 +52,12 @@ QString backgroundOf(const Element& element)
 {
     const QColor color = lookOf(element).color;
     return color.isValid() ? QStringLiteral("background-color:%1;").arg(color.name()) : QString();
+}
+
+QString cellOf(qreal width, qreal above, qreal below)
+{
+    return QStringLiteral("<td width=%1 style=\"padding-top:%2px;padding-bottom:%3px\">")
+        .arg(number(width), number(std::max(above, 0.0)), number(below));
 }
 
 class HtmlWriter {
@@ -59,11 +68,14 @@ public:
 
 private:
     void writeText(const Element& element, const Indent& indent);
+    void writeLabel(const Element& element, const Indent& indent);
     void writeSpans(const Text& text);
+    void beginTable(const Element& element, const Indent& indent);
     void writePicture(const Element& element, const Indent& indent);
     void writeLeaf(const Element& element, const Indent& indent);
     void writeColumn(const Element& element, const Indent& indent);
     void writeTable(const Element& element, const Indent& indent);
+    void writeCell(const Element& column);
     void writeCells(const Element& row);
     QString html_;
     // The free height above what comes next.
@@ -72,7 +84,9 @@ private:
 
 void HtmlWriter::write(const Element& element, const Indent& indent)
 {
-    if (element.text)
+    if (element.text && element.text->isLabel)
+        writeLabel(element, indent);
+    else if (element.text)
         writeText(element, indent);
     else if (element.picture)
         writePicture(element, indent);
@@ -87,10 +101,10 @@ void HtmlWriter::write(const Element& element, const Indent& indent)
 void HtmlWriter::writeText(const Element& element, const Indent& indent)
 {
     const Text& text = *element.text;
-    html_ += QStringLiteral("<p align=%1 style=\"%2white-space:%3;%4%5\">")
+    html_ += QStringLiteral("<p align=%1 style=\"%2white-space:%3;%4\">")
                  .arg(alignmentName(text.alignment), styleOf(indent, std::exchange(above_, 0)),
                       text.lineCount > 1 ? QStringLiteral("pre-wrap") : QStringLiteral("pre"),
-                      backgroundOf(element), cssOf(text.font, text.color));
+                      cssOf(text.font, text.color));
     writeSpans(text);
     html_ += QStringLiteral("</p>");
 }
@@ -118,17 +132,17 @@ void HtmlWriter::writePicture(const Element& element, const Indent& indent)
                       number(target.width()), number(target.height()));
 }
 
-// Free height, or a paragraph with a background that is as high.
+// Free height, or a table of one cell that is as high.
 void HtmlWriter::writeLeaf(const Element& element, const Indent& indent)
 {
-    const QString background = backgroundOf(element);
-    if (background.isEmpty()) {
+    if (!lookOf(element).color.isValid()) {
         above_ += element.rect.height();
         return;
     }
-    html_ += QStringLiteral("<p style=\"%1%2font-size:1px\"><img width=1 height=%3></p>")
-                 .arg(styleOf(indent, std::exchange(above_, 0)), background,
-                      number(element.rect.height()));
+    beginTable(element, indent);
+    // An empty paragraph takes two pixels.
+    html_ += cellOf(element.rect.width(), element.rect.height() - 2, 0)
+        + QStringLiteral("</td></tr></table>");
 }
 
 // Nothing but what is in it: tables inside of tables take long.
@@ -144,34 +158,61 @@ void HtmlWriter::writeColumn(const Element& element, const Indent& indent)
     above_ += paddings.bottom();
 }
 
-void HtmlWriter::writeTable(const Element& element, const Indent& indent)
+void HtmlWriter::beginTable(const Element& element, const Indent& indent)
 {
     html_ += QStringLiteral("<table cellspacing=0 cellpadding=0 width=%1 style=\"%2%3\"><tr>")
                  .arg(number(element.rect.width()), styleOf(indent, std::exchange(above_, 0)),
                       backgroundOf(element));
-    if (element.flow.isRow) {
+}
+
+void HtmlWriter::writeTable(const Element& element, const Indent& indent)
+{
+    beginTable(element, indent);
+    if (element.flow.isRow)
         writeCells(element);
-    } else {
-        html_ += QStringLiteral("<td>");
-        writeColumn(element, {});
-        html_ += QStringLiteral("</td>");
-        // Paddings at the end go to what is below the table.
-    }
+    else
+        writeCell(element);
     html_ += QStringLiteral("</tr></table>");
+    above_ = 0;
+}
+
+// In the middle of a table of one cell.
+void HtmlWriter::writeLabel(const Element& element, const Indent& indent)
+{
+    const qreal textHeight = QFontMetricsF(element.text->font).height();
+    const qreal padding = (element.rect.height() - textHeight) / 2;
+    beginTable(element, indent);
+    html_ += cellOf(element.rect.width(), padding, padding);
+    writeText(element, {});
+    html_ += QStringLiteral("</td></tr></table>");
+}
+
+// A column. Free heights at the ends of a cell are its paddings.
+void HtmlWriter::writeCell(const Element& column)
+{
+    const qreal above = column.flow.places.front().top;
+    html_ += cellOf(column.rect.width(), above, column.flow.paddings.bottom());
+    above_ = -above;
+    writeColumn(column, {});
+    html_ += QStringLiteral("</td>");
 }
 
 void HtmlWriter::writeCells(const Element& row)
 {
     const QMarginsF& paddings = row.flow.paddings;
+    qreal end = 0;
     for (std::size_t i = 0; i < row.children.size(); ++i) {
         const Flow::Place& place = row.flow.places[i];
         const Element& child = row.children[i];
-        html_ += QStringLiteral("<td width=%1>").arg(number(place.left + child.rect.width()));
-        above_ = paddings.top() + place.top;
+        const qreal width = place.left + child.rect.width();
+        end += width;
+        html_ += cellOf(width, paddings.top() + place.top, paddings.bottom());
+        above_ = 0;
         write(child, {place.left, 0});
         html_ += QStringLiteral("</td>");
     }
-    above_ = paddings.bottom();
+    if (row.rect.width() - end >= 1)
+        html_ += QStringLiteral("<td width=%1></td>").arg(number(row.rect.width() - end));
 }
 
 } // namespace

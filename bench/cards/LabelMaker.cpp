@@ -52,15 +52,18 @@ QString richText(const Text& text)
 }
 
 // A button.
-void showPlate(QLabel& label, const QColor& color, const QSize& size)
+void showPlate(QLabel& label, const Element& element)
 {
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::Window, color);
-    label.setPalette(palette);
-    label.setAttribute(Qt::WA_TranslucentBackground, false);
-    label.setAutoFillBackground(true);
+    const BoxLook look = lookOf(element);
+    if (look.color.isValid()) {
+        QPalette palette = label.palette();
+        palette.setColor(QPalette::Window, look.color);
+        label.setPalette(palette);
+        label.setAttribute(Qt::WA_TranslucentBackground, false);
+        label.setAutoFillBackground(true);
+    }
     label.setAlignment(Qt::AlignCenter);
-    label.setFixedSize(size);
+    label.setFixedSize(element.rect.size().toSize());
 }
 
 std::unique_ptr<QGraphicsWidget> makeText(const Element& element)
@@ -76,9 +79,8 @@ std::unique_ptr<QGraphicsWidget> makeText(const Element& element)
     const int width = qCeil(text.width);
     label->setFixedSize(
         width, text.lineCount > 1 ? label->heightForWidth(width) : label->sizeHint().height());
-    const BoxLook look = lookOf(element);
-    if (look.color.isValid())
-        showPlate(*label, look.color, element.rect.size().toSize());
+    if (text.isLabel)
+        showPlate(*label, element);
     return proxyOf(std::move(label));
 }
 

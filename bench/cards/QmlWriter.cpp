@@ -93,7 +93,7 @@ QString placeIn(const Flow& flow, std::size_t index, std::size_t count)
 
 void QmlWriter::write(const Element& element, const QString& place)
 {
-    if (element.text && lookOf(element).color.isValid())
+    if (element.text && element.text->isLabel)
         writePlate(element, place);
     else if (element.text)
         writeText(
@@ -128,8 +128,9 @@ void QmlWriter::writeText(const Text& text, const QString& place)
 void QmlWriter::writePlate(const Element& element, const QString& place)
 {
     const BoxLook look = lookOf(element);
+    const QColor color = look.color.isValid() ? look.color : QColor(Qt::transparent);
     text_ += QStringLiteral("Rectangle { %1%2color: %3; radius: %4\n")
-                 .arg(place, sizeFor(element.rect.size()), quoted(look.color.name(QColor::HexArgb)),
+                 .arg(place, sizeFor(element.rect.size()), quoted(color.name(QColor::HexArgb)),
                       number(look.radius));
     writeText(*element.text,
               QStringLiteral("anchors.fill: parent; verticalAlignment: "

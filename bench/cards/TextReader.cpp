@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace bench {
 namespace {
@@ -95,23 +96,37 @@ std::vector<Span> spansOf(const Text& text, const std::vector<PaintedRun>& runs)
     return spans;
 }
 
-QVariant firstValid(const QGraphicsObject& item, const char* name, const char* otherName)
+// Items that show a text, by the properties that tell of it.
+struct TextProperties {
+    const char* text;
+    const char* font;
+    bool isLabel;
+};
+
+constexpr TextProperties kinds[] = {{"plainText", "font", false},
+                                    {"shownLabel", "labelFont", true}};
+
+const TextProperties* kindOf(const QGraphicsObject& item)
 {
-    const QVariant value = item.property(name);
-    return value.isValid() ? value : item.property(otherName);
+    const auto has = [&item](const TextProperties& kind) {
+        return item.property(kind.text).isValid();
+    };
+    const auto* const kind = std::find_if(std::begin(kinds), std::end(kinds), has);
+    return kind == std::end(kinds) ? nullptr : kind;
 }
 
 } // namespace
 
 std::optional<Text> readText(const QGraphicsObject& item, const PaintRecord& record)
 {
-    const QVariant all = firstValid(item, "plainText", "shownLabel");
-    if (!all.isValid())
+    const TextProperties* kind = kindOf(item);
+    if (!kind)
         return std::nullopt;
     const std::vector<PaintedLine> lines = linesOf(record.runs);
     Text text;
-    text.shown = shownText(all.toString(), lines);
-    text.font = firstValid(item, "font", "labelFont").value<QFont>();
+    text.shown = shownText(item.property(kind->text).toString(), lines);
+    text.isLabel = kind->isLabel;
+    text.font = item.property(kind->font).value<QFont>();
     text.width = item.boundingRect().width();
     text.lineCount = static_cast<int>(lines.size());
     text.alignment = alignmentOf(lines, text.width);

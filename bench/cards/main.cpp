@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QQuickWindow>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -92,6 +93,10 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("FONTCONFIG_FILE", PLIX_BENCH_FONTS_CONF);
+    // Qt Quick asks for it, and warns where there is none.
+    const QTemporaryDir runtimeFolder;
+    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR", runtimeFolder.path().toLocal8Bit());
     qputenv("QML_DISABLE_DISK_CACHE", "1");
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     const QApplication application(argc, argv);
