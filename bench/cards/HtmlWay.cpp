@@ -2,19 +2,19 @@
 
 #include "Card.h"
 #include "Element.h"
-#include "HtmlWriter.h"
 #include "JsonReading.h"
 
 #include <QPainter>
 #include <QPixmapCache>
 #include <QTextDocument>
+#include <QTextFrame>
 
 namespace bench {
 
 HtmlWay::HtmlWay(const Card& card, const Element& content)
     : Way("HTML")
     , size_(content.rect.size())
-    , html_(htmlOf(content))
+    , card_(htmlOf(content))
 {
     on(Step::Read, [&card] { parseJson(card.json); });
     // Each life decodes its pictures, as elsewhere.
@@ -39,15 +39,27 @@ void HtmlWay::build()
     QFont font;
     font.setPixelSize(1);
     document_->setDefaultFont(font);
+    document_->setHtml(card_.html);
+    setMargins();
+    // Last: from here on, the document has a layout that follows every change.
     document_->setTextWidth(size_.width());
-    document_->setHtml(html_);
     document_->size();
+}
+
+void HtmlWay::setMargins()
+{
+    QTextFrameFormat format = document_->rootFrame()->frameFormat();
+    format.setTopMargin(card_.topMargin);
+    format.setBottomMargin(card_.bottomMargin);
+    document_->rootFrame()->setFrameFormat(format);
 }
 
 void HtmlWay::paint()
 {
     QPainter painter;
     canvas_.begin(painter);
+    if (card_.background.isValid())
+        painter.fillRect(canvas_.image().rect(), card_.background);
     document_->drawContents(&painter);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Canvas.h"
+#include "HtmlWriter.h"
 #include "Way.h"
 
 #include <memory>
@@ -24,11 +25,12 @@ public:
 
 private:
     void build();
+    void setMargins();
     void paint();
     void setWidth();
 
     const QSizeF size_;
-    const QString html_;
+    const HtmlCard card_;
     std::unique_ptr<QTextDocument> document_;
     Canvas canvas_;
 };

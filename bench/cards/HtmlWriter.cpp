@@ -62,11 +62,10 @@ QString cellOf(qreal width, qreal above, qreal below)
 
 class HtmlWriter {
 public:
-    void write(const Element& element, const Indent& indent);
-
-    QString takeHtml() { return std::move(html_); }
+    HtmlCard writeCard(const Element& card);
 
 private:
+    void write(const Element& element, const Indent& indent);
     void writeText(const Element& element, const Indent& indent);
     void writeLabel(const Element& element, const Indent& indent);
     void writeSpans(const Text& text);
@@ -77,10 +76,29 @@ private:
     void writeTable(const Element& element, const Indent& indent);
     void writeCell(const Element& column);
     void writeCells(const Element& row);
+    qreal takeAbove();
+
     QString html_;
+    qreal top_ = 0;
     // The free height above what comes next.
     qreal above_ = 0;
 };
+
+HtmlCard HtmlWriter::writeCard(const Element& card)
+{
+    writeColumn(card, {});
+    return {html_, top_, above_, lookOf(card).color};
+}
+
+// A document drops the free height above its first paragraph.
+qreal HtmlWriter::takeAbove()
+{
+    const qreal above = std::exchange(above_, 0);
+    if (!html_.isEmpty())
+        return above;
+    top_ = above;
+    return 0;
+}
 
 void HtmlWriter::write(const Element& element, const Indent& indent)
 {
@@ -102,7 +120,7 @@ void HtmlWriter::writeText(const Element& element, const Indent& indent)
 {
     const Text& text = *element.text;
     html_ += QStringLiteral("<p align=%1 style=\"%2white-space:%3;%4\">")
-                 .arg(alignmentName(text.alignment), styleOf(indent, std::exchange(above_, 0)),
+                 .arg(alignmentName(text.alignment), styleOf(indent, takeAbove()),
                       text.lineCount > 1 ? QStringLiteral("pre-wrap") : QStringLiteral("pre"),
                       cssOf(text.font, text.color));
     writeSpans(text);
@@ -128,7 +146,7 @@ void HtmlWriter::writePicture(const Element& element, const Indent& indent)
     const QRectF& target = element.picture->painted.target;
     const Indent inside {indent.left + target.x(), indent.right};
     html_ += QStringLiteral("<p style=\"%1\"><img src=\"%2\" width=%3 height=%4></p>")
-                 .arg(styleOf(inside, std::exchange(above_, 0) + target.y()), element.picture->file,
+                 .arg(styleOf(inside, takeAbove() + target.y()), element.picture->file,
                       number(target.width()), number(target.height()));
 }
 
@@ -160,9 +178,9 @@ void HtmlWriter::writeColumn(const Element& element, const Indent& indent)
 
 void HtmlWriter::beginTable(const Element& element, const Indent& indent)
 {
-    html_ += QStringLiteral("<table cellspacing=0 cellpadding=0 width=%1 style=\"%2%3\"><tr>")
-                 .arg(number(element.rect.width()), styleOf(indent, std::exchange(above_, 0)),
-                      backgroundOf(element));
+    html_ +=
+        QStringLiteral("<table cellspacing=0 cellpadding=0 width=%1 style=\"%2%3\"><tr>")
+            .arg(number(element.rect.width()), styleOf(indent, takeAbove()), backgroundOf(element));
 }
 
 void HtmlWriter::writeTable(const Element& element, const Indent& indent)
@@ -217,11 +235,9 @@ void HtmlWriter::writeCells(const Element& row)
 
 } // namespace
 
-QString htmlOf(const Element& card)
+HtmlCard htmlOf(const Element& card)
 {
-    HtmlWriter writer;
-    writer.write(card, {});
-    return writer.takeHtml();
+    return HtmlWriter().writeCard(card);
 }
 
 } // namespace bench

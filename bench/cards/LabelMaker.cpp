@@ -60,6 +60,7 @@ void showPlate(QLabel& label, const Element& element)
         palette.setColor(QPalette::Window, look.color);
         label.setPalette(palette);
         label.setAttribute(Qt::WA_TranslucentBackground, false);
+        label.setAttribute(Qt::WA_NoSystemBackground, false);
         label.setAutoFillBackground(true);
     }
     label.setAlignment(Qt::AlignCenter);
