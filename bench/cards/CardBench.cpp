@@ -83,6 +83,8 @@ CardResult CardBench::measure(int rounds, const QString& pictureFolder)
     check(result, pictureFolder);
     for (std::size_t i = 0; i < ways_.size(); ++i)
         result.ways[i].memory = weighLife(*ways_[i]);
+    if (!result.limit().looksLikeOurs())
+        qFatal("%s: what is painted by hand looks different", card_.name.c_str());
     takeTimes(rounds, result);
     return result;
 }

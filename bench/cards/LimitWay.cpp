@@ -41,6 +41,7 @@ LimitWay::LimitWay(const Card& card, const Element& content, const QString& word
         on(step, [this] { paint(); });
     for (const Step step : {Step::RepaintScene, Step::RepaintItems})
         before(step, [this] { canvas_.clear(content_.rect.size()); });
+    on(Step::OtherHeight, [this] { setHeight(); });
     on(Step::OtherWidth, [this] { setWidth(); });
     on(Step::Highlight, [this] { highlight(); });
     on(Step::Delete, [this] { free(); });
@@ -70,8 +71,10 @@ void LimitWay::addWidget(const Element& element, QGraphicsWidget* parent)
     if (!parent)
         root_.reset(widget);
     widgets_.push_back(widget);
-    if (element.text)
+    if (element.text) {
         layouts_.push_back(makeTextLayout(*element.text));
+        texts_.push_back(&*element.text);
+    }
     for (const Element& child : element.children)
         addWidget(child, widget);
 }
@@ -98,16 +101,24 @@ void LimitWay::paint()
     painter_->paint(painter);
 }
 
+void LimitWay::setHeight()
+{
+    tree_->forgetSizes();
+    tree_->calculateTwice();
+    placeWidgets();
+    for (std::size_t i = 0; i < layouts_.size(); ++i)
+        layOut(*layouts_[i], texts_[i]->width, texts_[i]->lineCount);
+}
+
 void LimitWay::setWidth()
 {
     constexpr qreal narrower = 0.9;
     constexpr int anyLines = 1000;
+    tree_->forgetSizes();
     tree_->calculate(content_.rect.width() * narrower);
     placeWidgets();
-    for (const auto& layout : layouts_) {
-        if (layout->lineCount() > 0)
-            layOut(*layout, layout->lineAt(0).width() * narrower, anyLines);
-    }
+    for (std::size_t i = 0; i < layouts_.size(); ++i)
+        layOut(*layouts_[i], texts_[i]->width * narrower, anyLines);
 }
 
 // Only finds the words. The ranges would be drawn as selections.
@@ -123,6 +134,7 @@ void LimitWay::free()
     painter_.reset();
     highlights_.clear();
     layouts_.clear();
+    texts_.clear();
     tree_.reset();
     widgets_.clear();
     root_.reset();

@@ -38,6 +38,7 @@ private:
     void placeWidgets();
     void enterScene();
     void paint();
+    void setHeight();
     void setWidth();
     void highlight();
     void free();
@@ -49,6 +50,8 @@ private:
     std::unique_ptr<QGraphicsWidget> root_;
     std::optional<YogaTree> tree_;
     std::vector<std::unique_ptr<QTextLayout>> layouts_;
+    // What they show.
+    std::vector<const Text*> texts_;
     std::vector<QVector<QTextLayout::FormatRange>> highlights_;
     std::optional<HandPainter> painter_;
     std::unique_ptr<QGraphicsScene> scene_;

@@ -11,29 +11,35 @@ constexpr const char* quickCards = "^(a|example/receipt|texts/100)$";
 constexpr const char* allRounds = "31";
 constexpr const char* quickRounds = "11";
 
+struct OptionRow {
+    const char* name;
+    const char* description;
+    // Null for a switch.
+    const char* valueName;
+    const char* defaultValue;
+};
+
+constexpr OptionRow optionRows[] = {
+    {"quick", "Three cards and 11 rounds.", nullptr, nullptr},
+    {"filter", "The cards that have this in their names.", "regular expression", nullptr},
+    {"rounds", "How often each card is measured (31).", "number", nullptr},
+    {"json", "Writes the results to a file, too.", "file", nullptr},
+    {"pictures", "Writes what each way paints to a folder.", "folder", nullptr},
+    {"cards", "The folder of the example cards.", "folder", PLIX_BENCH_EXAMPLES "/cards"},
+    {"images", "The folder of their pictures.", "folder", PLIX_BENCH_EXAMPLES "/images"},
+    {"count", "Reads and builds one card, for callgrind.", "card", nullptr},
+    {"limit", "With --count: by hand instead.", nullptr, nullptr},
+};
+
 void addOptions(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(
         QStringLiteral("Measures what cards cost, beside other ways to show the same."));
     parser.addHelpOption();
-    parser.addOptions({
-        {QStringLiteral("quick"), QStringLiteral("Three cards and 11 rounds.")},
-        {QStringLiteral("filter"), QStringLiteral("The cards that have this in their names."),
-         QStringLiteral("regular expression")},
-        {QStringLiteral("rounds"), QStringLiteral("How often each card is measured (31)."),
-         QStringLiteral("number")},
-        {QStringLiteral("json"), QStringLiteral("Writes the results to a file, too."),
-         QStringLiteral("file")},
-        {QStringLiteral("cards"), QStringLiteral("The folder of the example cards."),
-         QStringLiteral("folder"), QStringLiteral(PLIX_BENCH_EXAMPLES "/cards")},
-        {QStringLiteral("images"), QStringLiteral("The folder of their pictures."),
-         QStringLiteral("folder"), QStringLiteral(PLIX_BENCH_EXAMPLES "/images")},
-        {QStringLiteral("pictures"), QStringLiteral("Writes what each way paints to a folder."),
-         QStringLiteral("folder")},
-        {QStringLiteral("count"), QStringLiteral("Reads and builds one card, for callgrind."),
-         QStringLiteral("card")},
-        {QStringLiteral("limit"), QStringLiteral("With --count: by hand instead.")},
-    });
+    for (const OptionRow& row : optionRows) {
+        parser.addOption({QString::fromLatin1(row.name), QString::fromLatin1(row.description),
+                          QString::fromLatin1(row.valueName), QString::fromUtf8(row.defaultValue)});
+    }
 }
 
 QString valueOr(const QCommandLineParser& parser, const QString& name, const char* otherwise)

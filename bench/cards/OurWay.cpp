@@ -28,6 +28,7 @@ OurWay::OurWay(const CardHost& host, const Card& card, const std::string& word)
     on(Step::RepaintItems, [this] { paintItems(); });
     on(Step::RefreshFirst, [this] { refresh(); });
     on(Step::RefreshAgain, [this] { refresh(); });
+    on(Step::OtherHeight, [this] { setHeight(); });
     on(Step::OtherWidth, [this] { setWidth(); });
     on(Step::Highlight, [this] { highlight(); });
     on(Step::Delete, [this] { free(); });
@@ -95,6 +96,15 @@ void OurWay::refresh()
     Plix_RefreshLayout(controller_);
 }
 
+// Lays the card out again, with every text measured.
+void OurWay::setHeight()
+{
+    constexpr int more = 40;
+    const int height = static_cast<int>(item_->boundingRect().height());
+    Plix_ModifyHeight(controller_, height + more);
+}
+
+// The card's own width wins: it is laid out again, but texts need no new lines.
 void OurWay::setWidth()
 {
     auto* widget = static_cast<QGraphicsWidget*>(item_->toGraphicsObject());

@@ -43,6 +43,7 @@ private:
     void listItems();
     void paintScene();
     void paintItems();
+    void setHeight();
     void setWidth();
     void refresh();
     void highlight();

@@ -14,6 +14,7 @@ enum class Step {
     RepaintItems,
     RefreshFirst,
     RefreshAgain,
+    OtherHeight,
     OtherWidth,
     Highlight,
     Delete,
@@ -21,8 +22,8 @@ enum class Step {
 
 inline constexpr std::array allSteps {
     Step::Read,         Step::Build,        Step::FirstPaint,   Step::RepaintScene,
-    Step::RepaintItems, Step::RefreshFirst, Step::RefreshAgain, Step::OtherWidth,
-    Step::Highlight,    Step::Delete,
+    Step::RepaintItems, Step::RefreshFirst, Step::RefreshAgain, Step::OtherHeight,
+    Step::OtherWidth,   Step::Highlight,    Step::Delete,
 };
 
 // For tables, and for counters.

@@ -87,7 +87,7 @@ const std::vector<SummaryColumn>& summaryColumns()
         {"painted", 2, [](const CardResult& card) { return stepRatio(card, {Step::FirstPaint}); }},
         {"scene", 2, [](const CardResult& card) { return stepRatio(card, {Step::RepaintScene}); }},
         {"items", 2, [](const CardResult& card) { return stepRatio(card, {Step::RepaintItems}); }},
-        {"width", 2, [](const CardResult& card) { return stepRatio(card, {Step::OtherWidth}); }},
+        {"height", 2, [](const CardResult& card) { return stepRatio(card, {Step::OtherHeight}); }},
         {"delete", 2, [](const CardResult& card) { return stepRatio(card, {Step::Delete}); }},
         {"refresh %", 1, refreshPercent},
         {"live", 2,

@@ -9,7 +9,7 @@ namespace bench {
 namespace {
 
 constexpr int titleWidth = 22;
-constexpr int numberWidth = 10;
+constexpr int numberWidth = 11;
 
 QString cell(const QString& text)
 {
@@ -72,7 +72,16 @@ void TextReport::writeCard(const CardResult& card)
         }
         out_ << '\n';
     }
+    writeWarnings(card);
     out_.flush();
+}
+
+void TextReport::writeWarnings(const CardResult& card)
+{
+    for (const WayResult& way : card.ways) {
+        if (!way.looksLikeOurs())
+            out_ << "! " << way.name.c_str() << " looks different here, so it is no measure.\n";
+    }
 }
 
 void TextReport::writeSummary(const std::vector<CardResult>& cards)

@@ -18,6 +18,7 @@ public:
 
 private:
     void writeTitles(const CardResult& card);
+    void writeWarnings(const CardResult& card);
 
     QTextStream out_;
 };

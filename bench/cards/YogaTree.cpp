@@ -85,10 +85,14 @@ void YogaTree::calculateTwice()
     YGNodeCalculateLayout(root_.get(), width, YGUndefined, YGDirectionLTR);
 }
 
-void YogaTree::calculate(qreal width)
+void YogaTree::forgetSizes()
 {
     for (YGNodeRef text : texts_)
         YGNodeMarkDirty(text);
+}
+
+void YogaTree::calculate(qreal width)
+{
     YGNodeCalculateLayout(root_.get(), length(width), YGUndefined, YGDirectionLTR);
 }
 

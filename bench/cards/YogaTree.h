@@ -20,7 +20,8 @@ public:
 
     // As the library does: within a height, then in any.
     void calculateTwice();
-    // In another width, with all texts measured again.
+    // With all texts measured again.
+    void forgetSizes();
     void calculate(qreal width);
 
     // In the order of the elements, a parent before its children.
