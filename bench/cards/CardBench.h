@@ -23,8 +23,8 @@ public:
     // Other ways to show the same.
     void addAlternatives();
 
-    // Checks that all ways show the same, weighs them, and takes their times in
-    // turn, `rounds` times. Their pictures go to a folder, unless it is empty.
+    // Checks that all ways show the same, weighs them, and times `rounds`
+    // lives of each, in random order. Their pictures go to a folder, unless it is empty.
     CardResult measure(int rounds, const QString& pictureFolder);
 
 private:

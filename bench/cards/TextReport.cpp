@@ -40,7 +40,7 @@ TextReport::TextReport()
 void TextReport::writeHead(int rounds)
 {
     out_ << "Times are microseconds of thread CPU time, medians of " << rounds
-         << " rounds. In each round all ways\nto show a card are measured, in random order."
+         << " lives. The lives of\nall ways to show a card alternate at random."
          << " Bytes are usable bytes of malloc's blocks.\n";
     out_.flush();
 }
