@@ -1,5 +1,7 @@
 #include "CardBench.h"
 
+#include "ElementReader.h"
+#include "Fail.h"
 #include "HtmlWay.h"
 #include "LabelWay.h"
 #include "LimitWay.h"
@@ -8,8 +10,6 @@
 #include "QuickWay.h"
 #include "SameContent.h"
 #include "ThreadClock.h"
-
-#include "ElementReader.h"
 
 #include <benchmark/benchmark.h>
 
@@ -84,7 +84,8 @@ CardResult CardBench::measure(int rounds, const QString& pictureFolder)
     for (std::size_t i = 0; i < ways_.size(); ++i)
         result.ways[i].memory = weighLife(*ways_[i]);
     if (!result.limit().looksLikeOurs())
-        qFatal("%s: what is painted by hand looks different", card_.name.c_str());
+        fail(QString::fromStdString(card_.name)
+             + QStringLiteral(": what is painted by hand looks different"));
     takeTimes(rounds, result);
     return result;
 }
@@ -111,7 +112,8 @@ void CardBench::check(CardResult& result, const QString& pictureFolder)
 void CardBench::checkTexts(const Way& way) const
 {
     if (!haveSameTexts(textsOf(content_), way.texts()))
-        qFatal("%s: %s shows other texts", card_.name.c_str(), way.name());
+        fail(QString::fromStdString(card_.name) + QStringLiteral(": other texts are shown by ")
+             + QLatin1String(way.name()));
 }
 
 void CardBench::savePicture(const Way& way, const QString& folder) const
@@ -121,7 +123,7 @@ void CardBench::savePicture(const Way& way, const QString& folder) const
     const QString path =
         QStringLiteral("%1/%2_%3.png").arg(folder, card, QLatin1String(way.name()));
     if (!QDir().mkpath(folder) || !way.picture().save(path))
-        qFatal("%s cannot be written", qPrintable(path));
+        fail(path + QStringLiteral(" cannot be written"));
 }
 
 void CardBench::takeTimes(int rounds, CardResult& result)

@@ -1,5 +1,7 @@
 #include "ExampleCards.h"
 
+#include "Fail.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,7 +13,7 @@ Card readCard(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s cannot be read", qPrintable(path));
+        fail(path + QStringLiteral(" cannot be read"));
     return {"example/" + QFileInfo(path).completeBaseName().toStdString(),
             file.readAll().toStdString()};
 }
@@ -26,7 +28,7 @@ std::vector<Card> exampleCards(const QString& folder)
          directory.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name))
         cards.push_back(readCard(directory.filePath(name)));
     if (cards.empty())
-        qFatal("There are no cards in %s", qPrintable(folder));
+        fail(QStringLiteral("there are no cards in ") + folder);
     return cards;
 }
 

@@ -58,6 +58,7 @@ Flow flowOf(const QSizeF& size, const std::vector<QRectF>& rects)
     flow.isRow = looksLikeRow(rects);
     const QSizeF columnSize = flow.isRow ? size.transposed() : size;
     std::vector<QRectF> column;
+    column.reserve(rects.size());
     for (const QRectF& rect : rects)
         column.push_back(asInColumn(rect, flow.isRow));
     const QMarginsF paddings = paddingsAround(columnSize, column);

@@ -2,6 +2,8 @@
 
 #include <json/json.h>
 
+#include <exception>
+
 namespace bench {
 
 void parseJson(const std::string& text)

@@ -1,5 +1,6 @@
 #include "JsonReport.h"
 
+#include "Fail.h"
 #include "Row.h"
 
 #include <QFile>
@@ -43,7 +44,7 @@ void writeJsonReport(const QString& path, int rounds, const std::vector<CardResu
         {QStringLiteral("cards"), list}};
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(report).toJson()) < 0)
-        qFatal("%s cannot be written", qPrintable(path));
+        fail(path + QStringLiteral(" cannot be written"));
 }
 
 } // namespace bench

@@ -1,5 +1,7 @@
 #include "Options.h"
 
+#include "Fail.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -66,7 +68,7 @@ Options readOptions()
     options.counted = parser.value(QStringLiteral("count"));
     options.countLimit = parser.isSet(QStringLiteral("limit"));
     if (options.rounds < 1)
-        qFatal("--rounds takes a number from 1 on");
+        fail(QStringLiteral("--rounds takes a number from 1 on"));
     return options;
 }
 

@@ -2,6 +2,7 @@
 
 #include "Card.h"
 #include "Element.h"
+#include "Fail.h"
 #include "JsonReading.h"
 #include "QmlWriter.h"
 
@@ -49,7 +50,7 @@ QuickWay::QuickWay(const Card& card, const Element& content)
     control_->initialize(nullptr);
     component_->setData(qmlOf(content), QUrl());
     if (!component_->isReady())
-        qFatal("%s", qPrintable(component_->errorString()));
+        fail(component_->errorString());
     on(Step::Read, [&card] { parseJson(card.json); });
     on(Step::Build, [this] { build(); });
     before(Step::FirstPaint, [this] { takeSize(); });

@@ -52,7 +52,7 @@ QString joined(const std::vector<PaintedLine>& lines)
 // All of the text, or what was painted of it.
 QString shownText(QString all, const std::vector<PaintedLine>& lines)
 {
-    const QString painted = joined(lines);
+    QString painted = joined(lines);
     if (inkedCharacters(painted) != inkedCharacters(all))
         return painted;
     return all.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator));

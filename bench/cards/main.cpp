@@ -3,6 +3,7 @@
 #include "CardHost.h"
 #include "CountedBuild.h"
 #include "ExampleCards.h"
+#include "Fail.h"
 #include "GeneratedCards.h"
 #include "JsonReport.h"
 #include "Options.h"
@@ -39,7 +40,7 @@ std::vector<Card> wantedCards(const Options& options)
     };
     cards.erase(std::remove_if(cards.begin(), cards.end(), isUnwanted), cards.end());
     if (cards.empty())
-        qFatal("No card has a name like that");
+        fail(QStringLiteral("no card has a name like that"));
     return cards;
 }
 
@@ -83,7 +84,7 @@ void count(const CardHost& host, const Options& options)
             return;
         }
     }
-    qFatal("There is no card %s", qPrintable(options.counted));
+    fail(QStringLiteral("there is no card ") + options.counted);
 }
 
 } // namespace
