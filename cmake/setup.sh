@@ -1,5 +1,7 @@
+# shellcheck shell=bash
 # Sourced by ./run and ./test: from a bare Debian 12 to a built preset.
 # Says what it does on stderr; stdout belongs to the command itself.
+: "${root:?the folder of the project, set by the script that sources this}"
 
 readonly PLIX_PACKAGES=(
     g++ cmake ninja-build ca-certificates
@@ -7,6 +9,7 @@ readonly PLIX_PACKAGES=(
     fonts-dejavu-core fonts-dejavu-extra fonts-noto-cjk fonts-noto-color-emoji)
 
 # What only the benchmarks need.
+# shellcheck disable=SC2034 # used by those who source this
 readonly PLIX_BENCH_PACKAGES=(
     libbenchmark-dev qtdeclarative5-dev qml-module-qtquick2 qml-module-qtquick-layouts)
 

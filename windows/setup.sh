@@ -2,6 +2,7 @@
 # build needs and takes long to make, each piece made once and kept outside the
 # checkout.
 # shellcheck shell=bash
+: "${root:?the folder of the project, set by the script that sources this}"
 # shellcheck source=../cmake/setup.sh
 source "$root/cmake/setup.sh"
 
