@@ -1,6 +1,6 @@
 #include "api/PlixDataMgr.h"
 
-#include "api/PlixContain.h"
+#include "api/PlixCatchExceptions.h"
 #include "api/PlixLog.h"
 #include "layout/YogaLayoutItem.h"
 #include "model/PlixDataBox.h"
@@ -79,7 +79,7 @@ void PlixDataMgr::CreateUI()
 {
     // An earlier item is its host's; what this build yields starts from nothing.
     rootItem_.clear();
-    plix::Contain([this] { Build(); }, &plix::LogFailedBuild);
+    plix::CatchExceptions([this] { Build(); }, &plix::LogFailedBuild);
 }
 
 void PlixDataMgr::Build()
@@ -160,7 +160,7 @@ PlixBaseUI* PlixDataMgr::CreateChildUI(const std::shared_ptr<PlixDataItem>& data
                                        PlixBaseUI& parent)
 {
     PlixBaseUI* ui = nullptr;
-    plix::Contain(
+    plix::CatchExceptions(
         [&] { ui = CreateUIItem(data, parent.GetGraphicsItem(), parent.GetChildParentLayout()); },
         &plix::LogFailedBuild);
     return ui;

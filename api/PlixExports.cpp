@@ -1,6 +1,6 @@
 #include <plix/Plix.h>
 
-#include "api/PlixContain.h"
+#include "api/PlixCatchExceptions.h"
 #include "api/PlixCurrentLanguage.h"
 #include "api/PlixDataMgr.h"
 #include "api/PlixSettings.h"
@@ -22,10 +22,10 @@ static_assert(sizeof(ST_ACTION) == 17 * sizeof(std::string) + 3 * sizeof(PlixLan
 namespace {
 
 // Runs the body of an export. Whatever is thrown ends here, as `refused`.
-template <typename Result, typename Body> Result ContainOr(Result refused, Body body) noexcept
+template <typename Result, typename Body> Result RunExport(Result refused, Body body) noexcept
 {
     Result result = refused;
-    plix::Contain([&] { result = body(); });
+    plix::CatchExceptions([&] { result = body(); });
     return result;
 }
 
@@ -33,7 +33,7 @@ template <typename Result, typename Body> Result ContainOr(Result refused, Body 
 template <typename Result, typename Body>
 Result WithManager(PlixDataController* controller, Result refused, Body body) noexcept
 {
-    return ContainOr(refused, [&] {
+    return RunExport(refused, [&] {
         auto* manager = dynamic_cast<PlixDataMgr*>(controller);
         if (!manager)
             return refused;
@@ -52,7 +52,7 @@ template <typename Body> int SetOnManager(PlixDataController* controller, Body b
 
 PlixDataController* PLIX_CALL Plix_CreateController()
 {
-    return ContainOr<PlixDataController*>(nullptr, [] { return new PlixDataMgr; });
+    return RunExport<PlixDataController*>(nullptr, [] { return new PlixDataMgr; });
 }
 
 QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller)
@@ -65,7 +65,7 @@ QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller
 
 void PLIX_CALL Plix_Free(PlixDataController* controller)
 {
-    plix::Contain([&] {
+    plix::CatchExceptions([&] {
         if (auto* manager = dynamic_cast<PlixDataMgr*>(controller))
             manager->Free();
         else
@@ -75,7 +75,7 @@ void PLIX_CALL Plix_Free(PlixDataController* controller)
 
 bool PLIX_CALL Plix_HasAction(QGraphicsItem* item)
 {
-    return ContainOr(false, [&] {
+    return RunExport(false, [&] {
         auto* ui = dynamic_cast<PlixBaseUI*>(item);
         return ui && ui->HasAction();
     });
@@ -129,7 +129,7 @@ void PLIX_CALL Plix_SetClickCallBack(PlixDataController* controller, PlixClickCa
 
 void PLIX_CALL Plix_SetCurrentLanguage(const std::string& language)
 {
-    plix::Contain([&] { plix::SetCurrentLanguage(language); });
+    plix::CatchExceptions([&] { plix::SetCurrentLanguage(language); });
 }
 
 int PLIX_CALL Plix_SetDisplayParam(PlixDataController* controller, const PlixDisplayParam& param)
@@ -172,7 +172,7 @@ int PLIX_CALL Plix_SetMultiLangGetCallback(PlixMultiLangCallback callback)
 
 int PLIX_CALL Plix_SetKestroControlSupport(KestroControlSupport* support)
 {
-    return ContainOr(0, [&] {
+    return RunExport(0, [&] {
         KestroControlManager::GetInstance()->SetKestroControlSupport(support);
         return 0;
     });

@@ -10,7 +10,7 @@ namespace plix {
 // of bounded length. Null is an empty reason.
 void LogFailure(const std::string& operation, const char* reason);
 
-// The line of a build, or of a piece of one: a report for Contain().
+// The line of a build, or of a piece of one: a report for CatchExceptions().
 void LogFailedBuild(const char* reason);
 
 // LogFailure() with a line beginning of the caller's own.

@@ -1,6 +1,6 @@
 #include "api/PlixSettings.h"
 
-#include "api/PlixContain.h"
+#include "api/PlixCatchExceptions.h"
 #include "api/PlixLog.h"
 
 PlixSettings& PlixSettings::GetInstance()
@@ -24,13 +24,14 @@ void PlixSettings::WriteLog(const char* text) const noexcept
     if (!logCallback_)
         return;
     // There is nobody left to tell.
-    plix::Contain([&] { logCallback_(text); });
+    plix::CatchExceptions([&] { logCallback_(text); });
 }
 
 std::string PlixSettings::GetMultiLangText(const std::string& key) const
 {
     std::string text;
     if (multiLangCallback_)
-        plix::Contain([&] { text = multiLangCallback_(key.c_str()); }, &plix::LogFailedBuild);
+        plix::CatchExceptions([&] { text = multiLangCallback_(key.c_str()); },
+                              &plix::LogFailedBuild);
     return text;
 }

@@ -1,6 +1,6 @@
 #include "layout/YogaLayoutItem.h"
 
-#include "api/PlixContain.h"
+#include "api/PlixCatchExceptions.h"
 #include "api/PlixLog.h"
 #include "layout/YogaNodeRegistry.h"
 
@@ -138,7 +138,7 @@ void YogaLayoutItem::insertNode(YogaLayoutItem* child, int index)
 
 void YogaLayoutItem::insertChild(YogaLayoutItem* child, int index)
 {
-    plix::Contain([&] { insertNode(child, index); });
+    plix::CatchExceptions([&] { insertNode(child, index); });
 }
 
 void YogaLayoutItem::addChild(YogaLayoutItem* child)
@@ -146,10 +146,11 @@ void YogaLayoutItem::addChild(YogaLayoutItem* child)
     if (!node_)
         return;
     // The hyphen has always been part of this line; hosts match on it.
-    plix::Contain([&] { insertNode(child, childCount()); },
-                  [](const char* reason) {
-                      plix::LogFailureLine("call YogaLayoutItem::AddChild failed.- ", reason);
-                  });
+    plix::CatchExceptions([&] { insertNode(child, childCount()); },
+                          [](const char* reason) {
+                              plix::LogFailureLine("call YogaLayoutItem::AddChild failed.- ",
+                                                   reason);
+                          });
 }
 
 float YogaLayoutItem::layoutWidth() const
@@ -175,7 +176,7 @@ float YogaLayoutItem::baseline(double, double height)
 void YogaLayoutItem::reset()
 {
     if (startChange())
-        plix::Contain([this] { YGNodeReset(node_); });
+        plix::CatchExceptions([this] { YGNodeReset(node_); });
 }
 
 void YogaLayoutItem::applyPaddingToAbsoluteChildren()
@@ -212,7 +213,7 @@ void YogaLayoutItem::applyLayout()
 void YogaLayoutItem::markDirty()
 {
     if (startChange() && YGNodeHasMeasureFunc(node_))
-        plix::Contain([this] { YGNodeMarkDirty(node_); });
+        plix::CatchExceptions([this] { YGNodeMarkDirty(node_); });
 }
 
 void YogaLayoutItem::setClickable(bool) { }
@@ -222,7 +223,8 @@ void YogaLayoutItem::inheritCornerRadius(int) { }
 void YogaLayoutItem::setHasMeasureFunc(bool has)
 {
     if (startChange())
-        plix::Contain([&] { YGNodeSetMeasureFunc(node_, has ? &MeasureCallback : nullptr); });
+        plix::CatchExceptions(
+            [&] { YGNodeSetMeasureFunc(node_, has ? &MeasureCallback : nullptr); });
 }
 
 void YogaLayoutItem::setHasBaselineFunc(bool has)
@@ -238,7 +240,7 @@ YGSize YogaLayoutItem::MeasureCallback(YGNodeConstRef node, float width, YGMeasu
     if (!item)
         return {width, height};
     QSizeF size(width, height);
-    plix::Contain([&] { size = item->measure(width, widthMode, height, heightMode); });
+    plix::CatchExceptions([&] { size = item->measure(width, widthMode, height, heightMode); });
     return {AtLeastOne(size.width()), AtLeastOne(size.height())};
 }
 
@@ -247,7 +249,7 @@ float YogaLayoutItem::BaselineCallback(YGNodeConstRef node, float width, float h
     YogaLayoutItem* item = YogaNodeRegistry::GetInstance().Find(node);
     float baseline = height;
     if (item)
-        plix::Contain([&] { baseline = item->baseline(width, height); });
+        plix::CatchExceptions([&] { baseline = item->baseline(width, height); });
     return baseline;
 }
 
@@ -266,7 +268,7 @@ void YogaLayoutItem::calculateLayout()
 
 void YogaLayoutItem::calculateLayout(double width, double height, YGDirection direction)
 {
-    plix::Contain(
+    plix::CatchExceptions(
         [&] { YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height), direction); });
 }
 

@@ -1,6 +1,6 @@
 #include "model/PlixJsonDataParse.h"
 
-#include "api/PlixContain.h"
+#include "api/PlixCatchExceptions.h"
 #include "api/PlixDataMgr.h"
 #include "api/PlixLog.h"
 #include "model/PlixJsonTables.h"
@@ -13,7 +13,7 @@ namespace {
 // Runs the body of a Parse operation; what it throws ends that operation only.
 template <typename Body> int RunOperation(const char* operation, Body body)
 {
-    const bool isDone = plix::Contain(body, [operation](const char* reason) {
+    const bool isDone = plix::CatchExceptions(body, [operation](const char* reason) {
         plix::LogFailure(std::string("PlixJsonDataParse::") + operation, reason);
     });
     return isDone ? 0 : -1;

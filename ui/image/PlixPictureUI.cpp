@@ -1,6 +1,6 @@
 #include "ui/image/PlixPictureUI.h"
 
-#include "api/PlixContain.h"
+#include "api/PlixCatchExceptions.h"
 #include "api/PlixDataMgr.h"
 #include "api/PlixLog.h"
 #include "layout/PlixStyleValues.h"
@@ -30,7 +30,7 @@ void PlixPictureUI::Download(const std::string& url)
 {
     // The host's failure costs this picture, not the card.
     if (downloadFunc_)
-        plix::Contain([&] { FileArrived(downloadFunc_(url)); }, &plix::LogFailedBuild);
+        plix::CatchExceptions([&] { FileArrived(downloadFunc_(url)); }, &plix::LogFailedBuild);
 }
 
 void PlixPictureUI::FileArrived(const std::string& path)

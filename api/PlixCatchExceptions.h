@@ -7,7 +7,7 @@ namespace plix {
 // Runs `body`, whose exceptions of whatever type end here: `report` is called
 // with what the exception says, which is "" when it is no std::exception.
 // Answers whether `body` came to its end.
-template <typename Body, typename Report> bool Contain(Body body, Report report)
+template <typename Body, typename Report> bool CatchExceptions(Body body, Report report)
 {
     try {
         body();
@@ -21,9 +21,9 @@ template <typename Body, typename Report> bool Contain(Body body, Report report)
 }
 
 // The same without a report.
-template <typename Body> bool Contain(Body body) noexcept
+template <typename Body> bool CatchExceptions(Body body) noexcept
 {
-    return Contain(body, [](const char*) {});
+    return CatchExceptions(body, [](const char*) {});
 }
 
 } // namespace plix
