@@ -5,7 +5,7 @@
 #include "layout/YogaLayoutItem.h"
 #include "model/PlixDataBox.h"
 #include "model/PlixDataBubble.h"
-#include "model/PlixDataTree.h"
+#include "model/PlixDiscardDataTree.h"
 #include "model/PlixItemRegistry.h"
 #include "model/PlixJsonDataParse.h"
 #include "ui/PlixBubbleUI.h"

@@ -1,21 +1,12 @@
 #pragma once
 
-#include "model/PlixDataContainer.h"
 #include "model/PlixDataItem.h"
+#include "model/PlixDataZones.h"
+#include "model/PlixZoneStyle.h"
 
 #include <array>
+#include <memory>
 #include <string>
-
-// How a zone is painted: the keys of "styles".
-struct PlixZoneStyle {
-    std::string backgroundColor;
-    bool separator = false;
-    std::string separatorColor;
-
-    void SetBackgroundColor(const std::string& color) { backgroundColor = color; }
-    void SetSeparator(bool on) { separator = on; }
-    void SetSeparatorColor(const std::string& color) { separatorColor = color; }
-};
 
 // The root of a card message.
 class PlixDataBubble : public PlixDataItem {

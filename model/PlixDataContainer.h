@@ -31,9 +31,3 @@ private:
     std::vector<std::shared_ptr<PlixDataItem>> children_;
     std::shared_ptr<PlixDataItem> owner_;
 };
-
-// The zones of a bubble. Which zone a list is, its class tells.
-class PlixDataHeader : public PlixDataContainer { };
-class PlixDataHero : public PlixDataContainer { };
-class PlixDataBody : public PlixDataContainer { };
-class PlixDataFooter : public PlixDataContainer { };

@@ -20,8 +20,3 @@ float PlixDataImage::GetSizePixels()
         sizePixels_ = plix::ToImageSize(size_);
     return sizePixels_;
 }
-
-PlixDataIcon::PlixDataIcon()
-    : PlixDataItemCommon(PlixKindIcon)
-{
-}

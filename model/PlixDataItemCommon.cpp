@@ -1,7 +1,7 @@
 #include "model/PlixDataItemCommon.h"
 
+#include "model/PlixDataAncestors.h"
 #include "model/PlixDataBox.h"
-#include "model/PlixDataTree.h"
 
 PlixDataItemCommon::~PlixDataItemCommon() = default;
 

@@ -2,11 +2,17 @@
 
 #include "model/PlixDataBox.h"
 #include "model/PlixDataBubble.h"
+#include "model/PlixDataButton.h"
+#include "model/PlixDataFiller.h"
+#include "model/PlixDataIcon.h"
 #include "model/PlixDataImage.h"
-#include "model/PlixDataLeaves.h"
+#include "model/PlixDataSeparator.h"
+#include "model/PlixDataSpacer.h"
+#include "model/PlixDataSpan.h"
 #include "model/PlixDataText.h"
 #include "model/PlixJsonDataParse.h"
 #include "model/PlixJsonKey.h"
+#include "model/PlixZoneStyle.h"
 
 namespace plix {
 

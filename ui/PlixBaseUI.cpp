@@ -3,8 +3,8 @@
 #include "api/PlixDataMgr.h"
 #include "layout/PlixStyleValues.h"
 #include "layout/YogaLayoutItem.h"
+#include "model/PlixDataAncestors.h"
 #include "model/PlixDataItemCommon.h"
-#include "model/PlixDataTree.h"
 #include "ui/PlixLeadingMargin.h"
 
 #include <QGraphicsItem>

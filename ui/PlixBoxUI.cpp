@@ -1,8 +1,8 @@
 #include "ui/PlixBoxUI.h"
 
 #include "layout/PlixStyleValues.h"
+#include "model/PlixDataAncestors.h"
 #include "model/PlixDataBox.h"
-#include "model/PlixDataTree.h"
 #include "ui/PlixContainer.h"
 #include "ui/PlixLeadingMargin.h"
 #include "ui/PlixRoundedPath.h"

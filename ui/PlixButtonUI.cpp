@@ -4,8 +4,8 @@
 #include "api/PlixSettings.h"
 #include "layout/PlixKeywordTable.h"
 #include "layout/PlixStyleValues.h"
-#include "model/PlixDataLeaves.h"
-#include "model/PlixDataTree.h"
+#include "model/PlixDataAncestors.h"
+#include "model/PlixDataButton.h"
 #include "ui/PlixRoundedPath.h"
 #include "ui/text/PlixTextFont.h"
 

@@ -1,7 +1,8 @@
 #include "ui/PlixFillerUI.h"
 
-#include "model/PlixDataLeaves.h"
-#include "model/PlixDataTree.h"
+#include "model/PlixDataAncestors.h"
+#include "model/PlixDataBox.h"
+#include "model/PlixDataFiller.h"
 
 namespace {
 

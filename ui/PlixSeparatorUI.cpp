@@ -1,8 +1,8 @@
 #include "ui/PlixSeparatorUI.h"
 
 #include "layout/PlixStyleValues.h"
-#include "model/PlixDataLeaves.h"
-#include "model/PlixDataTree.h"
+#include "model/PlixDataAncestors.h"
+#include "model/PlixDataSeparator.h"
 #include "ui/PlixLeadingMargin.h"
 
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "ui/PlixSpacerUI.h"
 
-#include "model/PlixDataLeaves.h"
-#include "model/PlixDataTree.h"
+#include "model/PlixDataAncestors.h"
+#include "model/PlixDataSpacer.h"
 
 PlixSpacerUI::PlixSpacerUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
     : PlixWidgetUI(parent, parentLayout)

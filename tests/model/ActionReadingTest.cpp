@@ -1,7 +1,9 @@
 // Actions, wherever they stand, and the maps of languages inside.
 #include "model/KeyTable.h"
+#include "model/PlixDataBox.h"
+#include "model/PlixDataButton.h"
+#include "model/PlixDataFiller.h"
 #include "model/PlixDataImage.h"
-#include "model/PlixDataLeaves.h"
 #include "model/PlixDataText.h"
 #include "support/PlixTest.h"
 

@@ -1,6 +1,8 @@
 // The bubble's own keys: zones, styles and what a wrong one costs.
 #include "model/KeyTable.h"
+#include "model/PlixDataBubble.h"
 #include "model/PlixDataText.h"
+#include "model/PlixZoneStyle.h"
 #include "support/PlixTest.h"
 
 namespace plix::test {

@@ -1,7 +1,13 @@
 // Every component against the table of its keys, and what is odd about some.
 #include "model/KeyTable.h"
+#include "model/PlixDataBox.h"
+#include "model/PlixDataButton.h"
+#include "model/PlixDataFiller.h"
+#include "model/PlixDataIcon.h"
 #include "model/PlixDataImage.h"
-#include "model/PlixDataLeaves.h"
+#include "model/PlixDataSeparator.h"
+#include "model/PlixDataSpacer.h"
+#include "model/PlixDataSpan.h"
 #include "model/PlixDataText.h"
 #include "support/PlixTest.h"
 

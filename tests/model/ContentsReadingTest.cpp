@@ -1,5 +1,6 @@
 // What a box holds: order, positions, and what is passed over.
-#include "model/PlixDataLeaves.h"
+#include "model/PlixDataBox.h"
+#include "model/PlixDataFiller.h"
 #include "model/PlixDataText.h"
 #include "model/ReadCard.h"
 #include "support/PlixTest.h"

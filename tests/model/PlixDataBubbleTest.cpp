@@ -1,7 +1,8 @@
 #include "model/PlixDataBubble.h"
 
-#include "model/PlixDataLeaves.h"
-#include "model/PlixDataTree.h"
+#include "model/PlixDataSpacer.h"
+#include "model/PlixDiscardDataTree.h"
+#include "model/PlixZoneStyle.h"
 
 #include <gtest/gtest.h>
 

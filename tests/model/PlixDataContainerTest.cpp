@@ -1,6 +1,7 @@
 #include "model/PlixDataContainer.h"
 
-#include "model/PlixDataLeaves.h"
+#include "model/PlixDataFiller.h"
+#include "model/PlixDataSpacer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "model/PlixDataItemCommon.h"
 
-#include "model/PlixDataImage.h"
-#include "model/PlixDataLeaves.h"
+#include "model/PlixDataBox.h"
+#include "model/PlixDataIcon.h"
 #include "model/PlixDataText.h"
 #include "model/ReadCard.h"
 #include "support/PlixTest.h"

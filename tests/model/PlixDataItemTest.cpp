@@ -2,8 +2,12 @@
 
 #include "model/PlixDataBox.h"
 #include "model/PlixDataBubble.h"
+#include "model/PlixDataButton.h"
+#include "model/PlixDataFiller.h"
+#include "model/PlixDataIcon.h"
 #include "model/PlixDataImage.h"
-#include "model/PlixDataLeaves.h"
+#include "model/PlixDataSeparator.h"
+#include "model/PlixDataSpacer.h"
 #include "model/PlixDataText.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "model/PlixItemRegistry.h"
 
-#include "model/PlixDataLeaves.h"
+#include "model/PlixDataSpacer.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "api/PlixCurrentLanguage.h"
 #include "layout/PlixStyleValues.h"
-#include "model/PlixDataImage.h"
+#include "model/PlixDataIcon.h"
 #include "model/PlixLanguageText.h"
 #include "ui/text/PlixTextFont.h"
 

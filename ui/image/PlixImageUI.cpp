@@ -4,8 +4,8 @@
 #include "layout/PlixKeywordTable.h"
 #include "layout/PlixStyleValues.h"
 #include "model/PlixActionKind.h"
+#include "model/PlixDataAncestors.h"
 #include "model/PlixDataImage.h"
-#include "model/PlixDataTree.h"
 #include "model/PlixLanguageText.h"
 
 #include <QCursor>

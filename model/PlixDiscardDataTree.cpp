@@ -1,35 +1,12 @@
-#include "model/PlixDataTree.h"
+#include "model/PlixDiscardDataTree.h"
 
+#include "model/PlixDataBox.h"
+#include "model/PlixDataBubble.h"
+
+#include <cstddef>
 #include <vector>
 
 namespace plix {
-
-std::shared_ptr<PlixDataBox> ParentBox(const PlixDataItem& item)
-{
-    return std::dynamic_pointer_cast<PlixDataBox>(item.GetParent());
-}
-
-bool IsInVerticalBox(const PlixDataItem& item)
-{
-    const std::shared_ptr<PlixDataBox> box = ParentBox(item);
-    return box && box->IsVertical();
-}
-
-bool IsInRow(const PlixDataItem& item)
-{
-    const std::shared_ptr<PlixDataBox> box = ParentBox(item);
-    return box && !box->IsVertical();
-}
-
-bool IsInRightToLeftBubble(const PlixDataItem& item)
-{
-    for (std::shared_ptr<PlixDataItem> parent = item.GetParent(); parent;
-         parent = parent->GetParent()) {
-        if (const auto* bubble = dynamic_cast<const PlixDataBubble*>(parent.get()))
-            return bubble->IsRightToLeft();
-    }
-    return false;
-}
 
 void DiscardDataTree(const std::shared_ptr<PlixDataBubble>& bubble)
 {

@@ -1,0 +1,6 @@
+#include "model/PlixDataButton.h"
+
+PlixDataButton::PlixDataButton()
+    : PlixDataItemCommon(PlixKindButton)
+{
+}

@@ -1,0 +1,6 @@
+#include "model/PlixDataIcon.h"
+
+PlixDataIcon::PlixDataIcon()
+    : PlixDataItemCommon(PlixKindIcon)
+{
+}

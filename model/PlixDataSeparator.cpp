@@ -1,0 +1,6 @@
+#include "model/PlixDataSeparator.h"
+
+PlixDataSeparator::PlixDataSeparator()
+    : PlixDataItem(PlixKindSeparator)
+{
+}

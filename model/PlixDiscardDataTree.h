@@ -1,0 +1,13 @@
+#pragma once
+
+#include <memory>
+
+class PlixDataBubble;
+
+namespace plix {
+
+// Takes a tree apart so that its items, which hold each other, are freed. Does
+// not recurse: the host may have little stack left.
+void DiscardDataTree(const std::shared_ptr<PlixDataBubble>& bubble);
+
+} // namespace plix
