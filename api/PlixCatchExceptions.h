@@ -4,9 +4,9 @@
 
 namespace plix {
 
-// Runs `body`, whose exceptions of whatever type end here: `report` is called
-// with what the exception says, which is "" when it is no std::exception.
-// Answers whether `body` came to its end.
+// Calls `body` and catches every exception. After an exception, calls `report`
+// with its what(), or with "" if it is not a std::exception. Returns whether
+// `body` ended without an exception.
 template <typename Body, typename Report> bool CatchExceptions(Body body, Report report)
 {
     try {

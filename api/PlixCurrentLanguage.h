@@ -4,8 +4,7 @@
 
 namespace plix {
 
-// The language code, process-wide, whose variants of texts are shown; "en"
-// until the host sets another.
+// The code of the language that cards show, process-wide. The default is "en".
 void SetCurrentLanguage(const std::string& language);
 std::string GetCurrentLanguage();
 

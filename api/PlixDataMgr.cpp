@@ -16,8 +16,8 @@ namespace {
 constexpr double kFooterInset = 10;
 constexpr double kNoInset = -1;
 
-// The height that the first layout pass offers. It bounds what is measured
-// against a height; the second pass lets the card be as high as it needs.
+// The available height in the first layout pass. The second pass has no maximum:
+// the card becomes as high as it needs.
 constexpr double kFirstPassHeight = 500;
 
 } // namespace
@@ -43,8 +43,8 @@ PlixDataMgr::PlixDataMgr()
 
 PlixDataMgr::~PlixDataMgr()
 {
-    // Once built, the data stays behind for the graphics items. Data that no
-    // graphics item knows goes with its controller.
+    // Data that was built stays in the registry, for the graphics items. Other
+    // data belongs to the controller only.
     const bool wasBuilt =
         PlixItemRegistry::GetInstance().Find(PlixItemRegistry::KeyOf(bubble_.get())) != nullptr;
     if (!wasBuilt)
@@ -77,7 +77,7 @@ QGraphicsItem* PlixDataMgr::GetRootItem() const
 
 void PlixDataMgr::CreateUI()
 {
-    // An earlier item is its host's; what this build yields starts from nothing.
+    // The host owns the item of an earlier build; this build may fail.
     rootItem_.clear();
     plix::CatchExceptions([this] { Build(); }, &plix::LogFailedBuild);
 }
@@ -133,8 +133,7 @@ PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
         return nullptr;
     const qlonglong key = PlixItemRegistry::GetInstance().Add(data);
     ui->GetGraphicsItem()->setData(plix::kDataItemRole, key);
-    // Children belong to their parent item; what is built without a parent, or
-    // fails half way, is nobody's yet.
+    // Deletes the item if something throws before it is complete.
     std::unique_ptr<QGraphicsItem> unfinished(ui->GetGraphicsItem());
     ui->SetOwner(this);
     ui->SetClickFunc([watch = Watch()](ST_ACTION& action) {
@@ -177,8 +176,8 @@ void PlixDataMgr::CreateZones(const PlixDataBubble& bubble, PlixBaseUI& bubbleUI
 void PlixDataMgr::CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI, double insets,
                              double bottomInset)
 {
-    // A host that reads another message from within a callback appends to the
-    // list: what is in it may move, and what comes is not built this time.
+    // The host may read another message from within a callback, which appends to
+    // this list: iterators would become invalid. New children are not built here.
     const int count = zone.GetChildCount();
     for (int i = 0; i < count; ++i) {
         PlixBaseUI* ui = CreateChildUI(zone.GetChild(i), bubbleUI);
@@ -220,15 +219,15 @@ void PlixDataMgr::RefreshLayout()
 {
     if (!RootBubble() || !rootLayout_)
         return;
-    const bool isNew = rootLayout_->hasChanged();
-    if (isNew)
+    const bool hasChanged = rootLayout_->hasChanged();
+    if (hasChanged)
         LayOut();
-    // Whoever was told of the layout may have deleted the item.
+    // A slot on geometryChanged() may have deleted the item.
     const PlixBubbleUI* bubble = RootBubble();
     if (!bubble)
         return;
     const QSizeF size = bubble->size();
-    if (!isNew && size == bubble->YogaLayoutItem::geometry().size())
+    if (!hasChanged && size == bubble->YogaLayoutItem::geometry().size())
         return;
     rootLayout_->calculateLayout(size.width(), size.height());
     rootLayout_->applyLayoutRecursive();

@@ -21,13 +21,14 @@ class QGraphicsLayoutItem;
 class YogaLayoutItem;
 
 // The controller of one card message: owns the data items and the layout node
-// above the card, builds the graphics items, and carries events to the host.
+// above the card, builds the graphics items, and passes events to the host.
 //
-// The graphics items are the host's. They and this object may go in any order.
+// The host owns the graphics items. They and this object may be deleted in any
+// order. GUI thread only.
 class PlixDataMgr : public PlixDataController {
 public:
-    // Held while a call of the controller runs. Whatever it tells its host
-    // meanwhile, the host may answer with Free().
+    // Keeps the controller alive during a call: the host may call Free() from
+    // within a callback.
     class Use {
     public:
         explicit Use(PlixDataMgr& manager);
@@ -46,16 +47,18 @@ public:
     PlixDataMgr(const PlixDataMgr&) = delete;
     PlixDataMgr& operator=(const PlixDataMgr&) = delete;
 
-    // Deletes the controller: now, or when the last call that uses it ends. In
-    // either case the host hears nothing more of it.
+    // Deletes the controller, now or when the last call that uses it ends. No
+    // callback is called after this.
     void Free();
 
-    // How those who may outlive the controller refer to it.
+    // For objects that may outlive the controller: null once it is freed.
     PlixLink<PlixDataMgr> Watch() const { return PlixLink<PlixDataMgr>(self_); }
 
+    // Plix.h describes the functions behind its exports.
     int InitData(const std::string& json);
     void CreateUI();
-    // The root item of the last build, null before it and once it is deleted.
+    // The root item of the last build. Null before a build, after a failed one,
+    // and once the item is deleted.
     QGraphicsItem* GetRootItem() const;
 
     int ModifyHeight(int height);
@@ -78,8 +81,8 @@ public:
     void SetMessageType(const std::string& type) { messageType_ = type; }
     std::string GetMessageType() const { return messageType_; }
 
-    // Events of the graphics items. Each reads its callback when it happens
-    // and does nothing without one.
+    // Events of the graphics items. Each calls the callback that is set when the
+    // event happens, and does nothing without one.
     void OnClick(ST_ACTION& action);
     std::string DownloadFile(const std::string& url);
     void OnMention(std::int64_t userNo);
@@ -87,24 +90,24 @@ public:
 
 private:
     void Build();
-    // Builds the item of `data` and, below it, of all it holds. Null when its
-    // kind is not drawn.
+    // Builds the graphics item of `data`, with the items of its children. Null if
+    // its kind is not drawn. `parentItem` owns it; without one, the caller does.
     PlixBaseUI* CreateUIItem(const std::shared_ptr<PlixDataItem>& data, QGraphicsItem* parentItem,
                              QGraphicsLayoutItem* parentLayout);
-    // The same below `parent`. What is thrown meanwhile, as by the host when it
-    // is asked for a font, costs this item only: null, and a log line.
+    // The same below `parent`. If something throws, such as a function of the
+    // host, only this item is left out: null, and a log line.
     PlixBaseUI* CreateChildUI(const std::shared_ptr<PlixDataItem>& data, PlixBaseUI& parent);
     void CreateZones(const PlixDataBubble& bubble, PlixBaseUI& bubbleUI);
     void CreateZone(const PlixDataContainer& zone, PlixBaseUI& bubbleUI, double insets,
                     double bottomInset);
     void CreateBoxChildren(const PlixDataContainer& children, PlixBaseUI& boxUI);
     void AttachToRoot(PlixBubbleUI& bubble);
-    // Lays the card out if something has changed, as a new card would be: the
-    // change has the effect that it would have had from the start.
+    // If something has changed, lays the card out as if it were new, so that the
+    // result does not depend on earlier layouts.
     void LayOut();
     PlixBubbleUI* RootBubble() const;
 
-    std::shared_ptr<PlixDataMgr> self_; // owns nothing
+    std::shared_ptr<PlixDataMgr> self_; // for Watch(); owns nothing
     int uses_ = 0;
     bool freeAfterUse_ = false;
     std::string messageType_;

@@ -10,7 +10,7 @@
 
 #include <cstddef>
 
-// The bytes that cross the boundary. Hosts are compiled on their own.
+// Hosts are compiled separately, so the layout of these records must not change.
 static_assert(sizeof(PlixDisplayParam) == 12);
 static_assert(offsetof(PlixDisplayParam, mobileOnlyCheck) == 0);
 static_assert(offsetof(PlixDisplayParam, markupEnabled) == 1);
@@ -21,28 +21,30 @@ static_assert(sizeof(ST_ACTION) == 17 * sizeof(std::string) + 3 * sizeof(PlixLan
 
 namespace {
 
-// Runs the body of an export. Whatever is thrown ends here, as `refused`.
-template <typename Result, typename Body> Result RunExport(Result refused, Body body) noexcept
+// Runs the body of an export. Returns `resultOnFailure` if it throws.
+template <typename Result, typename Body>
+Result RunExport(Result resultOnFailure, Body body) noexcept
 {
-    Result result = refused;
+    Result result = resultOnFailure;
     plix::CatchExceptions([&] { result = body(); });
     return result;
 }
 
-// Runs `body` on the manager behind a handle; `refused` when there is none.
+// Runs `body` with the manager of a handle. Returns `resultOnFailure` for a bad
+// handle, too.
 template <typename Result, typename Body>
-Result WithManager(PlixDataController* controller, Result refused, Body body) noexcept
+Result WithManager(PlixDataController* controller, Result resultOnFailure, Body body) noexcept
 {
-    return RunExport(refused, [&] {
+    return RunExport(resultOnFailure, [&] {
         auto* manager = dynamic_cast<PlixDataMgr*>(controller);
         if (!manager)
-            return refused;
+            return resultOnFailure;
         const PlixDataMgr::Use use(*manager);
         return body(*manager);
     });
 }
 
-// The same for setters, whose result says nothing.
+// The same for setters, which always return 0.
 template <typename Body> int SetOnManager(PlixDataController* controller, Body body) noexcept
 {
     return WithManager(controller, 0, [&](PlixDataMgr& manager) { return body(manager), 0; });

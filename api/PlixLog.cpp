@@ -7,7 +7,7 @@ namespace plix {
 
 namespace {
 
-constexpr int kLongestReason = 1000;
+constexpr int kMaxReasonLength = 1000;
 
 } // namespace
 
@@ -24,7 +24,7 @@ void LogFailedBuild(const char* reason)
 void LogFailureLine(const std::string& prefix, const char* reason)
 {
     const QString line =
-        QString::fromStdString(prefix) + ToLogText(QString::fromUtf8(reason), kLongestReason);
+        QString::fromStdString(prefix) + ToLogText(QString::fromUtf8(reason), kMaxReasonLength);
     PlixSettings::GetInstance().WriteLog(line.toUtf8().constData());
 }
 

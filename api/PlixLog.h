@@ -4,16 +4,15 @@
 
 namespace plix {
 
-// Sends the one line that an operation owes its catch to the host's log:
-// "call " + operation + " failed. " + `reason`, the exception's text, as valid
-// UTF-8. Of whatever a host or a card has put into the reason it stays one line,
-// of bounded length. Null is an empty reason.
+// Writes one line to the host's log: "call " + operation + " failed. " + `reason`.
+// `reason` is the text of an exception; null counts as empty. Whatever it contains,
+// the result is one line of valid UTF-8 with a maximum length.
 void LogFailure(const std::string& operation, const char* reason);
 
-// The line of a build, or of a piece of one: a report for CatchExceptions().
+// The line for a failure while a card is built: a report for CatchExceptions().
 void LogFailedBuild(const char* reason);
 
-// LogFailure() with a line beginning of the caller's own.
+// Like LogFailure(), but the line begins with `prefix`.
 void LogFailureLine(const std::string& prefix, const char* reason);
 
 } // namespace plix

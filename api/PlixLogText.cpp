@@ -4,7 +4,8 @@ namespace plix {
 
 namespace {
 
-// Those that end a line somewhere, and those that make a line look like another.
+// Characters that some programs take for the end of a line, or that change how a
+// line looks.
 bool IsInvisible(QChar character)
 {
     switch (character.category()) {
@@ -25,21 +26,21 @@ QString Escaped(QChar character)
     return QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
 }
 
-// Cut between characters.
-QString Shortened(const QString& text, int longest)
+// Does not split a surrogate pair.
+QString Shortened(const QString& text, int maxLength)
 {
-    if (text.size() <= longest)
+    if (text.size() <= maxLength)
         return text;
-    const bool splitsCharacter = text.at(longest - 1).isHighSurrogate();
-    return text.left(splitsCharacter ? longest - 1 : longest) + QStringLiteral("...");
+    const bool splitsCharacter = text.at(maxLength - 1).isHighSurrogate();
+    return text.left(splitsCharacter ? maxLength - 1 : maxLength) + QStringLiteral("...");
 }
 
 } // namespace
 
-QString ToLogText(const QString& text, int longest)
+QString ToLogText(const QString& text, int maxLength)
 {
     QString result;
-    for (const QChar character : Shortened(text, longest))
+    for (const QChar character : Shortened(text, maxLength))
         result += IsInvisible(character) ? Escaped(character) : QString(character);
     return result;
 }

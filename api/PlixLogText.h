@@ -4,10 +4,9 @@
 
 namespace plix {
 
-// A text that others have written - a card's author, a host's exception - as it
-// may stand in a line of the log: line ends and all that cannot be seen are
-// written as "\n" or "\u2028", and after `longest` UTF-16 units "..." takes the
-// place of the rest.
-QString ToLogText(const QString& text, int longest);
+// Prepares text from a card or from a host's exception for a line of the log. Line
+// ends and invisible characters are written as "\n" or "\u2028". A text of more
+// than `maxLength` UTF-16 units is cut there, and "..." replaces the rest.
+QString ToLogText(const QString& text, int maxLength);
 
 } // namespace plix

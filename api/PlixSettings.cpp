@@ -23,7 +23,7 @@ void PlixSettings::WriteLog(const char* text) const noexcept
 {
     if (!logCallback_)
         return;
-    // There is nobody left to tell.
+    // A failure of the log itself cannot be logged.
     plix::CatchExceptions([&] { logCallback_(text); });
 }
 

@@ -6,27 +6,27 @@
 
 namespace plix {
 
-// The one wording that the library asks its host for: what is shown in place of
-// a text or label whose action leads to mobile apps only.
+// The key of the host's wording that replaces texts and labels whose action opens
+// mobile apps only.
 constexpr char kCheckOnMobileKey[] = "chat_room_check_on_mobile";
 
 } // namespace plix
 
-// The host's process-wide callbacks.
+// The host's process-wide callbacks. GUI thread only.
 class PlixSettings {
 public:
     static PlixSettings& GetInstance();
 
-    // Null switches the feature off.
+    // Null removes the callback.
     void SetMultiLangGetCallback(PlixMultiLangCallback callback);
     void SetWiteLogCallback(PlixLogCallback callback);
 
-    // Passes `text` to the host as it stands. A log callback that throws is
-    // not allowed to disturb the work it is told about.
+    // Passes `text` to the log callback unchanged. Ignores what the callback
+    // throws, so that logging never changes the result of an operation.
     void WriteLog(const char* text) const noexcept;
 
-    // The host's wording for `key`, UTF-8; empty without a callback, and when
-    // it throws, for which the build that asks has a log line.
+    // The host's wording for `key`, UTF-8. Empty without a callback, and if the
+    // callback throws, which is logged.
     std::string GetMultiLangText(const std::string& key) const;
 
 private:

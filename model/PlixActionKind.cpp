@@ -3,6 +3,9 @@
 #include "layout/PlixKeywordTable.h"
 #include "model/PlixDataItem.h"
 
+#include <array>
+#include <memory>
+
 namespace plix {
 
 namespace {

@@ -4,8 +4,8 @@
 
 class PlixDataItem;
 
-// What an action's "type" word asks for. Only actions of a known kind make a
-// text or an image clickable.
+// The kind of an action. Only actions of a known kind make a text or an image
+// clickable.
 enum PlixActionKind : int {
     PlixActionNone = 0,
     PlixActionMessage = 1,
@@ -15,9 +15,10 @@ enum PlixActionKind : int {
 
 namespace plix {
 
+// The kind that a "type" word names, PlixActionNone for any other word.
 PlixActionKind ToActionKind(const std::string& word);
 
-// Whether the item has an action, and one of a known kind.
+// Whether the item has an action of a known kind.
 bool HasKnownAction(const PlixDataItem& data);
 
 } // namespace plix

@@ -7,7 +7,7 @@ class PlixDataItem;
 
 namespace plix {
 
-// What the tree above an item says about it.
+// What depends on the ancestors of an item.
 
 // The box that holds `item`; null when its parent is not a box.
 std::shared_ptr<PlixDataBox> ParentBox(const PlixDataItem& item);

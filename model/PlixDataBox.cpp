@@ -1,5 +1,7 @@
 #include "model/PlixDataBox.h"
 
+#include <utility>
+
 namespace {
 
 void ReadPadding(const std::string& text, PlixPadding& padding)
@@ -13,7 +15,7 @@ void ReadPadding(const std::string& text, PlixPadding& padding)
         padding.percent = plix::ToPercent(text);
 }
 
-// Unlike other lengths, a box's size keeps what it has when given nothing.
+// An empty text leaves the length as it is.
 void ReadSize(const std::string& text, PlixLength& length)
 {
     if (!text.empty())

@@ -4,8 +4,11 @@
 #include "model/PlixDataContainer.h"
 #include "model/PlixDataItemCommon.h"
 
-// A padding in pixels (a percentage has 0 there) and in percent; -1 is "not
-// given".
+#include <memory>
+#include <string>
+
+// A padding in pixels and in percent; -1 means "not given". A padding that was
+// given in percent has 0 pixels.
 struct PlixPadding {
     int px = -1;
     int percent = -1;
@@ -56,11 +59,11 @@ public:
     PlixPadding GetPaddingStart() const { return paddingStart_; }
     void SetPaddingStart(const std::string& padding);
     PlixPadding GetPaddingEnd() const { return paddingEnd_; }
-    // An empty text takes back the start padding, not the end one: cards in
-    // circulation are drawn with it.
+    // An empty text resets the start padding instead of the end padding: existing
+    // cards rely on this.
     void SetPaddingEnd(const std::string& padding);
 
-    // Null until the factory has made it.
+    // The children. Null until PlixDataItemCreater sets it.
     std::shared_ptr<PlixDataContainer> GetContainer() const { return container_; }
     void SetContainer(std::shared_ptr<PlixDataContainer> container);
 

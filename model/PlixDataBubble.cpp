@@ -20,7 +20,7 @@ constexpr std::array kWidths = std::to_array<Pixels>({{"giga", 500},
 constexpr std::array kSizeSpacings =
     std::to_array<Pixels>({{"giga", 20}, {"mega", 20}, {"kilo", 13}, {"micro", 10}, {"nano", 10}});
 
-// Between the body and a footer that has something to show.
+// The space between the body and a footer that is not empty.
 constexpr std::array kFooterSpacings =
     std::to_array<Pixels>({{"giga", 10}, {"mega", 10}, {"kilo", 3}, {"micro", 0}, {"nano", 0}});
 

@@ -13,7 +13,7 @@ class PlixDataBubble : public PlixDataItem {
 public:
     PlixDataBubble();
 
-    // A zone with its style, for walking all four in order.
+    // A zone with its style.
     struct Zone {
         std::shared_ptr<PlixDataContainer> container;
         const PlixZoneStyle& style;
@@ -24,8 +24,8 @@ public:
     void SetIndex(int) override { }
     int GetIndex() const override { return 0; }
 
-    // Makes the four zones. Throws std::bad_weak_ptr when the bubble is not
-    // held by a shared pointer yet, since the zones hold it.
+    // Creates the four zones. The zones share the ownership of the bubble: throws
+    // std::bad_weak_ptr if no shared pointer owns the bubble yet.
     void InitZones();
 
     std::string GetDirection() const { return direction_; }
@@ -47,11 +47,11 @@ public:
     PlixZoneStyle& GetBodyStyle() { return bodyStyle_; }
     PlixZoneStyle& GetFooterStyle() { return footerStyle_; }
 
-    // The card's width by its size word; looked up once, except for the
-    // default width, which is also the mark for "not looked up yet".
+    // The card's width in pixels, by its size word. Looked up once, except for
+    // the default width, which also means "not looked up yet".
     float GetWidth();
 
-    // The inset of the zones, and that of the body's bottom.
+    // The inset of the zones, and the bottom inset of the body, in pixels.
     float GetSizeSpacing() const;
     float GetFooterSpacing() const;
 

@@ -23,7 +23,7 @@ public:
     std::string GetSize() const { return size_; }
     void SetSize(const std::string& size) { size_ = size; }
 
-    // Noted when the button is built.
+    // The label's font size in pixels, set when the button is built.
     int GetPixelSize() const { return pixelSize_; }
     void SetPixelSize(int size) { pixelSize_ = size; }
 

@@ -2,6 +2,9 @@
 
 #include "model/PlixDataItem.h"
 
+#include <cstddef>
+#include <utility>
+
 PlixDataContainer::~PlixDataContainer() = default;
 
 void PlixDataContainer::SetOwner(std::shared_ptr<PlixDataItem> owner)

@@ -14,17 +14,17 @@ public:
     PlixDataContainer(const PlixDataContainer&) = delete;
     PlixDataContainer& operator=(const PlixDataContainer&) = delete;
 
-    // The item that becomes the parent of every child added from now on. Held
-    // strongly: Clear() breaks the cycle.
+    // Sets the parent of the children that are added from now on. This list shares
+    // its ownership; Clear() breaks the cycle.
     void SetOwner(std::shared_ptr<PlixDataItem> owner);
 
     void AddChild(const std::shared_ptr<PlixDataItem>& child);
     int GetChildCount() const;
-    // Null when there is no such child.
+    // Null if there is no such child.
     std::shared_ptr<PlixDataItem> GetChild(int index) const;
     const std::vector<std::shared_ptr<PlixDataItem>>& GetChildren() const { return children_; }
 
-    // Lets go of the children and of the owner.
+    // Releases the children and the owner.
     void Clear();
 
 private:

@@ -2,13 +2,13 @@
 
 #include "model/PlixDataItem.h"
 
-// Empty space that takes what is left over.
+// Empty space that grows.
 class PlixDataFiller : public PlixDataItem {
 public:
     PlixDataFiller();
 
-    // As the JSON gives it, or 1: what a missing "flex" means in a column is
-    // for the drawn item to say.
+    // The value of "flex", or 1. PlixFillerUI decides what a missing "flex" means
+    // in a column.
     int GetGrow() const override { return flex_; }
 
     bool IsFlexDefault() const { return flexIsDefault_; }

@@ -20,7 +20,7 @@ public:
     const PlixLanguageMap& GetUrls() const { return urls_; }
     PlixLanguageMap& MutableUrls() { return urls_; }
 
-    // Noted when the icon is built.
+    // The icon's size in pixels, set when the icon is built.
     int GetPixelSize() const { return pixelSize_; }
     void SetPixelSize(int size) { pixelSize_ = size; }
 

@@ -32,8 +32,8 @@ public:
     const PlixLanguageMap& GetUrls() const { return urls_; }
     PlixLanguageMap& MutableUrls() { return urls_; }
 
-    // The picture's width by its size word, looked up once, except for the
-    // default width, which is also the mark for "not looked up yet".
+    // The image's width in pixels, by its size word. Looked up once, except for
+    // the default width, which also means "not looked up yet".
     float GetSizePixels();
 
 private:

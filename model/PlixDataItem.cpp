@@ -1,13 +1,15 @@
 #include "model/PlixDataItem.h"
 
+#include <utility>
+
 namespace {
 
-bool LeadsToDesktop(const ST_ACTION& action)
+bool OpensDesktop(const ST_ACTION& action)
 {
     return !action.uri.empty() || !action.pcUri.empty() || !action.webUri.empty();
 }
 
-bool LeadsToMobileApp(const ST_ACTION& action)
+bool OpensMobileApp(const ST_ACTION& action)
 {
     return !action.appUri.empty() || !action.androidUri.empty() || !action.iosUri.empty();
 }
@@ -59,9 +61,9 @@ bool PlixDataItem::IsAppOnlyAction() const
         const std::shared_ptr<ST_ACTION> action = item->GetAction();
         if (!action)
             continue;
-        if (LeadsToDesktop(*action))
+        if (OpensDesktop(*action))
             return false;
-        if (LeadsToMobileApp(*action))
+        if (OpensMobileApp(*action))
             return true;
     }
     return false;

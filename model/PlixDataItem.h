@@ -6,11 +6,11 @@
 
 #include <memory>
 
-// One node of a card message: what the JSON said, with defaults filled in.
+// One item of a card message: the values of the JSON, or their defaults.
 //
-// Items are made by PlixDataItemCreater and live in shared pointers only. A
-// child holds its parent strongly, and containers hold their children, so a
-// tree is a cycle: whoever drops one calls DiscardDataTree.
+// PlixDataItemCreater creates items; shared pointers own them. A child shares the
+// ownership of its parent, and a container that of its children. So a tree is a
+// cycle that does not free itself: call DiscardDataTree.
 class PlixDataItem : public std::enable_shared_from_this<PlixDataItem> {
 public:
     virtual ~PlixDataItem();
@@ -22,10 +22,10 @@ public:
     // The flex-grow factor that the layout is to use.
     virtual int GetGrow() const = 0;
     virtual void SetIndex(int index);
-    // The position among the siblings, as the JSON array counts.
+    // The index in the JSON array, which counts skipped elements, too.
     virtual int GetIndex() const;
     virtual void SetParent(std::shared_ptr<PlixDataItem> parent);
-    // Empty when the JSON gave no action.
+    // Null if the JSON has no action.
     virtual std::shared_ptr<ST_ACTION> GetAction() const;
 
     std::shared_ptr<PlixDataItem> GetParent() const { return parent_; }
@@ -34,8 +34,8 @@ public:
     // The host's settings that apply to this item.
     void SetAttributes(const PlixDisplayParam& param) { displayParam_ = param; }
 
-    // Whether the nearest action that carries any link, the item's own or an
-    // ancestor's, leads to mobile apps only.
+    // Whether the nearest action with a link, the item's own or an ancestor's,
+    // opens mobile apps only. False if the host has turned this check off.
     bool IsAppOnlyAction() const;
 
 protected:

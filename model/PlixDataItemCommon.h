@@ -4,8 +4,8 @@
 
 #include <string>
 
-// The layout properties that box, text, image, icon and button share. Values
-// stay as the JSON wrote them; they become pixels when the card is built.
+// The layout properties that box, text, image, icon and button share. Values are
+// stored as in the JSON, and converted to pixels when the card is built.
 class PlixDataItemCommon : public PlixDataItem {
 public:
     ~PlixDataItemCommon() override;
@@ -16,8 +16,7 @@ public:
 
     bool IsGrowDefault() const { return growIsDefault_; }
 
-    // Whether the item, or an ancestor it is placed within, is taken out of
-    // the flow.
+    // Whether the item or one of the boxes around it has an absolute position.
     bool IsAbsolute() const;
 
     std::string GetMargin() const { return margin_; }

@@ -9,6 +9,8 @@
 #include "model/PlixDataSpacer.h"
 #include "model/PlixDataText.h"
 
+#include <utility>
+
 namespace {
 
 template <typename Item> std::shared_ptr<PlixDataItem> CreateItem()

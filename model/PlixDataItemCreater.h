@@ -6,13 +6,12 @@
 #include <map>
 #include <memory>
 
-// Makes empty data items by kind.
+// Creates empty data items by kind.
 class PlixDataItemCreater {
 public:
     PlixDataItemCreater();
 
-    // Null for a kind that cannot stand in a card's contents: an unknown one,
-    // or the bubble.
+    // Null for an unknown kind, and for the bubble, which no container can hold.
     std::shared_ptr<PlixDataItem> Create(int kind) const;
 
 private:

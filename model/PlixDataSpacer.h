@@ -4,12 +4,13 @@
 
 #include <string>
 
-// Fixed empty space.
+// Empty space of a fixed size.
 class PlixDataSpacer : public PlixDataItem {
 public:
     PlixDataSpacer();
 
     int GetGrow() const override { return 0; }
+    // The size in pixels, by its size word.
     virtual float GetSizePixels() const;
 
     std::string GetSize() const { return size_; }

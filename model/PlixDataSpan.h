@@ -6,7 +6,7 @@
 
 #include <string>
 
-// One run of a text, with a look of its own.
+// A part of a text with its own style.
 class PlixDataSpan {
 public:
     std::string GetText() const { return text_; }

@@ -45,10 +45,10 @@ public:
     void SetText(const std::string& code, const std::string& text) { texts_.texts[code] = text; }
 
     const std::vector<PlixDataSpan>& GetSpans() const { return spans_; }
-    // Appends an empty span, to be filled in place.
+    // Appends an empty span. The reference is valid until the next call.
     PlixDataSpan& AddSpan() { return spans_.emplace_back(); }
 
-    // The font's pixel size, noted when the text is built.
+    // The font size in pixels, set when the text is built.
     int GetPixelSize() const { return pixelSize_; }
     void SetPixelSize(int size) { pixelSize_ = size; }
 

@@ -14,8 +14,8 @@ void DiscardDataTree(const std::shared_ptr<PlixDataBubble>& bubble)
     for (const auto& zone : bubble->GetZones())
         containers.push_back(zone.container);
 
-    // Collected before anything is cut, so that the items are freed one after
-    // the other when this list goes, and not one inside the other.
+    // Holds every item until the tree is taken apart. Then the items are freed one
+    // after the other; no destructor frees another item.
     std::vector<std::shared_ptr<PlixDataItem>> items;
     for (std::size_t i = 0; i < containers.size(); ++i) {
         const std::shared_ptr<PlixDataContainer> container = containers[i];

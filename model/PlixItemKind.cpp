@@ -2,6 +2,8 @@
 
 #include "layout/PlixKeywordTable.h"
 
+#include <array>
+
 namespace plix {
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-// The kinds of data items. The numbers key the factories and the reader.
+// The kinds of data items. The factories and the reader use these numbers as keys.
 enum PlixItemKind : int {
     PlixKindNone = 0,
     PlixKindBubble = 1,

@@ -4,7 +4,7 @@
 
 PlixItemRegistry& PlixItemRegistry::GetInstance()
 {
-    // Never destroyed: a card may still be up when static objects go.
+    // Never destroyed: a card may still exist when static objects are destroyed.
     static auto* const instance = new PlixItemRegistry;
     return *instance;
 }

@@ -6,17 +6,18 @@
 
 class PlixDataItem;
 
-// The data items behind graphics items, process-wide.
+// The data items of all graphics items, process-wide. GUI thread only.
 //
-// A graphics item stores the key of its data item as its data of role
-// kDataItemRole and finds the item here. Entries are never removed: a graphics
-// item may outlive its controller and must still find its data.
+// A graphics item stores the key of its data item as QGraphicsItem::data() of the
+// role kDataItemRole, and finds the data item here. Entries are never removed: a
+// graphics item may outlive its controller and must still find its data.
 class PlixItemRegistry {
 public:
     static PlixItemRegistry& GetInstance();
 
     // Returns the key: the item's address.
     std::int64_t Add(const std::shared_ptr<PlixDataItem>& item);
+    // Null for an unknown key.
     std::shared_ptr<PlixDataItem> Find(std::int64_t key) const;
 
     static std::int64_t KeyOf(const PlixDataItem* item);

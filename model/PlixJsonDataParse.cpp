@@ -6,11 +6,14 @@
 #include "model/PlixJsonTables.h"
 #include "model/PlixJsonText.h"
 
+#include <array>
+#include <cstddef>
 #include <stdexcept>
 
 namespace {
 
-// Runs the body of a Parse operation; what it throws ends that operation only.
+// Runs the body of a Parse operation. An exception is logged and ends only this
+// operation.
 template <typename Body> int RunOperation(const char* operation, Body body)
 {
     const bool isDone = plix::CatchExceptions(body, [operation](const char* reason) {
@@ -19,7 +22,7 @@ template <typename Body> int RunOperation(const char* operation, Body body)
     return isDone ? 0 : -1;
 }
 
-// What every component's Parse operation does with its table.
+// The Parse operation of a component that consists of one table.
 template <typename Item, std::size_t Size>
 int ParseComponent(const char* operation, const std::array<PlixJsonKey<Item>, Size>& keys,
                    PlixJsonDataParse& parse, const Json::Value& node,
@@ -29,7 +32,7 @@ int ParseComponent(const char* operation, const std::array<PlixJsonKey<Item>, Si
                         [&] { plix::ReadKeys(keys, parse, node, dynamic_cast<Item&>(*item)); });
 }
 
-// Counts one level more for as long as it lives.
+// Increments a counter during its lifetime.
 class Level {
 public:
     explicit Level(int& count)

@@ -3,6 +3,10 @@
 #include "model/PlixDataItemCreater.h"
 #include "model/PlixJsonValue.h"
 
+#include <plix/Plix.h>
+
+#include <json/value.h>
+
 #include <map>
 #include <memory>
 #include <string>
@@ -14,25 +18,24 @@ class PlixDataMgr;
 
 // Reads the JSON of a card message into data items.
 //
-// Every Parse operation returns 0 when it ran to its end and -1 when it met
-// something it could not read. It then has logged one line about it, and what
-// it had read until then stays; its caller carries on, so a bad piece costs
-// that piece only.
+// Every Parse operation returns 0 on success and -1 if it found something that it
+// could not read. It then has logged one line, and what it has read so far stays.
+// The caller continues, so an error in one component does not affect the others.
 class PlixJsonDataParse {
 public:
-    // So many boxes may be nested in a zone. What a layout costs grows with
-    // their depth, and people write cards of fewer than ten levels.
+    // The maximum depth of nested boxes in a zone. The time for a layout grows with
+    // the depth, and real cards have fewer than ten levels.
     static constexpr int kMaxNestedBoxes = 24;
 
     PlixJsonDataParse();
 
-    // Fills the bubble of `root`. A text that is not the JSON of a bubble is
-    // no failure: nothing is read.
+    // Reads `text` into the bubble of `root`. Returns 0 without reading anything if
+    // `text` is not the JSON of a bubble.
     int Parse(const std::string& text, PlixDataMgr& root);
 
     int ParseBubble(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item);
     int ParseZone(const PlixJsonMember& zone, const std::shared_ptr<PlixDataContainer>& container);
-    // A box that is nested too deeply fails before its "contents".
+    // A box that is nested too deeply fails before its "contents" are read.
     int ParseBox(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item);
     int ParseText(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item);
     int ParseImage(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item);
@@ -44,15 +47,15 @@ public:
     int ParseAction(const PlixJsonMember& member, ST_ACTION& action);
     int ParseMultiLang(const PlixJsonMember& member, PlixLanguageMap& texts);
 
-    // Appends the component that `node` describes to `container`, unless its
-    // "type" names none. What is wrong inside it is its own affair.
+    // Appends the component that `node` describes to `container`. Does nothing if
+    // its "type" is unknown. A component that fails is appended, too.
     void AddComponent(const Json::Value& node, int index, PlixDataContainer& container);
 
 private:
     using ParseOperation = int (PlixJsonDataParse::*)(const Json::Value& node,
                                                       const std::shared_ptr<PlixDataItem>& item);
 
-    // How many boxes are being read, each in the one before it.
+    // The number of boxes that are being read, each inside the one before.
     int nestedBoxes_ = 0;
     std::map<int, ParseOperation> parseTable_;
     std::shared_ptr<PlixDataItemCreater> creater_;

@@ -2,16 +2,19 @@
 
 #include "model/PlixJsonValue.h"
 
+#include <json/value.h>
+
+#include <algorithm>
 #include <array>
-#include <type_traits>
+#include <cstddef>
 
 class PlixJsonDataParse;
 
-// What a key's value has to be.
+// The type that a key's value must have.
 enum class PlixJsonType { String, Integer, Boolean, Object, Array };
 
-// One row of a component's table: a key, what its value has to be, and how the
-// value reaches the component. Rows stand in reading order.
+// One row of a component's table: a key, the type of its value, and a function
+// that stores the value in the component.
 template <typename Target> struct PlixJsonKey {
     const char* name;
     PlixJsonType type;
@@ -20,7 +23,7 @@ template <typename Target> struct PlixJsonKey {
 
 namespace plix {
 
-// Rows for plain values, by the setter they go to.
+// Rows for plain values. `Setter` stores the value.
 
 template <typename Target, auto Setter> constexpr PlixJsonKey<Target> StringKey(const char* name)
 {
@@ -46,8 +49,8 @@ template <typename Target, auto Setter> constexpr PlixJsonKey<Target> BooleanKey
             }};
 }
 
-// The one routine that walks a table: every key of `object` that the table
-// knows is read, the others are ignored.
+// Reads the keys of `object` in the order of the table. Ignores keys that are not
+// in the table.
 template <typename Target, std::size_t Size>
 void ReadKeys(const std::array<PlixJsonKey<Target>, Size>& keys, PlixJsonDataParse& parse,
               const Json::Value& object, Target& target)
@@ -58,7 +61,7 @@ void ReadKeys(const std::array<PlixJsonKey<Target>, Size>& keys, PlixJsonDataPar
     }
 }
 
-// Puts parts of a table in a row.
+// Joins the parts of a table.
 template <typename Target, std::size_t... Sizes>
 constexpr auto JoinKeys(const std::array<PlixJsonKey<Target>, Sizes>&... parts)
 {

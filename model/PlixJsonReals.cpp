@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <string_view>
+#include <system_error>
 
 namespace plix {
 
@@ -27,14 +29,15 @@ std::size_t SkipDigits(std::string_view text, std::size_t at)
     return at;
 }
 
-// Behind the first of `characters` from `at` on; the end when there is none.
+// The position after the first of `characters` at or after `at`. The end of the
+// text if there is none.
 std::size_t SkipPast(std::string_view text, std::size_t at, std::string_view characters)
 {
     const std::size_t found = text.find_first_of(characters, at);
     return found == std::string_view::npos ? text.size() : found + 1;
 }
 
-// ----- Where what begins at `begin` ends. All as the parser sees it.
+// ----- The end of the token that begins at `begin`, by the rules of the parser
 
 std::size_t EndOfString(std::string_view text, std::size_t begin)
 {
@@ -81,8 +84,8 @@ std::size_t EndOfToken(std::string_view text, std::size_t begin)
 
 // ----- Numbers
 
-// The value of "12", "+12" or "-12". What is too large for a number is cut to
-// one that is still far larger than any text is long.
+// The value of "12", "+12" or "-12". A value that is too large is replaced by one
+// that is still far larger than the length of any text.
 std::int64_t ToExponent(std::string_view digits)
 {
     constexpr std::int64_t kLargest = std::numeric_limits<std::int64_t>::max() / 2;

@@ -12,15 +12,24 @@
 #include "model/PlixDataText.h"
 #include "model/PlixJsonDataParse.h"
 #include "model/PlixJsonKey.h"
+#include "model/PlixJsonValue.h"
 #include "model/PlixZoneStyle.h"
+
+#include <plix/Plix.h>
+
+#include <json/value.h>
+
+#include <array>
+#include <memory>
+#include <string>
+#include <utility>
 
 namespace plix {
 
-// The keys of a card message: one table per component, in reading order.
-// Whatever has to know the format - the reader, a linter, a schema - walks
-// these.
+// The keys of a card message: one table per component, in reading order. These
+// tables are the only place that defines the keys.
 
-// ---- rows for values that are read by an operation of the reader ----
+// ---- rows for values that an operation of the reader reads ----
 
 template <typename Item> constexpr PlixJsonKey<Item> ActionKey()
 {
@@ -34,7 +43,7 @@ template <typename Item> constexpr PlixJsonKey<Item> ActionKey()
             }};
 }
 
-// "i18nTexts" of texts and spans: six languages and nothing else.
+// "i18nTexts" of texts and spans: reads six languages and ignores others.
 template <typename Target> constexpr PlixJsonKey<Target> TextsKey()
 {
     return {"i18nTexts", PlixJsonType::Object,
@@ -150,7 +159,7 @@ inline constexpr auto kBoxKeys =
                  ActionKey<PlixDataBox>(),
              }));
 
-// Read after the keys of the box itself, and only in a box that may have some.
+// Read after the other keys of a box, and only if the box is not nested too deeply.
 inline constexpr auto kBoxContentsKeys = std::to_array<PlixJsonKey<PlixDataBox>>({
     {"contents", PlixJsonType::Array,
      [](PlixJsonDataParse& parse, const PlixJsonMember& member, PlixDataBox& box) {
@@ -248,7 +257,7 @@ inline constexpr auto kSeparatorKeys = std::to_array<PlixJsonKey<PlixDataSeparat
     StringKey<PlixDataSeparator, &PlixDataSeparator::SetColor>("color"),
 });
 
-// "postback" is another name of "data", and wins by being read later.
+// "postback" is another name for "data". It is read later, so it takes precedence.
 inline constexpr auto kActionKeys = std::to_array<PlixJsonKey<ST_ACTION>>({
     ActionTextKey<&ST_ACTION::type>("type"),
     ActionTextKey<&ST_ACTION::uri>("uri"),

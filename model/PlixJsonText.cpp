@@ -8,11 +8,11 @@ namespace plix {
 
 Json::Value ReadJsonText(const std::string& text)
 {
-    // Nobody reads comments, and the time to collect them grows with the square
+    // Comments are not used, and the time for collecting them grows with the square
     // of their number.
     constexpr bool kCollectComments = false;
     Json::Value value;
-    // Whether all of the text was understood does not count.
+    // Ignores the result: the value is used although the text may be malformed.
     Json::Reader().parse(WithoutDecimalPoints(text), value, kCollectComments);
     return value;
 }

@@ -6,11 +6,11 @@
 
 namespace plix {
 
-// The JSON of a card message, without its comments. Of a text that is not JSON
-// it is what stands before the first mistake, or null. Throws for text that is
-// nested more deeply than the parser goes.
+// Parses the JSON of a card message, and drops its comments. If `text` is not valid
+// JSON, returns what precedes the first error, or null. Throws Json::Exception if
+// `text` is nested more deeply than the parser allows.
 //
-// The same text gives the same value in every locale.
+// The result does not depend on the locale.
 Json::Value ReadJsonText(const std::string& text);
 
 } // namespace plix

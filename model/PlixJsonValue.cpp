@@ -3,18 +3,19 @@
 #include "api/PlixLogText.h"
 
 #include <QLocale>
+#include <QString>
 
 namespace {
 
-// Before it becomes part of an exception's text, which ends at a zero byte.
+// Escaped here already: the text of an exception would end at a zero byte.
 std::string Quoted(std::string_view text)
 {
-    constexpr int kLongest = 40;
+    constexpr int kMaxLength = 40;
     const QString all = QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-    return '"' + plix::ToLogText(all, kLongest).toStdString() + '"';
+    return '"' + plix::ToLogText(all, kMaxLength).toStdString() + '"';
 }
 
-// The parser's own conversion asks the locale for the decimal point.
+// jsoncpp's own conversion uses the decimal point of the locale.
 std::string ToDigits(double number)
 {
     return QString::number(number, 'g', QLocale::FloatingPointShortest).toStdString();

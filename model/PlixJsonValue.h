@@ -6,15 +6,14 @@
 #include <string>
 #include <string_view>
 
-// A member of a JSON object that is being read, with its name, so that a
-// complaint about it can say where to look.
+// A member of a JSON object, with its name for error messages. It owns neither.
 struct PlixJsonMember {
     std::string_view name;
     const Json::Value& value;
 };
 
-// A value of another kind than its key needs. The text is for the card's
-// author: which key, what it needs, what was found.
+// Thrown for a value of the wrong type. The text is for the card's author: it
+// names the key, the type that it needs, and the value that was found.
 class PlixJsonTypeError : public std::runtime_error {
 public:
     PlixJsonTypeError(const PlixJsonMember& member, const char* needed);
@@ -22,26 +21,27 @@ public:
 
 namespace plix {
 
-// The conversions that are part of the card format. They are stricter than
-// jsoncpp's own with numbers where a string is needed, and more lenient with
-// anything where a boolean is needed; null counts as nothing given.
+// The conversions of the card format. They differ from jsoncpp's own: a number is
+// not a string, and every value is a boolean. null counts as not given. They throw
+// PlixJsonTypeError for a value that they cannot convert.
 
-// null: empty; a boolean: "true" or "false"; else strings only.
+// A string; "true" or "false" for a boolean; empty for null.
 std::string ToString(const PlixJsonMember& member);
 
-// null: 0; a boolean: 0 or 1; a number in range: its whole part.
+// A number without its fraction, if it is in the range of int; 0 or 1 for a
+// boolean; 0 for null.
 int ToInteger(const PlixJsonMember& member);
 
-// Never throws: non-zero numbers and non-empty strings, arrays and objects
-// are true.
+// Never throws. Numbers other than 0 and strings, arrays and objects that are not
+// empty are true; null is false.
 bool ToBoolean(const PlixJsonMember& member);
 
-// The value itself once it is known to be an object (an array) or null.
+// Return the value of the member if it is an object (an array) or null.
 const Json::Value& RequireObject(const PlixJsonMember& member);
 const Json::Value& RequireArray(const PlixJsonMember& member);
 
-// The "type" word of a component; empty for anything that is no object or has
-// no text there, since neither names a component.
+// The "type" word of a component. Empty if `node` is not an object or its "type" is
+// not a string.
 std::string TypeWord(const Json::Value& node);
 
 } // namespace plix

@@ -6,9 +6,8 @@
 
 namespace plix {
 
-// The variant that is shown in `language`: the text of that language, else the
-// one under "default", else `plain`. A variant that is there counts even when
-// it is empty.
+// The text to show in `language`: the variant of this language, else the variant
+// "default", else `plain`. A variant may be empty.
 std::string ChooseText(const PlixLanguageMap& variants, const std::string& language,
                        const std::string& plain);
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-// How a zone is painted: the keys of "styles".
+// The style of a zone, from the key "styles".
 struct PlixZoneStyle {
     std::string backgroundColor;
     bool separator = false;

@@ -7,8 +7,8 @@
 
 namespace {
 
-// The shades of one colour over white, behind the transparent one, so that soft
-// edges stay soft.
+// A palette for soft edges: the transparent colour, then shades from white to
+// `color`.
 QVector<QRgb> shadesOf(const QColor& color)
 {
     constexpr int count = 15;
@@ -30,9 +30,9 @@ QByteArray drawEqualizer()
     GifWriter writer({120, 60}, palette);
     for (int frame = 0; frame < frames; ++frame) {
         Canvas canvas(120, 60);
-        // It stands on grounds of any colour, so its edges cannot be soft.
+        // The background may have any colour, so there are no shades for soft edges.
         canvas.setRenderHint(QPainter::Antialiasing, false);
-        canvas.useFilling(QColor(palette[1]));
+        canvas.useBrush(QColor(palette[1]));
         for (int bar = 0; bar < 8; ++bar) {
             const double phase = 2 * M_PI * (frame + bar * bar * 1.7) / frames;
             const double height = 28 + 22 * qSin(phase);
@@ -51,9 +51,9 @@ QByteArray drawRing()
     for (int frame = 0; frame < frames; ++frame) {
         Canvas canvas(64, 64);
         canvas.fillRect(0, 0, 64, 64, Qt::white);
-        canvas.useLine(QColor(0xD8, 0xE9, 0xF9), 8);
+        canvas.usePen(QColor(0xD8, 0xE9, 0xF9), 8);
         canvas.drawEllipse(QPointF(32, 32), 24, 24);
-        canvas.useLine(color, 8);
+        canvas.usePen(color, 8);
         canvas.drawArc(QRectF(8, 8, 48, 48), -frame * 360 * 16 / frames, 100 * 16);
         writer.addFrame(canvas.finish(), 60);
     }
@@ -68,7 +68,7 @@ QByteArray drawFlag()
     GifWriter writer({200, 120}, palette);
     for (int frame = 0; frame < frames; ++frame) {
         Canvas canvas(200, 120);
-        // The few colours of a flag have no shades for soft edges.
+        // The palette has no shades for soft edges.
         canvas.setRenderHint(QPainter::Antialiasing, false);
         canvas.fillRect(8, 4, 6, 112, QColor(palette[1]));
         for (int x = 14; x < 190; ++x) {

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
-// A picture that is being drawn: transparent at first, with soft edges.
+// A painter on a picture of its own, which is transparent at first.
 class Canvas : public QPainter {
 public:
     Canvas(int width, int height)
@@ -16,20 +16,22 @@ public:
         setPen(Qt::NoPen);
     }
 
-    // A line instead of a filling, with round ends.
-    void useLine(const QColor& color, double width)
+    // Draws lines with round ends, without a fill.
+    void usePen(const QColor& color, double width)
     {
         setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         setBrush(Qt::NoBrush);
     }
 
-    void useFilling(const QBrush& brush)
+    // Fills shapes, without a line.
+    void useBrush(const QBrush& brush)
     {
         setPen(Qt::NoPen);
         setBrush(brush);
     }
 
-    void fillDown(const QRectF& area, const QColor& top, const QColor& bottom)
+    // Fills `area` with a gradient from top to bottom.
+    void fillWithGradient(const QRectF& area, const QColor& top, const QColor& bottom)
     {
         QLinearGradient gradient(area.topLeft(), area.bottomLeft());
         gradient.setColorAt(0, top);

@@ -12,7 +12,7 @@ void append16(QByteArray& bytes, int value)
     bytes.append(static_cast<char>(value >> 8 & 0xFF));
 }
 
-// Packs codes of a growing number of bits, the lowest bit first.
+// Packs codes of a growing number of bits, lowest bit first.
 class CodeWriter {
 public:
     void write(int code, int bits)
@@ -43,8 +43,8 @@ private:
     int pendingBits_ = 0;
 };
 
-// The compression of the format: a code stands for a run of pixels that was
-// seen before.
+// The compression of the format: a code represents a run of pixels that has
+// occurred before.
 QByteArray compress(const QByteArray& indexes, int colorBits)
 {
     constexpr int maximumBits = 12;
@@ -60,7 +60,7 @@ QByteArray compress(const QByteArray& indexes, int colorBits)
         bits = colorBits + 1;
         next = clear + 2;
     };
-    // Readers make room for the next code now, also when it is the last one.
+    // Readers widen their codes now, even if no code follows.
     const auto write = [&](int code) {
         writer.write(code, bits);
         if (next == 1 << bits && bits < maximumBits)
@@ -108,7 +108,7 @@ void GifWriter::writeHeader(int repetitions)
     append16(bytes_, size_.width());
     append16(bytes_, size_.height());
     bytes_.append(static_cast<char>(hasTable | (colorBits_ - 1)));
-    bytes_.append(2, '\0'); // the ground's colour, and square pixels
+    bytes_.append(2, '\0'); // the background colour, and square pixels
     for (const QRgb color : palette_) {
         bytes_.append(static_cast<char>(qRed(color)));
         bytes_.append(static_cast<char>(qGreen(color)));
@@ -131,11 +131,11 @@ QByteArray GifWriter::indexes(const QImage& frame) const
 
 void GifWriter::addFrame(const QImage& frame, int milliseconds)
 {
-    constexpr int restoreGround = 2 << 2;
+    constexpr int restoreBackground = 2 << 2;
     constexpr int hasTransparent = 1;
-    constexpr int longestBlock = 255;
+    constexpr int maximumBlockSize = 255;
     bytes_.append("\x21\xF9\x04", 3);
-    bytes_.append(static_cast<char>(restoreGround | hasTransparent));
+    bytes_.append(static_cast<char>(restoreBackground | hasTransparent));
     append16(bytes_, (milliseconds + 5) / 10);
     bytes_.append(2, '\0'); // the transparent colour, and the end of the block
 
@@ -148,8 +148,8 @@ void GifWriter::addFrame(const QImage& frame, int milliseconds)
 
     bytes_.append(static_cast<char>(colorBits_));
     const QByteArray packed = compress(indexes(frame), colorBits_);
-    for (int at = 0; at < packed.size(); at += longestBlock) {
-        const QByteArray block = packed.mid(at, longestBlock);
+    for (int at = 0; at < packed.size(); at += maximumBlockSize) {
+        const QByteArray block = packed.mid(at, maximumBlockSize);
         bytes_.append(static_cast<char>(block.size()));
         bytes_.append(block);
     }

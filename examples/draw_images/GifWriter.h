@@ -5,7 +5,7 @@
 #include <QSize>
 #include <QVector>
 
-// Writes animated GIF pictures, which Qt only reads.
+// Writes animated GIF files. Qt can only read them.
 //
 //     GifWriter writer({120, 60}, palette);
 //     writer.addFrame(first, 100);
@@ -15,15 +15,15 @@ class GifWriter {
 public:
     static constexpr int endless = 0;
 
-    // `palette` has 2 to 256 colours; the first one is transparent. The picture
-    // plays once and `repetitions` times again, or without an end.
+    // `palette` has 2 to 256 colours; the first one is transparent. The animation
+    // plays once and is repeated `repetitions` times, or endlessly.
     GifWriter(const QSize& size, const QVector<QRgb>& palette, int repetitions = endless);
 
-    // `frame` has the picture's size; each pixel gets the nearest colour of the
-    // palette. It is shown for `milliseconds`, to the nearest ten.
+    // `frame` must have the size of the animation. Each pixel gets the nearest
+    // colour of the palette. `milliseconds` is rounded to a multiple of ten.
     void addFrame(const QImage& frame, int milliseconds);
 
-    // The file. Nothing can be added afterwards.
+    // Returns the file. No frame can be added afterwards.
     QByteArray finish();
 
 private:

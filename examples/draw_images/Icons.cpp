@@ -22,7 +22,7 @@ QPolygonF star()
 
 void addCloud(Canvas& canvas, const QColor& color)
 {
-    canvas.useFilling(color);
+    canvas.useBrush(color);
     canvas.drawEllipse(QPointF(24, 34), 13, 13);
     canvas.drawEllipse(QPointF(38, 28), 16, 16);
     canvas.drawRoundedRect(QRectF(8, 32, 50, 18), 9, 9);
@@ -33,10 +33,10 @@ void addCloud(Canvas& canvas, const QColor& color)
 QImage drawStar(double filled)
 {
     Canvas canvas(side, side);
-    canvas.useFilling(QColor(0xD8, 0xDC, 0xE2));
+    canvas.useBrush(QColor(0xD8, 0xDC, 0xE2));
     canvas.drawPolygon(star());
     canvas.setClipRect(QRectF(0, 0, side * filled, side));
-    canvas.useFilling(QColor(0xF6, 0xA6, 0x23));
+    canvas.useBrush(QColor(0xF6, 0xA6, 0x23));
     canvas.drawPolygon(star());
     return canvas.finish();
 }
@@ -44,13 +44,13 @@ QImage drawStar(double filled)
 QImage drawPin()
 {
     Canvas canvas(side, side);
-    canvas.useFilling(QColor(0xE0, 0x4F, 0x5F));
+    canvas.useBrush(QColor(0xE0, 0x4F, 0x5F));
     QPainterPath path(QPointF(32, 61));
     path.cubicTo(28, 48, 12, 38, 12, 23);
     path.arcTo(QRectF(12, 3, 40, 40), 180, -180);
     path.cubicTo(52, 38, 36, 48, 32, 61);
     canvas.drawPath(path);
-    canvas.useFilling(Qt::white);
+    canvas.useBrush(Qt::white);
     canvas.drawEllipse(QPointF(32, 23), 8, 8);
     return canvas.finish();
 }
@@ -58,7 +58,7 @@ QImage drawPin()
 QImage drawClock()
 {
     Canvas canvas(side, side);
-    canvas.useLine(QColor(0x5B, 0x6B, 0x7F), 6);
+    canvas.usePen(QColor(0x5B, 0x6B, 0x7F), 6);
     canvas.drawEllipse(QPointF(32, 32), 26, 26);
     canvas.drawPolyline(QVector<QPointF> {QPointF(32, 17), QPointF(32, 33), QPointF(43, 39)});
     return canvas.finish();
@@ -67,9 +67,9 @@ QImage drawClock()
 QImage drawCheck()
 {
     Canvas canvas(side, side);
-    canvas.useFilling(QColor(0x2E, 0xB3, 0x6B));
+    canvas.useBrush(QColor(0x2E, 0xB3, 0x6B));
     canvas.drawEllipse(QPointF(32, 32), 29, 29);
-    canvas.useLine(Qt::white, 7);
+    canvas.usePen(Qt::white, 7);
     canvas.drawPolyline(QVector<QPointF> {QPointF(19, 33), QPointF(28, 42), QPointF(45, 23)});
     return canvas.finish();
 }
@@ -77,9 +77,9 @@ QImage drawCheck()
 QImage drawCross()
 {
     Canvas canvas(side, side);
-    canvas.useFilling(QColor(0xD9, 0x48, 0x48));
+    canvas.useBrush(QColor(0xD9, 0x48, 0x48));
     canvas.drawEllipse(QPointF(32, 32), 29, 29);
-    canvas.useLine(Qt::white, 7);
+    canvas.usePen(Qt::white, 7);
     canvas.drawLine(22, 22, 42, 42);
     canvas.drawLine(42, 22, 22, 42);
     return canvas.finish();
@@ -88,13 +88,13 @@ QImage drawCross()
 QImage drawSun()
 {
     Canvas canvas(side, side);
-    canvas.useLine(QColor(0xF6, 0xB0, 0x1E), 5);
+    canvas.usePen(QColor(0xF6, 0xB0, 0x1E), 5);
     for (int i = 0; i < 8; ++i) {
         const double angle = qDegreesToRadians(i * 45.0);
         const QPointF direction(qCos(angle), qSin(angle));
         canvas.drawLine(QPointF(32, 32) + direction * 21, QPointF(32, 32) + direction * 28);
     }
-    canvas.useFilling(QColor(0xF6, 0xB0, 0x1E));
+    canvas.useBrush(QColor(0xF6, 0xB0, 0x1E));
     canvas.drawEllipse(QPointF(32, 32), 14, 14);
     return canvas.finish();
 }
@@ -111,7 +111,7 @@ QImage drawRain()
     Canvas canvas(side, side);
     canvas.translate(0, -8);
     addCloud(canvas, QColor(0x7F, 0x90, 0xA8));
-    canvas.useLine(QColor(0x3B, 0x8E, 0xD9), 5);
+    canvas.usePen(QColor(0x3B, 0x8E, 0xD9), 5);
     for (const int x : {18, 32, 46})
         canvas.drawLine(x, 57, x - 4, 66);
     return canvas.finish();
@@ -120,11 +120,11 @@ QImage drawRain()
 QImage drawPhone()
 {
     Canvas canvas(side, side);
-    canvas.useFilling(QColor(0x34, 0x40, 0x55));
+    canvas.useBrush(QColor(0x34, 0x40, 0x55));
     canvas.drawRoundedRect(QRectF(17, 3, 30, 58), 6, 6);
-    canvas.useFilling(QColor(0xC9, 0xE4, 0xF7));
+    canvas.useBrush(QColor(0xC9, 0xE4, 0xF7));
     canvas.drawRect(QRectF(21, 10, 22, 40));
-    canvas.useFilling(Qt::white);
+    canvas.useBrush(Qt::white);
     canvas.drawEllipse(QPointF(32, 55), 3, 3);
     return canvas.finish();
 }
@@ -132,10 +132,10 @@ QImage drawPhone()
 QImage drawNote()
 {
     Canvas canvas(side, side);
-    canvas.useLine(QColor(0x8A, 0x5C, 0xD6), 5);
+    canvas.usePen(QColor(0x8A, 0x5C, 0xD6), 5);
     canvas.drawPolyline(
         QVector<QPointF> {QPointF(22, 49), QPointF(22, 14), QPointF(50, 8), QPointF(50, 43)});
-    canvas.useFilling(QColor(0x8A, 0x5C, 0xD6));
+    canvas.useBrush(QColor(0x8A, 0x5C, 0xD6));
     canvas.drawEllipse(QPointF(16, 50), 9, 7);
     canvas.drawEllipse(QPointF(44, 44), 9, 7);
     return canvas.finish();
@@ -144,7 +144,7 @@ QImage drawNote()
 QImage drawBadge()
 {
     Canvas canvas(2 * side, side);
-    canvas.useFilling(QColor(0x1E, 0x88, 0xE5));
+    canvas.useBrush(QColor(0x1E, 0x88, 0xE5));
     canvas.drawRoundedRect(QRectF(2, 6, 124, 52), 26, 26);
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(38);

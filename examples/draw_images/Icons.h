@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-// Small pictures on a transparent ground.
+// Small pictures with a transparent background.
 QImage drawStar(double filled); // 0 to 1, from the left
 QImage drawPin();
 QImage drawClock();

@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QString>
 
-// Pictures like photographs, products, faces and the like.
+// Pictures in place of photographs, products and faces.
 QImage drawCoffee();
 QImage drawSkyline();
 QImage drawMountain();
@@ -16,4 +16,4 @@ QImage drawPlant();
 QImage drawAlbum();
 QImage drawPoster(const QString& title);
 QImage drawLogo();
-QImage drawAvatar(const QColor& ground, const QColor& hair, const QColor& shirt);
+QImage drawAvatar(const QColor& background, const QColor& hair, const QColor& shirt);

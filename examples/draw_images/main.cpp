@@ -22,15 +22,16 @@ public:
 
     void save(const char* name, const QImage& image)
     {
-        constexpr int quality = 80; // of the JPEG picture; PNG ones lose nothing
+        constexpr int quality = 80; // of the JPEG file; PNG is lossless
         const QString path = pathOf(name);
-        note(name, image.save(path, nullptr, path.endsWith(QLatin1String(".jpg")) ? quality : -1));
+        countFailure(
+            name, image.save(path, nullptr, path.endsWith(QLatin1String(".jpg")) ? quality : -1));
     }
 
     void save(const char* name, const QByteArray& bytes)
     {
         QFile file(pathOf(name));
-        note(name, file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        countFailure(name, file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
 
     int failures() const { return failures_; }
@@ -38,7 +39,7 @@ public:
 private:
     QString pathOf(const char* name) const { return folder_.filePath(QLatin1String(name)); }
 
-    void note(const char* name, bool isWritten)
+    void countFailure(const char* name, bool isWritten)
     {
         if (isWritten)
             return;

@@ -13,8 +13,8 @@ void onClick(PlixDataController*, ST_ACTION& action, void*)
     std::cout << action.type << ' ' << action.uri << action.data << std::endl;
 }
 
-// A host with a network would fetch the picture; this one has them in a folder.
-// The card is a stranger's: only plain names may become paths.
+// A real host would download the picture; this one has the pictures in a folder.
+// Cards are untrusted, so only plain file names may become paths.
 std::string onDownload(PlixDataController*, const std::string& url, void* folder)
 {
     const std::string name = url.substr(url.rfind('/') + 1);
@@ -42,7 +42,7 @@ int main(int argc, char** argv)
     view.show();
     const int result = application.exec();
 
-    scene.clear(); // the item first, then its controller
+    scene.clear(); // deletes the card's item
     Plix_Free(card);
     return result;
 }
