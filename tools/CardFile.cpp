@@ -13,9 +13,9 @@
 namespace plix::tool {
 namespace {
 
-// Qt's parser stops behind the token it cannot use, except where it looks at
-// single characters.
-int offendingOffset(const QJsonParseError& error, int size)
+// Qt's parser reports the offset after the token that it cannot use. For the
+// errors listed here it reports the offset of a character.
+int errorOffset(const QJsonParseError& error, int size)
 {
     switch (error.error) {
     case QJsonParseError::GarbageAtEnd:
@@ -45,7 +45,7 @@ void CardFile::read()
         json_ = file.readAll();
     if (file.error() != QFileDevice::NoError)
         throw fileError(path_, file.errorString());
-    // A byte order mark belongs to the file, not to the message in it.
+    // A byte order mark is not part of the message.
     if (json_.startsWith("\xEF\xBB\xBF"))
         json_.remove(0, 3);
 }
@@ -55,12 +55,12 @@ void CardFile::check() const
     const QByteArray plain = withoutComments(json_);
     const JsonPosition position(plain);
     if (position.start() == plain.size() || plain.at(position.start()) != '{')
-        refuse(position.start(), QStringLiteral("a card is a JSON object"));
+        refuse(position.start(), QStringLiteral("a card must be a JSON object"));
 
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(plain, &error);
     if (error.error != QJsonParseError::NoError)
-        refuse(offendingOffset(error, plain.size()), error.errorString());
+        refuse(errorOffset(error, plain.size()), error.errorString());
 
     const QString key = QStringLiteral("type");
     const QJsonValue type = document.object().value(key);
@@ -68,7 +68,7 @@ void CardFile::check() const
         refuse(position.start(), QStringLiteral("the card has no \"type\""));
     if (type != QJsonValue(QStringLiteral("bubble"))) {
         refuse(position.rootMember(key).value_or(position.start()),
-               QStringLiteral("the \"type\" of a card is \"bubble\""));
+               QStringLiteral("the \"type\" of a card must be \"bubble\""));
     }
 }
 

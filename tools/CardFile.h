@@ -5,10 +5,10 @@
 
 namespace plix::tool {
 
-// The text of a card message that is known to be one.
+// A file that contains a card message: a JSON object of the type "bubble".
 class CardFile {
 public:
-    // Throws ToolError when the file cannot be read or is no card.
+    // Throws ToolError if the file cannot be read or is not a card.
     explicit CardFile(const QString& path);
 
     const QString& path() const { return path_; }

@@ -6,6 +6,9 @@
 
 #include <plix/Plix.h>
 
+#include <list>
+#include <string>
+
 namespace plix::tool {
 
 void CardHost::Free::operator()(PlixDataController* controller) const
@@ -53,10 +56,10 @@ void CardHost::build(const CardFile& file)
 
 void CardHost::adjust(const CardFile& file, const CardOptions& options)
 {
-    const bool isTooLow =
+    const bool cannotGrow =
         options.height && Plix_ModifyHeight(controller_.get(), *options.height) != 0;
-    if (isTooLow)
-        console::warn(file.path(), QStringLiteral("the card has no body that could grow"));
+    if (cannotGrow)
+        console::warn(file.path(), QStringLiteral("the card has no body that can grow"));
     if (!options.background.isEmpty())
         Plix_SetBubbleBkColor(controller_.get(), options.background.toStdString());
 

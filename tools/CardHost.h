@@ -15,10 +15,10 @@ namespace plix::tool {
 
 class CardFile;
 
-// One card on a scene of its own, as a chat view would have it.
+// One card in a scene of its own, as in a chat view.
 class CardHost {
 public:
-    // Throws ToolError when the library cannot build the card.
+    // Throws ToolError if the library cannot build the card.
     CardHost(const CardFile& file, const CardOptions& options);
 
     QGraphicsScene& scene() { return scene_; }
@@ -37,7 +37,7 @@ private:
     HostWordings wordings_;
     ImageFolder images_;
     std::unique_ptr<PlixDataController, Free> controller_;
-    // Behind the controller: the card's items go first.
+    // Declared after the controller, so that the card's item is deleted first.
     QGraphicsScene scene_;
     QGraphicsItem* card_ = nullptr;
 };

@@ -14,7 +14,7 @@ namespace {
 
 QSizeF wholePixels(const QSizeF& size)
 {
-    // A card without content has no height, but a picture needs one.
+    // A card without content has no height, but a picture must have one.
     return {std::max(1.0, std::ceil(size.width())), std::max(1.0, std::ceil(size.height()))};
 }
 

@@ -9,12 +9,12 @@ namespace plix::tool {
 
 struct CardPicture {
     QImage image;
-    // The card is larger than a picture may be, and its lower end is missing.
+    // The card is larger than a picture may be, so its lower end is missing.
     bool isCut = false;
 };
 
-// Draws what the scene shows of `card`, with `scale` device pixels for each
-// logical one. The picture is transparent where the card is not.
+// Draws `card` as the scene shows it, with `scale` device pixels per logical pixel.
+// The picture is transparent outside the card.
 CardPicture paintCard(QGraphicsScene& scene, const QGraphicsItem& card, double scale);
 
 } // namespace plix::tool

@@ -8,21 +8,21 @@ namespace plix::tool {
 ColumnLayout::ColumnLayout(const QVector<QSize>& cells, int maximumWidth)
     : cells_(cells)
     , widestFirst_(cells.size())
-    , places_(cells.size())
+    , positions_(cells.size())
 {
     std::iota(widestFirst_.begin(), widestFirst_.end(), 0);
     std::stable_sort(widestFirst_.begin(), widestFirst_.end(),
                      [&](int a, int b) { return cells.at(a).width() > cells.at(b).width(); });
 
-    int everything = 0;
-    int highest = 0;
+    int totalHeight = 0;
+    int minimumHeight = 0;
     for (const QSize& cell : cells) {
-        everything += cell.height();
-        highest = std::max(highest, cell.height());
+        totalHeight += cell.height();
+        minimumHeight = std::max(minimumHeight, cell.height());
     }
-    arrange(highest);
-    for (int height = highest; size().width() > maximumWidth && height < everything;) {
-        // Small steps cost time, large ones leave gaps: two in a hundred do neither.
+    arrange(minimumHeight);
+    for (int height = minimumHeight; size().width() > maximumWidth && height < totalHeight;) {
+        // Small steps take time, large steps leave gaps. 2 percent is in between.
         height += height / 50 + 1;
         arrange(height);
     }
@@ -42,18 +42,18 @@ void ColumnLayout::arrange(int maximumHeight)
     for (const int i : widestFirst_) {
         const QSize& cell = cells_.at(i);
         Column& column = columnFor(cell, maximumHeight);
-        places_[i] = {column.left, column.height};
+        positions_[i] = {column.left, column.height};
         column.height += cell.height();
     }
 }
 
 ColumnLayout::Column& ColumnLayout::columnFor(const QSize& cell, int maximumHeight)
 {
-    const auto withRoom = std::find_if(columns_.begin(), columns_.end(), [&](const Column& c) {
+    const auto found = std::find_if(columns_.begin(), columns_.end(), [&](const Column& c) {
         return c.height + cell.height() <= maximumHeight;
     });
-    if (withRoom != columns_.end())
-        return *withRoom;
+    if (found != columns_.end())
+        return *found;
     columns_.append({size().width(), cell.width(), 0});
     return columns_.last();
 }

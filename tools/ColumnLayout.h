@@ -6,14 +6,14 @@
 
 namespace plix::tool {
 
-// Cells stacked in columns, the widest cells in the first ones, with the lowest
-// columns that stay within a given width.
+// Stacks cells in columns, the widest cells in the first columns. The columns are
+// as low as the maximum width allows.
 class ColumnLayout {
 public:
     ColumnLayout(const QVector<QSize>& cells, int maximumWidth);
 
-    // The places of the cells, in the order they were given.
-    const QVector<QPoint>& places() const { return places_; }
+    // The positions of the cells, in the order of the constructor's argument.
+    const QVector<QPoint>& positions() const { return positions_; }
     QSize size() const;
 
 private:
@@ -29,7 +29,7 @@ private:
     QVector<QSize> cells_;
     QVector<int> widestFirst_;
     QVector<Column> columns_;
-    QVector<QPoint> places_;
+    QVector<QPoint> positions_;
 };
 
 } // namespace plix::tool

@@ -37,8 +37,8 @@ const std::array commands {
         QLatin1String("The card message; it may contain // and /* */ comments."),
         QLatin1String("OUT.png"), QLatin1String("The picture to write (required)."), true, true,
         QLatin1String("draws one card into a PNG file"),
-        QLatin1String("Draws one card into a PNG file, transparent outside its rounded corners.\n"
-                      "A picture has at most 32,767 pixels a side and 64,000,000 in all; a card\n"
+        QLatin1String("Draws one card into a PNG file, transparent outside the card.\n"
+                      "A picture has at most 32,767 pixels per side and 64,000,000 in all. A card\n"
                       "that is larger is cut at its lower end, with a warning."),
         QLatin1String("  plix render receipt.json -o receipt.png\n"
                       "  plix render receipt.json -o receipt.png --scale 1 --lang ko\n"
@@ -49,27 +49,28 @@ const std::array commands {
         QLatin1String("OUT.json"), QLatin1String("The file to write instead of standard output."),
         false, false, QLatin1String("writes one card's laid-out items as JSON"),
         QLatin1String(
-            "Writes the tree of a card's laid-out items as JSON: one line for each item,\n"
-            "with its rectangle in its parent and, for a text, what is shown of it."),
+            "Writes the laid-out items of a card as JSON, one line per item, with its\n"
+            "rectangle in its parent. Texts have their font size and number of lines, too."),
         QLatin1String("  plix layout receipt.json\n"
                       "  plix layout receipt.json -o receipt.layout.json --lang ja\n")},
     CommandDescription {
         Command::Gallery, QLatin1String("gallery"), QLatin1String("DIR"),
         QLatin1String("The folder whose *.json files are drawn."), QLatin1String("OUTDIR"),
-        QLatin1String("The folder to write into (required); it is made if need be."), true, true,
-        QLatin1String("draws every card of a folder, and a contact sheet"),
-        QLatin1String("Draws every *.json of a folder into OUTDIR/cards/NAME.png, and all of them\n"
-                      "onto one contact sheet, OUTDIR/gallery.png. A card that fails is reported\n"
-                      "and left out; the exit code tells that there was one."),
+        QLatin1String("The folder to write (required); created if it does not exist."), true, true,
+        QLatin1String("draws all cards of a folder, and a contact sheet"),
+        QLatin1String(
+            "Draws each *.json file of a folder into OUTDIR/cards/NAME.png, and all cards\n"
+            "into one contact sheet, OUTDIR/gallery.png. A card that fails is reported\n"
+            "and left out; the exit code is then not 0."),
         QLatin1String("  plix gallery examples/cards -o gallery\n"
                       "  plix gallery examples/cards -o gallery-ko --lang ko --scale 1\n")},
 };
 
 const QString exitCodes =
     QStringLiteral("\nExit codes:\n"
-                   "  0  done, also when the library had warnings\n"
-                   "  1  a file is no card: no JSON, no object, or its \"type\" is not \"bubble\"\n"
-                   "  2  wrong use, or a file that cannot be read or written");
+                   "  0  done, with or without warnings\n"
+                   "  1  a file is not a card: not a JSON object of the \"type\" \"bubble\"\n"
+                   "  2  wrong usage, or a file that cannot be read or written");
 
 QString generalHelp()
 {
@@ -81,7 +82,7 @@ QString generalHelp()
                     .arg(QString(command.name).leftJustified(9), QString(command.summary));
     }
     text += QStringLiteral("\nOptions:\n"
-                           "  -h, --help     Shows this help; after a command, the help about it.\n"
+                           "  -h, --help     Shows this help, or the help for a command.\n"
                            "  -v, --version  Shows the version.\n"
                            "\nExamples:\n");
     for (const CommandDescription& command : commands)
@@ -101,7 +102,7 @@ class CommandParser {
 public:
     explicit CommandParser(const CommandDescription& description);
 
-    std::variant<Options, Answer> parse(const QStringList& arguments);
+    std::variant<Options, Information> parse(const QStringList& arguments);
 
 private:
     void addOptions();
@@ -113,9 +114,9 @@ private:
     QString background() const;
     QMap<QString, QString> wordings() const;
 
-    double number(const QString& option, double least, double most) const;
-    int integer(const QString& option, int least, int most) const;
-    [[noreturn]] void refuseValue(const QString& option, const QString& wanted) const;
+    double number(const QString& option, double minimum, double maximum) const;
+    int integer(const QString& option, int minimum, int maximum) const;
+    [[noreturn]] void refuseValue(const QString& option, const QString& expected) const;
 
     const CommandDescription& description_;
     QCommandLineParser parser_;
@@ -140,22 +141,23 @@ void CommandParser::addOptions()
     option({QStringLiteral("o"), outputOption}, description_.outputText, description_.outputValue);
     if (description_.paints) {
         option({scaleOption},
-               QStringLiteral("Device pixels for each logical pixel, 0.25 to 8 (default: 2)."),
+               QStringLiteral("Device pixels per logical pixel, 0.25 to 8 (default: 2)."),
                QStringLiteral("F"));
     }
     option({QStringLiteral("dpi")},
-           QStringLiteral("The scale that pictures are made for, above 0 and up to 16\n"
-                          "(default: the scale of what is drawn)."),
+           QStringLiteral("Device pixels per logical pixel that images are scaled for,\n"
+                          "0.01 to 16 (default: the scale of the picture)."),
            QStringLiteral("F"));
     option({QStringLiteral("images")},
-           QStringLiteral("A folder that stands for the web: pictures are looked up there\n"
-                          "by the last segment of their URL (default: no pictures)."),
+           QStringLiteral("The folder of the images: each image is the file that has the\n"
+                          "name at the end of its URL (default: no images)."),
            QStringLiteral("DIR"));
     option({QStringLiteral("lang")},
            QStringLiteral("The language of the texts, such as ko or zh-CN (default: en)."),
            QStringLiteral("CODE"));
     option({QStringLiteral("from")},
-           QStringLiteral("Who sent the message: 1 is oneself (default: 0)."), QStringLiteral("N"));
+           QStringLiteral("Who sent the message: 1 for the user (default: 0)."),
+           QStringLiteral("N"));
     option({QStringLiteral("height")},
            QStringLiteral("Makes the card at least N pixels high, 0 to 100000."),
            QStringLiteral("N"));
@@ -165,10 +167,9 @@ void CommandParser::addOptions()
     option({QStringLiteral("background")},
            QStringLiteral("The card's background: #RRGGBB, #AARRGGBB or an SVG colour name."),
            QStringLiteral("COLOUR"));
-    option({QStringLiteral("markup")},
-           QStringLiteral("Lets texts carry mention and emoji markup."));
+    option({QStringLiteral("markup")}, QStringLiteral("Shows mention and emoji markup in texts."));
     option({QStringLiteral("no-mobile-check")},
-           QStringLiteral("Shows items whose action needs a mobile app like all others."));
+           QStringLiteral("Shows items whose action opens mobile apps only like others."));
     option({QStringLiteral("wrap-mode")},
            QStringLiteral("How texts wrap, a QTextOption::WrapMode from 0 to 4 (default: 4)."),
            QStringLiteral("N"));
@@ -179,12 +180,12 @@ void CommandParser::addOptions()
            QStringLiteral("KEY=VALUE"));
 }
 
-std::variant<Options, Answer> CommandParser::parse(const QStringList& arguments)
+std::variant<Options, Information> CommandParser::parse(const QStringList& arguments)
 {
     if (!parser_.parse(arguments))
         refuse(parser_.errorText(), description_.name);
     if (parser_.isSet(QStringLiteral("help")))
-        return Answer {help()};
+        return Information {help()};
 
     Options options;
     options.command = description_.command;
@@ -210,7 +211,7 @@ QString CommandParser::input() const
     if (positional.isEmpty())
         refuse(QStringLiteral("%1 is missing").arg(description_.input), description_.name);
     if (positional.size() > 1) {
-        refuse(QStringLiteral("one %1 at a time, and \"%2\" is one too many")
+        refuse(QStringLiteral("only one %1 is allowed, but \"%2\" follows")
                    .arg(description_.input, positional.at(1)),
                description_.name);
     }
@@ -259,7 +260,7 @@ QString CommandParser::images() const
 {
     const QString option = QStringLiteral("images");
     if (parser_.isSet(option) && !QFileInfo(parser_.value(option)).isDir())
-        refuseValue(option, QStringLiteral("a folder that is there"));
+        refuseValue(option, QStringLiteral("an existing folder"));
     return parser_.value(option);
 }
 
@@ -277,7 +278,7 @@ QMap<QString, QString> CommandParser::wordings() const
     for (const QString& pair : parser_.values(QStringLiteral("text"))) {
         const int equals = pair.indexOf(QLatin1Char('='));
         if (equals < 1) {
-            refuse(QStringLiteral("--text takes KEY=VALUE, not \"%1\"").arg(pair),
+            refuse(QStringLiteral("--text must be KEY=VALUE, but is \"%1\"").arg(pair),
                    description_.name);
         }
         wordings.insert(pair.left(equals), pair.mid(equals + 1));
@@ -285,48 +286,50 @@ QMap<QString, QString> CommandParser::wordings() const
     return wordings;
 }
 
-double CommandParser::number(const QString& option, double least, double most) const
+double CommandParser::number(const QString& option, double minimum, double maximum) const
 {
     bool isNumber = false;
     const double number = parser_.value(option).toDouble(&isNumber);
-    // Not "number < least || number > most": "nan" is a number for Qt.
-    if (!isNumber || !(number >= least && number <= most))
-        refuseValue(option, QStringLiteral("a number from %1 to %2").arg(least).arg(most));
+    // Written so that "nan", which is a number for Qt, is refused.
+    if (!isNumber || !(number >= minimum && number <= maximum))
+        refuseValue(option, QStringLiteral("a number from %1 to %2").arg(minimum).arg(maximum));
     return number;
 }
 
-int CommandParser::integer(const QString& option, int least, int most) const
+int CommandParser::integer(const QString& option, int minimum, int maximum) const
 {
     bool isInteger = false;
     const int integer = parser_.value(option).toInt(&isInteger);
-    if (!isInteger || integer < least || integer > most)
-        refuseValue(option, QStringLiteral("an integer from %1 to %2").arg(least).arg(most));
+    if (!isInteger || integer < minimum || integer > maximum)
+        refuseValue(option,
+                    QStringLiteral("a whole number from %1 to %2").arg(minimum).arg(maximum));
     return integer;
 }
 
-void CommandParser::refuseValue(const QString& option, const QString& wanted) const
+void CommandParser::refuseValue(const QString& option, const QString& expected) const
 {
-    refuse(QStringLiteral("--%1 takes %2, not \"%3\"").arg(option, wanted, parser_.value(option)),
+    refuse(QStringLiteral("--%1 must be %2, but is \"%3\"")
+               .arg(option, expected, parser_.value(option)),
            description_.name);
 }
 
 } // namespace
 
-std::variant<Options, Answer> parseCommandLine(const QStringList& arguments)
+std::variant<Options, Information> parseCommandLine(const QStringList& arguments)
 {
     const QString first = arguments.value(1);
     if (first.isEmpty())
         refuse(QStringLiteral("a command is missing: render, layout or gallery"));
     if (first == QLatin1String("--help") || first == QLatin1String("-h"))
-        return Answer {generalHelp()};
+        return Information {generalHelp()};
     if (first == QLatin1String("--version") || first == QLatin1String("-v"))
-        return Answer {QStringLiteral("plix %1").arg(QCoreApplication::applicationVersion())};
+        return Information {QStringLiteral("plix %1").arg(QCoreApplication::applicationVersion())};
 
     const auto description =
         std::find_if(commands.begin(), commands.end(),
                      [&](const CommandDescription& command) { return command.name == first; });
     if (description == commands.end())
-        refuse(QStringLiteral("there is no command \"%1\"").arg(first));
+        refuse(QStringLiteral("unknown command \"%1\"").arg(first));
     return CommandParser(*description).parse(arguments);
 }
 

@@ -2,17 +2,20 @@
 
 #include "Options.h"
 
+#include <QString>
+#include <QStringList>
+
 #include <variant>
 
 namespace plix::tool {
 
-// A question about the tool itself, "--help" or "--version", answered.
-struct Answer {
+// The text to print for "--help" or "--version".
+struct Information {
     QString text;
 };
 
-// Throws ToolError when the arguments make no sense. `arguments` starts with
-// the program's own name.
-std::variant<Options, Answer> parseCommandLine(const QStringList& arguments);
+// Throws ToolError if the arguments are wrong. `arguments` starts with the name of
+// the program.
+std::variant<Options, Information> parseCommandLine(const QStringList& arguments);
 
 } // namespace plix::tool

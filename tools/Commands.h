@@ -5,7 +5,7 @@
 
 namespace plix::tool {
 
-// Carries the command out. Throws ToolError when it cannot.
+// Executes the command. Throws ToolError if it fails.
 ExitCode run(const Options& options);
 
 } // namespace plix::tool

@@ -17,7 +17,7 @@ void writeLine(std::FILE* stream, const QString& line)
 {
     const QByteArray bytes = line.toUtf8() + '\n';
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
-    // Progress has to show up while the next card is drawn, also in a pipe.
+    // Progress must be visible while the next card is drawn, also in a pipe.
     std::fflush(stream);
 }
 

@@ -2,17 +2,16 @@
 
 class QString;
 
-// Standard output and error, one line at a time and in UTF-8 whatever the
-// locale says.
+// Writes lines to standard output and standard error, in UTF-8 in every locale.
 namespace plix::tool::console {
 
-// Lines end the same way on every system. To be called first.
+// Call this first. Makes lines end in the same way on every system.
 void setUp();
 
 void print(const QString& line);
 void printError(const QString& line);
 
-// About a file that is used all the same.
+// Prints a warning about a file that is used nevertheless.
 void warn(const QString& path, const QString& text);
 
 } // namespace plix::tool::console

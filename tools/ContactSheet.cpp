@@ -11,13 +11,13 @@
 namespace plix::tool {
 namespace {
 
-constexpr int widestSheet = 2000;
+constexpr int maximumSheetWidth = 2000;
 constexpr int margin = 40;
 constexpr int gap = 40;
 constexpr int captionHeight = 32;
-constexpr int narrowestCaption = 120;
-// One endless card shall not make a sheet that nobody can look at.
-constexpr int highestThumbnail = 3000;
+constexpr int minimumCaptionWidth = 120;
+// One very high card must not make the sheet unusable.
+constexpr int maximumThumbnailHeight = 3000;
 
 const QColor sheetColour(0xE4, 0xE8, 0xED);
 const QColor captionColour(0x5B, 0x66, 0x75);
@@ -31,7 +31,7 @@ QFont captionFont()
 
 QSize cellSize(const QImage& thumbnail)
 {
-    return {std::max(thumbnail.width(), narrowestCaption) + gap,
+    return {std::max(thumbnail.width(), minimumCaptionWidth) + gap,
             captionHeight + thumbnail.height() + gap};
 }
 
@@ -43,8 +43,8 @@ void ContactSheet::add(const QString& name, const QImage& picture)
     QImage thumbnail =
         picture.scaled(size.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     thumbnail.setDevicePixelRatio(1);
-    if (thumbnail.height() > highestThumbnail)
-        thumbnail = thumbnail.copy(0, 0, thumbnail.width(), highestThumbnail);
+    if (thumbnail.height() > maximumThumbnailHeight)
+        thumbnail = thumbnail.copy(0, 0, thumbnail.width(), maximumThumbnailHeight);
     entries_.append({name, thumbnail});
 }
 
@@ -61,7 +61,7 @@ QImage ContactSheet::paint() const
     painter.setPen(captionColour);
     painter.translate(margin, margin);
     for (int i = 0; i < entries_.size(); ++i)
-        paintEntry(painter, entries_.at(i), layout.places().at(i));
+        paintEntry(painter, entries_.at(i), layout.positions().at(i));
     return sheet;
 }
 
@@ -70,16 +70,16 @@ ColumnLayout ContactSheet::columns() const
     QVector<QSize> cells;
     for (const Entry& entry : entries_)
         cells.append(cellSize(entry.thumbnail));
-    return ColumnLayout(cells, widestSheet - 2 * margin + gap);
+    return ColumnLayout(cells, maximumSheetWidth - 2 * margin + gap);
 }
 
-void ContactSheet::paintEntry(QPainter& painter, const Entry& entry, const QPoint& place) const
+void ContactSheet::paintEntry(QPainter& painter, const Entry& entry, const QPoint& position) const
 {
-    const QRect caption(place, QSize(cellSize(entry.thumbnail).width() - gap, captionHeight));
+    const QRect caption(position, QSize(cellSize(entry.thumbnail).width() - gap, captionHeight));
     const QString name =
         painter.fontMetrics().elidedText(entry.name, Qt::ElideRight, caption.width());
     painter.drawText(caption, Qt::AlignLeft | Qt::AlignVCenter, name);
-    painter.drawImage(place + QPoint(0, captionHeight), entry.thumbnail);
+    painter.drawImage(position + QPoint(0, captionHeight), entry.thumbnail);
 }
 
 } // namespace plix::tool

@@ -10,8 +10,8 @@ class QPainter;
 
 namespace plix::tool {
 
-// All pictures of a gallery on one, each at its logical size with its name
-// above it.
+// One picture with all pictures of a gallery, each in its logical size and below
+// its name.
 class ContactSheet {
 public:
     void add(const QString& name, const QImage& picture);
@@ -25,7 +25,7 @@ private:
     };
 
     ColumnLayout columns() const;
-    void paintEntry(QPainter& painter, const Entry& entry, const QPoint& place) const;
+    void paintEntry(QPainter& painter, const Entry& entry, const QPoint& position) const;
 
     QVector<Entry> entries_;
 };

@@ -14,7 +14,7 @@ QImage drawCard(const QString& path, const Options& options)
     const CardPicture picture = paintCard(host.scene(), host.card(), options.scale);
     if (picture.isCut) {
         const QString text =
-            QStringLiteral("the card is too large, its picture is cut at %1 x %2 pixels")
+            QStringLiteral("the card is too large; its picture is cut to %1 x %2 pixels")
                 .arg(picture.image.width())
                 .arg(picture.image.height());
         console::warn(path, text);

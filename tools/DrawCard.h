@@ -6,8 +6,8 @@
 
 namespace plix::tool {
 
-// The picture of the card in the file at `path`. Throws ToolError when there is
-// none.
+// Draws the card in the file at `path`. Throws ToolError if the file cannot be read
+// or is not a card.
 QImage drawCard(const QString& path, const Options& options);
 
 } // namespace plix::tool

@@ -23,11 +23,11 @@ bool useFontList(const QString& path)
 
     QFont font(families.takeFirst());
     QFont::insertSubstitutions(font.family(), families);
-    // Pictures are laid out once and drawn at any scale, and hinted advances
-    // of one scale are wrong at all others.
+    // Cards are laid out once and drawn in any scale. Advances that are hinted for
+    // one scale are wrong in others.
     font.setHintingPreference(QFont::PreferNoHinting);
     QApplication::setFont(font);
-    // Makes Qt look at all fonts now, and say now if the system has none.
+    // Makes Qt load its fonts now, and warn now if the system has none.
     return QFontDatabase().families().contains(font.family());
 }
 

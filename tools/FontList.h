@@ -2,12 +2,14 @@
 
 class QString;
 
-// Fixed fonts where no fontconfig can fix them: an INI file with a section
-// "fonts" that names a folder, font files in it, and the families to write
-// with, each standing in for what those before it lack.
+// The same fonts on every machine, for systems without fontconfig. They come from
+// an INI file. Its section "fonts" has the keys "folder", "files" (font files in
+// that folder) and "families". A family is used for the characters that the
+// families before it lack.
 namespace plix::tool {
 
-// Writes with these fonts, unhinted, from now on. Whether all are there.
+// Makes these fonts, unhinted, the application's font. Returns false if one is
+// missing.
 bool useFontList(const QString& path);
 
 } // namespace plix::tool

@@ -26,12 +26,12 @@ Gallery::Gallery(const Options& options)
 ExitCode Gallery::draw()
 {
     const QStringList files = cardFiles();
-    makeFolders();
+    createFolders();
     drawCards(files);
     if (drawn_ > 0)
         writeSheet();
     console::print(QStringLiteral("%1 of %2 cards drawn").arg(drawn_).arg(files.size()));
-    return worst_;
+    return exitCode_;
 }
 
 QStringList Gallery::cardFiles() const
@@ -40,14 +40,14 @@ QStringList Gallery::cardFiles() const
         throw fileError(input_.path(), QStringLiteral("No such folder"));
     QStringList files = input_.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
     if (files.isEmpty())
-        throw fileError(input_.path(), QStringLiteral("There is no *.json file in this folder"));
+        throw fileError(input_.path(), QStringLiteral("No *.json file in this folder"));
     return files;
 }
 
-void Gallery::makeFolders() const
+void Gallery::createFolders() const
 {
     if (!output_.mkpath(pictureFolder))
-        throw fileError(output_.path(), QStringLiteral("The folder cannot be made"));
+        throw fileError(output_.path(), QStringLiteral("Cannot create this folder"));
 }
 
 void Gallery::drawCards(const QStringList& files)
@@ -63,7 +63,7 @@ void Gallery::drawCards(const QStringList& files)
                 progress
                 + QStringLiteral(": %1 x %2 pixels").arg(picture.width()).arg(picture.height()));
         } catch (const ToolError& error) {
-            worst_ = std::max(worst_, error.code);
+            exitCode_ = std::max(exitCode_, error.code);
             console::print(progress + QStringLiteral(": failed"));
             console::printError(error.message);
         }

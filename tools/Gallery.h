@@ -13,13 +13,13 @@ class Gallery {
 public:
     explicit Gallery(const Options& options);
 
-    // Cards that fail are reported and left out; the result is the worst of
-    // what happened to them. Throws ToolError when there can be no gallery.
+    // Cards that fail are reported and left out; returns the highest exit code of
+    // all cards. Throws ToolError if a folder or the contact sheet fails.
     ExitCode draw();
 
 private:
     QStringList cardFiles() const;
-    void makeFolders() const;
+    void createFolders() const;
     void drawCards(const QStringList& files);
     QImage drawOne(const QString& file);
     void writeSheet() const;
@@ -29,7 +29,7 @@ private:
     QDir output_;
     ContactSheet sheet_;
     int drawn_ = 0;
-    ExitCode worst_ = ExitCode::Done;
+    ExitCode exitCode_ = ExitCode::Done;
 };
 
 } // namespace plix::tool

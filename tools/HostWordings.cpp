@@ -5,7 +5,7 @@
 namespace plix::tool {
 namespace {
 
-// The callback has no argument that could carry them.
+// Global, since the callback has no user data.
 QMap<QString, QString> currentWordings;
 
 std::string PLIX_CALL wording(const char* key)

@@ -5,8 +5,8 @@
 
 namespace plix::tool {
 
-// Answers the library's questions for the host's own wordings, for as long as
-// it lives. There is one host, so there is one of these at a time.
+// Returns the host's wordings to the library during its lifetime. The callback is
+// process-wide, so only one of these may exist at a time.
 class HostWordings {
 public:
     explicit HostWordings(const QMap<QString, QString>& wordings);

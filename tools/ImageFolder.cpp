@@ -10,8 +10,8 @@
 namespace plix::tool {
 namespace {
 
-// The URL is a stranger's: what it names may not lead out of the folder, on any
-// system, nor to what is hidden in it.
+// URLs are untrusted: a name must not lead out of the folder, on any system, or to
+// a hidden file.
 bool isPlainName(const QString& name)
 {
     static const QString separators = QStringLiteral("/\\:");
@@ -27,7 +27,7 @@ QString lastSegment(const QString& url)
     return QUrl(url).fileName(QUrl::FullyDecoded);
 }
 
-// On one line, and nothing that a terminal would obey.
+// Without line ends and without control sequences for terminals.
 QString printable(const QString& url)
 {
     static const QByteArray kept = " !\"#$%&'()*+,/:;<=>?@[\\]^`{|}";
@@ -59,7 +59,7 @@ QString ImageFolder::find(const QString& url)
     if (missing_.insert(url).second) {
         console::warn(
             cardPath_,
-            QStringLiteral("no picture in %1 for \"%2\"").arg(folder_.path(), printable(url)));
+            QStringLiteral("no image in %1 for \"%2\"").arg(folder_.path(), printable(url)));
     }
     return {};
 }

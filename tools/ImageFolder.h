@@ -10,15 +10,14 @@ class PlixDataController;
 
 namespace plix::tool {
 
-// A folder that stands for the web: a picture is looked up in it by the last
-// segment of its URL's path. One that is not there is warned about, once.
+// The folder of the images. An image is the file that is named like the last
+// segment of its URL's path. Each missing file causes one warning.
 class ImageFolder {
 public:
-    // `cardPath` is what warnings are about.
+    // Warnings name the file `cardPath`.
     ImageFolder(const QString& folder, const QString& cardPath);
 
-    // Answers the card's questions for pictures. Keep the folder until the card
-    // is freed.
+    // Sets the card's download callback. This object must outlive the card.
     void serve(PlixDataController* controller);
 
 private:

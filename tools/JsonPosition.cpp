@@ -51,7 +51,7 @@ std::optional<int> JsonPosition::rootMember(const QString& name) const
 
 bool JsonPosition::isNamed(int begin, int end, const QString& name) const
 {
-    // Names may be written with escapes: they are read before they are compared.
+    // The name may contain escapes, so it is decoded first.
     const QByteArray array = '[' + text_.mid(begin, end - begin) + ']';
     return QJsonDocument::fromJson(array).array().at(0).toString() == name;
 }

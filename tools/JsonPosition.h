@@ -7,7 +7,7 @@
 
 namespace plix::tool {
 
-// A place as editors show it, counted in characters from 1.
+// A position as editors show it: line and column, in characters from 1.
 struct TextPlace {
     int line = 1;
     int column = 1;
@@ -15,20 +15,18 @@ struct TextPlace {
 
 TextPlace placeAt(const QByteArray& text, int offset);
 
-// Tells where the parts of a card stand in its text, which has no comments any
-// more. Meant for error messages, so it copes with any bytes; it is exact for
-// texts that are JSON.
+// Finds parts of a card in its text, for error messages. The text must not contain
+// comments. It may be malformed; the result is exact for valid JSON only.
 class JsonPosition {
 public:
     explicit JsonPosition(const QByteArray& text);
 
-    // The offset of the first character that is not blank; the text's size when
+    // The offset of the first character that is not blank; the text's size if
     // there is none.
     int start() const;
 
-    // The offset of the value of the root object's member `name`. Of several
-    // members of that name it is the last one, which is also the one that
-    // counts when the text is read.
+    // The offset of the value of the root object's member `name`. If several
+    // members have this name, it is the last one, which the reader uses, too.
     std::optional<int> rootMember(const QString& name) const;
 
 private:

@@ -15,8 +15,8 @@ bool startsAt(const QByteArray& text, int offset, char first, char second)
     return offset + 1 < text.size() && text.at(offset) == first && text.at(offset + 1) == second;
 }
 
-// The offset behind the comment that starts at `offset`: `offset` itself when
-// none starts there, -1 when it has no end.
+// The offset after the comment that starts at `offset`. Returns `offset` if there
+// is no comment, -1 if the comment does not end.
 int skipComment(const QByteArray& text, int offset)
 {
     if (startsAt(text, offset, '/', '/')) {

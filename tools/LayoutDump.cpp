@@ -19,14 +19,13 @@ QByteArray quoted(const QString& text)
     return array.mid(1, array.size() - 2);
 }
 
-// Two decimals: finer differences cannot be seen, and would not be the same on
-// the next machine.
+// Two decimals: smaller differences are invisible, and differ between machines.
 QByteArray rounded(double value)
 {
     if (!std::isfinite(value))
         return "null";
     const double hundredths = std::round(value * 100);
-    // Adding zero turns a negative zero into a plain one.
+    // Adding 0.0 turns -0.0 into 0.0.
     QByteArray digits = QByteArray::number(hundredths / 100 + 0.0, 'f', 2);
     while (digits.endsWith('0'))
         digits.chop(1);
@@ -105,7 +104,7 @@ void LayoutWriter::writeLabel(const QGraphicsObject& item)
         member("elided", "true");
 }
 
-// The name alone: the folder is another one on the next machine.
+// Without the folder, which differs between machines.
 void LayoutWriter::writePicture(const QGraphicsObject& item)
 {
     const QString file = item.property("pictureFile").toString();

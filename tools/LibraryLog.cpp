@@ -7,7 +7,7 @@
 namespace plix::tool {
 namespace {
 
-// The callback has no argument that could carry it.
+// Global, since the callback has no user data.
 QString currentPath;
 
 void PLIX_CALL warn(const char* text)

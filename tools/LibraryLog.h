@@ -4,9 +4,8 @@
 
 namespace plix::tool {
 
-// Shows the library's log lines as warnings about one card, for as long as it
-// lives. There is one log for the whole library, so there is one of these at a
-// time.
+// Prints the library's log lines as warnings about one card during its lifetime.
+// The callback is process-wide, so only one of these may exist at a time.
 class LibraryLog {
 public:
     explicit LibraryLog(const QString& path);

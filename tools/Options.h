@@ -8,9 +8,9 @@
 
 namespace plix::tool {
 
-// How a host would show the card.
+// The host's settings for a card.
 struct CardOptions {
-    // Of the pictures; empty for the scale of what is painted.
+    // Device pixels per logical pixel, for images; the scale of the picture if empty.
     std::optional<float> dpi;
     QString language;
     int from = 0;
@@ -21,7 +21,7 @@ struct CardOptions {
     bool mobileOnlyCheck = true;
     int wrapMode = 4;
     QMap<QString, QString> wordings;
-    // Where pictures are; empty for none.
+    // The folder of the images; no images if empty.
     QString images;
 };
 

@@ -14,7 +14,7 @@
 namespace plix::tool {
 namespace {
 
-constexpr int dotsPerMeter = 3780; // 96 an inch
+constexpr int dotsPerMeter = 3780; // 96 per inch
 
 bool writeAll(QFileDevice& file, const QByteArray& bytes)
 {
@@ -40,7 +40,7 @@ void writeToDevice(const QString& path, const QByteArray& bytes)
 
 void writeFile(const QString& path, const QByteArray& bytes)
 {
-    // Replacing a device or a pipe by a finished file would destroy it.
+    // A file must not replace a device or a pipe.
     const QFileInfo target(path);
     if (target.exists() && !target.isFile())
         writeToDevice(path, bytes);
@@ -50,7 +50,7 @@ void writeFile(const QString& path, const QByteArray& bytes)
 
 void writePng(const QString& path, const QImage& image)
 {
-    // Qt would write down the resolution of the screen, which is not the picture's.
+    // Otherwise Qt writes the resolution of the screen, which depends on the machine.
     QImage picture = image;
     picture.setDotsPerMeterX(dotsPerMeter);
     picture.setDotsPerMeterY(dotsPerMeter);

@@ -4,8 +4,8 @@ class QByteArray;
 class QImage;
 class QString;
 
-// Where results go. All of them throw ToolError when they cannot write; a file is
-// replaced by the whole result or left as it was.
+// Functions that write results. They throw ToolError on failure. An existing file is
+// replaced by the complete result, or stays as it is.
 namespace plix::tool {
 
 void writeFile(const QString& path, const QByteArray& bytes);

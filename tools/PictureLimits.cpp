@@ -7,8 +7,9 @@ namespace plix::tool {
 QSize withinPictureLimits(const QSizeF& size)
 {
     const int width = static_cast<int>(std::min<double>(size.width(), maximumPictureSide));
-    const int highest = std::min(maximumPictureSide, maximumPicturePixels / std::max(width, 1));
-    return {width, static_cast<int>(std::min<double>(size.height(), highest))};
+    const int maximumHeight =
+        std::min(maximumPictureSide, maximumPicturePixels / std::max(width, 1));
+    return {width, static_cast<int>(std::min<double>(size.height(), maximumHeight))};
 }
 
 } // namespace plix::tool

@@ -5,12 +5,12 @@
 
 namespace plix::tool {
 
-// Cards can be of any size, pictures cannot: they would not fit into memory,
-// and no program would open them.
+// A card can have any size. A picture cannot: it would not fit into memory, and
+// programs could not open it.
 constexpr int maximumPictureSide = 32767;
 constexpr int maximumPicturePixels = 64'000'000;
 
-// `size` in pixels, cut where it exceeds what a picture may have.
+// `size` in pixels, cut to the maximum size of a picture.
 QSize withinPictureLimits(const QSizeF& size);
 
 } // namespace plix::tool

@@ -4,11 +4,11 @@
 
 namespace plix::tool {
 
-// What the shell gets to see; scripts rely on the difference.
+// The exit code of the tool. Scripts rely on these numbers.
 enum class ExitCode { Done = 0, NotACard = 1, WrongUse = 2 };
 
-// Thrown where a command, or one card of a gallery, cannot go on. The message
-// is the whole line for the user.
+// Thrown if a command, or one card of a gallery, fails. The message is the complete
+// line for the user.
 struct ToolError {
     ExitCode code;
     QString message;

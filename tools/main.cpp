@@ -14,9 +14,9 @@ using namespace plix::tool;
 ExitCode runTool(const QStringList& arguments)
 {
     try {
-        const std::variant<Options, Answer> request = parseCommandLine(arguments);
-        if (const Answer* answer = std::get_if<Answer>(&request)) {
-            console::print(answer->text);
+        const std::variant<Options, Information> request = parseCommandLine(arguments);
+        if (const Information* information = std::get_if<Information>(&request)) {
+            console::print(information->text);
             return ExitCode::Done;
         }
         return run(std::get<Options>(request));
@@ -37,7 +37,7 @@ void choosePlatform([[maybe_unused]] const QString& fontList)
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return;
 #if defined(Q_OS_WIN)
-    // The system's fonts come with its desktop, which is always there.
+    // Only the desktop's platform knows the system's fonts, and it always exists.
     if (fontList.isEmpty())
         return;
 #endif
@@ -51,21 +51,21 @@ int main(int argc, char** argv)
 {
     console::setUp();
 #if defined(Q_OS_UNIX)
-    // A container often has no locale: arguments and file names are UTF-8 all the same.
+    // Containers often have no locale; arguments and file names are UTF-8 even then.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 #endif
     const QString fontList = qEnvironmentVariable("PLIX_FONTS");
     choosePlatform(fontList);
 
-    // Qt warns about a session without a runtime folder or a folder of fonts,
-    // which no picture needs.
+    // Hides Qt's warnings about a missing runtime folder or font folder, which the
+    // tool does not need.
     qInstallMessageHandler(&printFailure);
     QApplication application(argc, argv);
     const bool hasFonts = fontList.isEmpty() || useFontList(fontList);
     qInstallMessageHandler(nullptr);
     if (!hasFonts) {
         console::printError(
-            fileError(fontList, QStringLiteral("not all fonts of this list are there")).message);
+            fileError(fontList, QStringLiteral("Not all fonts of this list exist")).message);
         return static_cast<int>(ExitCode::WrongUse);
     }
     QApplication::setApplicationName(QStringLiteral("plix"));
