@@ -54,7 +54,7 @@ public:
     // For objects that may outlive the controller: null once it is freed.
     PlixLink<PlixDataMgr> Watch() const { return PlixLink<PlixDataMgr>(self_); }
 
-    // Plix.h describes the functions behind its exports.
+    // The functions of the exports; Plix.h describes them.
     int InitData(const std::string& json);
     void CreateUI();
     // The root item of the last build. Null before a build, after a failed one,

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
-// A painter on a picture of its own, which is transparent at first.
+// A painter with its own picture, which is transparent initially.
 class Canvas : public QPainter {
 public:
     Canvas(int width, int height)

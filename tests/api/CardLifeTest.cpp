@@ -1,4 +1,4 @@
-// Who keeps what alive, and what may go first.
+// How long data and items live, and in which order they may be deleted.
 #include "api/PlixDataMgr.h"
 #include "model/PlixDataBox.h"
 #include "model/PlixDataBubble.h"
@@ -62,7 +62,7 @@ const char kCard[] = R"({"type": "bubble",
     "footer": {"type": "box", "contents": [{"type": "filler"}]}})";
 constexpr std::size_t kCardItems = 12;
 
-TEST_F(CardLife, DataThatWasNeverBuiltGoesWithItsController)
+TEST_F(CardLife, FreesDataThatWasNeverBuilt)
 {
     PlixDataController* const controller = Plix_CreateController();
     Plix_InitData(controller, kCard);
@@ -73,7 +73,7 @@ TEST_F(CardLife, DataThatWasNeverBuiltGoesWithItsController)
     EXPECT_EQ(alive(items), 0U);
 }
 
-TEST_F(CardLife, DataOfTwoMessagesGoesToo)
+TEST_F(CardLife, FreesDataOfTwoMessages)
 {
     PlixDataController* const controller = Plix_CreateController();
     Plix_InitData(controller, kCard);
@@ -86,7 +86,7 @@ TEST_F(CardLife, DataOfTwoMessagesGoesToo)
     EXPECT_EQ(alive(items), 0U);
 }
 
-TEST_F(CardLife, DataOfABrokenMessageGoesToo)
+TEST_F(CardLife, FreesDataOfABrokenMessage)
 {
     PlixDataController* const controller = Plix_CreateController();
     Plix_InitData(controller, bubbleWithBody(box("vertical", R"({"type": "text", "margin": 5},
@@ -104,7 +104,7 @@ void* freeController(void* controller)
     return nullptr;
 }
 
-TEST_F(CardLife, DeeplyNestedDataGoesOnASmallStack)
+TEST_F(CardLife, FreesDeeplyNestedDataOnASmallStack)
 {
     constexpr int kDepth = PlixJsonDataParse::kMaxNestedBoxes;
     PlixDataController* const controller = Plix_CreateController();
@@ -122,7 +122,7 @@ TEST_F(CardLife, DeeplyNestedDataGoesOnASmallStack)
     EXPECT_EQ(alive(items), 0U);
 }
 
-TEST_F(CardLife, BuiltDataStaysForEver)
+TEST_F(CardLife, KeepsBuiltDataForever)
 {
     PlixDataController* const controller = Plix_CreateController();
     Plix_InitData(controller, kCard);
@@ -134,7 +134,7 @@ TEST_F(CardLife, BuiltDataStaysForEver)
     EXPECT_EQ(PlixItemRegistry::GetInstance().Find(PlixItemRegistry::KeyOf(bubble.get())), bubble);
 }
 
-TEST_F(CardLife, WhatIsReadAfterTheBuildStaysWithTheRest)
+TEST_F(CardLife, KeepsDataThatIsReadAfterTheBuild)
 {
     PlixDataController* const controller = Plix_CreateController();
     delete Plix_CreateQGraphicsItem(controller);
@@ -157,7 +157,7 @@ TEST_F(CardLife, TheItemMayOutliveItsController)
     EXPECT_GT(root->boundingRect().height(), 0);
 }
 
-TEST_F(CardLife, TheSceneMayTakeTheItemWithIt)
+TEST_F(CardLife, TheSceneMayDeleteTheItem)
 {
     PlixDataController* const controller = Plix_CreateController();
     Plix_InitData(controller, kCard);
@@ -169,7 +169,7 @@ TEST_F(CardLife, TheSceneMayTakeTheItemWithIt)
     Plix_Free(controller);
 }
 
-TEST_F(CardLife, AControllerGoesOnWithoutItsItem)
+TEST_F(CardLife, AControllerWorksAfterItsItemIsDeleted)
 {
     PlixDataController* const controller = Plix_CreateController();
     Plix_InitData(controller, kCard);
@@ -192,7 +192,7 @@ TEST_F(CardLife, AControllerGoesOnWithoutItsItem)
     Plix_Free(controller);
 }
 
-TEST_F(CardLife, ItemsOfTwoBuildsMayGoInAnyOrder)
+TEST_F(CardLife, ItemsOfTwoBuildsMayBeDeletedInAnyOrder)
 {
     for (const bool firstFirst : {true, false}) {
         PlixDataController* const controller = Plix_CreateController();
@@ -209,7 +209,7 @@ TEST_F(CardLife, ItemsOfTwoBuildsMayGoInAnyOrder)
     }
 }
 
-TEST_F(CardLife, CardsKnowNothingOfEachOther)
+TEST_F(CardLife, CardsAreIndependent)
 {
     TestCard first(kCard);
     {

@@ -1,5 +1,5 @@
-// The deepest cards have the stack of a Windows program's main thread, and no
-// more.
+// The deepest cards on a stack of one megabyte, which the main thread of a Windows
+// program has.
 #include "model/PlixJsonDataParse.h"
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
@@ -21,7 +21,7 @@ constexpr std::size_t kStack = 1024 * 1024;
 
 #if defined(_WIN32)
 
-// The linker's doing; here it can only be looked at.
+// The linker sets it; here it can only be read.
 std::size_t stackLimit()
 {
     const auto* const start = reinterpret_cast<const char*>(GetModuleHandleA(nullptr));
@@ -55,7 +55,7 @@ std::string nestedBoxes(int depth)
 
 using DeepCard = PlixTest;
 
-TEST_F(DeepCard, LivesInOneMegabyteOfStack)
+TEST_F(DeepCard, WorksOnOneMegabyteOfStack)
 {
     ASSERT_EQ(stackLimit(), kStack);
     int clicks = 0;
@@ -89,7 +89,7 @@ TEST_F(DeepCard, LivesInOneMegabyteOfStack)
     EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(DeepCard, IsReadOnOneMegabyteOfStackAsDeepAsItsJsonGoes)
+TEST_F(DeepCard, IsReadOnOneMegabyteOfStackAtAnyDepth)
 {
     ASSERT_EQ(stackLimit(), kStack);
     for (const int depth : {490, 600, 3000}) {

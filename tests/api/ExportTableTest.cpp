@@ -1,4 +1,4 @@
-// The symbols that the built library shows: the 21 functions, nothing else.
+// The built library exports the 21 functions and nothing else.
 #include "ExportedSymbols.h"
 #include "HostExports.h"
 
@@ -36,14 +36,14 @@ const std::vector<std::string> kExports = {
     "Plix_SetWiteLogCallback",
 };
 
-TEST(ExportTable, TheLibraryShowsTheTwentyOneFunctionsAndNothingElse)
+TEST(ExportTable, TheLibraryExportsThe21FunctionsOnly)
 {
     std::vector<std::string> shown;
     for (const ExportedSymbol& symbol : exportedSymbols(PLIX_LIBRARY)) {
         EXPECT_TRUE(symbol.isFunction) << symbol.name;
         shown.push_back(symbol.name);
     }
-    // Their order in the file is that of a hash table, or of the alphabet.
+    // The file has them in the order of a hash table or of the alphabet.
     std::sort(shown.begin(), shown.end());
     std::vector<std::string> expected = kExports;
     std::sort(expected.begin(), expected.end());
@@ -51,7 +51,7 @@ TEST(ExportTable, TheLibraryShowsTheTwentyOneFunctionsAndNothingElse)
     EXPECT_EQ(expected.size(), 21U);
 }
 
-TEST(ExportTable, WhereExportsHaveNumbersTheyAreTheirPlacesInTheList)
+TEST(ExportTable, OrdinalsFollowTheOrderOfTheList)
 {
     const std::vector<ExportedSymbol> symbols = exportedSymbols(PLIX_LIBRARY);
     ASSERT_FALSE(symbols.empty());
@@ -73,7 +73,7 @@ TEST(ExportTable, TheListOfTheBuildHasTheSameOrder)
     EXPECT_EQ(listed, kExports);
 }
 
-TEST(ExportTable, TheHeaderDeclaresThemAll)
+TEST(ExportTable, TheHeaderDeclaresAllFunctions)
 {
 #define PLIX_NAME(name) #name,
     const std::vector<std::string> declared = {PLIX_FOR_EACH_EXPORT(PLIX_NAME)};

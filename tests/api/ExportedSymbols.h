@@ -11,6 +11,6 @@ struct ExportedSymbol {
     std::optional<int> ordinal;
 };
 
-// Every symbol of a shared library that another module could bind to, read
-// from its file; nothing when the file is no library of this platform.
+// Reads the exported symbols from the file of a shared library. Empty if the file is
+// not a library of this platform.
 std::vector<ExportedSymbol> exportedSymbols(const std::string& path);

@@ -1,4 +1,4 @@
-// The exports on handles, good and bad, and on graphics items.
+// The exports, with good and bad handles and with graphics items.
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
 #include "ui/text/PlixTextUI.h"
@@ -34,7 +34,7 @@ void expectRefused(PlixDataController* handle)
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(Exports, NullIsRefusedWithoutAWord)
+TEST_F(Exports, NullIsABadHandle)
 {
     expectRefused(nullptr);
     Plix_Free(nullptr);
@@ -52,7 +52,7 @@ private:
     bool* destroyed_;
 };
 
-TEST_F(Exports, AControllerOfTheHostsOwnIsRefusedButFreed)
+TEST_F(Exports, AControllerOfTheHostIsABadHandleButIsFreed)
 {
     bool destroyed = false;
     auto* const foreign = new Foreign(&destroyed);
@@ -62,7 +62,7 @@ TEST_F(Exports, AControllerOfTheHostsOwnIsRefusedButFreed)
     EXPECT_TRUE(destroyed);
 }
 
-TEST_F(Exports, BeforeTheBuildThereIsNothingToChange)
+TEST_F(Exports, FunctionsDoNothingBeforeTheBuild)
 {
     PlixDataController* const card = Plix_CreateController();
     EXPECT_EQ(Plix_InitData(card, bubbleWithBody(R"({"type": "text", "text": "word"})")), 0);
@@ -74,7 +74,7 @@ TEST_F(Exports, BeforeTheBuildThereIsNothingToChange)
     Plix_Free(card);
 }
 
-TEST_F(Exports, SettersAnswerZero)
+TEST_F(Exports, SettersReturnZero)
 {
     const TestCard card(bubbleWithBody(R"({"type": "text"})"));
     PlixDataController* const handle = card.controller();
@@ -101,7 +101,7 @@ TEST_F(Exports, ACardWithoutDataIsAnEmptyBubble)
     Plix_Free(card);
 }
 
-TEST_F(Exports, ItemsOfTheHostsOwnHaveNoAction)
+TEST_F(Exports, ItemsOfTheHostHaveNoAction)
 {
     EXPECT_FALSE(Plix_HasAction(nullptr));
     QGraphicsRectItem rect;
@@ -110,7 +110,7 @@ TEST_F(Exports, ItemsOfTheHostsOwnHaveNoAction)
     EXPECT_FALSE(Plix_HasAction(&widget));
 }
 
-// A card in one colour, seen in its middle.
+// The colour in the middle of a card.
 QColor shownColor(const TestCard& card)
 {
     QGraphicsScene scene;
@@ -125,7 +125,7 @@ QColor shownColor(const TestCard& card)
     return image.pixelColor(image.rect().center());
 }
 
-TEST_F(Exports, TheSenderSelectsTheBubblesGround)
+TEST_F(Exports, TheSenderSelectsTheBubblesBackground)
 {
     const struct {
         int from;

@@ -1,4 +1,4 @@
-// What a build says, costs and leaves behind when something is thrown in it.
+// What a build logs, leaves out and returns if something throws during it.
 #include "support/PlixTest.h"
 #include "ui/text/PlixTextUI.h"
 
@@ -11,8 +11,8 @@
 namespace plix::test {
 namespace {
 
-// A text that only a mobile device can serve asks the host for its wording
-// while it is built.
+// A text whose action opens mobile apps only calls the host for its wording while it
+// is built.
 class FailingBuild : public PlixTest {
 protected:
     FailingBuild()
@@ -47,7 +47,7 @@ TEST_F(FailingBuild, IsLoggedWithTheReason)
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(FailingBuild, WithoutAReasonIsLoggedAsTheBarePrefix)
+TEST_F(FailingBuild, WithoutAReasonIsLoggedAsThePrefixOnly)
 {
     Plix_SetMultiLangGetCallback([](const char*) -> std::string { throw std::runtime_error(""); });
     expectCardWith(QString());
@@ -71,7 +71,7 @@ TEST_F(FailingBuild, IsLoggedOnOneLine)
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(FailingBuild, CanBeFollowedByAnother)
+TEST_F(FailingBuild, CanBeFollowedByASuccessfulOne)
 {
     Plix_SetMultiLangGetCallback([](const char*) -> std::string { throw std::runtime_error("x"); });
     expectCardWith(QString());
@@ -80,8 +80,7 @@ TEST_F(FailingBuild, CanBeFollowedByAnother)
     expectCardWith(QStringLiteral("chat_room_check_on_mobile"));
 }
 
-// An application that watches all events, and throws at the first item of a card
-// that gets its size.
+// An application whose event filter throws when the first item of a card is resized.
 template <typename Thrown> class ThrowingApplication : public QObject {
 public:
     explicit ThrowingApplication(Thrown thrown)
@@ -102,7 +101,7 @@ private:
     Thrown thrown_;
 };
 
-TEST_F(FailingBuild, GivesTheItemAsFarAsItGot)
+TEST_F(FailingBuild, ReturnsThePartialItem)
 {
     const ThrowingApplication application(std::runtime_error("the application's"));
     const std::unique_ptr<QGraphicsItem> item(Plix_CreateQGraphicsItem(card_));
@@ -111,7 +110,7 @@ TEST_F(FailingBuild, GivesTheItemAsFarAsItGot)
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(FailingBuild, GivesTheItemAsFarAsItGotWhateverIsThrown)
+TEST_F(FailingBuild, ReturnsThePartialItemAfterAnyException)
 {
     const ThrowingApplication application(5);
     const std::unique_ptr<QGraphicsItem> item(Plix_CreateQGraphicsItem(card_));

@@ -1,9 +1,9 @@
 #pragma once
 
-// Written as a host's: knows Plix by its header only.
+// Like the code of a host: includes only the public header of Plix.
 #include <plix/Plix.h>
 
-// The export table, in its order.
+// All exports, in the order of the export table.
 #define PLIX_FOR_EACH_EXPORT(apply)                                                                \
     apply(Plix_CreateController) apply(Plix_CreateQGraphicsItem) apply(Plix_Free)                  \
         apply(Plix_HasAction) apply(Plix_InitData) apply(Plix_InitSetFrom)                         \
@@ -17,7 +17,7 @@
                                         apply(Plix_SetKestroControlSupport)                        \
                                             apply(Plix_SetWiteLogCallback)
 
-// The exports as a host gets hold of them: linked, or looked up by name.
+// The exports as a host gets them: linked, or looked up by name.
 struct HostExports {
 #define PLIX_MEMBER(name) decltype(&::name) name;
     PLIX_FOR_EACH_EXPORT(PLIX_MEMBER)

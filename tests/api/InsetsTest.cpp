@@ -1,4 +1,4 @@
-// The space that zones keep from the edge of the card.
+// The space between the content of zones and the edge of the card.
 #include "layout/YogaLayoutItem.h"
 #include "support/PlixTest.h"
 #include "ui/PlixBoxUI.h"
@@ -65,7 +65,7 @@ TEST_F(Insets, WithoutAFooter)
     }
 }
 
-TEST_F(Insets, AZoneKeepsThePaddingItHas)
+TEST_F(Insets, AZoneKeepsItsOwnPadding)
 {
     const std::string zone = R"({"type": "box", "layout": "vertical", "paddingAll": "7px"})";
     const TestCard built(R"({"type": "bubble", "header": )" + zone + R"(, "hero": )" + zone
@@ -74,7 +74,7 @@ TEST_F(Insets, AZoneKeepsThePaddingItHas)
         EXPECT_EQ(paddings(*built.ui<PlixBoxUI>({i})), std::vector<float>(4, 7)) << i;
 }
 
-TEST_F(Insets, TakeThePlaceOfSinglePaddings)
+TEST_F(Insets, ReplaceSinglePaddings)
 {
     const std::string zone =
         R"({"type": "box", "layout": "vertical", "paddingTop": "7px", "paddingEnd": "25%"})";
@@ -83,8 +83,8 @@ TEST_F(Insets, TakeThePlaceOfSinglePaddings)
     EXPECT_EQ(paddings(*built.ui<PlixBoxUI>({1})), std::vector<float>(4, 20));
 }
 
-// Its children are there before it gets its insets.
-TEST_F(Insets, AreKeptFreeByAbsoluteChildrenOfAZone)
+// A zone gets its insets after its children are built.
+TEST_F(Insets, ApplyToAbsoluteChildrenOfAZone)
 {
     const std::string zone = box("vertical", R"({"type": "box", "position": "absolute"},
         {"type": "box", "position": "absolute", "offsetTop": "5px", "offsetStart": "6px"})");
@@ -101,13 +101,13 @@ TEST_F(Insets, AreKeptFreeByAbsoluteChildrenOfAZone)
     EXPECT_EQ(offsets(2, 0), std::vector<float>(4, 10));
 }
 
-TEST_F(Insets, ChildrenOfBoxesGetNone)
+TEST_F(Insets, DoNotApplyToChildrenOfBoxes)
 {
     const TestCard built(bubbleWithBody(box("vertical", R"({"type": "box"})")));
     EXPECT_EQ(paddings(*built.ui<PlixBoxUI>({0, 0})), std::vector<float>(4, 0));
 }
 
-TEST_F(Insets, AreThoseOfTheBubbleAsItIsAtEachBuild)
+TEST_F(Insets, AreReadFromTheBubbleAtEachBuild)
 {
     PlixDataController* const controller = Plix_CreateController();
     Plix_InitData(controller, card("kilo", ""));

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-// The bytes of a file as the records that they are.
+// Reads records from the bytes of a file.
 class LibraryFile {
 public:
     explicit LibraryFile(const std::string& path)

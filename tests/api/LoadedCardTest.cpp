@@ -1,5 +1,5 @@
-// Cards of the library that a host loaded at run time: what it shows, and what
-// comes back from it. Knows Plix by its header only.
+// Cards of the library when it is loaded at run time: what they show, and what the
+// callbacks get. Includes only the public header of Plix.
 #include "SharedLibrary.h"
 #include "support/Mouse.h"
 
@@ -20,8 +20,8 @@
 namespace plix::test {
 namespace {
 
-// Longer than what a std::string keeps inside of itself, so that memory of
-// one side is freed by the other.
+// Too long for the internal buffer of a std::string, so that one side frees memory
+// that the other side has allocated.
 const std::string kLong = "a text that is longer than the library's own room for short ones";
 
 std::string bubble(const std::string& contents, const std::string& boxMembers = {})
@@ -35,7 +35,7 @@ std::string text(const std::string& words)
     return R"({"type": "text", "text": ")" + words + R"("})";
 }
 
-// A host with one card at a time. The item goes first, then the controller.
+// A host with one card at a time. Deletes the item before the controller.
 class LoadedCard : public testing::Test {
 protected:
     LoadedCard()
@@ -88,14 +88,14 @@ struct Click {
     ST_ACTION action;
 };
 
-TEST_F(LoadedCard, HandsAnActionOverFieldByField)
+TEST_F(LoadedCard, PassesEveryFieldOfAnAction)
 {
     std::vector<Click> clicks;
     plix_.Plix_SetClickCallBack(
         card_,
         [](PlixDataController* controller, ST_ACTION& action, void* userData) {
             static_cast<std::vector<Click>*>(userData)->push_back({controller, action});
-            // The copy is the host's to change.
+            // The host may change its copy.
             action.uri = kLong + action.uri;
             action.i18nTexts.texts.clear();
         },
@@ -113,9 +113,9 @@ TEST_F(LoadedCard, HandsAnActionOverFieldByField)
     click(*item_, {30, 30});
 
     ASSERT_EQ(clicks.size(), 2U);
-    for (const Click& taken : clicks) {
-        const ST_ACTION& action = taken.action;
-        EXPECT_EQ(taken.controller, card_);
+    for (const Click& call : clicks) {
+        const ST_ACTION& action = call.action;
+        EXPECT_EQ(call.controller, card_);
         const std::vector<std::string> fields {
             action.type,      action.label,    action.text,   action.displayText, action.uri,
             action.pcUri,     action.webUri,   action.appUri, action.androidUri,  action.iosUri,
@@ -133,19 +133,19 @@ TEST_F(LoadedCard, HandsAnActionOverFieldByField)
     }
 }
 
-TEST_F(LoadedCard, KeepsUserDataOfEveryCallbackApart)
+TEST_F(LoadedCard, PassesEachCallbackItsOwnUserData)
 {
     using Numbers = std::vector<std::int64_t>;
     Numbers users;
     Numbers bots;
-    const auto note = [](std::int64_t number, void* userData) {
+    const auto append = [](std::int64_t number, void* userData) {
         static_cast<Numbers*>(userData)->push_back(number);
     };
     PlixDisplayParam param;
     param.markupEnabled = true;
     plix_.Plix_SetDisplayParam(card_, param);
-    plix_.Plix_SetMentionHandleCallback(card_, note, &users);
-    plix_.Plix_SetBotMentionHandleCallback(card_, note, &bots);
+    plix_.Plix_SetMentionHandleCallback(card_, append, &users);
+    plix_.Plix_SetBotMentionHandleCallback(card_, append, &bots);
     show(bubble(text(R"(<m user=\"-9007199254740993\">@Ann Lee</m>)") + ","
                 + text(R"(<m bot=\"9223372036854775807\">@Bot</m>)")));
 
@@ -169,7 +169,7 @@ TEST_F(LoadedCard, ShowsTheWordingThatTheHostReturns)
 
 TEST_F(LoadedCard, ShowsTheFileThatTheHostReturns)
 {
-    // A name that is no name in any single-byte code.
+    // A name that no single-byte encoding can represent.
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral(u"Bild 그림 \u00FC.png"));
     QImage picture(8, 8, QImage::Format_RGB32);
@@ -184,10 +184,10 @@ TEST_F(LoadedCard, ShowsTheFileThatTheHostReturns)
     plix_.Plix_SetDownloadCallBack(
         card_,
         [](PlixDataController* controller, const std::string& url, void* userData) {
-            auto* const noted = static_cast<Downloads*>(userData);
-            noted->controller = controller;
-            noted->urls.push_back(url);
-            return noted->path;
+            auto* const calls = static_cast<Downloads*>(userData);
+            calls->controller = controller;
+            calls->urls.push_back(url);
+            return calls->path;
         },
         &downloads);
     const std::string url = "https://pictures.example/" + std::string(300, 'a') + ".png";
@@ -199,7 +199,7 @@ TEST_F(LoadedCard, ShowsTheFileThatTheHostReturns)
     EXPECT_EQ(colourAt(place.center().toPoint()), 0xFF123456);
 }
 
-TEST_F(LoadedCard, KnowsItsItemsWithActionsFromOthers)
+TEST_F(LoadedCard, FindsItsItemsWithActions)
 {
     show(bubble(text("words") + R"(, {"type": "text", "text": "more", "action": {"type": "uri",
         "uri": "here"}})"));
@@ -212,7 +212,7 @@ TEST_F(LoadedCard, KnowsItsItemsWithActionsFromOthers)
     EXPECT_TRUE(plix_.Plix_HasAction(body()->childItems().value(1)));
 }
 
-TEST_F(LoadedCard, TakesListsOfWords)
+TEST_F(LoadedCard, HighlightsListsOfWords)
 {
     show(bubble(text("Dinner at eight, as it was last week")));
     EXPECT_EQ(plix_.Plix_SetHighLightText(card_, {kLong, "EIGHT"}), 1);
@@ -230,7 +230,7 @@ TEST_F(LoadedCard, GrowsAndIsLaidOutAgain)
     EXPECT_GT(height(), 0);
 }
 
-TEST_F(LoadedCard, TakesAColourAndGivesItBack)
+TEST_F(LoadedCard, SetsAndResumesTheBackgroundColour)
 {
     plix_.Plix_InitSetFrom(card_, 1);
     plix_.Plix_SetDpi(card_, 2);
@@ -257,7 +257,7 @@ TEST_F(LoadedCard, ShowsTheLanguageThatIsSet)
     plix_.Plix_Free(other);
 }
 
-TEST_F(LoadedCard, GoesBeforeItsItemOrAfter)
+TEST_F(LoadedCard, MayBeFreedBeforeOrAfterItsItem)
 {
     for (const bool itemFirst : {true, false}) {
         PlixDataController* const card = plix_.Plix_CreateController();

@@ -1,12 +1,12 @@
-// The built library as a host loads it at run time.
-#include "HostDrive.h"
+// The built library when a host loads it at run time.
+#include "HostChecks.h"
 #include "SharedLibrary.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-TEST(LoadedLibrary, WorksByNamesAlone)
+TEST(LoadedLibrary, WorksWhenFunctionsAreLookedUpByName)
 {
     const SharedLibrary library(PLIX_LIBRARY);
     ASSERT_TRUE(library.isLoaded());
@@ -15,10 +15,10 @@ TEST(LoadedLibrary, WorksByNamesAlone)
     PLIX_FOR_EACH_EXPORT(PLIX_EXPECT_FOUND)
 #undef PLIX_EXPECT_FOUND
     ASSERT_FALSE(testing::Test::HasFailure());
-    EXPECT_EQ(host::Drive(exports).run(), 0);
+    EXPECT_EQ(host::HostChecks(exports).run(), 0);
 }
 
-TEST(LoadedLibrary, FindsNothingElseByName)
+TEST(LoadedLibrary, ExportsNoOtherName)
 {
     const SharedLibrary library(PLIX_LIBRARY);
     ASSERT_TRUE(library.isLoaded());

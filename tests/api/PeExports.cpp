@@ -30,7 +30,7 @@ public:
         std::vector<ExportedSymbol> symbols;
         for (DWORD i = 0; i < table.NumberOfFunctions; ++i) {
             const auto address = element<std::uint32_t>(table.AddressOfFunctions, i);
-            // A gap in the numbers.
+            // A gap in the ordinals.
             if (address == 0)
                 continue;
             symbols.push_back({{}, isCode(address), static_cast<int>(table.Base + i)});
@@ -79,7 +79,7 @@ private:
         return record<Element>(array + index * static_cast<DWORD>(sizeof(Element)));
     }
 
-    // A name of a function elsewhere would stand where its code should be.
+    // An export that is forwarded to another library has a name instead of code.
     bool isCode(DWORD address) const
     {
         return (sectionOf(address).Characteristics & IMAGE_SCN_MEM_EXECUTE) != 0;

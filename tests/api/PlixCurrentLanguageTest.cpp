@@ -12,7 +12,7 @@ TEST(PlixCurrentLanguage, IsEnglishUntilTheHostSetsAnother)
     EXPECT_EQ(plix::GetCurrentLanguage(), "en");
 }
 
-TEST(PlixCurrentLanguage, IsWhatTheHostHasSet)
+TEST(PlixCurrentLanguage, IsACopyOfWhatTheHostSets)
 {
     std::string language = "zh-CN";
     Plix_SetCurrentLanguage(language);

@@ -22,7 +22,7 @@ namespace {
 
 class PlixDataMgrTest : public PlixTest { };
 
-// All items of a card that stand for data, from the root down.
+// All graphics items of a card that have data, from the root down.
 std::vector<PlixBaseUI*> dataItems(QGraphicsItem* root)
 {
     std::vector<PlixBaseUI*> items;
@@ -99,7 +99,7 @@ TEST_F(PlixDataMgrTest, BuildsTheTreeOfTheData)
     EXPECT_EQ(card.ui<PlixBoxUI>({1})->childAt(1), card.ui<PlixBoxUI>({1, 1}));
 }
 
-TEST_F(PlixDataMgrTest, ZonesStandInTheirOrder)
+TEST_F(PlixDataMgrTest, ZonesAreInOrder)
 {
     const auto zone = [](const char* name) {
         return std::string("\"") + name + R"(": {"type": "box", "layout": "vertical"}, )";
@@ -115,7 +115,7 @@ TEST_F(PlixDataMgrTest, ZonesStandInTheirOrder)
     }
 }
 
-TEST_F(PlixDataMgrTest, EveryItemHasItsKeyItsOwnerAndNoParentLayout)
+TEST_F(PlixDataMgrTest, EveryItemHasAKeyAnOwnerAndNoParentLayout)
 {
     const TestCard card(kSimpleCard);
     const auto items = dataItems(card.root());
@@ -132,9 +132,9 @@ TEST_F(PlixDataMgrTest, EveryItemHasItsKeyItsOwnerAndNoParentLayout)
     EXPECT_EQ(keyOf(card.root()), PlixItemRegistry::KeyOf(card.bubbleData().get()));
 }
 
-// Texts take their colour from the sender, and their wrapping from their
-// controller, when they are initialised.
-TEST_F(PlixDataMgrTest, OwnerAndSenderAreThereWhenAnItemIsInitialised)
+// Texts read their colour from the sender and their wrapping from the controller in
+// Init().
+TEST_F(PlixDataMgrTest, OwnerAndSenderAreSetBeforeAnItemIsInitialised)
 {
     const TestCard card(bubbleWithBody(box("vertical", R"({"type": "text", "text": "a"})")),
                         [](PlixDataController* handle) {
@@ -154,7 +154,7 @@ TEST_F(PlixDataMgrTest, OwnerAndSenderAreThereWhenAnItemIsInitialised)
               QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
-TEST_F(PlixDataMgrTest, DisplaySettingsReachTheDataAtEachBuild)
+TEST_F(PlixDataMgrTest, EachBuildPassesTheDisplaySettingsToTheData)
 {
     const std::string json =
         bubbleWithBody(box("vertical", R"({"type": "filler"})", R"("action": {"appUri": "a"}, )"));
@@ -170,19 +170,19 @@ TEST_F(PlixDataMgrTest, DisplaySettingsReachTheDataAtEachBuild)
                         [&](PlixDataController* handle) { Plix_SetDisplayParam(handle, off); });
     EXPECT_FALSE(isAppOnly(card));
     Plix_SetDisplayParam(card.controller(), PlixDisplayParam());
-    EXPECT_FALSE(isAppOnly(card)) << "settings are read by the build";
+    EXPECT_FALSE(isAppOnly(card)) << "only a build reads the settings";
     const std::unique_ptr<QGraphicsItem> second(Plix_CreateQGraphicsItem(card.controller()));
     EXPECT_TRUE(isAppOnly(card));
 }
 
-TEST_F(PlixDataMgrTest, DataThatIsNotDrawnIsLeftOutWithAllBelow)
+TEST_F(PlixDataMgrTest, LeavesOutComponentsThatAreNotDrawn)
 {
     const TestCard card(bubbleWithBody(
         box("vertical", R"({"type": "span"}, {"type": "filler"}, {"type": "bubble"})")));
     EXPECT_EQ(card.item({0})->childItems().size(), 1);
 }
 
-TEST_F(PlixDataMgrTest, TheCardIsAsWideAsItsSizeSays)
+TEST_F(PlixDataMgrTest, TheSizeDeterminesTheWidth)
 {
     const struct {
         const char* size;
@@ -197,7 +197,7 @@ TEST_F(PlixDataMgrTest, TheCardIsAsWideAsItsSizeSays)
     }
 }
 
-TEST_F(PlixDataMgrTest, TheHeightIsNotBoundByTheFirstPass)
+TEST_F(PlixDataMgrTest, TheFirstPassDoesNotLimitTheHeight)
 {
     const TestCard card(bubbleWithBody(box("vertical", "", R"("height": "900px", )")));
     EXPECT_EQ(sizeOf(card.root()).height(), 900);
@@ -217,9 +217,9 @@ TEST_F(PlixDataMgrTest, ASecondBuildMakesAnotherRootThatIsNotLaidOut)
     EXPECT_EQ(sizeOf(card.root()).width(), 300);
     EXPECT_GT(sizeOf(card.root()).height(), 0);
     const auto& bubble = dynamic_cast<PlixBubbleUI&>(*second);
-    EXPECT_TRUE(std::isnan(bubble.layoutWidth())) << "attached to the root layout after all";
+    EXPECT_TRUE(std::isnan(bubble.layoutWidth())) << "not attached to the root layout";
 
-    // The root layout goes on with the first tree only.
+    // The root layout has the first tree only.
     EXPECT_EQ(card.ui<PlixBoxUI>({1})->layoutWidth(), 300);
 }
 
@@ -237,7 +237,7 @@ TEST_F(PlixDataMgrTest, ASecondBuildAfterTheFirstItemIsGone)
 
 // ---- after the build ----
 
-TEST_F(PlixDataMgrTest, HeightIsGivenToTheBody)
+TEST_F(PlixDataMgrTest, ModifyHeightGrowsTheBody)
 {
     const TestCard card(R"({"type": "bubble",
         "header": {"type": "box", "layout": "vertical", "height": "40px"},
@@ -248,13 +248,13 @@ TEST_F(PlixDataMgrTest, HeightIsGivenToTheBody)
     EXPECT_EQ(sizeOf(card.item({0})).height(), 40);
     EXPECT_EQ(sizeOf(card.item({1})).height(), 210);
 
-    EXPECT_EQ(Plix_ModifyHeight(card.controller(), 250), 0) << "it is that high";
-    EXPECT_EQ(Plix_ModifyHeight(card.controller(), 10), 0) << "it is higher";
+    EXPECT_EQ(Plix_ModifyHeight(card.controller(), 250), 0) << "already that high";
+    EXPECT_EQ(Plix_ModifyHeight(card.controller(), 10), 0) << "already higher";
     EXPECT_EQ(Plix_ModifyHeight(card.controller(), -5), 0);
     EXPECT_EQ(sizeOf(card.root()), QSizeF(300, 250));
 }
 
-TEST_F(PlixDataMgrTest, HeightNeedsABody)
+TEST_F(PlixDataMgrTest, ModifyHeightNeedsABody)
 {
     const TestCard card(
         R"({"type": "bubble", "header": {"type": "box", "layout": "vertical", "height": "40px"}})");
@@ -263,7 +263,7 @@ TEST_F(PlixDataMgrTest, HeightNeedsABody)
     EXPECT_EQ(Plix_ModifyHeight(card.controller(), 20), 0);
 }
 
-TEST_F(PlixDataMgrTest, TheLayoutIsComputedAgainOnRequest)
+TEST_F(PlixDataMgrTest, ARefreshComputesTheLayoutAgain)
 {
     const TestCard card(bubbleWithBody(box(
         "vertical", R"({"type": "box", "height": "40px"}, {"type": "box", "height": "30px"})")));
@@ -288,39 +288,39 @@ TEST_F(PlixDataMgrTest, ARefreshOfAnUnchangedCardChangesNothing)
     EXPECT_EQ(before, after);
 }
 
-// Stands for an item that shows text.
-class Listener : public YogaLayoutItem {
+// Takes the place of a text.
+class HighlightRecorder : public YogaLayoutItem {
 public:
-    Listener()
+    HighlightRecorder()
         : YogaLayoutItem(false)
     {
     }
     int setHighlightText(const QStringList& words) override
     {
-        heard_ = words;
+        words_ = words;
         return 1;
     }
 
-    QStringList heard_;
+    QStringList words_;
 };
 
-TEST_F(PlixDataMgrTest, WordsReachTheItemsInOrderAndTheirAnswerTheHost)
+TEST_F(PlixDataMgrTest, HighlightPassesWordsInOrderAndReturnsTheResult)
 {
     const TestCard card(bubbleWithBody(R"({"type": "text", "text": "a"})"));
     EXPECT_EQ(Plix_SetHighLightText(card.controller(), {"no such word"}), -1);
-    Listener listener;
-    card.ui<PlixBubbleUI>({})->addChild(&listener);
+    HighlightRecorder recorder;
+    card.ui<PlixBubbleUI>({})->addChild(&recorder);
     EXPECT_EQ(Plix_SetHighLightText(card.controller(), {"two", "caf\xC3\xA9", "one"}), 1);
     EXPECT_EQ(
-        listener.heard_,
+        recorder.words_,
         (QStringList {QStringLiteral("two"), QStringLiteral("caf\u00e9"), QStringLiteral("one")}));
     EXPECT_EQ(Plix_SetHighLightText(card.controller(), {}), 1);
-    EXPECT_TRUE(listener.heard_.isEmpty());
+    EXPECT_TRUE(recorder.words_.isEmpty());
 }
 
 // ---- callbacks ----
 
-struct Heard {
+struct Received {
     int times = 0;
     PlixDataController* controller = nullptr;
     std::string text;
@@ -332,43 +332,43 @@ void clickBody(const TestCard& card)
     click(*card.root(), card.item({1})->sceneBoundingRect().center());
 }
 
-void hearClick(PlixDataController* controller, ST_ACTION& action, void* userData)
+void recordClick(PlixDataController* controller, ST_ACTION& action, void* userData)
 {
-    auto& heard = *static_cast<Heard*>(userData);
-    ++heard.times;
-    heard.controller = controller;
-    heard.text = action.uri;
+    auto& received = *static_cast<Received*>(userData);
+    ++received.times;
+    received.controller = controller;
+    received.text = action.uri;
 }
 
-std::string hearDownload(PlixDataController* controller, const std::string& url, void* userData)
+std::string recordDownload(PlixDataController* controller, const std::string& url, void* userData)
 {
-    auto& heard = *static_cast<Heard*>(userData);
-    ++heard.times;
-    heard.controller = controller;
-    heard.text = url;
+    auto& received = *static_cast<Received*>(userData);
+    ++received.times;
+    received.controller = controller;
+    received.text = url;
     return "file of " + url;
 }
 
-void hearMention(std::int64_t userNo, void* userData)
+void recordMention(std::int64_t userNo, void* userData)
 {
-    auto& heard = *static_cast<Heard*>(userData);
-    ++heard.times;
-    heard.userNo = userNo;
+    auto& received = *static_cast<Received*>(userData);
+    ++received.times;
+    received.userNo = userNo;
 }
 
-TEST_F(PlixDataMgrTest, AClickReachesTheCallbackThatIsSetWhenItHappens)
+TEST_F(PlixDataMgrTest, AClickCallsTheCallbackThatIsSetAtThatMoment)
 {
-    Heard first;
-    Heard second;
+    Received first;
+    Received second;
     const TestCard card(kSimpleCard, [&](PlixDataController* handle) {
-        Plix_SetClickCallBack(handle, &hearClick, &first);
+        Plix_SetClickCallBack(handle, &recordClick, &first);
     });
     clickBody(card);
     EXPECT_EQ(first.times, 1);
     EXPECT_EQ(first.controller, card.controller());
     EXPECT_EQ(first.text, "u");
 
-    Plix_SetClickCallBack(card.controller(), &hearClick, &second);
+    Plix_SetClickCallBack(card.controller(), &recordClick, &second);
     clickBody(card);
     EXPECT_EQ(first.times, 1);
     EXPECT_EQ(second.times, 1);
@@ -388,18 +388,18 @@ TEST_F(PlixDataMgrTest, TheHostGetsACopyOfTheAction)
     EXPECT_EQ(card.bubbleData()->GetBody()->GetChild(0)->GetAction()->uri, "u");
 }
 
-TEST_F(PlixDataMgrTest, EventsGoToTheirCallbacksWithTheirUserData)
+TEST_F(PlixDataMgrTest, EventsCallTheirCallbacksWithTheirUserData)
 {
-    Heard clicks;
-    Heard downloads;
-    Heard mentions;
-    Heard bots;
+    Received clicks;
+    Received downloads;
+    Received mentions;
+    Received bots;
     const TestCard card(R"({"type": "bubble"})");
     PlixDataController* const handle = card.controller();
-    Plix_SetClickCallBack(handle, &hearClick, &clicks);
-    Plix_SetDownloadCallBack(handle, &hearDownload, &downloads);
-    EXPECT_EQ(Plix_SetMentionHandleCallback(handle, &hearMention, &mentions), 0);
-    EXPECT_EQ(Plix_SetBotMentionHandleCallback(handle, &hearMention, &bots), 0);
+    Plix_SetClickCallBack(handle, &recordClick, &clicks);
+    Plix_SetDownloadCallBack(handle, &recordDownload, &downloads);
+    EXPECT_EQ(Plix_SetMentionHandleCallback(handle, &recordMention, &mentions), 0);
+    EXPECT_EQ(Plix_SetBotMentionHandleCallback(handle, &recordMention, &bots), 0);
 
     ST_ACTION action;
     action.uri = "somewhere";

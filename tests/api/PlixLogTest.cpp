@@ -14,7 +14,7 @@ TEST_F(PlixLogTest, ALineNamesTheOperationAndTheReason)
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(PlixLogTest, ALineWithoutAReasonIsTheBarePrefix)
+TEST_F(PlixLogTest, ALineWithoutAReasonIsThePrefixOnly)
 {
     LogFailure("PlixJsonDataParse::Parse", "");
     EXPECT_EQ(takeLogLine(), "call PlixJsonDataParse::Parse failed. ");
@@ -22,13 +22,13 @@ TEST_F(PlixLogTest, ALineWithoutAReasonIsTheBarePrefix)
     EXPECT_EQ(takeLogLine(), "call PlixJsonDataParse::Parse failed. ");
 }
 
-TEST_F(PlixLogTest, AFailedBuildHasALineOfItsOwn)
+TEST_F(PlixLogTest, AFailedBuildHasItsOwnLine)
 {
     LogFailedBuild("why");
     EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. why");
 }
 
-TEST_F(PlixLogTest, ABeginningOfItsOwnIsKept)
+TEST_F(PlixLogTest, ALineMayHaveAnotherPrefix)
 {
     LogFailureLine("call YogaLayoutItem::AddChild failed.- ", "why");
     EXPECT_EQ(takeLogLine(), "call YogaLayoutItem::AddChild failed.- why");
@@ -42,7 +42,7 @@ TEST_F(PlixLogTest, LinesAreUtf8)
     EXPECT_EQ(takeLogLine(), "call A::B failed. \xEF\xBF\xBD");
 }
 
-TEST_F(PlixLogTest, WhateverTheReasonALineIsOneLineOfBoundedLength)
+TEST_F(PlixLogTest, ALineHasNoLineEndsAndAMaximumLength)
 {
     LogFailure("A::B", "one\ncall C::D failed. two\r\n");
     EXPECT_EQ(takeLogLine(), "call A::B failed. one\\ncall C::D failed. two\\u000d\\n");

@@ -4,12 +4,12 @@
 
 namespace {
 
-QString logText(const std::u16string& text, int longest = 40)
+QString logText(const std::u16string& text, int maxLength = 40)
 {
-    return plix::ToLogText(QString::fromStdU16String(text), longest);
+    return plix::ToLogText(QString::fromStdU16String(text), maxLength);
 }
 
-TEST(PlixLogText, ShowsWhatCannotBeSeen)
+TEST(PlixLogText, EscapesInvisibleCharacters)
 {
     const struct {
         std::u16string text;
@@ -27,14 +27,14 @@ TEST(PlixLogText, ShowsWhatCannotBeSeen)
         EXPECT_EQ(logText(row.text), QString::fromLatin1(row.shown));
 }
 
-TEST(PlixLogText, LeavesEverythingElse)
+TEST(PlixLogText, KeepsAllOtherCharacters)
 {
     for (const std::u16string text :
          {u"", u"plain \"text\" \\n", u"caf\u00E9 \uD55C\uAE00 \u05D0\u0301 \U0001F600", u"\u00A0"})
         EXPECT_EQ(logText(text), QString::fromStdU16String(text));
 }
 
-TEST(PlixLogText, IsBoundedBeforeItIsEscaped)
+TEST(PlixLogText, CutsTheTextBeforeItEscapes)
 {
     EXPECT_EQ(logText(u"abcd", 4), QStringLiteral("abcd"));
     EXPECT_EQ(logText(u"abcde", 4), QStringLiteral("abcd..."));

@@ -44,7 +44,7 @@ TEST_F(PlixSettingsTest, AWordingThatThrowsIsEmptyAndLogged)
     EXPECT_EQ(takeLogLine(), "call PlixDataMgr::CreateUI failed. ");
 }
 
-TEST_F(PlixSettingsTest, LogLinesGoOutAsTheyStand)
+TEST_F(PlixSettingsTest, LogLinesAreNotChanged)
 {
     PlixSettings::GetInstance().WriteLog("as it is ");
     EXPECT_EQ(takeLogLine(), "as it is ");
@@ -58,7 +58,7 @@ void otherLog(const char* text)
     lastLine = text;
 }
 
-TEST_F(PlixSettingsTest, TheLogCallbackIsReplacedAndTakenBack)
+TEST_F(PlixSettingsTest, TheLogCallbackCanBeReplacedAndRemoved)
 {
     EXPECT_EQ(Plix_SetWiteLogCallback(&otherLog), 0);
     PlixSettings::GetInstance().WriteLog("one");
@@ -69,7 +69,7 @@ TEST_F(PlixSettingsTest, TheLogCallbackIsReplacedAndTakenBack)
     EXPECT_EQ(lastLine, "one");
 }
 
-TEST_F(PlixSettingsTest, WithoutALogAMalformedMessageHasItsResultsAndWritesNowhere)
+TEST_F(PlixSettingsTest, WithoutALogResultsAreTheSameAndNothingIsWritten)
 {
     Plix_SetWiteLogCallback(nullptr);
     testing::internal::CaptureStdout();
@@ -84,7 +84,7 @@ TEST_F(PlixSettingsTest, WithoutALogAMalformedMessageHasItsResultsAndWritesNowhe
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(PlixSettingsTest, ALogThatThrowsDisturbsNothing)
+TEST_F(PlixSettingsTest, ALogThatThrowsChangesNoResult)
 {
     Plix_SetWiteLogCallback([](const char*) { throw std::runtime_error("the host's"); });
     EXPECT_NO_THROW(PlixSettings::GetInstance().WriteLog("x"));
@@ -101,7 +101,7 @@ public:
     QString GetFontFamily() const override { return QStringLiteral("Some Family"); }
 };
 
-TEST_F(PlixSettingsTest, FontSettingsGoToTheControlLibrary)
+TEST_F(PlixSettingsTest, FontSettingsArePassedToTheControlLibrary)
 {
     Support support;
     EXPECT_EQ(Plix_SetKestroControlSupport(&support), 0);

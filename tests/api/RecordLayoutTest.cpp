@@ -1,5 +1,5 @@
-// The records as a host's compiler lays them out: what crosses the boundary is
-// bytes, and hosts were compiled long ago.
+// The memory layout of the records. It must not change, since hosts are compiled
+// separately.
 #include <plix/Plix.h>
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 namespace plix::test {
 namespace {
 
-// In the bytes of the platform's standard library.
+// Sizes in bytes, which depend on the platform's standard library.
 #if defined(__LP64__)
 constexpr std::size_t kString = 32;
 constexpr std::size_t kMap = 48;
@@ -27,7 +27,7 @@ template <typename Record, typename Field> std::size_t offsetOf(Field Record::*f
     return static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&(record.*field)) - start);
 }
 
-TEST(DisplayParamRecord, HasItsFieldsWhereHostsLookForThem)
+TEST(DisplayParamRecord, HasFixedOffsets)
 {
     EXPECT_EQ(sizeof(PlixDisplayParam), 12u);
     EXPECT_EQ(offsetOf(&PlixDisplayParam::mobileOnlyCheck), 0u);
@@ -45,7 +45,7 @@ TEST(DisplayParamRecord, HasTheDocumentedDefaults)
     EXPECT_EQ(param.extraOption, 1);
 }
 
-TEST(ActionRecord, HasItsFieldsWhereHostsLookForThem)
+TEST(ActionRecord, HasFixedOffsets)
 {
     EXPECT_EQ(sizeof(std::string), kString);
     EXPECT_EQ(sizeof(PlixLanguageMap), kMap);

@@ -2,16 +2,15 @@
 
 #include "HostExports.h"
 
-// The built library, loaded at run time and asked by name, as a host does it.
-// It stays loaded until the process ends: Qt's type registrations cannot be
-// taken back.
+// The built library, loaded at run time, with functions looked up by name. It stays
+// loaded until the process ends: Qt's type registrations cannot be undone.
 class SharedLibrary {
 public:
     explicit SharedLibrary(const char* path);
 
     bool isLoaded() const { return handle_ != nullptr; }
 
-    // Null when the library shows nothing of that name.
+    // Null if the library exports nothing of that name.
     template <typename Function> Function find(const char* name) const
     {
         return reinterpret_cast<Function>(address(name));

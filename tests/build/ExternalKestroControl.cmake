@@ -1,11 +1,11 @@
-# Installs our KestroControl as a host would its own, compiles what uses it with
-# that package's headers, and checks that the library is linked with it.
+# Installs our KestroControl like one of a host, compiles the sources that use it with
+# the headers of that package, and checks that the library is linked with it.
 file(REMOVE_RECURSE ${SCRATCH})
 execute_process(
     COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${SCRATCH}/prefix
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 
-# What the build around this test is for.
+# The target platform, as in the build that runs this test.
 file(STRINGS ${BUILD}/CMakeCache.txt target REGEX "^CMAKE_(TOOLCHAIN_FILE|FIND_ROOT_PATH):")
 set(target_options "")
 foreach(entry IN LISTS target)
@@ -19,7 +19,7 @@ execute_process(
         -DKestroControl_DIR=${SCRATCH}/prefix/${LIBRARY_FOLDER}/cmake/KestroControl ${target_options}
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 if(EXISTS ${SCRATCH}/build/kestro_control)
-    message(FATAL_ERROR "our own KestroControl is part of the build all the same")
+    message(FATAL_ERROR "our own KestroControl is part of the build nevertheless")
 endif()
 
 # The other sources do not include its headers, and compiling them would take

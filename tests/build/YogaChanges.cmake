@@ -1,7 +1,7 @@
-# A source is changed once, also when it was unpacked by an older build, and only
-# where it is what the changes were made for.
+# Checks that plix_change() changes a source once, also if an older build has changed
+# it already, and fails if the text is not there exactly once.
 #
-# Runs itself with FILE and OLD for each change.
+# Runs itself with FILE, OLD and NEW for each change.
 include(${SOURCE}/cmake/yoga/Changes.cmake)
 
 if(DEFINED FILE)
@@ -11,7 +11,7 @@ endif()
 
 set(file ${SCRATCH}/source.h)
 
-# change(OLD NEW): RESULT is 0 if that went well.
+# Sets RESULT to 0 if the change succeeds.
 macro(change old new)
     execute_process(
         COMMAND ${CMAKE_COMMAND} -DSOURCE=${SOURCE} -DFILE=${file} "-DOLD=${old}" -DNEW=${new}

@@ -1,4 +1,4 @@
-// The example cards and their pictures belong together.
+// The images of the example cards are those in the folder examples/images.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -19,7 +19,7 @@ std::set<std::string> files()
     return names;
 }
 
-// The last segments of all picture URLs in the example cards.
+// The last segments of all image URLs in the example cards.
 std::set<std::string> namesInCards()
 {
     static const QRegularExpression picture(

@@ -1,4 +1,4 @@
-// What the writer writes, Qt reads back.
+// Qt reads what the writer has written.
 #include "draw_images/GifWriter.h"
 
 #include <gtest/gtest.h>
@@ -53,7 +53,7 @@ TEST(GifWriter, WritesFramesWithTheirTimes)
     EXPECT_EQ(file.reader().nextImageDelay(), 250);
 }
 
-TEST(GifWriter, WritesHowOftenItPlays)
+TEST(GifWriter, WritesTheNumberOfRepetitions)
 {
     for (const int repetitions : {GifWriter::endless, 1, 300}) {
         GifWriter writer({1, 1}, palette, repetitions);
@@ -65,7 +65,7 @@ TEST(GifWriter, WritesHowOftenItPlays)
     }
 }
 
-TEST(GifWriter, KeepsWhatIsTransparent)
+TEST(GifWriter, KeepsTransparentPixels)
 {
     QImage frame = filled({4, 4}, palette[2]);
     frame.setPixelColor(1, 2, Qt::transparent);
@@ -76,9 +76,9 @@ TEST(GifWriter, KeepsWhatIsTransparent)
     EXPECT_EQ(read.pixelColor(2, 1), QColor(palette[2]));
 }
 
-// Readers read the code of the end with the bits that the codes before have made
-// room for: five here, where the eleventh code for a run has just been met.
-TEST(GifWriter, EndsAPictureWithACodeOfTheWidthThatIsDue)
+// Readers expect the end code with as many bits as the codes before it require: five
+// here, since ten codes for runs have been added.
+TEST(GifWriter, WritesTheEndCodeWithTheRightWidth)
 {
     const std::vector<int> runs {0, 0, 1, 0, 2, 0, 3, 1, 1, 2, 1};
     QImage frame(static_cast<int>(runs.size()), 1, QImage::Format_ARGB32);
@@ -86,12 +86,12 @@ TEST(GifWriter, EndsAPictureWithACodeOfTheWidthThatIsDue)
         frame.setPixel(x, 0, palette[runs[static_cast<std::size_t>(x)]]);
     GifWriter writer(frame.size(), palette);
     writer.addFrame(frame, 100);
-    // Two bits a pixel, seven bytes, nothing more; then the end of the file.
+    // Two bits per pixel, seven bytes, the end of the blocks, the end of the file.
     EXPECT_TRUE(writer.finish().endsWith(QByteArray::fromHex("020704020213215100003b")));
 }
 
-// Enough of it to fill the table of codes several times, and to need all widths.
-TEST(GifWriter, WritesNoiseOfManyColoursAsItIs)
+// Enough noise to fill the table of codes several times and to use all code widths.
+TEST(GifWriter, WritesNoiseOfManyColours)
 {
     QVector<QRgb> colours;
     for (int i = 0; i < 256; ++i)

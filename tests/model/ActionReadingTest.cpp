@@ -1,4 +1,4 @@
-// Actions, wherever they stand, and the maps of languages inside.
+// How actions and the language maps in them are read.
 #include "model/KeyTable.h"
 #include "model/PlixDataBox.h"
 #include "model/PlixDataButton.h"
@@ -26,14 +26,14 @@ KeyRow<ST_ACTION> field(const std::string& key, std::string ST_ACTION::*text)
             "a " + key, "7", [text](const ST_ACTION& action) { return action.*text; }};
 }
 
-// A wrong map ends its own reading only.
+// A wrong map does not fail the action.
 KeyRow<ST_ACTION> map(const std::string& key, PlixLanguageMap ST_ACTION::*texts)
 {
     return {key,          "", R"({"xx": "1", "en": "2"})",
             "en=2;xx=1;", "", [texts](const ST_ACTION& action) { return joined(action.*texts); }};
 }
 
-TEST_F(ActionReading, Action)
+TEST_F(ActionReading, ReadsEveryKey)
 {
     expectTable(KeyTable<ST_ACTION> {"ParseAction",
                                      {field("type", &ST_ACTION::type),
@@ -59,7 +59,7 @@ TEST_F(ActionReading, Action)
                                      &readAction});
 }
 
-TEST_F(ActionReading, PostbackIsAnotherNameOfDataAndWins)
+TEST_F(ActionReading, PostbackTakesPrecedenceOverData)
 {
     EXPECT_EQ(readAction(R"("postback": "b")")->data, "b");
     EXPECT_EQ(readAction(R"("type": "postback", "data": "a", "postback": "b")")->data, "b");
@@ -83,7 +83,7 @@ TEST_F(ActionReading, TheMapsAreReadInOrder)
     expectOneLogLine("ParseMultiLang", {"\"i18nDisplayTexts\"", "3"});
 }
 
-TEST_F(ActionReading, NoKeyIsCheckedAgainstTheType)
+TEST_F(ActionReading, KeysDoNotDependOnTheType)
 {
     const auto action = readAction(R"("type": "message", "uri": "u", "data": "d")");
     EXPECT_EQ(action->type, "message");
@@ -92,7 +92,7 @@ TEST_F(ActionReading, NoKeyIsCheckedAgainstTheType)
     EXPECT_EQ(readAction(R"("type": "Uri")")->type, "Uri");
 }
 
-TEST_F(ActionReading, AMapKeepsWhatStandsBeforeABrokenMember)
+TEST_F(ActionReading, AMapKeepsTheMembersBeforeABrokenOne)
 {
     const auto action = readAction(
         R"("label": "l", "i18nLabels": {"zz": "No", "ko": 5, "en": "Yes"}, "copyText": "c")");
@@ -101,19 +101,19 @@ TEST_F(ActionReading, AMapKeepsWhatStandsBeforeABrokenMember)
     EXPECT_EQ(action->copyText, "c") << "the rest of the action is read";
 }
 
-TEST_F(ActionReading, MapsTakeEveryMember)
+TEST_F(ActionReading, MapsReadEveryMember)
 {
     const auto action =
         readAction(R"("i18nTexts": {"fr": "oui", "": "none", "anything": null, "yes": true})");
     EXPECT_EQ(joined(action->i18nTexts), "=none;anything=;fr=oui;yes=true;");
 }
 
-TEST_F(ActionReading, TheLaterOfTwoMembersOfOneNameCounts)
+TEST_F(ActionReading, TheLastOfTwoMembersOfOneNameCounts)
 {
     EXPECT_EQ(readAction(R"("i18nTexts": {"en": "1", "en": "2"})")->i18nTexts.Get("en"), "2");
 }
 
-TEST_F(ActionReading, NullMapsAreNotGiven)
+TEST_F(ActionReading, NullMapsCountAsNotGiven)
 {
     const auto action =
         readAction(R"("i18nLabels": null, "i18nTexts": null, "i18nDisplayTexts": null)");
@@ -122,7 +122,7 @@ TEST_F(ActionReading, NullMapsAreNotGiven)
               "");
 }
 
-TEST_F(ActionReading, AnActionThatIsNoObjectCostsTheAction)
+TEST_F(ActionReading, AnActionThatIsNotAnObjectFailsAlone)
 {
     for (const char* wrong : {"[]", "5", "true", R"("uri")"}) {
         SCOPED_TRACE(wrong);
@@ -156,7 +156,7 @@ TEST_F(ActionReading, BelongsToBubbleBoxTextImageAndButton)
     EXPECT_EQ(card.body<PlixDataButton>({2})->GetAction()->uri, "u");
 }
 
-TEST_F(ActionReading, AnAppOnlyActionHoldsForEverythingBelowWithoutAnotherOne)
+TEST_F(ActionReading, AnAppOnlyActionAppliesToDescendantsWithoutLinks)
 {
     const std::string below = box("vertical", R"({"type": "text"}, {"type": "filler"},
         {"type": "text", "action": {"type": "message", "text": "hi"}},

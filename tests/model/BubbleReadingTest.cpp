@@ -1,4 +1,4 @@
-// The bubble's own keys: zones, styles and what a wrong one costs.
+// How the bubble's own keys are read: zones, styles, and wrong values.
 #include "model/KeyTable.h"
 #include "model/PlixDataBubble.h"
 #include "model/PlixDataText.h"
@@ -10,7 +10,7 @@ namespace {
 
 class BubbleReading : public PlixTest { };
 
-// The bubble of a card; its tree is kept by the shared pointer's deleter.
+// The bubble of a card. The result keeps the whole card alive.
 std::shared_ptr<const PlixDataBubble> readBubble(const std::string& members)
 {
     const auto card = std::make_shared<ReadCard>('{' + members + R"("type": "bubble"})");
@@ -33,7 +33,7 @@ KeyRow<PlixDataBubble> zoneRow(const std::string& key,
             }};
 }
 
-TEST_F(BubbleReading, Bubble)
+TEST_F(BubbleReading, ReadsEveryKey)
 {
     using Bubble = PlixDataBubble;
     const KeyTable<Bubble> table {
@@ -51,7 +51,7 @@ TEST_F(BubbleReading, Bubble)
     expectTable(table);
 }
 
-TEST_F(BubbleReading, AWrongKeyFailsTheWholeReading)
+TEST_F(BubbleReading, AWrongKeyFailsTheBubble)
 {
     for (const char* member :
          {R"("direction": 5)", R"("size": 5)", R"("styles": [])", R"("styles": {"body": 5})",
@@ -64,7 +64,7 @@ TEST_F(BubbleReading, AWrongKeyFailsTheWholeReading)
     }
 }
 
-TEST_F(BubbleReading, AWrongPieceDoesNot)
+TEST_F(BubbleReading, AWrongComponentDoesNotFailTheBubble)
 {
     for (const char* member :
          {R"("body": 5)", R"("action": 5)", R"("body": {"type": "text", "margin": 5})"}) {
@@ -76,7 +76,7 @@ TEST_F(BubbleReading, AWrongPieceDoesNot)
     }
 }
 
-TEST_F(BubbleReading, ABubbleWithoutZonesHasFourEmptyOnes)
+TEST_F(BubbleReading, HasFourEmptyZonesByDefault)
 {
     ReadCard card(R"({"type": "bubble"})");
     for (const auto& zone : card.bubble().GetZones()) {
@@ -103,7 +103,7 @@ TEST_F(BubbleReading, AnyComponentCanBeAZone)
     }
 }
 
-TEST_F(BubbleReading, AZoneOfNoKnownTypeStaysEmptyWithoutAWord)
+TEST_F(BubbleReading, AZoneOfAnUnknownTypeStaysEmpty)
 {
     for (const char* zone :
          {"null", "{}", R"({"type": "span"})", R"({"type": "bubble"})", R"({"type": "Box"})",
@@ -115,7 +115,7 @@ TEST_F(BubbleReading, AZoneOfNoKnownTypeStaysEmptyWithoutAWord)
     }
 }
 
-TEST_F(BubbleReading, AZoneThatIsNoObjectCostsThatZone)
+TEST_F(BubbleReading, AZoneThatIsNotAnObjectFailsAlone)
 {
     for (const char* zone : {"[]", R"([{"type": "box"}])", R"("box")", "5", "1.5", "true"}) {
         SCOPED_TRACE(zone);
@@ -154,7 +154,7 @@ TEST_F(BubbleReading, EveryStyleGoesToItsZone)
     }
 }
 
-TEST_F(BubbleReading, AnyValueIsABooleanForSeparator)
+TEST_F(BubbleReading, SeparatorAcceptsAnyValue)
 {
     const struct {
         const char* json;
@@ -192,7 +192,7 @@ TEST_F(BubbleReading, StylesAreReadInOrder)
     EXPECT_FALSE(separatorColour.bubble().GetFooterStyle().separator);
 }
 
-TEST_F(BubbleReading, NullStylesAreNotGiven)
+TEST_F(BubbleReading, NullStylesCountAsNotGiven)
 {
     EXPECT_EQ(ReadCard(R"({"type": "bubble", "styles": null})").result(), 0);
     ReadCard card(R"({"type": "bubble", "styles": {"header": null,

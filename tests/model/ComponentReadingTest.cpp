@@ -1,4 +1,4 @@
-// Every component against the table of its keys, and what is odd about some.
+// How each component is read: its keys, and special cases.
 #include "model/KeyTable.h"
 #include "model/PlixDataBox.h"
 #include "model/PlixDataButton.h"
@@ -32,7 +32,7 @@ KeyRow<PlixDataBox> paddingRow(const std::string& key, PlixPadding (PlixDataBox:
             [getter](const PlixDataBox& box) { return shown((box.*getter)()); }};
 }
 
-// Both forms of a box's size in one text.
+// The text and the length of a box's size, in one text.
 std::string shownSize(const std::string& text, const PlixLength& length)
 {
     return text + ' ' + std::to_string(length.px) + '/' + std::to_string(length.percent);
@@ -184,8 +184,8 @@ TEST_F(ComponentReading, Separator)
                                            textRow<Separator>("color", &Separator::GetColor)}));
 }
 
-// Spacer, filler and separator have no place and no action of their own: even
-// values that no other component could read are passed over.
+// Spacer, filler and separator have no position and no action: these keys are
+// ignored, even with wrong values.
 TEST_F(ComponentReading, PlainItemsIgnoreTheCommonKeys)
 {
     const std::string common = R"("position": 5, "offsetStart": 5, "offsetEnd": 5, "offsetTop": 5,
@@ -207,14 +207,14 @@ TEST_F(ComponentReading, IconsHaveNoAction)
     EXPECT_EQ(icon->GetAction(), nullptr);
 }
 
-TEST_F(ComponentReading, KeysAreTakenByCaseAndUnknownOnesIgnored)
+TEST_F(ComponentReading, KeysAreCaseSensitiveAndUnknownOnesIgnored)
 {
     const auto text = readComponent<PlixDataText>(
         R"({"type": "text", "Text": "no", "TEXT": 5, "nonsense": {"a": [1]}, "text": "yes"})");
     EXPECT_EQ(text->GetText(), "yes");
 }
 
-// Nine characters are taken for a colour with its alpha at the end.
+// Any text of nine characters counts as a colour with its alpha at the end.
 TEST_F(ComponentReading, AlphaMovesToTheFrontInSomeColours)
 {
     const struct {
@@ -224,7 +224,7 @@ TEST_F(ComponentReading, AlphaMovesToTheFrontInSomeColours)
     } rows[] = {
         {"alpha at the end", "#11223344", "#44112233"},
         {"no alpha", "#112233", "#112233"},
-        {"nine characters that are no digits", "#uvwxyzAB", "#ABuvwxyz"},
+        {"nine characters that are not digits", "#uvwxyzAB", "#ABuvwxyz"},
         {"nine characters without a hash", "abcdefghi", "#hibcdefg"},
         {"eight characters", "#1122334", "#1122334"},
         {"ten characters", "#112233445", "#112233445"},
@@ -262,7 +262,7 @@ TEST_F(ComponentReading, OtherColoursStayAsWritten)
               colour);
 }
 
-TEST_F(ComponentReading, AnEmptyEndPaddingTakesBackTheStartPadding)
+TEST_F(ComponentReading, AnEmptyEndPaddingResetsTheStartPadding)
 {
     const auto box =
         readComponent<PlixDataBox>(R"({"type": "box", "paddingStart": "lg", "paddingEnd": ""})");
@@ -270,7 +270,7 @@ TEST_F(ComponentReading, AnEmptyEndPaddingTakesBackTheStartPadding)
     EXPECT_EQ(box->GetPaddingEnd().px, -1);
 }
 
-TEST_F(ComponentReading, ATextTakesExactlySixLanguages)
+TEST_F(ComponentReading, ATextReadsExactlySixLanguages)
 {
     const std::string texts = R"("i18nTexts": {"ko": "1", "ja": "2", "en": "3", "zh-CN": "4",
         "zh-TW": "5", "default": "6", "fr": "7", "EN": "8", "zh": 9, "th": {}})";
@@ -297,11 +297,11 @@ TEST_F(ComponentReading, LanguagesAreReadInOrder)
             R"({"type": "text", "margin": "md", "i18nTexts": {)" + members + "}}");
         expectOneLogLine("ParseText", {'"' + codes[broken] + '"'});
         EXPECT_EQ(joined(text->GetTexts()), joined(before));
-        EXPECT_EQ(text->GetMargin(), "") << "read although the text had failed";
+        EXPECT_EQ(text->GetMargin(), "") << "read after the text has failed";
     }
 }
 
-TEST_F(ComponentReading, OnlySpansOfATextCount)
+TEST_F(ComponentReading, ATextReadsOnlySpans)
 {
     const auto text = readComponent<PlixDataText>(R"({"type": "text", "contents": [
         {"type": "span", "text": "a"}, {"type": "text", "text": "b"}, {"type": "Span"}, "span",
@@ -311,7 +311,7 @@ TEST_F(ComponentReading, OnlySpansOfATextCount)
     EXPECT_EQ(text->GetSpans()[1].GetText(), "c");
 }
 
-TEST_F(ComponentReading, ABrokenSpanEndsTheTextButStays)
+TEST_F(ComponentReading, ABrokenSpanStaysAndFailsTheText)
 {
     const auto text = readComponent<PlixDataText>(R"({"type": "text", "text": "t", "contents": [
         {"type": "span", "text": "a", "size": 5, "color": "#112233"},
@@ -323,7 +323,7 @@ TEST_F(ComponentReading, ABrokenSpanEndsTheTextButStays)
     EXPECT_EQ(text->GetAction(), nullptr);
 }
 
-TEST_F(ComponentReading, AnyValueIsABooleanForWrap)
+TEST_F(ComponentReading, WrapAcceptsAnyValue)
 {
     const struct {
         const char* json;
@@ -340,7 +340,7 @@ TEST_F(ComponentReading, AnyValueIsABooleanForWrap)
     }
 }
 
-TEST_F(ComponentReading, BooleansAndNullAreTexts)
+TEST_F(ComponentReading, BooleansAndNullAreReadAsTexts)
 {
     EXPECT_EQ(readComponent<PlixDataText>(R"({"type": "text", "text": true})")->GetText(), "true");
     EXPECT_EQ(readComponent<PlixDataText>(R"({"type": "text", "text": false})")->GetText(),
@@ -348,7 +348,7 @@ TEST_F(ComponentReading, BooleansAndNullAreTexts)
     EXPECT_EQ(readComponent<PlixDataText>(R"({"type": "text", "text": null})")->GetText(), "");
 }
 
-TEST_F(ComponentReading, TextStaysByteForByte)
+TEST_F(ComponentReading, TextIsNotChanged)
 {
     const std::string text = "caf\xC3\xA9 \xF0\x9F\x98\x80 \xED\x95\x9C";
     EXPECT_EQ(
@@ -358,7 +358,7 @@ TEST_F(ComponentReading, TextStaysByteForByte)
               "\xC3\xA9");
 }
 
-TEST_F(ComponentReading, NullMapsAndContentsAreNotGiven)
+TEST_F(ComponentReading, NullMapsAndContentsCountAsNotGiven)
 {
     const auto text = readComponent<PlixDataText>(
         R"({"type": "text", "i18nTexts": null, "contents": null, "margin": "md"})");
@@ -371,7 +371,7 @@ TEST_F(ComponentReading, NullMapsAndContentsAreNotGiven)
     EXPECT_EQ(box->GetContainer()->GetChildCount(), 0);
 }
 
-TEST_F(ComponentReading, UrlsKeepWhatStandsBeforeABrokenOne)
+TEST_F(ComponentReading, UrlsKeepTheMembersBeforeABrokenOne)
 {
     const auto image = readComponent<PlixDataImage>(
         R"({"type": "image", "i18nUrls": {"en": "a", "ja": 5, "ko": "b"}, "margin": "md"})");

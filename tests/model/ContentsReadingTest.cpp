@@ -1,4 +1,4 @@
-// What a box holds: order, positions, and what is passed over.
+// How the contents of a box are read: order, indexes, and skipped elements.
 #include "model/PlixDataBox.h"
 #include "model/PlixDataFiller.h"
 #include "model/PlixDataText.h"
@@ -10,7 +10,7 @@ namespace {
 
 class ContentsReading : public PlixTest { };
 
-TEST_F(ContentsReading, EveryComponentWordGivesItsItem)
+TEST_F(ContentsReading, EveryTypeWordCreatesItsItem)
 {
     ReadCard card(bubbleWithBody(box("vertical", R"(
         {"type": "image"}, {"type": "box"}, {"type": "text"}, {"type": "icon"},
@@ -25,7 +25,7 @@ TEST_F(ContentsReading, EveryComponentWordGivesItsItem)
     }
 }
 
-TEST_F(ContentsReading, WhatIsNoComponentIsSkippedAndItsPositionNotReused)
+TEST_F(ContentsReading, ElementsThatAreNotComponentsAreSkippedButCounted)
 {
     ReadCard card(bubbleWithBody(box("vertical", R"(
         {"type": "span"}, {"type": "text", "text": "a"}, "text", 5, null, true, ["text"],
@@ -60,7 +60,7 @@ TEST_F(ContentsReading, ABrokenComponentStaysAmongItsSiblings)
     EXPECT_EQ(card.body<PlixDataText>({2})->GetIndex(), 2);
 }
 
-TEST_F(ContentsReading, ABrokenBoxKeepsItsSiblingsButNotItsContents)
+TEST_F(ContentsReading, ABrokenBoxLosesItsContentsButNotItsSiblings)
 {
     ReadCard card(bubbleWithBody(box("vertical",
                                      box("vertical", R"({"type": "text"})", R"("spacing": 5, )")
@@ -71,7 +71,7 @@ TEST_F(ContentsReading, ABrokenBoxKeepsItsSiblingsButNotItsContents)
     EXPECT_EQ(card.body<PlixDataFiller>({1})->GetIndex(), 1);
 }
 
-TEST_F(ContentsReading, ContentsThatAreNoArrayFailTheirComponent)
+TEST_F(ContentsReading, ContentsThatAreNotAnArrayFailTheirComponent)
 {
     for (const char* contents : {"{}", R"({"0": {"type": "text"}})", R"("text")", "5", "true"}) {
         SCOPED_TRACE(contents);
@@ -89,7 +89,7 @@ TEST_F(ContentsReading, ContentsThatAreNoArrayFailTheirComponent)
     }
 }
 
-TEST_F(ContentsReading, ABoxHasItsActionBeforeItsContentsAreRead)
+TEST_F(ContentsReading, ABoxReadsItsActionBeforeItsContents)
 {
     ReadCard card(bubbleWithBody(
         R"({"type": "box", "contents": [{"type": "text", "margin": 2}], "action": 1})"));

@@ -11,16 +11,16 @@
 #include <string>
 #include <vector>
 
-// Checks a component against the table of its keys: what it holds by default,
-// that each key goes to its own field, and that the keys are read in order.
+// Checks a component with the table of its keys: its defaults, that each key sets
+// its own field, and that the keys are read in order.
 namespace plix::test {
 
 template <typename Target> struct KeyRow {
     std::string key;
-    std::string absent; // the field, as text, without the key
+    std::string absent; // the field as text, without the key
     std::string good; // JSON
     std::string stored; // the field after that
-    std::string bad; // JSON that ends the reading of the component; empty: none does
+    std::string bad; // JSON that fails the component; empty if there is none
     std::function<std::string(const Target&)> field;
 };
 
@@ -61,8 +61,7 @@ template <typename Target> void expectEachKeyInItsField(const KeyTable<Target>& 
     }
 }
 
-// Breaks one key after the other: what stands before it was read, what stands
-// behind it was not.
+// Breaks each key in turn: the keys before it are read, the keys after it are not.
 template <typename Target> void expectReadingOrder(const KeyTable<Target>& table)
 {
     for (std::size_t broken = 0; broken < table.rows.size(); ++broken) {
@@ -90,7 +89,7 @@ template <typename Target> void expectTable(const KeyTable<Target>& table)
     expectReadingOrder(table);
 }
 
-// A row for text as it stands.
+// A row for text that is stored unchanged.
 template <typename Target>
 KeyRow<Target> textRow(const std::string& key, std::string (Target::*getter)() const,
                        const std::string& absent = {})
@@ -115,7 +114,7 @@ template <typename Target> std::vector<KeyRow<Target>> commonRows()
             textRow<Target>("offsetBottom", &Target::GetOffsetBottom)};
 }
 
-// A row for "action", whose own failure never ends the component's reading.
+// A row for "action". An action that fails does not fail the component.
 template <typename Target> KeyRow<Target> actionRow()
 {
     return {"action", "none", R"({"label": "Go"})", "Go", "", [](const Target& item) {

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+namespace plix::test {
+
 // A bubble with four empty zones.
 inline std::shared_ptr<PlixDataBubble> makeBubble()
 {
@@ -24,3 +26,5 @@ inline std::shared_ptr<PlixDataBox> addBox(PlixDataContainer& container)
     container.AddChild(box);
     return box;
 }
+
+} // namespace plix::test

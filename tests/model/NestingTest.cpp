@@ -7,7 +7,7 @@
 namespace plix::test {
 namespace {
 
-constexpr int kMost = PlixJsonDataParse::kMaxNestedBoxes;
+constexpr int kMaxDepth = PlixJsonDataParse::kMaxNestedBoxes;
 
 class Nesting : public PlixTest { };
 
@@ -18,37 +18,37 @@ std::string nested(int depth, std::string card = text("deep"))
     return card;
 }
 
-// From the body's box to what is in it at that depth.
+// The path from the body's box to the item at that depth.
 std::vector<int> pathTo(int depth)
 {
     return std::vector<int>(static_cast<std::size_t>(depth - 1), 0);
 }
 
-TEST_F(Nesting, HasRoomForCardsThatPeopleWrite)
+TEST_F(Nesting, IsAllowedToTwentyLevelsAtLeast)
 {
-    EXPECT_GE(kMost, 20);
+    EXPECT_GE(kMaxDepth, 20);
 }
 
-TEST_F(Nesting, IsReadAsDeepAsIsAllowed)
+TEST_F(Nesting, IsReadToTheMaximumDepth)
 {
-    ReadCard card(bubbleWithBody(nested(kMost)));
+    ReadCard card(bubbleWithBody(nested(kMaxDepth)));
     EXPECT_EQ(card.result(), 0);
-    EXPECT_EQ(card.body<PlixDataText>(pathTo(kMost + 1))->GetText(), "deep");
+    EXPECT_EQ(card.body<PlixDataText>(pathTo(kMaxDepth + 1))->GetText(), "deep");
 }
 
-TEST_F(Nesting, LeavesABoxThatIsTooDeepWithoutItsContents)
+TEST_F(Nesting, LeavesOutTheContentsOfABoxThatIsTooDeep)
 {
     const std::string tooDeep = box("horizontal", text("deep"),
                                     R"("spacing": "sm", "flex": 3, "action": {"label": "Go"},)");
-    ReadCard card(bubbleWithBody(
-        nested(kMost - 1, box("vertical", text("before") + "," + tooDeep + "," + text("after")))));
+    ReadCard card(bubbleWithBody(nested(
+        kMaxDepth - 1, box("vertical", text("before") + "," + tooDeep + "," + text("after")))));
     EXPECT_EQ(card.result(), 0);
-    expectOneLogLine("ParseBox", {"nested deeper than " + std::to_string(kMost) + " levels"});
+    expectOneLogLine("ParseBox", {"nested deeper than " + std::to_string(kMaxDepth) + " levels"});
 
-    const auto parent = card.body<PlixDataBox>(pathTo(kMost));
+    const auto parent = card.body<PlixDataBox>(pathTo(kMaxDepth));
     ASSERT_EQ(parent->GetContainer()->GetChildCount(), 3);
     EXPECT_EQ(parent->GetContainer()->GetChild(2)->GetIndex(), 2);
-    std::vector<int> path = pathTo(kMost + 1);
+    std::vector<int> path = pathTo(kMaxDepth + 1);
     path.back() = 1;
     const auto failed = card.body<PlixDataBox>(path);
     EXPECT_EQ(failed->GetLayout(), "horizontal");
@@ -60,57 +60,58 @@ TEST_F(Nesting, LeavesABoxThatIsTooDeepWithoutItsContents)
     EXPECT_EQ(failed->GetContainer()->GetChildCount(), 0);
 }
 
-TEST_F(Nesting, TellsOfEachBoxThatIsTooDeepAndOfNoneBelowIt)
+TEST_F(Nesting, LogsEachBoxThatIsTooDeepButNoneInsideIt)
 {
     const std::string tooDeep = nested(10);
-    ReadCard card(bubbleWithBody(nested(kMost, tooDeep + "," + tooDeep)));
+    ReadCard card(bubbleWithBody(nested(kMaxDepth, tooDeep + "," + tooDeep)));
     expectNextLogLine("ParseBox", {"nested deeper"});
     expectOneLogLine("ParseBox", {"nested deeper"});
 }
 
-TEST_F(Nesting, DoesNotCountNeighbours)
+TEST_F(Nesting, DoesNotCountSiblings)
 {
     std::string many = box("vertical", "");
-    for (int i = 0; i < 3 * kMost; ++i)
+    for (int i = 0; i < 3 * kMaxDepth; ++i)
         many += "," + box("vertical", box("vertical", ""));
-    ReadCard card(bubbleWithBody(nested(kMost - 2, many)));
+    ReadCard card(bubbleWithBody(nested(kMaxDepth - 2, many)));
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(Nesting, StartsAnewInEachZone)
+TEST_F(Nesting, StartsAgainInEachZone)
 {
-    ReadCard card(bubbleWithBody(
-        nested(kMost), R"("header": )" + nested(kMost) + R"(, "footer": )" + nested(kMost) + ","));
+    ReadCard card(bubbleWithBody(nested(kMaxDepth),
+                                 R"("header": )" + nested(kMaxDepth) + R"(, "footer": )"
+                                     + nested(kMaxDepth) + ","));
     EXPECT_EQ(card.result(), 0);
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(Nesting, CountsRightAfterBoxesThatFailed)
+TEST_F(Nesting, IsCountedRightAfterBoxesThatFailed)
 {
-    const std::string broken = nested(kMost - 2, R"({"type": "box", "spacing": 5})");
-    std::string contents = nested(kMost + 3);
-    for (int i = 0; i < 2 * kMost; ++i)
+    const std::string broken = nested(kMaxDepth - 2, R"({"type": "box", "spacing": 5})");
+    std::string contents = nested(kMaxDepth + 3);
+    for (int i = 0; i < 2 * kMaxDepth; ++i)
         contents += "," + broken;
-    ReadCard card(bubbleWithBody(box("vertical", contents + "," + nested(kMost - 1))));
+    ReadCard card(bubbleWithBody(box("vertical", contents + "," + nested(kMaxDepth - 1))));
     expectNextLogLine("ParseBox", {"nested deeper"});
-    for (int i = 0; i < 2 * kMost; ++i)
+    for (int i = 0; i < 2 * kMaxDepth; ++i)
         expectNextLogLine("ParseBox", {"\"spacing\""});
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(Nesting, StartsAnewWithEachMessage)
+TEST_F(Nesting, StartsAgainWithEachMessage)
 {
     PlixDataController* const controller = Plix_CreateController();
     for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(Plix_InitData(controller, bubbleWithBody(nested(kMost + 1))), 0);
+        EXPECT_EQ(Plix_InitData(controller, bubbleWithBody(nested(kMaxDepth + 1))), 0);
         expectOneLogLine("ParseBox", {"nested deeper"});
     }
-    EXPECT_EQ(Plix_InitData(controller, bubbleWithBody(nested(kMost))), 0);
+    EXPECT_EQ(Plix_InitData(controller, bubbleWithBody(nested(kMaxDepth))), 0);
     EXPECT_EQ(pendingLogLines(), 0);
     Plix_Free(controller);
 }
 
-TEST_F(Nesting, FailsTheWholeCardOnlyWhereTheJsonReaderGivesUp)
+TEST_F(Nesting, FailsTheCardOnlyAtTheLimitOfTheJsonParser)
 {
     // A box is two levels of JSON, its object and its array, of 1000.
     ReadCard deep(bubbleWithBody(nested(490)));

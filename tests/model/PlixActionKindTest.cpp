@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(PlixActionKind, WordsOfTheFormat)
+TEST(PlixActionKind, KnowsTheWordsOfTheFormat)
 {
     const struct {
         const char* word;

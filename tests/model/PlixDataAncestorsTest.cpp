@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+namespace plix::test {
 namespace {
 
 TEST(PlixDataAncestors, FindsTheParentBox)
@@ -13,25 +14,26 @@ TEST(PlixDataAncestors, FindsTheParentBox)
     const auto bubble = makeBubble();
     const auto box = addBox(*bubble->GetBody());
     const auto inner = addBox(*box->GetContainer());
-    EXPECT_EQ(plix::ParentBox(*inner), box);
-    EXPECT_EQ(plix::ParentBox(*box), nullptr) << "the bubble is no box";
-    EXPECT_EQ(plix::ParentBox(*bubble), nullptr);
-    EXPECT_FALSE(plix::IsInVerticalBox(*inner));
+    EXPECT_EQ(ParentBox(*inner), box);
+    EXPECT_EQ(ParentBox(*box), nullptr) << "the bubble is not a box";
+    EXPECT_EQ(ParentBox(*bubble), nullptr);
+    EXPECT_FALSE(IsInVerticalBox(*inner));
     box->SetLayout("vertical");
-    EXPECT_TRUE(plix::IsInVerticalBox(*inner));
-    EXPECT_FALSE(plix::IsInVerticalBox(*box));
-    plix::DiscardDataTree(bubble);
+    EXPECT_TRUE(IsInVerticalBox(*inner));
+    EXPECT_FALSE(IsInVerticalBox(*box));
+    DiscardDataTree(bubble);
 }
 
 TEST(PlixDataAncestors, FindsTheDirectionOfTheBubble)
 {
     const auto bubble = makeBubble();
     const auto inner = addBox(*addBox(*bubble->GetBody())->GetContainer());
-    EXPECT_FALSE(plix::IsInRightToLeftBubble(*inner));
+    EXPECT_FALSE(IsInRightToLeftBubble(*inner));
     bubble->SetDirection("rtl");
-    EXPECT_TRUE(plix::IsInRightToLeftBubble(*inner));
-    EXPECT_FALSE(plix::IsInRightToLeftBubble(PlixDataText())) << "in no bubble at all";
-    plix::DiscardDataTree(bubble);
+    EXPECT_TRUE(IsInRightToLeftBubble(*inner));
+    EXPECT_FALSE(IsInRightToLeftBubble(PlixDataText())) << "in no bubble at all";
+    DiscardDataTree(bubble);
 }
 
 } // namespace
+} // namespace plix::test

@@ -40,7 +40,7 @@ TEST(PlixDataBox, PaddingsAreWordsPixelsOrPercent)
     }
 }
 
-TEST(PlixDataBox, AnEmptyPaddingTakesBackThePixels)
+TEST(PlixDataBox, AnEmptyPaddingResetsThePixels)
 {
     PlixDataBox box;
     box.SetPaddingTop("25%");
@@ -49,7 +49,7 @@ TEST(PlixDataBox, AnEmptyPaddingTakesBackThePixels)
     EXPECT_EQ(box.GetPaddingTop().percent, 25);
 }
 
-TEST(PlixDataBox, APaddingInPixelsLeavesThePercentage)
+TEST(PlixDataBox, APaddingInPixelsKeepsThePercentage)
 {
     PlixDataBox box;
     box.SetPaddingTop("25%");
@@ -58,7 +58,7 @@ TEST(PlixDataBox, APaddingInPixelsLeavesThePercentage)
     EXPECT_EQ(box.GetPaddingTop().percent, 25);
 }
 
-TEST(PlixDataBox, AnEmptyEndPaddingTakesBackTheStartPadding)
+TEST(PlixDataBox, AnEmptyEndPaddingResetsTheStartPadding)
 {
     PlixDataBox box;
     box.SetPaddingStart("lg");

@@ -8,7 +8,7 @@
 
 namespace {
 
-// A bubble of a size, with something in its footer or not.
+// A bubble with a size word, and with or without an item in its footer.
 class SizedBubble {
 public:
     SizedBubble(const std::string& size, bool hasFooter)
@@ -58,7 +58,7 @@ TEST(PlixDataBubble, AWidthIsLookedUpOnce)
     bubble.SetSize("giga");
     EXPECT_EQ(bubble.GetWidth(), 500);
     bubble.SetSize("nano");
-    EXPECT_EQ(bubble.GetWidth(), 500) << "compared again";
+    EXPECT_EQ(bubble.GetWidth(), 500) << "looked up again";
 }
 
 TEST(PlixDataBubble, TheDefaultWidthIsLookedUpEveryTime)
@@ -72,7 +72,7 @@ TEST(PlixDataBubble, TheDefaultWidthIsLookedUpEveryTime)
     EXPECT_EQ(bubble.GetWidth(), 120);
 }
 
-TEST(PlixDataBubble, HasNoZonesUntilTheyAreMade)
+TEST(PlixDataBubble, HasNoZonesBeforeInitZones)
 {
     const PlixDataBubble bubble;
     EXPECT_EQ(bubble.GetHeader(), nullptr);
@@ -82,7 +82,7 @@ TEST(PlixDataBubble, HasNoZonesUntilTheyAreMade)
     EXPECT_EQ(bubble.GetFooterSpacing(), 20);
 }
 
-TEST(PlixDataBubble, MakesNoZonesBeforeItIsShared)
+TEST(PlixDataBubble, InitZonesThrowsWithoutASharedPointer)
 {
     PlixDataBubble bubble;
     EXPECT_THROW(bubble.InitZones(), std::bad_weak_ptr);
@@ -112,7 +112,7 @@ TEST(PlixDataBubble, IsTheParentOfTheZonesItems)
     plix::DiscardDataTree(bubble);
 }
 
-TEST(PlixDataBubble, TheRootHasNoPlaceAndDoesNotGrow)
+TEST(PlixDataBubble, HasNoIndexAndDoesNotGrow)
 {
     PlixDataBubble bubble;
     bubble.SetIndex(5);
@@ -122,7 +122,7 @@ TEST(PlixDataBubble, TheRootHasNoPlaceAndDoesNotGrow)
     EXPECT_EQ(bubble.GetSize(), "");
 }
 
-TEST(PlixDataBubble, OnlyTheExactWordReadsFromRightToLeft)
+TEST(PlixDataBubble, OnlyTheExactWordIsRightToLeft)
 {
     PlixDataBubble bubble;
     EXPECT_FALSE(bubble.IsRightToLeft());

@@ -27,7 +27,7 @@ TEST(PlixDataContainer, KeepsTheOrderAndSetsTheParent)
     EXPECT_EQ(second->GetParent(), owner);
 }
 
-TEST(PlixDataContainer, AnswersNothingOutsideItsChildren)
+TEST(PlixDataContainer, ReturnsNullForAnIndexOutOfRange)
 {
     PlixDataContainer container;
     container.AddChild(std::make_shared<PlixDataSpacer>());
@@ -46,7 +46,7 @@ TEST(PlixDataContainer, MovesAChildToItsNewOwner)
     EXPECT_EQ(oldOwner.use_count(), 1);
 }
 
-TEST(PlixDataContainer, LetsGoOfChildrenAndOwner)
+TEST(PlixDataContainer, ReleasesChildrenAndOwner)
 {
     const auto owner = std::make_shared<PlixDataFiller>();
     std::weak_ptr<PlixDataItem> child;

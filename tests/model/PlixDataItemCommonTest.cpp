@@ -11,7 +11,7 @@ namespace {
 
 class PlixDataItemCommonTest : public PlixTest { };
 
-TEST_F(PlixDataItemCommonTest, StartsInTheFlowWithoutMarginOrOffsets)
+TEST_F(PlixDataItemCommonTest, HasDefaults)
 {
     const PlixDataText item;
     EXPECT_EQ(item.GetPosition(), "relative");
@@ -25,7 +25,7 @@ TEST_F(PlixDataItemCommonTest, StartsInTheFlowWithoutMarginOrOffsets)
     EXPECT_FALSE(item.IsAbsolute());
 }
 
-TEST_F(PlixDataItemCommonTest, GrowDependsOnTheBoxUntilItIsGiven)
+TEST_F(PlixDataItemCommonTest, TheDefaultGrowDependsOnTheBox)
 {
     const struct {
         const char* behaviour;
@@ -36,8 +36,8 @@ TEST_F(PlixDataItemCommonTest, GrowDependsOnTheBoxUntilItIsGiven)
         {"a column's items do not grow", "vertical", "", 0},
         {"a row's items grow", "horizontal", "", 1},
         {"a baseline row's items grow", "baseline", "", 1},
-        {"a box of an unknown layout is no column", "Vertical", "", 1},
-        {"a box without layout is no column", "", "", 1},
+        {"a box of an unknown layout is not a column", "Vertical", "", 1},
+        {"a box without layout is not a column", "", "", 1},
         {"an explicit 0 wins in a row", "horizontal", R"("flex": 0, )", 0},
         {"an explicit 3 wins in a column", "vertical", R"("flex": 3, )", 3},
         {"an explicit 1 wins in a column", "vertical", R"("flex": 1, )", 1},
@@ -53,13 +53,13 @@ TEST_F(PlixDataItemCommonTest, GrowDependsOnTheBoxUntilItIsGiven)
     }
 }
 
-TEST_F(PlixDataItemCommonTest, ATopItemGrowsSinceABubbleIsNoColumnBox)
+TEST_F(PlixDataItemCommonTest, ATopItemGrowsByDefault)
 {
     ReadCard card(bubbleWithBody(box("vertical", "")));
     EXPECT_EQ(card.body<PlixDataBox>()->GetGrow(), 1);
 }
 
-TEST_F(PlixDataItemCommonTest, AbsoluteCarriesDownToEveryDepth)
+TEST_F(PlixDataItemCommonTest, DescendantsOfAnAbsoluteItemAreAbsolute)
 {
     const std::string text = R"({"type": "text", "position": "relative"})";
     ReadCard card(bubbleWithBody(

@@ -29,7 +29,7 @@ const struct {
     {8, &isA<PlixDataFiller>}, {9, &isA<PlixDataSeparator>},
 };
 
-TEST(PlixDataItemCreater, MakesTheClassOfAKind)
+TEST(PlixDataItemCreater, CreatesTheClassOfEachKind)
 {
     const PlixDataItemCreater creater;
     for (const auto& row : kCreated) {
@@ -38,7 +38,7 @@ TEST(PlixDataItemCreater, MakesTheClassOfAKind)
         ASSERT_NE(item, nullptr);
         EXPECT_TRUE(row.isRightClass(item));
         EXPECT_EQ(item->GetType(), row.kind);
-        // Ready to hand out pointers to itself.
+        // A shared pointer owns it.
         EXPECT_EQ(item->shared_from_this(), item);
         EXPECT_EQ(item.use_count(), row.kind == 3 ? 2 : 1);
         if (const auto box = std::dynamic_pointer_cast<PlixDataBox>(item))
@@ -46,14 +46,14 @@ TEST(PlixDataItemCreater, MakesTheClassOfAKind)
     }
 }
 
-TEST(PlixDataItemCreater, MakesNothingOfOtherKinds)
+TEST(PlixDataItemCreater, ReturnsNullForOtherKinds)
 {
     const PlixDataItemCreater creater;
     for (const int kind : {0, 1, 10, -1, INT_MAX, INT_MIN})
         EXPECT_EQ(creater.Create(kind), nullptr) << kind;
 }
 
-TEST(PlixDataItemCreater, MakesANewItemEveryTime)
+TEST(PlixDataItemCreater, CreatesANewItemEachTime)
 {
     const PlixDataItemCreater creater;
     for (const auto& row : kCreated) {
@@ -67,7 +67,7 @@ TEST(PlixDataItemCreater, MakesANewItemEveryTime)
     }
 }
 
-TEST(PlixDataItemCreater, ABoxIsTheParentOfWhatItIsGiven)
+TEST(PlixDataItemCreater, ABoxIsTheParentOfItsChildren)
 {
     const PlixDataItemCreater creater;
     const auto box = std::dynamic_pointer_cast<PlixDataBox>(creater.Create(3));

@@ -14,7 +14,7 @@
 
 namespace {
 
-TEST(PlixDataItem, StartsWithoutParentPlaceOrAction)
+TEST(PlixDataItem, StartsWithoutParentIndexOrAction)
 {
     const PlixDataSpacer item;
     EXPECT_EQ(item.GetParent(), nullptr);
@@ -40,7 +40,7 @@ TEST(PlixDataItem, KeepsItsIndexParentAndAction)
     EXPECT_EQ(item.GetAction(), action);
 }
 
-TEST(PlixDataItem, HoldsItsParent)
+TEST(PlixDataItem, KeepsItsParentAlive)
 {
     PlixDataSpacer item;
     std::weak_ptr<PlixDataItem> parent;
@@ -54,7 +54,7 @@ TEST(PlixDataItem, HoldsItsParent)
     EXPECT_TRUE(parent.expired());
 }
 
-TEST(PlixDataItem, KindsAreThoseOfTheClasses)
+TEST(PlixDataItem, EachClassHasItsKind)
 {
     EXPECT_EQ(PlixDataBubble().GetType(), 1);
     EXPECT_EQ(PlixDataImage().GetType(), 2);
@@ -87,7 +87,7 @@ TEST(PlixDataItem, MobileLinksAloneAreAppOnly)
         {"uri", &ST_ACTION::uri, false},
         {"pcUri", &ST_ACTION::pcUri, false},
         {"webUri", &ST_ACTION::webUri, false},
-        {"pcAuthUri is no link of its own", &ST_ACTION::pcAuthUri, false},
+        {"pcAuthUri does not count as a link", &ST_ACTION::pcAuthUri, false},
         {"text", &ST_ACTION::text, false},
     };
     for (const auto& row : rows) {

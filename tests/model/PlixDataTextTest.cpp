@@ -14,7 +14,7 @@ TEST(PlixDataText, HasDefaults)
     EXPECT_TRUE(text.GetTexts().texts.empty());
 }
 
-TEST(PlixDataText, SpansStandInTheOrderTheyAreAdded)
+TEST(PlixDataText, SpansAreInTheOrderOfTheirAddition)
 {
     PlixDataText text;
     text.AddSpan().SetText("first");
@@ -24,7 +24,7 @@ TEST(PlixDataText, SpansStandInTheOrderTheyAreAdded)
     EXPECT_EQ(text.GetSpans()[1].GetText(), "second");
 }
 
-TEST(PlixDataText, VariantsOfASpanAreItsOwn)
+TEST(PlixDataText, ASpanHasItsOwnVariants)
 {
     PlixDataText text;
     text.SetText("en", "of the text");

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+namespace plix::test {
 namespace {
 
 TEST(PlixDiscardDataTree, FreesEveryItemOfEveryZone)
@@ -20,7 +21,7 @@ TEST(PlixDiscardDataTree, FreesEveryItemOfEveryZone)
         items.push_back(outer);
         items.push_back(inner);
     }
-    plix::DiscardDataTree(bubble);
+    DiscardDataTree(bubble);
     bubble.reset();
     for (std::size_t i = 0; i < items.size(); ++i)
         EXPECT_TRUE(items[i].expired()) << i;
@@ -31,7 +32,7 @@ TEST(PlixDiscardDataTree, RemovesTheParentOfItemsThatAreStillHeld)
     auto bubble = makeBubble();
     const auto outer = addBox(*bubble->GetBody());
     const auto inner = addBox(*outer->GetContainer());
-    plix::DiscardDataTree(bubble);
+    DiscardDataTree(bubble);
     EXPECT_EQ(outer->GetParent(), nullptr);
     EXPECT_EQ(inner->GetParent(), nullptr);
     EXPECT_EQ(outer->GetContainer()->GetChildCount(), 0);
@@ -46,7 +47,7 @@ TEST(PlixDiscardDataTree, DoesNotRecurse)
         innermost = addBox(*innermost->GetContainer());
     const std::weak_ptr<PlixDataItem> last = innermost;
     innermost.reset();
-    plix::DiscardDataTree(bubble);
+    DiscardDataTree(bubble);
     bubble.reset();
     EXPECT_TRUE(last.expired());
 }
@@ -54,8 +55,9 @@ TEST(PlixDiscardDataTree, DoesNotRecurse)
 TEST(PlixDiscardDataTree, AcceptsABubbleWithoutZones)
 {
     auto bubble = std::make_shared<PlixDataBubble>();
-    plix::DiscardDataTree(bubble);
+    DiscardDataTree(bubble);
     EXPECT_EQ(bubble.use_count(), 1);
 }
 
 } // namespace
+} // namespace plix::test

@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(PlixItemKind, WordsOfTheFormat)
+TEST(PlixItemKind, KnowsTheWordsOfTheFormat)
 {
     const struct {
         const char* word;

@@ -22,7 +22,7 @@ TEST(PlixItemRegistry, FindsItemsByTheirAddressAndKeepsThem)
 
     EXPECT_EQ(registry.Add(item), key);
     EXPECT_EQ(registry.Find(key), item);
-    EXPECT_EQ(registry.Add(item), key) << "an item that is there stays there";
+    EXPECT_EQ(registry.Add(item), key) << "adding it again changes nothing";
     item.reset();
     ASSERT_NE(registry.Find(key), nullptr);
     EXPECT_EQ(registry.Find(key).get(), address);
@@ -37,7 +37,7 @@ TEST(PlixItemRegistry, FindsNothingForUnknownKeys)
         EXPECT_EQ(registry.Find(key), nullptr) << key;
 }
 
-TEST(PlixItemRegistry, ItemsLieUnderTheRoleThatHostsMayLookAt)
+TEST(PlixItemRegistry, TheRoleOfTheKeysIsFixed)
 {
     EXPECT_EQ(plix::kDataItemRole, 256);
 }

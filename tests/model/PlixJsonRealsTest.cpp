@@ -49,8 +49,7 @@ TEST(PlixJsonReals, EverythingElseStaysAsItIs)
     EXPECT_EQ(plix::WithoutDecimalPoints(zeros), zeros);
 }
 
-// What the parser makes of a text and of what became of it: the value and how
-// far it came.
+// The parser's result for a text: whether it has read all of it, and the value.
 std::string understood(const std::string& json)
 {
     Json::Value value;
@@ -99,7 +98,7 @@ TEST(PlixJsonReals, LongNumbersKeepTheirValue)
           "0." + std::string(200, '9'), "2." + zeros + "1", "1.5e" + zeros + "2"})
         expectSameMeaning('[' + number + ']');
 
-    // What these mean, the C library of the system decides.
+    // The C library of the system determines the value of these.
     const std::string many(100'000, '0');
     EXPECT_EQ(plix::WithoutDecimalPoints("0." + many + "1e100001"), "0" + many + "1e0");
     EXPECT_EQ(plix::WithoutDecimalPoints("1" + many + ".5e-100000"), "1" + many + "5e-100001");
@@ -107,7 +106,7 @@ TEST(PlixJsonReals, LongNumbersKeepTheirValue)
     EXPECT_EQ(plix::WithoutDecimalPoints("1.5e2147483649"), "15e2147483648");
 }
 
-TEST(PlixJsonReals, NoTextChangesItsMeaning)
+TEST(PlixJsonReals, RandomTextKeepsItsMeaning)
 {
     constexpr std::string_view kPieces[] = {
         "{",  "}",     "[",      "]",   ",",      ":",       "\"",   "\\",   "/",  "*",  "//", "/*",

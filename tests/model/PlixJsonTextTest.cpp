@@ -10,7 +10,7 @@ namespace {
 const char kNumbers[] = R"({"a": 2.5, "b": -1234.5e1, "c": 1.500, "d": 0.001, "e": 1e3,
     "f": 123456789012345678901234567890, "g": 1234567.125, "h": 12, "i": -0.25E+2, "j": "1.5"})";
 
-TEST(PlixJsonText, MeansTheSameInEveryLocale)
+TEST(PlixJsonText, HasTheSameValueInEveryLocale)
 {
     const Json::Value expected = ReadJsonText(kNumbers);
     ASSERT_EQ(expected.size(), 10U);
@@ -28,7 +28,7 @@ TEST(PlixJsonText, MeansTheSameInEveryLocale)
     }
 }
 
-TEST(PlixJsonText, CommentsAreReadOverAndNotKept)
+TEST(PlixJsonText, CommentsAreSkippedAndNotKept)
 {
     const Json::Value value =
         ReadJsonText("// before\n{ // after\n\"a\": /* before */ 1 /* after */ }");
@@ -41,16 +41,16 @@ TEST(PlixJsonText, CommentsAreReadOverAndNotKept)
 }
 
 // Collecting these would take ten minutes.
-TEST(PlixJsonText, MayConsistOfCommentsMostly)
+TEST(PlixJsonText, MayHaveVeryManyComments)
 {
     std::string comments;
     for (int i = 0; i < 640'000; ++i)
         comments += "/**/";
-    // Behind a value: the parser looks whether each stands on its line.
+    // After a value: there the parser checks whether each is on the same line.
     EXPECT_EQ(ReadJsonText(R"({"a": 1, )" + comments + R"("b": 2})")["b"].asInt(), 2);
 }
 
-TEST(PlixJsonText, WhatStandsBeforeAMistakeIsRead)
+TEST(PlixJsonText, TextBeforeAnErrorIsRead)
 {
     const Json::Value value = ReadJsonText(R"({"a": 1.5, "b": [1, 2], "c" "d": 3})");
     EXPECT_EQ(value["a"].asDouble(), 1.5);

@@ -17,8 +17,8 @@ Json::Value parsed(const std::string& json)
     return value[0];
 }
 
-// The exception's text; empty when nothing is thrown.
-std::string complaint(const std::function<void()>& convert)
+// The text of the exception; empty if nothing is thrown.
+std::string errorText(const std::function<void()>& convert)
 {
     try {
         convert();
@@ -28,7 +28,7 @@ std::string complaint(const std::function<void()>& convert)
     return {};
 }
 
-// What each conversion makes of a JSON value; nothing where it refuses.
+// The results of the conversions of a JSON value; nothing where one throws.
 struct Conversion {
     const char* json;
     std::optional<std::string> string;
@@ -119,7 +119,7 @@ TEST(PlixJsonValue, ObjectsAndArraysAreRequiredOrNull)
     }
 }
 
-TEST(PlixJsonValue, ComplaintsSayWhereWhatAndWhatIsNeeded)
+TEST(PlixJsonValue, ErrorsNameTheKeyTheNeededTypeAndTheValue)
 {
     const struct {
         const char* behaviour;
@@ -131,7 +131,7 @@ TEST(PlixJsonValue, ComplaintsSayWhereWhatAndWhatIsNeeded)
          R"("key" must be a string, but is the number 16)"},
         {"a real for a string", "1.5", [](const PlixJsonMember& m) { plix::ToString(m); },
          R"("key" must be a string, but is the number 1.5)"},
-        {"a real that is no sum of halves", "0.1",
+        {"a real that has no exact binary form", "0.1",
          [](const PlixJsonMember& m) { plix::ToString(m); },
          R"("key" must be a string, but is the number 0.1)"},
         {"a large real", "-2.5e300", [](const PlixJsonMember& m) { plix::ToString(m); },
@@ -160,7 +160,7 @@ TEST(PlixJsonValue, ComplaintsSayWhereWhatAndWhatIsNeeded)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.behaviour);
         const Json::Value value = parsed(row.json);
-        EXPECT_EQ(complaint([&] { row.convert({"key", value}); }), row.text);
+        EXPECT_EQ(errorText([&] { row.convert({"key", value}); }), row.text);
     }
 }
 
@@ -176,13 +176,13 @@ TEST(PlixJsonValue, LongTextsAreShortenedBetweenCharacters)
         {"forty-one are not", std::string(41, 'a'), std::string(40, 'a') + "..."},
         {"a character that ends at the fortieth unit stays", std::string(38, 'a') + smile + "b",
          std::string(38, 'a') + smile + "..."},
-        {"a character across the end goes", std::string(39, 'a') + smile + "b",
+        {"a character across the end is dropped", std::string(39, 'a') + smile + "b",
          std::string(39, 'a') + "..."},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.behaviour);
         const Json::Value value(row.text);
-        EXPECT_EQ(complaint([&] {
+        EXPECT_EQ(errorText([&] {
                       plix::ToInteger({"key", value});
                   }),
                   R"("key" must be a whole number, but is the string ")" + row.shown + '"');

@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(PlixLanguageMap, AnswersByExactCode)
+TEST(PlixLanguageMap, FindsTextsByExactCode)
 {
     const PlixLanguageMap map {{{"en", "Yes"}, {"ko", ""}}};
     EXPECT_TRUE(map.Contains("en"));

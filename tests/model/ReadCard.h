@@ -17,13 +17,13 @@ class ReadCard {
 public:
     explicit ReadCard(const std::string& json);
 
-    // What the reading of it answered.
+    // The result of reading it.
     int result() const { return result_; }
     PlixDataMgr& manager() { return manager_; }
     PlixDataBubble& bubble() { return *manager_.GetBubble(); }
 
-    // The item at the end of a path of child numbers below the body's top
-    // item. Fails the test and answers null when there is none such.
+    // The item at the end of a path of child indexes, from the body's top item.
+    // Fails the test and returns null if there is no such item.
     template <typename Item> std::shared_ptr<Item> body(const std::vector<int>& path = {})
     {
         const auto item = std::dynamic_pointer_cast<Item>(bodyItem(path));
@@ -38,18 +38,18 @@ private:
     int result_;
 };
 
-// The component that is the body of a card of its own. It keeps that card.
+// Reads a component as the body of a card. The result keeps that card alive.
 template <typename Item> std::shared_ptr<Item> readComponent(const std::string& json)
 {
     const auto card = std::make_shared<ReadCard>(R"({"type": "bubble", "body": )" + json + "}");
     return {card, card->body<Item>().get()};
 }
 
-// Takes the oldest log line and expects it to be that of the operation, to
-// name what is in `mentions`, and to be the only one.
+// Takes the oldest log line. Expects it to be of the operation, to contain every
+// text in `mentions`, and to be the only line.
 void expectOneLogLine(const std::string& operation, const std::vector<std::string>& mentions = {});
 
-// The same with more lines behind it.
+// The same, but more lines may follow.
 void expectNextLogLine(const std::string& operation, const std::vector<std::string>& mentions = {});
 
 } // namespace plix::test

@@ -1,4 +1,4 @@
-// Every line that reading a card can put into the log, and its results.
+// The log lines of the reader, and the results of its operations.
 #include "model/PlixDataBox.h"
 #include "model/PlixDataText.h"
 #include "model/PlixJsonDataParse.h"
@@ -12,7 +12,7 @@ namespace {
 
 class ReaderLog : public PlixTest { };
 
-TEST_F(ReaderLog, Lines)
+TEST_F(ReaderLog, EveryOperationLogsItsFailure)
 {
     const auto body = [](const std::string& component) { return R"("body": )" + component; };
     const struct {
@@ -57,7 +57,7 @@ TEST_F(ReaderLog, Lines)
     }
 }
 
-TEST_F(ReaderLog, TheParsersOwnFailureHasALineToo)
+TEST_F(ReaderLog, AFailureOfTheParserIsLogged)
 {
     ReadCard card(std::string(5000, '['));
     EXPECT_EQ(card.result(), -1);
@@ -68,7 +68,7 @@ TEST_F(ReaderLog, TheParsersOwnFailureHasALineToo)
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(ReaderLog, AWholeCardGoesWithoutAWord)
+TEST_F(ReaderLog, ACardWithoutErrorsLogsNothing)
 {
     ReadCard card(R"({"type": "bubble", "size": "kilo", "unknown": 1,
         "header": {"type": "text", "text": "Title"},
@@ -77,7 +77,7 @@ TEST_F(ReaderLog, AWholeCardGoesWithoutAWord)
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(ReaderLog, WhatIsQuotedFromACardIsShortAndValidText)
+TEST_F(ReaderLog, QuotationsAreShortAndValidText)
 {
     ReadCard card(R"({"type": "bubble", "body": {"type": "filler", "flex": ")"
                   + std::string(100000, 'x') + "\"}}");
@@ -89,8 +89,8 @@ TEST_F(ReaderLog, WhatIsQuotedFromACardIsShortAndValidText)
     EXPECT_EQ(line.find('\xFF'), std::string::npos);
 }
 
-// Whoever writes the card cannot write lines of the log.
-TEST_F(ReaderLog, WhatIsQuotedFromACardStaysInItsLine)
+// The author of a card must not be able to forge log lines.
+TEST_F(ReaderLog, QuotationsContainNoLineEnds)
 {
     const struct {
         const char* behaviour;
@@ -123,7 +123,7 @@ TEST_F(ReaderLog, WhatIsQuotedFromACardStaysInItsLine)
 }
 
 // The reader's operations, called one by one.
-TEST_F(ReaderLog, OperationsAnswerZeroWhenDoneAndMinusOneWhenNot)
+TEST_F(ReaderLog, OperationsReturnZeroOrMinusOne)
 {
     const auto parsed = [](const std::string& json) {
         Json::Value value;
@@ -162,7 +162,7 @@ TEST_F(ReaderLog, OperationsAnswerZeroWhenDoneAndMinusOneWhenNot)
     EXPECT_EQ(bubble->GetSize(), "giga");
 }
 
-// An item of the wrong class is a failure of the operation, not of the host.
+// An item of the wrong class must not throw into the caller.
 TEST_F(ReaderLog, AnItemOfAnotherClassFailsTheOperation)
 {
     PlixJsonDataParse parse;

@@ -1,4 +1,4 @@
-// What counts as a card at all.
+// Which messages are read as cards.
 #include "model/PlixDataText.h"
 #include "model/ReadCard.h"
 #include "support/ForeignNumbers.h"
@@ -21,7 +21,7 @@ void expectNothingRead(ReadCard& card)
     EXPECT_EQ(pendingLogLines(), 0);
 }
 
-TEST_F(RootReading, WhatIsNoBubbleIsNotReadAndNoFailure)
+TEST_F(RootReading, MessagesThatAreNotBubblesAreIgnored)
 {
     const struct {
         const char* behaviour;
@@ -29,13 +29,13 @@ TEST_F(RootReading, WhatIsNoBubbleIsNotReadAndNoFailure)
     } rows[] = {
         {"nothing", ""},
         {"blanks", " \n\t"},
-        {"no JSON", "hello"},
+        {"not JSON", "hello"},
         {"half a JSON", R"({"size": "giga", "type)"},
         {"zero bytes", std::string(4, '\0')},
-        {"bytes that are no UTF-8", "\xFF\xFE\x80"},
+        {"bytes that are not UTF-8", "\xFF\xFE\x80"},
         {"no type", R"({"size": "giga", "body": {"type": "box"}})"},
         {"another case", R"({"type": "Bubble", "size": "giga", "body": {"type": "box"}})"},
-        {"a blank behind", R"({"type": "bubble ", "size": "giga"})"},
+        {"a blank after the word", R"({"type": "bubble ", "size": "giga"})"},
         {"another word", R"({"type": "carousel", "size": "giga"})"},
         {"a component", R"({"type": "box", "contents": [{"type": "text"}]})"},
         {"an empty type", R"({"type": "", "size": "giga"})"},
@@ -69,15 +69,15 @@ TEST_F(RootReading, CommentsAreAllowed)
     EXPECT_EQ(card.bubble().GetSize(), "giga");
 }
 
-// The parser's own verdict does not count: what it has understood is read.
-TEST_F(RootReading, TextBehindTheCardIsIgnored)
+// The parser's result is ignored; what it has parsed is read.
+TEST_F(RootReading, TextAfterTheCardIsIgnored)
 {
     ReadCard card(R"({"type": "bubble", "size": "giga"} trailing)");
     EXPECT_EQ(card.result(), 0);
     EXPECT_EQ(card.bubble().GetSize(), "giga");
 }
 
-TEST_F(RootReading, OfATextThatBeginsAsACardItsBeginningIsRead)
+TEST_F(RootReading, AnIncompleteCardIsReadUpToTheError)
 {
     for (const char* rest : {"", ", \"footer\": {\"type\": \"te", ", footer}", "]", "]}"}) {
         SCOPED_TRACE(rest);
@@ -92,7 +92,7 @@ TEST_F(RootReading, OfATextThatBeginsAsACardItsBeginningIsRead)
     }
 }
 
-TEST_F(RootReading, NumbersAreReadAlikeWhateverTheHostsLocale)
+TEST_F(RootReading, NumbersDoNotDependOnTheLocale)
 {
     std::string contents = R"({"type": "text", "flex": 2.5})";
     for (int i = 1; i < 10; ++i)
@@ -116,7 +116,7 @@ TEST_F(RootReading, NestingBeyondTheParsersLimitFails)
     expectOneLogLine("Parse");
 }
 
-TEST_F(RootReading, AnUnclosedTowerOfBracketsFails)
+TEST_F(RootReading, ManyUnclosedBracketsFail)
 {
     ReadCard card(std::string(100000, '['));
     EXPECT_EQ(card.result(), -1);
@@ -139,7 +139,7 @@ TEST_F(RootReading, ASecondMessageIsReadOnTopOfTheFirst)
     EXPECT_EQ(bubble->GetBody()->GetChild(1)->GetType(), 3);
 }
 
-TEST_F(RootReading, AMessageThatIsNoCardLeavesTheFirst)
+TEST_F(RootReading, AMessageThatIsNotACardChangesNothing)
 {
     ReadCard card(R"({"type": "bubble", "size": "giga"})");
     EXPECT_EQ(card.manager().InitData("nonsense"), 0);

@@ -17,7 +17,7 @@ struct ErrorRow {
 
 class CardError : public testing::TestWithParam<ErrorRow> { };
 
-TEST_P(CardError, PointsAtThePlace)
+TEST_P(CardError, ReportsThePosition)
 {
     const ToolFolder folder;
     folder.write("card.json", GetParam().card);
@@ -27,25 +27,26 @@ TEST_P(CardError, PointsAtThePlace)
     EXPECT_EQ(result.errors, "card.json:" + GetParam().error + "\n");
 }
 
-ErrorRow noObject(const char* name, const QByteArray& card, const char* place)
+ErrorRow notAnObject(const char* name, const QByteArray& card, const char* place)
 {
-    return {name, card, place + std::string(": error: a card is a JSON object")};
+    return {name, card, place + std::string(": error: a card must be a JSON object")};
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Root, CardError,
-    testing::Values(noObject("Array", "[1]", "1:1"), noObject("String", "\"bubble\"", "1:1"),
-                    noObject("Number", "42", "1:1"), noObject("Words", "no card at all", "1:1"),
-                    noObject("Empty", "", "1:1"), noObject("Blank", " \n\t", "2:2"),
-                    noObject("BehindBlankLines", "\n\n  []", "3:3"),
-                    noObject("BehindComments", "// a\n/* b */ []", "2:9"),
-                    noObject("OnlyComments", "/* b */", "1:8"),
-                    noObject("Binary", QByteArray("\x00\xff\xfe", 3), "1:1")),
+    testing::Values(notAnObject("Array", "[1]", "1:1"), notAnObject("String", "\"bubble\"", "1:1"),
+                    notAnObject("Number", "42", "1:1"),
+                    notAnObject("Words", "no card at all", "1:1"), notAnObject("Empty", "", "1:1"),
+                    notAnObject("Blank", " \n\t", "2:2"),
+                    notAnObject("AfterBlankLines", "\n\n  []", "3:3"),
+                    notAnObject("AfterComments", "// a\n/* b */ []", "2:9"),
+                    notAnObject("OnlyComments", "/* b */", "1:8"),
+                    notAnObject("Binary", QByteArray("\x00\xff\xfe", 3), "1:1")),
     [](const auto& row) { return row.param.name; });
 
 ErrorRow type(const char* name, const QByteArray& card, const char* place)
 {
-    return {name, card, place + std::string(": error: the \"type\" of a card is \"bubble\"")};
+    return {name, card, place + std::string(": error: the \"type\" of a card must be \"bubble\"")};
 }
 
 ErrorRow noType(const char* name, const QByteArray& card, const char* place)
@@ -56,7 +57,7 @@ ErrorRow noType(const char* name, const QByteArray& card, const char* place)
 INSTANTIATE_TEST_SUITE_P(
     Type, CardError,
     testing::Values(noType("Missing", "{}", "1:1"),
-                    noType("MissingBehindBlanks", "\n  {\"size\": \"mega\"}", "2:3"),
+                    noType("MissingAfterBlanks", "\n  {\"size\": \"mega\"}", "2:3"),
                     noType("OnlyFurtherDown", R"({"body": {"type": "bubble"}})", "1:1"),
                     noType("OnlyInAComment", "{/* \"type\": \"bubble\" */}", "1:1"),
                     type("AnotherWord", R"({"type": "carousel"})", "1:10"),
@@ -64,15 +65,15 @@ INSTANTIATE_TEST_SUITE_P(
                     type("ANumber", "{\"size\": \"mega\",\n \"type\" :\n  5}", "3:3"),
                     type("Null", R"({"type":null})", "1:9"),
                     type("AnObject", R"({"type": {"type": "bubble"}})", "1:10"),
-                    type("BehindOthersOfThatName",
+                    type("AfterOthersOfThatName",
                          R"({"body": {"type": "box", "x": ["type", "\"type\": {"]}, "type": "x"})",
                          "1:65"),
                     type("LastOfTwo", R"({"type": "bubble", "type": "x"})", "1:28"),
                     type("NameWithEscapes", R"({"t\u0079pe": "x"})", "1:15"),
                     type("CharactersNotBytes", R"({"name": "日本語😀é", "type": "x"})", "1:27"),
-                    type("BehindAByteOrderMark", "\xEF\xBB\xBF{\"type\": 1}", "1:10"),
-                    type("BehindWindowsLines", "{\r\n\"size\": \"a\",\r\n\"type\": 1}", "3:9"),
-                    type("BehindAComment", "{/* 日本 */ \"type\": 1}", "1:19")),
+                    type("AfterAByteOrderMark", "\xEF\xBB\xBF{\"type\": 1}", "1:10"),
+                    type("AfterWindowsLines", "{\r\n\"size\": \"a\",\r\n\"type\": 1}", "3:9"),
+                    type("AfterAComment", "{/* 日本 */ \"type\": 1}", "1:19")),
     [](const auto& row) { return row.param.name; });
 
 ErrorRow syntax(const char* name, const QByteArray& card, const char* error)
@@ -96,9 +97,9 @@ INSTANTIATE_TEST_SUITE_P(
         syntax("OpenObject", "{\"type\": \"bubble\"\n\n", "2:1: error: unterminated object"),
         syntax("OpenComment", "{\"type\": \"bubble\"} /* never closed",
                "1:20: error: garbage at the end of the document"),
-        syntax("TextBehindTheCard", "{\"type\": \"bubble\"}\n x",
+        syntax("TextAfterTheCard", "{\"type\": \"bubble\"}\n x",
                "2:2: error: garbage at the end of the document"),
-        syntax("NoUtf8", "{\"type\": \"b\xff\"}", "1:12: error: invalid UTF8 string"),
+        syntax("NotUtf8", "{\"type\": \"b\xff\"}", "1:12: error: invalid UTF8 string"),
         syntax("CharactersNotBytes", "{\"日本\": é}", "1:8: error: illegal number"),
         syntax("WindowsLines", "{\r\n\"a\": 1,\r\n\"b\" 2}", "3:5: error: missing name separator"),
         syntax("CommentBefore", "{ // ünïcode\n /* two\nlines */ \"a\" 1}",
@@ -126,7 +127,7 @@ TEST(CardFile, ThatIsMissingIsAFileError)
 {
     const ToolResult result = ToolFolder().run(layOut);
     EXPECT_EQ(result.exitCode, 2);
-    // In the words of the system.
+    // The text comes from the system.
     QFile missing(QStringLiteral("missing.json"));
     ASSERT_FALSE(missing.open(QIODevice::ReadOnly));
     EXPECT_EQ(result.errors, "card.json: error: " + missing.errorString().toStdString() + "\n");
@@ -162,13 +163,13 @@ TEST(CardWarnings, AreTheLibrarysLogLines)
     EXPECT_TRUE(contains(result.output, "\"text\": \"read\"")) << result.output;
 }
 
-TEST(CardWarnings, TellThatACardWithoutBodyCannotGrow)
+TEST(CardWarnings, ReportThatACardWithoutBodyCannotGrow)
 {
     const ToolFolder folder;
     folder.write("card.json", R"({"type": "bubble"})");
     const ToolResult result = folder.run(layOut + Arguments {"--height", "50"});
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.errors, "card.json: warning: the card has no body that could grow\n");
+    EXPECT_EQ(result.errors, "card.json: warning: the card has no body that can grow\n");
 }
 
 QByteArray nestedBoxes(int depth)
@@ -179,7 +180,7 @@ QByteArray nestedBoxes(int depth)
     return R"({"type": "bubble", "body": )" + card + "}";
 }
 
-TEST(CardNesting, IsDrawnAndDumpedAsDeepAsItIsRead)
+TEST(CardNesting, IsLaidOutAsDeepAsItIsRead)
 {
     const ToolFolder folder;
     folder.write("card.json", nestedBoxes(20));
@@ -190,7 +191,7 @@ TEST(CardNesting, IsDrawnAndDumpedAsDeepAsItIsRead)
     EXPECT_TRUE(contains(layout.output, "down here"));
 }
 
-TEST(CardNesting, OfAFewHundredBoxesIsAWarning)
+TEST(CardNesting, OfTooManyBoxesIsAWarning)
 {
     const ToolFolder folder;
     folder.write("card.json", nestedBoxes(480));

@@ -47,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class EveryOption : public testing::TestWithParam<Arguments> { };
 
-TEST_P(EveryOption, IsTaken)
+TEST_P(EveryOption, IsAccepted)
 {
     const ToolFolder folder;
     folder.write("in/card.json", cardOf(R"({"type": "text", "text": "Some words"})"));
@@ -75,7 +75,7 @@ struct RefusalRow {
 
 class Refusal : public testing::TestWithParam<RefusalRow> { };
 
-TEST_P(Refusal, EndsWithTwoAndSaysWhy)
+TEST_P(Refusal, ExitsWithTwoAndPrintsTheReason)
 {
     const ToolFolder folder;
     folder.write("card.json", cardOf(""));
@@ -93,44 +93,46 @@ Arguments render(const Arguments& options)
     return Arguments {"render", "card.json", "-o", "out.png"} + options;
 }
 
-RefusalRow value(const char* name, const char* option, const char* given, const char* wanted)
+RefusalRow value(const char* name, const char* option, const char* given, const char* expected)
 {
-    return {name, render({option, given}), std::string(option) + " takes " + wanted};
+    return {name, render({option, given}), std::string(option) + " must be " + expected};
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Values, Refusal,
-    testing::Values(value("ScaleIsAWord", "--scale", "big", "a number from 0.25 to 8"),
-                    value("ScaleIsTooSmall", "--scale", "0.2", "a number from 0.25 to 8"),
-                    value("ScaleIsTooLarge", "--scale", "8.5", "a number from 0.25 to 8"),
-                    value("ScaleIsNoNumber", "--scale", "nan", "a number from 0.25 to 8"),
-                    value("DpiIsZero", "--dpi", "0", "a number from 0.01 to 16"),
-                    value("DpiIsInfinite", "--dpi", "inf", "a number from 0.01 to 16"),
-                    value("FromIsAWord", "--from", "me", "an integer"),
-                    value("HeightIsNegative", "--height", "-1", "an integer from 0 to 100000"),
-                    value("HeightIsAFraction", "--height", "1.5", "an integer from 0 to 100000"),
-                    value("HeightIsTooLarge", "--height", "100001", "an integer from 0 to 100000"),
-                    value("BackgroundIsNoColour", "--background", "#12345", "a colour"),
-                    value("BackgroundIsAnUnknownName", "--background", "reddish", "a colour"),
-                    value("BackgroundIsEmpty", "--background", "", "a colour"),
-                    value("WrapModeIsNegative", "--wrap-mode", "-1", "an integer from 0 to 4"),
-                    value("WrapModeIsTooLarge", "--wrap-mode", "5", "an integer from 0 to 4"),
-                    value("TextHasNoEquals", "--text", "key", "KEY=VALUE"),
-                    value("TextHasNoKey", "--text", "=value", "KEY=VALUE")),
+    testing::Values(
+        value("ScaleIsAWord", "--scale", "big", "a number from 0.25 to 8"),
+        value("ScaleIsTooSmall", "--scale", "0.2", "a number from 0.25 to 8"),
+        value("ScaleIsTooLarge", "--scale", "8.5", "a number from 0.25 to 8"),
+        value("ScaleIsNan", "--scale", "nan", "a number from 0.25 to 8"),
+        value("DpiIsZero", "--dpi", "0", "a number from 0.01 to 16"),
+        value("DpiIsInfinite", "--dpi", "inf", "a number from 0.01 to 16"),
+        value("FromIsAWord", "--from", "me", "a whole number"),
+        value("HeightIsNegative", "--height", "-1", "a whole number from 0 to 100000"),
+        value("HeightIsAFraction", "--height", "1.5", "a whole number from 0 to 100000"),
+        value("HeightIsTooLarge", "--height", "100001", "a whole number from 0 to 100000"),
+        value("BackgroundIsNotAColour", "--background", "#12345", "a colour"),
+        value("BackgroundIsAnUnknownName", "--background", "reddish", "a colour"),
+        value("BackgroundIsEmpty", "--background", "", "a colour"),
+        value("WrapModeIsNegative", "--wrap-mode", "-1", "a whole number from 0 to 4"),
+        value("WrapModeIsTooLarge", "--wrap-mode", "5", "a whole number from 0 to 4"),
+        value("TextHasNoEquals", "--text", "key", "KEY=VALUE"),
+        value("TextHasNoKey", "--text", "=value", "KEY=VALUE")),
     [](const auto& row) { return row.param.name; });
 
 INSTANTIATE_TEST_SUITE_P(
     Usage, Refusal,
     testing::Values(
         RefusalRow {"NoCommand", {}, "a command is missing"},
-        RefusalRow {"UnknownCommand", {"draw"}, "there is no command \"draw\""},
+        RefusalRow {"UnknownCommand", {"draw"}, "unknown command \"draw\""},
         RefusalRow {"UnknownOption", render({"--size"}), "Unknown option 'size'"},
         RefusalRow {"OptionOfAnotherCommand",
                     {"layout", "card.json", "--scale", "2"},
                     "Unknown option 'scale'"},
         RefusalRow {"ValueMissing", render({"--lang"}), "Missing value after '--lang'"},
         RefusalRow {"CardMissing", {"render", "-o", "out.png"}, "CARD.json is missing"},
-        RefusalRow {"TwoCards", render({"other.json"}), "\"other.json\" is one too many"},
+        RefusalRow {"TwoCards", render({"other.json"}),
+                    "only one CARD.json is allowed, but \"other.json\" follows"},
         RefusalRow {"RenderWithoutOutput", {"render", "card.json"}, "-o OUT.png is missing"},
         RefusalRow {"GalleryWithoutOutput", {"gallery", "."}, "-o OUTDIR is missing"},
         RefusalRow {

@@ -52,7 +52,7 @@ TEST(Gallery, PassesTheOptionsOn)
     EXPECT_TRUE(isOnSheet);
 }
 
-TEST(Gallery, GoesOnAfterCardsThatFail)
+TEST(Gallery, ContinuesAfterCardsThatFail)
 {
     const ToolFolder folder;
     folder.write("in/a.json", "[]");
@@ -65,13 +65,13 @@ TEST(Gallery, GoesOnAfterCardsThatFail)
         << result.output;
     EXPECT_TRUE(result.output.ends_with("1 of 3 cards drawn\n"));
     EXPECT_EQ(result.errors,
-              "in/a.json:1:1: error: a card is a JSON object\n"
-              "in/c.json:1:10: error: the \"type\" of a card is \"bubble\"\n");
+              "in/a.json:1:1: error: a card must be a JSON object\n"
+              "in/c.json:1:10: error: the \"type\" of a card must be \"bubble\"\n");
     EXPECT_TRUE(folder.contains("made/out/cards/b.png"));
     EXPECT_FALSE(folder.contains("made/out/cards/a.png"));
 }
 
-TEST(Gallery, EndsWithTwoWhenACardCannotBeWritten)
+TEST(Gallery, ExitsWithTwoIfACardCannotBeWritten)
 {
     const ToolFolder folder;
     folder.write("in/a.json", card);
@@ -83,7 +83,7 @@ TEST(Gallery, EndsWithTwoWhenACardCannotBeWritten)
     EXPECT_FALSE(folder.contains("made/out/gallery.png"));
 }
 
-TEST(Gallery, GivesTheSameSheetEveryTime)
+TEST(Gallery, WritesTheSameSheetEachTime)
 {
     const ToolFolder folder;
     folder.write("in/a.json", card);
@@ -107,17 +107,17 @@ TEST(Gallery, OfAFolderWithoutCardsIsAFileError)
     folder.write("in/notes.txt", "");
     const ToolResult result = folder.run(drawGallery);
     EXPECT_EQ(result.exitCode, 2);
-    EXPECT_EQ(result.errors, "in: error: There is no *.json file in this folder\n");
+    EXPECT_EQ(result.errors, "in: error: No *.json file in this folder\n");
 }
 
-TEST(Gallery, IntoAFolderThatCannotBeMadeIsAFileError)
+TEST(Gallery, InAFolderThatCannotBeCreatedIsAFileError)
 {
     const ToolFolder folder;
     folder.write("in/a.json", card);
     folder.write("made", "a file");
     const ToolResult result = folder.run(drawGallery);
     EXPECT_EQ(result.exitCode, 2);
-    EXPECT_EQ(result.errors, "made/out: error: The folder cannot be made\n");
+    EXPECT_EQ(result.errors, "made/out: error: Cannot create this folder\n");
 }
 
 } // namespace

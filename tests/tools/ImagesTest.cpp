@@ -1,4 +1,4 @@
-// Pictures come from the folder that stands for the web.
+// Images come from the folder of the option --images.
 #include "ToolRun.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ QByteArray cardOfImage(const QByteArray& url)
 
 const Arguments render {"render", "card.json", "-o", "out.png", "--scale", "1"};
 
-// The middle of the image, which lies inside the body's insets of 20.
+// The colour in the middle of the image, inside the body's insets of 20.
 QColor shownColor(const ToolFolder& folder)
 {
     const QImage picture = QImage::fromData(folder.read("out.png"), "PNG");
@@ -55,7 +55,7 @@ TEST_P(ImageUrl, IsLookedUpByItsLastSegment)
     const ToolResult result = folder.run(render + Arguments {"--images", "images"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(shownColor(folder), row.isFound ? QColor(Qt::red) : QColor(Qt::blue));
-    const std::string warning = std::string("card.json: warning: no picture in images for \"")
+    const std::string warning = std::string("card.json: warning: no image in images for \"")
         + QByteArray(row.url).replace("\\\\", "\\").toStdString() + "\"\n";
     EXPECT_EQ(result.errors, row.isFound ? "" : warning);
 }
@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
         UrlRow {"Folder", "https://example.com/pics/", "pic.png", false},
         UrlRow {"Empty", "", "pic.png", false},
         UrlRow {"FolderAbove", "https://example.com/..", "pic.png", false},
-        UrlRow {"EncodedWayOut", "https://example.com/..%2Fsecret.png", "pic.png", false},
+        UrlRow {"EncodedPathAbove", "https://example.com/..%2Fsecret.png", "pic.png", false},
         UrlRow {"EncodedBackslash", "https://example.com/..%5Csecret.png", "pic.png", false},
         UrlRow {"Backslash", "https://example.com/..\\\\secret.png", "pic.png", false},
         UrlRow {"EncodedFolderAbove", "https://example.com/%2e%2e", "pic.png", false},
@@ -93,23 +93,22 @@ TEST(Images, AreNotShownWithoutAFolder)
     EXPECT_EQ(shownColor(folder), QColor(Qt::blue));
 }
 
-TEST(Images, AreMissedOnce)
+TEST(Images, AreReportedOnceIfMissing)
 {
     const ToolFolder folder;
     const QByteArray image = R"({"type": "image", "url": "https://example.com/no.png"})";
     folder.write("card.json", cardOf(image + ", " + image));
     folder.write("images/pic.png", pngOf(Qt::red));
     const ToolResult result = folder.run(render + Arguments {"--images", "images"});
-    EXPECT_EQ(countOf(result.errors, "no picture"), 1);
+    EXPECT_EQ(countOf(result.errors, "no image"), 1);
 }
 
-TEST(Images, AreMissedInOneLineThatATerminalDoesNotObey)
+TEST(Images, AreReportedWithoutControlCharacters)
 {
     const ToolFolder folder;
     folder.write("card.json", cardOfImage(R"(a\n\u001b[31m b\u00e9.png)"));
     const ToolResult result = folder.run(render + Arguments {"--images", "."});
-    EXPECT_EQ(result.errors,
-              "card.json: warning: no picture in . for \"a%0A%1B[31m b%C3%A9.png\"\n");
+    EXPECT_EQ(result.errors, "card.json: warning: no image in . for \"a%0A%1B[31m b%C3%A9.png\"\n");
 }
 
 TEST(Images, NeedAFolder)
@@ -119,7 +118,7 @@ TEST(Images, NeedAFolder)
     for (const char* name : {"nowhere", "card.json", ""}) {
         const ToolResult result = folder.run(render + Arguments {"--images", name});
         EXPECT_EQ(result.exitCode, 2);
-        EXPECT_TRUE(contains(result.errors, "--images takes a folder that is there")) << name;
+        EXPECT_TRUE(contains(result.errors, "--images must be an existing folder")) << name;
     }
 }
 
@@ -133,9 +132,9 @@ TEST(Images, AreNamedInTheLayout)
     EXPECT_FALSE(contains(folder.run({"layout", "card.json"}).output, "picture"));
 }
 
-TEST(Images, AreScaledForWhatIsDrawn)
+TEST(Images, AreScaledForThePicture)
 {
-    // A pixel of black and one of white in turn: grey where it was scaled.
+    // Columns of black and white pixels: scaling makes them grey.
     QImage stripes(200, 200, QImage::Format_RGB32);
     for (int x = 0; x < stripes.width(); ++x) {
         for (int y = 0; y < stripes.height(); ++y)

@@ -9,7 +9,7 @@
 namespace plix::test {
 namespace {
 
-// What `plix layout` says about the card with these options.
+// What `plix layout` prints for the card with these options.
 QJsonObject layoutOf(const QByteArray& card, const Arguments& options = {})
 {
     const ToolFolder folder;
@@ -75,7 +75,7 @@ TEST(Layout, ShowsTheTreeOfItems)
     EXPECT_TRUE(childrenOf(child(body, 2)).isEmpty());
 }
 
-TEST(Layout, TellsWhatIsShownOfAText)
+TEST(Layout, ShowsTheTextAndItsLines)
 {
     const QJsonObject whole =
         bodyText(R"({"type": "text", "text": "a \"b\"\\é\u0001", "size": "xl"})");
@@ -103,7 +103,7 @@ TEST(Layout, HasOneLineForEachItem)
     EXPECT_TRUE(lines.at(3).starts_with("    {\"type\": \"PlixSpacerUI\", \"x\": "));
 }
 
-TEST(Layout, GoesIntoAFileAsItGoesToStandardOutput)
+TEST(Layout, IsTheSameInAFileAndOnStandardOutput)
 {
     const ToolFolder folder;
     folder.write("card.json", cardOf(R"({"type": "text", "text": "일"})"));
@@ -134,7 +134,7 @@ TEST(LayoutOptions, HeightMakesTheCardHigher)
     EXPECT_LT(numberOf(same, "height"), 100);
 }
 
-TEST(LayoutOptions, MobileCheckShowsTheHostsWordingUntilItIsOff)
+TEST(LayoutOptions, MobileCheckShowsTheHostsWording)
 {
     const QByteArray text = R"({"type": "text", "text": "Open the app",
         "action": {"type": "uri", "appUri": "app://open"}})";
@@ -162,7 +162,7 @@ TEST(LayoutOptions, WrapModeDecidesWhereLinesBreak)
     EXPECT_EQ(atWords, 2);
 }
 
-TEST(LayoutOptions, DpiLeavesTheLayoutAlone)
+TEST(LayoutOptions, DpiDoesNotChangeTheLayout)
 {
     const QByteArray card = cardOf(R"({"type": "text", "text": "any"})");
     EXPECT_EQ(layoutOf(card, {"--dpi", "2.5"}), layoutOf(card));

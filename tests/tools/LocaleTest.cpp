@@ -1,4 +1,4 @@
-// The user's locale has no say in the numbers that the tool takes and prints.
+// The numbers that the tool reads and prints do not depend on the user's locale.
 #include "support/ForeignNumbers.h"
 #include "tools/CommandLine.h"
 #include "tools/LayoutDump.h"
@@ -39,12 +39,12 @@ TEST(ToolLocale, NumbersOfOptionsHavePoints)
     EXPECT_EQ(std::get<tool::Options>(request).scale, 1.5);
 }
 
-TEST(ToolLocale, NumbersOfComplaintsHavePoints)
+TEST(ToolLocale, NumbersInErrorsHavePoints)
 {
     const ForeignNumbers numbers;
     try {
         tool::parseCommandLine(render(QStringLiteral("1,5")));
-        FAIL() << "a comma is no decimal point";
+        FAIL() << "a comma is not a decimal point";
     } catch (const tool::ToolError& error) {
         EXPECT_TRUE(error.message.contains(QStringLiteral("a number from 0.25 to 8")))
             << error.message.toStdString();

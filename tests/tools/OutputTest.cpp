@@ -18,7 +18,7 @@ struct OutputRow {
 
 class UnwritableOutput : public testing::TestWithParam<OutputRow> { };
 
-// Windows has words of its own, which change with its version and language.
+// On Windows the text depends on the version and the language.
 std::string reasonFor(const OutputRow& row, [[maybe_unused]] const ToolFolder& folder)
 {
 #if defined(Q_OS_WIN)
@@ -61,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
         OutputRow {"LayoutOnAFullDevice", "layout", "/dev/full", "No space left on device"}),
     [](const auto& row) { return row.param.name; });
 
-TEST(Output, OfAFailedRunLeavesTheOldFileAlone)
+TEST(Output, OfAFailedRunKeepsTheOldFile)
 {
     const ToolFolder folder;
     folder.write("card.json", "{}");
@@ -71,7 +71,7 @@ TEST(Output, OfAFailedRunLeavesTheOldFileAlone)
     EXPECT_EQ(folder.read("out.png"), QByteArray("old"));
 }
 
-TEST(Output, OntoADeviceLeavesItADevice)
+TEST(Output, ToADeviceKeepsTheDevice)
 {
 #if defined(Q_OS_WIN)
     GTEST_SKIP() << "Qt opens no device by its name on Windows";

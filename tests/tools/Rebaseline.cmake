@@ -1,8 +1,8 @@
-# Writes tests/golden/NAME.json, what the tool lays out, for every example card.
+# Writes tests/golden/NAME.json, the layout that the tool prints, for each example card.
 set(ENV{QT_QPA_PLATFORM} offscreen)
 set(ENV{FONTCONFIG_FILE} ${FONTS_CONF})
 
-# Goldens of cards that are gone go, too.
+# Removes the golden files of cards that no longer exist, too.
 file(REMOVE_RECURSE ${GOLDEN})
 file(MAKE_DIRECTORY ${GOLDEN})
 

@@ -37,7 +37,7 @@ std::string sizeOf(const QImage& image)
     return std::to_string(image.width()) + " x " + std::to_string(image.height());
 }
 
-// The four-letter names of the chunks a PNG file is made of.
+// The four-letter names of the chunks of a PNG file.
 std::set<std::string> chunksOf(const QByteArray& png)
 {
     std::set<std::string> names;
@@ -72,7 +72,7 @@ TEST(Render, LeavesTheCornersTransparent)
     EXPECT_EQ(image.pixelColor(300, 2), QColor(0xF1, 0xF3, 0xF7));
 }
 
-TEST(Render, GivesTheSameBytesEveryTime)
+TEST(Render, WritesTheSameBytesEachTime)
 {
     EXPECT_EQ(renderToBytes(colouredCard), renderToBytes(colouredCard));
 }
@@ -90,7 +90,7 @@ TEST(Render, DrawsACardWithoutContent)
     EXPECT_EQ(sizeOf(render(R"({"type": "bubble"})")), "600 x 1");
 }
 
-TEST(RenderOptions, FromOneDrawsOnesOwnMessage)
+TEST(RenderOptions, FromOneDrawsTheUsersOwnMessage)
 {
     const QImage image = render(colouredCard, {"--from", "1"});
     EXPECT_EQ(image.pixelColor(300, 2), QColor(0xC0, 0xEA, 0xFC));
@@ -131,7 +131,7 @@ TEST_P(RenderLimit, CutsThePictureAndWarns)
         folder.run({"render", "card.json", "-o", "out.png", "--scale", GetParam().scale});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors,
-              "card.json: warning: the card is too large, its picture is cut at "
+              "card.json: warning: the card is too large; its picture is cut to "
                   + GetParam().expectedSize + " pixels\n");
     EXPECT_EQ(sizeOf(QImage(folder.path("out.png"))), GetParam().expectedSize);
 }

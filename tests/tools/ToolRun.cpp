@@ -22,7 +22,7 @@ QProcessEnvironment environment()
 #if defined(Q_OS_WIN)
     environment.insert(QStringLiteral("PLIX_FONTS"), QStringLiteral(PLIX_TEST_FONT_LIST));
 #endif
-    // What a bare container has.
+    // As in a container without locales.
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     return environment;
 }
@@ -53,8 +53,7 @@ ToolResult runTool(const Arguments& arguments, const QString& folder)
 
 ToolFolder::~ToolFolder()
 {
-    // Windows keeps the folder that a program ran in until it has cleared up
-    // after it, which may be a moment after its end.
+    // Windows may lock the working folder of a program for a moment after it ends.
     for (int i = 0; i < 100 && !QDir(folder_.path()).removeRecursively(); ++i)
         QThread::msleep(20);
     folder_.setAutoRemove(QDir(folder_.path()).exists());

@@ -22,8 +22,8 @@ struct ToolResult {
 // Runs the built tool as a user would, in `folder`.
 ToolResult runTool(const Arguments& arguments, const QString& folder = QString());
 
-// A folder of its own for each test, in which the tool runs: file names in its
-// messages are then the bare ones.
+// A temporary folder in which the tool runs, so that its messages contain file names
+// without folders.
 class ToolFolder {
 public:
     ToolFolder() = default;

@@ -8,8 +8,7 @@
 #include <string>
 #include <vector>
 
-// Takes a card through everything that needs no Qt object, and tells what
-// was not as the header says.
+// Uses everything that needs no Qt object, and reports what differs from the header.
 namespace host {
 
 static_assert(sizeof(PlixDisplayParam) == 12);
@@ -22,7 +21,7 @@ static_assert(sizeof(PlixDisplayParam::wrapMode) == 4);
 static_assert(offsetof(PlixDisplayParam, extraOption) == 8);
 static_assert(sizeof(PlixDisplayParam::extraOption) == 4);
 
-// Designators have to stand in the order of the fields, all of them.
+// Designators must be in the order of the fields.
 inline ST_ACTION actionWithEveryField()
 {
     return {.type = "type",
@@ -84,25 +83,25 @@ private:
     bool& destroyed_;
 };
 
-class Drive {
+class HostChecks {
 public:
-    explicit Drive(const HostExports& plix)
+    explicit HostChecks(const HostExports& plix)
         : plix_(plix)
     {
     }
 
-    // How many things were not as they should be.
+    // Returns the number of failed checks.
     int run()
     {
         fields();
         plix_.Plix_SetWiteLogCallback(&collectLog);
         refuse(nullptr);
         refuseForeign();
-        expect(!plix_.Plix_HasAction(nullptr), "no item has no action");
+        expect(!plix_.Plix_HasAction(nullptr), "null has no action");
         globals();
         cards();
         silentCards();
-        return surprises_;
+        return failures_;
     }
 
 private:
@@ -110,8 +109,8 @@ private:
     {
         if (holds)
             return;
-        std::fprintf(stderr, "not so: %s\n", what);
-        ++surprises_;
+        std::fprintf(stderr, "failed: %s\n", what);
+        ++failures_;
     }
 
     void expectLog(const std::vector<std::string>& lines, const char* what)
@@ -126,8 +125,8 @@ private:
     void fields()
     {
         const ST_ACTION action = actionWithEveryField();
-        expect(action.i18nLabels.Get("en") == "label", "maps answer by code");
-        expect(!action.i18nTexts.Contains("ko"), "maps hold what they were given");
+        expect(action.i18nLabels.Get("en") == "label", "maps find texts by code");
+        expect(!action.i18nTexts.Contains("ko"), "maps hold only the given texts");
         const PlixDisplayParam param;
         expect(param.mobileOnlyCheck && !param.markupEnabled && param.wrapMode == 4
                    && param.extraOption == 1,
@@ -159,9 +158,9 @@ private:
         bool destroyed = false;
         auto* const foreign = new Foreign(destroyed);
         refuse(foreign);
-        expect(!destroyed, "a refused handle stays the host's");
+        expect(!destroyed, "a bad handle is not deleted");
         plix_.Plix_Free(foreign);
-        expect(destroyed, "what is freed goes through its own destructor");
+        expect(destroyed, "Plix_Free calls the destructor of a derived class");
         plix_.Plix_Free(nullptr);
     }
 
@@ -169,7 +168,7 @@ private:
     {
         plix_.Plix_SetCurrentLanguage("a language whose code is rather long");
         expect(plix_.Plix_SetMultiLangGetCallback(&onMultiLang) == 0, "wordings set");
-        expect(plix_.Plix_SetMultiLangGetCallback(nullptr) == 0, "wordings taken back");
+        expect(plix_.Plix_SetMultiLangGetCallback(nullptr) == 0, "wordings removed");
         expect(plix_.Plix_SetKestroControlSupport(nullptr) == 0, "font settings set");
         expect(plix_.Plix_SetWiteLogCallback(&collectLog) == 0, "log set");
     }
@@ -177,7 +176,7 @@ private:
     PlixDataController* newCard()
     {
         PlixDataController* const card = plix_.Plix_CreateController();
-        expect(card != nullptr, "a card is made");
+        expect(card != nullptr, "a card is created");
         return card;
     }
 
@@ -185,58 +184,58 @@ private:
     {
         PlixDataController* const card = newCard();
         PlixDataController* const other = newCard();
-        expect(card != other, "every card is another one");
+        expect(card != other, "each card is a new object");
         setEverything(card);
         read(card);
         beforeTheBuild(card);
         plix_.Plix_Free(other);
         plix_.Plix_Free(card);
-        expectLog({}, "a card goes without a word");
+        expectLog({}, "freeing a card logs nothing");
     }
 
     void setEverything(PlixDataController* card)
     {
         PlixDisplayParam param;
         param.markupEnabled = true;
-        expect(plix_.Plix_SetDisplayParam(card, param) == 0, "settings answer 0");
-        expect(plix_.Plix_SetDpi(card, 1.5F) == 0, "the scale answers 0");
-        expect(plix_.Plix_InitSetFrom(card, 1) == 0, "the sender answers 0");
+        expect(plix_.Plix_SetDisplayParam(card, param) == 0, "settings return 0");
+        expect(plix_.Plix_SetDpi(card, 1.5F) == 0, "the scale returns 0");
+        expect(plix_.Plix_InitSetFrom(card, 1) == 0, "the sender returns 0");
         plix_.Plix_SetClickCallBack(card, &onClick, this);
         plix_.Plix_SetDownloadCallBack(card, &onDownload, this);
         expect(plix_.Plix_SetMentionHandleCallback(card, &onMention, this) == 0, "mentions");
         expect(plix_.Plix_SetBotMentionHandleCallback(card, &onMention, this) == 0, "bots");
         plix_.Plix_SetClickCallBack(card, nullptr, nullptr);
         plix_.Plix_SetDownloadCallBack(card, nullptr, nullptr);
-        expectLog({}, "settings go without a word");
+        expectLog({}, "settings log nothing");
     }
 
     void read(PlixDataController* card)
     {
-        expect(plix_.Plix_InitData(card, "") == 0, "nothing is no failure");
-        expect(plix_.Plix_InitData(card, "no JSON") == 0, "no JSON is no failure");
+        expect(plix_.Plix_InitData(card, "") == 0, "an empty text is not a failure");
+        expect(plix_.Plix_InitData(card, "no JSON") == 0, "text that is not JSON is not a failure");
         expect(plix_.Plix_InitData(card, R"({"type": "Bubble", "size": 5})") == 0,
-               "another message is no failure");
+               "another type is not a failure");
         expect(plix_.Plix_InitData(card, R"({"type": "bubble", "size": "giga", "body": {
                    "type": "box", "layout": "vertical", "contents": [
                        {"type": "text", "text": "Dinner at eight, as it was last week?"}]}})")
                    == 0,
                "a card is read");
-        expectLog({}, "what is no failure is not logged");
+        expectLog({}, "only failures are logged");
         expect(plix_.Plix_InitData(card, R"({"type": "bubble", "hero": {"type": "box",
                    "spacing": 5}, "size": "mega"})")
                    == 0,
-               "a bad piece is no failure of the card");
+               "a bad component does not fail the card");
         expectLog({"call PlixJsonDataParse::ParseBox failed. "
                    "\"spacing\" must be a string, but is the number 5"},
-                  "a bad piece is logged");
+                  "a bad component is logged");
         expect(plix_.Plix_InitData(card, R"({"type": "bubble", "size": []})") == -1,
                "a bad card is a failure");
         expectLog({"call PlixJsonDataParse::ParseBubble failed. "
                    "\"size\" must be a string, but is an array"},
                   "a bad card is logged");
         expect(plix_.Plix_InitData(card, std::string(100000, '[')) == -1,
-               "a tower of brackets is a failure");
-        expect(logLines.size() == 1, "a tower of brackets is logged");
+               "too many brackets are a failure");
+        expect(logLines.size() == 1, "too many brackets are logged");
         logLines.clear();
     }
 
@@ -254,16 +253,16 @@ private:
     {
         const std::string broken = R"({"type": "bubble", "size": 5})";
         PlixDataController* const card = newCard();
-        expect(plix_.Plix_SetWiteLogCallback(&throwFromLog) == 0, "a throwing log is taken");
-        expect(plix_.Plix_InitData(card, broken) == -1, "a throwing log changes no result");
-        expect(plix_.Plix_SetWiteLogCallback(nullptr) == 0, "the log is taken back");
-        expect(plix_.Plix_InitData(card, broken) == -1, "no log changes no result");
+        expect(plix_.Plix_SetWiteLogCallback(&throwFromLog) == 0, "a log that throws can be set");
+        expect(plix_.Plix_InitData(card, broken) == -1, "a log that throws changes no result");
+        expect(plix_.Plix_SetWiteLogCallback(nullptr) == 0, "the log can be removed");
+        expect(plix_.Plix_InitData(card, broken) == -1, "without a log the result is the same");
         plix_.Plix_Free(card);
-        expectLog({}, "a log that was taken back is not called");
+        expectLog({}, "a removed log is not called");
     }
 
     const HostExports& plix_;
-    int surprises_ = 0;
+    int failures_ = 0;
 };
 
 } // namespace host
