@@ -120,11 +120,11 @@ struct ST_ACTION {
 
 // Display settings of one card; see Plix_SetDisplayParam. 12 bytes.
 struct PlixDisplayParam {
-    // Items whose nearest action opens mobile apps only ignore clicks. Texts and
-    // buttons among them show the host's wording for "chat_room_check_on_mobile".
+    // If true, an item whose nearest action opens only mobile apps ignores clicks.
+    // Such a text or button shows the wording for "chat_room_check_on_mobile".
     bool mobileOnlyCheck = true;
-    // Texts may contain mention and emoji markup. If false, every character is
-    // shown as it is.
+    // If true, texts may contain mention and emoji markup. If false, every
+    // character is shown as it is.
     bool markupEnabled = false;
     // How texts break into lines: a QTextOption::WrapMode value (0 to 4).
     // The default is QTextOption::WrapAtWordBoundaryOrAnywhere.
@@ -208,8 +208,8 @@ PLIX_API PlixDataController* PLIX_CALL Plix_CreateController();
 // handle. A component that cannot be built is logged and left out.
 PLIX_API QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller);
 
-// Destroys the controller, but not the graphics item. Accepts null and any object
-// derived from PlixDataController. Afterwards the handle is invalid, and no
+// Destroys the controller, but not the graphics item. Accepts null, and deletes any
+// object derived from PlixDataController. Afterwards the handle is invalid, and no
 // callback is called for it. May be called from within a callback.
 PLIX_API void PLIX_CALL Plix_Free(PlixDataController* controller);
 
