@@ -11,6 +11,9 @@
 #include "ui/PlixBubbleUI.h"
 #include "ui/PlixUICreater.h"
 
+#include <QString>
+#include <QStringList>
+
 namespace {
 
 constexpr double kFooterInset = 10;

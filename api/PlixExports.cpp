@@ -9,6 +9,9 @@
 #include <kestro_control/KestroControlManager.h>
 
 #include <cstddef>
+#include <list>
+#include <map>
+#include <string>
 
 // Hosts are compiled separately, so the layout of these records must not change.
 static_assert(sizeof(PlixDisplayParam) == 12);

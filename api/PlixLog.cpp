@@ -3,6 +3,8 @@
 #include "api/PlixLogText.h"
 #include "api/PlixSettings.h"
 
+#include <QString>
+
 namespace plix {
 
 namespace {

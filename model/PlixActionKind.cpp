@@ -3,6 +3,8 @@
 #include "layout/PlixKeywordTable.h"
 #include "model/PlixDataItem.h"
 
+#include <plix/Plix.h>
+
 #include <array>
 #include <memory>
 

@@ -2,6 +2,8 @@
 
 #include "layout/PlixKeywordTable.h"
 
+#include <optional>
+
 namespace {
 
 constexpr float kDefaultWidth = 300;

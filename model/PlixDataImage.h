@@ -2,6 +2,8 @@
 
 #include "model/PlixDataItemCommon.h"
 
+#include <plix/Plix.h>
+
 #include <string>
 
 class PlixDataImage : public PlixDataItemCommon {

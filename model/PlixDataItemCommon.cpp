@@ -3,6 +3,8 @@
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataBox.h"
 
+#include <memory>
+
 PlixDataItemCommon::~PlixDataItemCommon() = default;
 
 int PlixDataItemCommon::GetGrow() const

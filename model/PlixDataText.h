@@ -4,6 +4,8 @@
 #include "model/PlixDataItemCommon.h"
 #include "model/PlixDataSpan.h"
 
+#include <plix/Plix.h>
+
 #include <string>
 #include <vector>
 

@@ -7,6 +7,8 @@
 #include "LayoutDump.h"
 #include "OutputFile.h"
 
+#include <QByteArray>
+
 namespace plix::tool {
 namespace {
 

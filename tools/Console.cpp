@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #if defined(_WIN32)
+#include <cstddef>
 #include <fcntl.h>
 #include <io.h>
 #endif

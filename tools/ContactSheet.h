@@ -3,6 +3,7 @@
 #include "ColumnLayout.h"
 
 #include <QImage>
+#include <QPoint>
 #include <QString>
 #include <QVector>
 

@@ -3,6 +3,7 @@
 #include "Options.h"
 
 #include <QImage>
+#include <QString>
 
 namespace plix::tool {
 

@@ -5,6 +5,8 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QSettings>
+#include <QString>
+#include <QStringList>
 
 namespace plix::tool {
 

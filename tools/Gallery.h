@@ -5,6 +5,9 @@
 #include "ToolError.h"
 
 #include <QDir>
+#include <QImage>
+#include <QString>
+#include <QStringList>
 
 namespace plix::tool {
 

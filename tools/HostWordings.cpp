@@ -2,6 +2,8 @@
 
 #include <plix/Plix.h>
 
+#include <string>
+
 namespace plix::tool {
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include <plix/Plix.h>
 
+#include <QByteArray>
 #include <QFileInfo>
 #include <QUrl>
 

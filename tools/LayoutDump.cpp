@@ -5,10 +5,12 @@
 #include <QGraphicsObject>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QString>
 #include <QVariant>
 #include <QVector>
 
 #include <cmath>
+#include <utility>
 
 namespace plix::tool {
 namespace {

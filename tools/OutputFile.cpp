@@ -3,11 +3,13 @@
 #include "ToolError.h"
 
 #include <QBuffer>
+#include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageWriter>
 #include <QSaveFile>
+#include <QString>
 
 #include <cstdio>
 

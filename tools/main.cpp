@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QTextCodec>
 
+#include <variant>
+
 namespace {
 
 using namespace plix::tool;

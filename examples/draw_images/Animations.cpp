@@ -3,6 +3,7 @@
 #include "Canvas.h"
 #include "GifWriter.h"
 
+#include <QVector>
 #include <QtMath>
 
 namespace {

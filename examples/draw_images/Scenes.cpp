@@ -3,6 +3,7 @@
 #include "Canvas.h"
 
 #include <QFont>
+#include <QVector>
 #include <QtMath>
 
 #include <random>

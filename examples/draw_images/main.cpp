@@ -5,9 +5,12 @@
 #include "Icons.h"
 #include "Scenes.h"
 
+#include <QByteArray>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
+#include <QImage>
+#include <QString>
 
 #include <cstdio>
 

@@ -3,7 +3,9 @@
 #include "HostExports.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
