@@ -146,18 +146,19 @@ void CommandParser::addOptions()
                QStringLiteral("F"));
     }
     option({QStringLiteral("dpi")},
-           QStringLiteral("Device pixels per logical pixel that images are scaled for,\n"
-                          "0.01 to 16 (default: the scale of the picture)."),
+           QStringLiteral("Device pixels per logical pixel that images are\n"
+                          "scaled for, 0.01 to 16 (default: that of --scale,\n"
+                          "or 1 for a layout)."),
            QStringLiteral("F"));
     option({QStringLiteral("images")},
-           QStringLiteral("The folder of the images: each image is the file that has the\n"
-                          "name at the end of its URL (default: no images)."),
+           QStringLiteral("The folder of the images. Each image is the file\n"
+                          "with the name at the end of its URL (default: none)."),
            QStringLiteral("DIR"));
     option({QStringLiteral("lang")},
            QStringLiteral("The language of the texts, such as ko or zh-CN (default: en)."),
            QStringLiteral("CODE"));
     option({QStringLiteral("from")},
-           QStringLiteral("Who sent the message: 1 for the user (default: 0)."),
+           QStringLiteral("Who sent the message: 1 is the user (default: 0)."),
            QStringLiteral("N"));
     option({QStringLiteral("height")},
            QStringLiteral("Makes the card at least N pixels high, 0 to 100000."),
@@ -170,7 +171,7 @@ void CommandParser::addOptions()
            QStringLiteral("COLOUR"));
     option({QStringLiteral("markup")}, QStringLiteral("Shows mention and emoji markup in texts."));
     option({QStringLiteral("no-mobile-check")},
-           QStringLiteral("Shows items whose action opens mobile apps only like others."));
+           QStringLiteral("Lets items work whose action opens only mobile apps."));
     option({QStringLiteral("wrap-mode")},
            QStringLiteral("How texts wrap, a QTextOption::WrapMode from 0 to 4 (default: 4)."),
            QStringLiteral("N"));
