@@ -37,7 +37,8 @@ private:
     void onFrame();
 
     QBuffer buffer_;
-    QMovie movie_;
+    // A child, so that tests find it and end its frames without waiting.
+    QMovie movie_ {this};
     qint64 bytes_;
     bool isSeen_ = true;
 };

@@ -146,6 +146,7 @@ QImage PlixPicture::open()
 void PlixPicture::play(std::unique_ptr<PlixMovie> movie)
 {
     movie_ = std::move(movie);
+    movie_->setParent(this); // where tests find it; movie_ owns it
     PlixScaledPictures::Remove(*this);
     connect(movie_.get(), &PlixMovie::frameChanged, this, &PlixPicture::onFrameChanged);
     // One that paused has no scaled copy any more, so the next paint opens it

@@ -31,6 +31,14 @@ quint32 crc32(const QByteArray& bytes)
     return ~crc;
 }
 
+QByteArray gifFrames(const QSize& size, const std::vector<int>& colors, int delay, int loops)
+{
+    QByteArray bytes = gifHead(size) + gifLoops(loops);
+    for (const int color : colors)
+        bytes += gifDelay(delay) + gifFrame(size, color);
+    return bytes + ';';
+}
+
 } // namespace
 
 QByteArray littleEndian16(int value)
@@ -104,10 +112,12 @@ QByteArray gifLoops(int count)
 
 QByteArray gifAnimation(const QSize& size, const std::vector<int>& colors, int loops)
 {
-    QByteArray bytes = gifHead(size) + gifLoops(loops);
-    for (const int color : colors)
-        bytes += gifDelay(2) + gifFrame(size, color);
-    return bytes + ';';
+    return gifFrames(size, colors, kLongGifDelay, loops);
+}
+
+QByteArray fastGifAnimation(const QSize& size, const std::vector<int>& colors)
+{
+    return gifFrames(size, colors, 1, 0);
 }
 
 QByteArray pngSignature()

@@ -26,11 +26,16 @@ QByteArray gifHead(const QSize& screen);
 QByteArray gifFrame(const QSize& size, int color);
 // What says how long the next frame is shown.
 QByteArray gifDelay(int hundredths);
+// Ten minutes: no test lasts so long.
+constexpr int kLongGifDelay = 60'000;
 // What says how often all is repeated; 0 for ever.
 QByteArray gifLoops(int count);
 
-// Frames of these colours, 20 ms each.
+// Frames of these colours. Their delay is kLongGifDelay, so that none ends by itself:
+// AnimationFrames ends them.
 QByteArray gifAnimation(const QSize& size, const std::vector<int>& colors, int loops = 0);
+// The same with frames of 10 ms, repeated for ever.
+QByteArray fastGifAnimation(const QSize& size, const std::vector<int>& colors);
 
 // ----- PNG
 
