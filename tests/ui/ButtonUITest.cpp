@@ -1,12 +1,10 @@
 // Buttons: their wording, look, size and place.
 #include "ui/PlixButtonUI.h"
 
+#include "support/FontFamilyHost.h"
 #include "support/LayoutNode.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
-
-#include <kestro_control/KestroControlManager.h>
-#include <kestro_control/KestroControlSupport.h>
 
 #include <QCursor>
 #include <QFontMetrics>
@@ -486,39 +484,23 @@ TEST_F(Button, IsBoldAndOfTheSizeOfItsWord)
     EXPECT_EQ(card.ui<PlixButtonUI>({0, 0})->labelFont().pixelSize(), 16);
 }
 
-class Support : public KestroControlSupport {
-public:
-    QString GetFontFamily() const override { return family; }
-
-    QString family = QStringLiteral("DejaVu Sans");
-};
-
 class ButtonFont : public PlixTest {
 protected:
-    ButtonFont() { Plix_SetKestroControlSupport(&support); }
-    ~ButtonFont() override { Plix_SetKestroControlSupport(nullptr); }
-
-    void switchFamily()
-    {
-        support.family = QStringLiteral("Noto Sans CJK SC");
-        KestroControlManager::GetInstance()->FontFamilyChanged();
-    }
-
-    Support support;
+    FontFamilyHost host_;
 };
 
 TEST_F(ButtonFont, IsOfTheHostsFamily)
 {
     const TestCard card(inBox(labelled("a")));
-    EXPECT_EQ(card.ui<PlixButtonUI>({0, 0})->labelFont().family(), support.family);
+    EXPECT_EQ(card.ui<PlixButtonUI>({0, 0})->labelFont().family(), host_.family);
 }
 
 TEST_F(ButtonFont, FollowsTheHost)
 {
     const TestCard card(inBox(labelled("a", R"("size": "xl",)")));
     const auto* button = card.ui<PlixButtonUI>({0, 0});
-    switchFamily();
-    EXPECT_EQ(button->labelFont().family(), support.family);
+    host_.changeFamily();
+    EXPECT_EQ(button->labelFont().family(), host_.family);
     EXPECT_EQ(button->labelFont().pixelSize(), 22);
     EXPECT_EQ(button->labelFont().weight(), 75);
 }
@@ -529,17 +511,17 @@ TEST_F(ButtonFont, IsLeftAloneWhileFontBindingIsOff)
     auto* button = card.ui<PlixButtonUI>({0, 0});
     const QFont before = button->labelFont();
     button->SetUseFontBonding(false);
-    switchFamily();
+    host_.changeFamily();
     button->FontChanged();
     EXPECT_EQ(button->labelFont(), before);
     button->SetUseFontBonding(true);
     button->FontChanged();
-    EXPECT_EQ(button->labelFont().family(), support.family);
+    EXPECT_EQ(button->labelFont().family(), host_.family);
 }
 
 TEST_F(ButtonFont, IsTheApplicationsWithoutAFamily)
 {
-    support.family.clear();
+    host_.family.clear();
     const TestCard nameless(inBox(labelled("a")));
     EXPECT_EQ(nameless.ui<PlixButtonUI>({0, 0})->labelFont().family(), QFont().family());
     Plix_SetKestroControlSupport(nullptr);

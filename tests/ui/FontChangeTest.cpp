@@ -1,12 +1,10 @@
 // What the host's other font family does to cards on show.
 #include "CardTree.h"
 #include "CardWriter.h"
+#include "support/FontFamilyHost.h"
 #include "support/PlixTest.h"
 #include "ui/PlixButtonUI.h"
 #include "ui/text/PlixTextUI.h"
-
-#include <kestro_control/KestroControlManager.h>
-#include <kestro_control/KestroControlSupport.h>
 
 #include <QTextBlock>
 #include <QTextDocument>
@@ -14,30 +12,9 @@
 namespace plix::test {
 namespace {
 
-class Support : public KestroControlSupport {
-public:
-    QString GetFontFamily() const override { return family; }
-
-    QString family = QStringLiteral("DejaVu Sans");
-};
-
 class FontChange : public PlixTest {
 protected:
-    FontChange() { Plix_SetKestroControlSupport(&support_); }
-    ~FontChange() override { Plix_SetKestroControlSupport(nullptr); }
-
-    void changeFamily()
-    {
-        support_.family = QStringLiteral("Noto Sans CJK SC");
-        KestroControlManager::GetInstance()->FontFamilyChanged();
-    }
-
-    void resetFamily() { support_.family = QStringLiteral("DejaVu Sans"); }
-
-    QString family() const { return support_.family; }
-
-private:
-    Support support_;
+    FontFamilyHost host_;
 };
 
 constexpr unsigned kCards = 150;
@@ -93,14 +70,14 @@ TEST_F(FontChange, ReachesEveryPieceOfTextAtOnce)
 {
     for (unsigned seed = 0; seed < kCards; ++seed) {
         SCOPED_TRACE(seed);
-        resetFamily();
+        host_.resetFamily();
         const TestCard card(generatedCard(seed));
-        changeFamily();
+        host_.changeFamily();
         forEachItem(*card.root(), [this](QGraphicsItem& item) {
             if (const auto* shown = dynamic_cast<PlixTextUI*>(&item))
-                expectFamily(*shown, family());
+                expectFamily(*shown, host_.family);
             if (const auto* button = dynamic_cast<PlixButtonUI*>(&item)) {
-                EXPECT_EQ(button->labelFont().family(), family());
+                EXPECT_EQ(button->labelFont().family(), host_.family);
             }
         });
         if (HasFailure())
@@ -112,13 +89,13 @@ TEST_F(FontChange, LeavesTextsInTheWidthThatTheyHave)
 {
     for (unsigned seed = 0; seed < kCards; ++seed) {
         SCOPED_TRACE(seed);
-        resetFamily();
+        host_.resetFamily();
         const TestCard card(generatedCard(seed));
         std::vector<double> before;
         forEachItem(*card.root(), [&](QGraphicsItem& item) {
             before.push_back(item.boundingRect().translated(item.pos()).right());
         });
-        changeFamily();
+        host_.changeFamily();
         auto width = before.begin();
         forEachItem(*card.root(), [&](QGraphicsItem& item) {
             EXPECT_EQ(item.boundingRect().translated(item.pos()).right(), *width++);
@@ -133,9 +110,9 @@ TEST_F(FontChange, LeavesTextsOfSeveralLinesInTheHeightThatTheyHave)
     bool isAnyShorter = false;
     for (unsigned seed = 0; seed < kCards; ++seed) {
         SCOPED_TRACE(seed);
-        resetFamily();
+        host_.resetFamily();
         const TestCard card(generatedCard(seed));
-        changeFamily();
+        host_.changeFamily();
         forEachItem(*card.root(), [&](QGraphicsItem& item) {
             const auto* shown = dynamic_cast<PlixTextUI*>(&item);
             if (!shown || shown->ShownLineCount() < 2)
@@ -153,12 +130,12 @@ TEST_F(FontChange, MakesTheCardEqualToANewOneWithTheNextLayout)
 {
     for (unsigned seed = 0; seed < kCards; ++seed) {
         SCOPED_TRACE(generatedCard(seed));
-        resetFamily();
+        host_.resetFamily();
         const TestCard refreshed(generatedCard(seed));
         const TestCard modified(generatedCard(seed));
         if (hasEmptiedText(*refreshed.root()))
             continue;
-        changeFamily();
+        host_.changeFamily();
         Plix_RefreshLayout(refreshed.controller());
         Plix_ModifyHeight(modified.controller(), 0);
         const TestCard fresh(generatedCard(seed));
@@ -176,7 +153,7 @@ TEST_F(FontChange, GivesANaturalWidthOfTheNewFamily)
     auto* item = card.ui<PlixTextUI>({0, 0});
     YGUnit unit = YGUnitUndefined;
     const float before = item->styleWidth(unit);
-    changeFamily();
+    host_.changeFamily();
     EXPECT_NE(item->styleWidth(unit), before);
     Plix_RefreshLayout(card.controller());
     EXPECT_EQ(item->layoutWidth(), item->styleWidth(unit));

@@ -2,10 +2,8 @@
 #include "ui/text/PlixTextUI.h"
 
 #include "api/PlixDataMgr.h"
+#include "support/FontFamilyHost.h"
 #include "support/PlixTest.h"
-
-#include <kestro_control/KestroControlManager.h>
-#include <kestro_control/KestroControlSupport.h>
 
 #include <QMetaMethod>
 
@@ -127,41 +125,25 @@ TEST_F(TextMentions, GoNowhereWithAControllerOfTheHostsOwn)
 
 // ----- Fonts
 
-class Support : public KestroControlSupport {
-public:
-    QString GetFontFamily() const override { return family; }
-
-    QString family;
-};
-
 class TextFollowsFont : public PlixTest {
 protected:
-    TextFollowsFont() { Plix_SetKestroControlSupport(&support_); }
-
-    // A family that no text has before it follows.
-    void SetUp() override { support_.family = QStringLiteral("DejaVu Sans"); }
-
-    void switchFamily() { support_.family = QStringLiteral("Noto Sans CJK SC"); }
-
-    ~TextFollowsFont() override { Plix_SetKestroControlSupport(nullptr); }
-
     // As the application calls it.
     static void changeFont(PlixTextUI& item)
     {
         EXPECT_TRUE(QMetaObject::invokeMethod(&item, "OnFontChanged"));
     }
 
-    Support support_;
+    FontFamilyHost host_;
 };
 
 TEST_F(TextFollowsFont, TakesTheFamilyAndNothingElse)
 {
     const TestCard card(oneText(R"("weight": "bold", "size": "xl",)"));
     auto* item = card.ui<PlixTextUI>({0, 0});
-    switchFamily();
-    EXPECT_NE(item->font().family(), support_.family) << "not before it is told";
+    host_.switchFamily();
+    EXPECT_NE(item->font().family(), host_.family) << "not before it is told";
     changeFont(*item);
-    EXPECT_EQ(item->font().family(), support_.family);
+    EXPECT_EQ(item->font().family(), host_.family);
     EXPECT_EQ(item->font().pixelSize(), 22);
     EXPECT_EQ(item->font().weight(), 75);
 }
@@ -172,7 +154,7 @@ TEST_F(TextFollowsFont, IsLaidOutAgainInTheNewFamily)
     const TestCard card(bubbleWithBody(box("vertical", text(words, R"("wrap": true,)"))));
     auto* item = card.ui<PlixTextUI>({0, 0});
     const double before = item->YogaLayoutItem::geometry().height();
-    switchFamily();
+    host_.switchFamily();
     changeFont(*item);
     Plix_RefreshLayout(card.controller());
     const double after = item->YogaLayoutItem::geometry().height();
@@ -186,9 +168,8 @@ TEST_F(TextFollowsFont, WhenTheManagerIsTold)
     const TestCard card(bubbleWithBody(box("vertical", text(words, R"("wrap": true,)"))));
     auto* item = card.ui<PlixTextUI>({0, 0});
     const double before = card.root()->boundingRect().height();
-    switchFamily();
-    KestroControlManager::GetInstance()->FontFamilyChanged();
-    EXPECT_EQ(item->font().family(), support_.family);
+    host_.changeFamily();
+    EXPECT_EQ(item->font().family(), host_.family);
     EXPECT_EQ(card.root()->boundingRect().height(), before);
     Plix_ModifyHeight(card.controller(), 0);
     EXPECT_GT(card.root()->boundingRect().height(), before);
@@ -200,7 +181,7 @@ TEST_F(TextFollowsFont, IsLeftAloneWhileFontBindingIsOff)
     auto* item = card.ui<PlixTextUI>({0, 0});
     const QFont before = item->font();
     item->SetUseFontBonding(false);
-    switchFamily();
+    host_.switchFamily();
     changeFont(*item);
     EXPECT_EQ(item->font(), before);
 }
