@@ -1,5 +1,7 @@
 #include "support/Picture.h"
 
+#include "support/Pixels.h"
+
 #include <QGraphicsItem>
 #include <QGraphicsScene>
 #include <QPainter>
@@ -24,18 +26,10 @@ QColor Picture::at(const QPointF& point) const
     return image_.pixelColor(static_cast<int>(point.x()), static_cast<int>(point.y()));
 }
 
-QRectF Picture::inkIn(const QRectF& area, const QPointF& ground) const
+QRectF Picture::inkIn(const QRectF& area, const QPointF& background) const
 {
-    const QColor groundColor = at(ground);
-    const QRect pixels = area.toAlignedRect() & image_.rect();
-    QRect ink;
-    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-        for (int x = pixels.left(); x <= pixels.right(); ++x) {
-            if (image_.pixelColor(x, y) != groundColor)
-                ink |= QRect(x, y, 1, 1);
-        }
-    }
-    return ink;
+    return boundsOfPixels(image_, area.toAlignedRect() & image_.rect(),
+                          [color = at(background).rgba()](QRgb pixel) { return pixel != color; });
 }
 
 } // namespace plix::test

@@ -8,16 +8,16 @@ class QGraphicsItem;
 
 namespace plix::test {
 
-// A card as a host's view shows it, on white, a pixel for a logical pixel.
+// A card as a host's view shows it on white, at scale 1.
 class Picture {
 public:
     explicit Picture(QGraphicsItem& root);
 
     QColor at(const QPointF& point) const;
 
-    // Within `area`, the smallest rectangle around what does not have the
-    // colour of the point `ground`; empty when there is nothing.
-    QRectF inkIn(const QRectF& area, const QPointF& ground) const;
+    // Within `area`, the smallest rectangle around all pixels of another colour than the
+    // pixel at `background`; empty when there are none.
+    QRectF inkIn(const QRectF& area, const QPointF& background) const;
 
 private:
     QImage image_;

@@ -2,6 +2,7 @@
 #include "CardTree.h"
 #include "ExampleCards.h"
 #include "PaintedCardWriter.h"
+#include "support/Pixels.h"
 #include "support/PlixTest.h"
 #include "ui/text/PlixTextUI.h"
 
@@ -38,14 +39,12 @@ QImage paintAlone(QGraphicsItem& item, double scale)
 
 void expectNothingOutside(const QImage& image, const QRect& inside)
 {
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != kUntouched && !inside.contains(x, y)) {
-                ADD_FAILURE() << x << ", " << y << " is outside of " << inside.width() << " x "
-                              << inside.height() << " at " << kMargin;
-                return;
-            }
-        }
+    const QRect painted =
+        boundsOfPixels(image, image.rect(), [](QRgb pixel) { return pixel != kUntouched; });
+    if (!painted.isEmpty() && !inside.contains(painted)) {
+        ADD_FAILURE() << painted.width() << " x " << painted.height() << " at " << painted.x()
+                      << ", " << painted.y() << " is not inside of " << inside.width() << " x "
+                      << inside.height() << " at " << kMargin;
     }
 }
 

@@ -1,5 +1,7 @@
 #include "ui/image/PictureCard.h"
 
+#include "support/Pixels.h"
+
 #include <QFile>
 #include <QPainter>
 
@@ -95,14 +97,8 @@ QImage noise(const QSize& size)
 
 QRect areaOf(const QImage& image, const QColor& color)
 {
-    QRect area;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) == color)
-                area |= QRect(x, y, 1, 1);
-        }
-    }
-    return area;
+    return boundsOfPixels(image, image.rect(),
+                          [rgba = color.rgba()](QRgb pixel) { return pixel == rgba; });
 }
 
 QtMessagesIgnored::QtMessagesIgnored()

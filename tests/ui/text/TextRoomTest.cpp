@@ -1,6 +1,7 @@
 // Texts that have less room than they need, or just enough.
 #include "../CardTree.h"
 #include "../CardWriter.h"
+#include "support/Pixels.h"
 #include "support/PlixTest.h"
 #include "ui/PlixBoxUI.h"
 #include "ui/text/PlixTextUI.h"
@@ -14,9 +15,9 @@ namespace {
 
 constexpr int kMargin = 200;
 
-// The columns of pixels in which `item` leaves ink, in its own coordinates;
-// empty when there are none. It is painted alone, without its boxes' clips.
-QRect inkedColumns(PlixTextUI& item)
+// The smallest rectangle around all that `item` paints, in its own coordinates; empty when it
+// paints nothing. It is painted alone, without the clips of its boxes.
+QRect inkOf(PlixTextUI& item)
 {
     const QRect area = item.boundingRect().toAlignedRect();
     QImage image(area.width() + 2 * kMargin, area.height() + 2 * kMargin, QImage::Format_RGB32);
@@ -28,24 +29,19 @@ QRect inkedColumns(PlixTextUI& item)
     item.paint(&painter, &option, nullptr);
     painter.end();
 
-    QRect inked;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != qRgb(255, 255, 255))
-                inked |= QRect(x - kMargin + area.left(), 0, 1, 1);
-        }
-    }
-    return inked;
+    return boundsOfPixels(image, image.rect(),
+                          [](QRgb pixel) { return pixel != qRgb(255, 255, 255); })
+        .translated(area.topLeft() - QPoint(kMargin, kMargin));
 }
 
 void expectInkInside(PlixTextUI& item)
 {
     const int width = static_cast<int>(item.layoutWidth());
-    const QRect inked = inkedColumns(item);
-    if (inked.isEmpty())
+    const QRect ink = inkOf(item);
+    if (ink.isEmpty())
         return;
-    EXPECT_GE(inked.left(), 0) << item.toPlainText().toStdString();
-    EXPECT_LT(inked.right(), width) << item.toPlainText().toStdString();
+    EXPECT_GE(ink.left(), 0) << item.toPlainText().toStdString();
+    EXPECT_LT(ink.right(), width) << item.toPlainText().toStdString();
 }
 
 using TextRoom = PlixTest;
@@ -59,7 +55,7 @@ TEST_F(TextRoom, WithoutAnyNothingIsDrawn)
     ASSERT_EQ(item->layoutWidth(), 0);
     EXPECT_EQ(item->boundingRect().width(), 0);
     EXPECT_EQ(item->boundingRect().height(), item->layoutHeight());
-    EXPECT_TRUE(inkedColumns(*item).isEmpty());
+    EXPECT_TRUE(inkOf(*item).isEmpty());
     EXPECT_EQ(item->toPlainText(), QStringLiteral("Address"));
 }
 
@@ -87,7 +83,7 @@ TEST_F(TextRoom, OfItalicTextEndsWhereItsRectangleEnds)
         const TestCard card(
             bubbleWithBody(box("horizontal", text("Half", italic)), R"("size": "giga",)"));
         auto* item = card.ui<PlixTextUI>({0, 0});
-        ASSERT_FALSE(inkedColumns(*item).isEmpty());
+        ASSERT_FALSE(inkOf(*item).isEmpty());
         expectInkInside(*item);
     }
 }
@@ -112,14 +108,14 @@ double leftOf(const std::string& words, const std::string& more)
 {
     const TestCard card(bubbleWithBody(box("vertical", text(words, more))));
     auto* item = card.ui<PlixTextUI>({0, 0});
-    return item->pos().x() + inkedColumns(*item).left();
+    return item->pos().x() + inkOf(*item).left();
 }
 
 double rightOf(const std::string& words, const std::string& more)
 {
     const TestCard card(bubbleWithBody(box("vertical", text(words, more))));
     auto* item = card.ui<PlixTextUI>({0, 0});
-    return item->pos().x() + inkedColumns(*item).right();
+    return item->pos().x() + inkOf(*item).right();
 }
 
 TEST_F(TextRoom, IsFilledFromTheRightByRightToLeftText)
