@@ -1,6 +1,7 @@
 #include "CardTree.h"
 
 #include "layout/YogaLayoutItem.h"
+#include "ui/text/PlixTextUI.h"
 
 #include <QGraphicsItem>
 
@@ -27,6 +28,16 @@ std::vector<QRectF> geometryOf(QGraphicsItem& root)
             rects.push_back({{}, node->geometry().size()});
     });
     return rects;
+}
+
+bool hasEmptiedText(QGraphicsItem& root)
+{
+    bool found = false;
+    forEachItem(root, [&](QGraphicsItem& item) {
+        const auto* shown = dynamic_cast<PlixTextUI*>(&item);
+        found = found || (shown && shown->toPlainText().isEmpty());
+    });
+    return found;
 }
 
 } // namespace plix::test

@@ -44,17 +44,6 @@ std::string generatedCard(unsigned seed)
     return seed == 0 ? cardWithFonts() : CardWriter(seed, CardWriter::Room::Any).card();
 }
 
-// A wrapped text without any room is emptied for good, whatever comes later.
-bool hasEmptiedText(QGraphicsItem& root)
-{
-    bool found = false;
-    forEachItem(root, [&](QGraphicsItem& item) {
-        const auto* shown = dynamic_cast<PlixTextUI*>(&item);
-        found = found || (shown && shown->toPlainText().isEmpty());
-    });
-    return found;
-}
-
 void expectFamily(const PlixTextUI& item, const QString& family)
 {
     EXPECT_EQ(item.font().family(), family);
