@@ -1,22 +1,21 @@
-# What we change in the sources of Yoga.
+# Our changes to the sources of Yoga.
 #
-# Yoga measures a box several times to lay it out once, and so do the boxes
-# inside it. What keeps that from doubling at each level is what a node
-# remembers: the last 8 measurements. Rows and columns in turn ask for more, and
-# then each level measures the one below again and again: 32 levels with a text
-# each took 40 seconds. Cards are strangers' work, so:
+# To lay a box out once, Yoga measures it several times, and each box inside it, too. A
+# node remembers its last 8 measurements, so that the number does not double at each
+# level. Where rows and columns alternate, a node is measured under more than 8 different
+# constraints, and then each level measures the one below again and again: 32 levels with
+# a text each took 40 seconds. Cards are untrusted, so:
 #
-# - a node remembers 64 measurements, 24 bytes each. More would hardly be used
-#   before the limit that follows;
-# - a layout has a limit of visits, as no number of measurements is enough for
-#   every card: cmake/yoga/VisitLimit.h.
+# - a node remembers 64 measurements, 24 bytes each. More would hardly be used, because
+#   the limit that follows is reached first;
+# - a layout has a limit of visits (cmake/yoga/VisitLimit.h), because no number of
+#   measurements is enough for every card.
 #
-# The unchanged files are kept beside the changed ones. So this may run again at
-# any time, also over sources that were unpacked before there were any changes.
+# The original files are kept beside the changed ones. So this may run again at any time,
+# also after a version of it that made no changes or other ones.
 
-# plix_change(FILE OLD NEW [OLD NEW]...): FILE becomes what it was in the
-# package, with each OLD text, which must be there exactly once, replaced by its
-# NEW one.
+# plix_change(FILE OLD NEW [OLD NEW]...): writes the original FILE with each OLD text
+# replaced by its NEW one. Each OLD text must be in the file exactly once.
 function(plix_change file)
     if(NOT EXISTS ${file}.original)
         file(COPY_FILE ${file} ${file}.part)
@@ -42,7 +41,7 @@ function(plix_change file)
     plix_write_changed(${file} "${text}")
 endfunction()
 
-# Leaves a file that is as it should be alone: nothing is built again.
+# Does not write a file that already has this text, so that nothing is built again.
 function(plix_write_changed file text)
     set(present "")
     if(EXISTS ${file})
@@ -54,7 +53,7 @@ function(plix_write_changed file text)
     endif()
 endfunction()
 
-# plix_change_yoga(SOURCES): SOURCES is the folder that holds Yoga.h.
+# plix_change_yoga(SOURCES): SOURCES is the folder that contains Yoga.h.
 function(plix_change_yoga sources)
     plix_change(${sources}/node/LayoutResults.h
         "MaxCachedMeasurements = 8;"

@@ -1,13 +1,13 @@
-// Added by Plix, not part of Yoga: the end of a layout that would go on for
-// minutes. cmake/yoga/Changes.cmake puts it into Yoga's sources.
+// Added by Plix, not part of Yoga: ends a layout that would take minutes.
+// cmake/yoga/Changes.cmake copies it into Yoga's sources.
 //
-// A box may ask each of its children twice how large it wants to be, and under
-// two different constraints. In rows and columns in turn, the second doubles
-// the number of constraints at each level, so no number of remembered
-// measurements is enough. A layout therefore has a number of visits for each
-// node. A card that people write stays far below it and is laid out as ever.
-// Once they are used up, a node that has been measured before is not measured
-// again: it answers with the measurement that was the nearest to what is asked.
+// A box may measure each of its children twice, under two different
+// constraints. Where rows and columns alternate, this doubles the number of
+// constraints at each level, so no number of remembered measurements is
+// enough. Therefore a layout has a limit of visits for each node. Cards that
+// people write stay far below the limit, so their layout does not change. Once
+// it is reached, a node that has been measured before is not measured again:
+// it gets the size of its measurement under the nearest constraints.
 #pragma once
 
 #include <yoga/event/event.h>
@@ -21,8 +21,8 @@
 
 namespace facebook::yoga::plix {
 
-// After the limit, each node is still visited a few times: measured if nothing
-// answers for it, and laid out.
+// After the limit, each node is still visited a few times: it is measured if it
+// remembers no measurement, and laid out.
 constexpr int MaxVisitsPerNode = 28;
 
 inline int countNodes(const Node& node) {
@@ -42,26 +42,29 @@ inline int visits(const LayoutData& data) {
       data.cachedMeasures;
 }
 
-// One side of a constraint.
-struct Offer {
+// The constraint of one dimension.
+struct Constraint {
   SizingMode mode;
   float size;
 
-  // A side that is given says nothing about how large the content would be.
-  bool isGiven() const {
+  // Whether it fixes the size: then the measured size does not depend on the
+  // content.
+  bool isExact() const {
     return mode == SizingMode::StretchFit;
   }
 
-  // How far an earlier one is from this. Another mode is the farthest.
-  float distance(const Offer& earlier) const {
+  // The distance of an earlier constraint. It is infinite for another mode.
+  float distance(const Constraint& earlier) const {
     if (mode != earlier.mode) {
       return std::numeric_limits<float>::infinity();
     }
     return isDefined(size) ? std::abs(size - earlier.size) : 0;
   }
 
-  float answer(float margin, float nearest) const {
-    if (isGiven()) {
+  // The measured size, without margins. `nearest` is the size that was measured
+  // under the nearest constraint.
+  float measuredSize(float margin, float nearest) const {
+    if (isExact()) {
       return size - margin;
     }
     return mode == SizingMode::FitContent ? std::min(nearest, size - margin)
@@ -69,20 +72,20 @@ struct Offer {
   }
 };
 
-// Null if no side may be answered from what the node remembers.
+// Null if the node remembers no measurement that can be used.
 inline const CachedMeasurement* nearestMeasurement(
     const LayoutResults& layout,
-    const Offer& width,
-    const Offer& height) {
+    const Constraint& width,
+    const Constraint& height) {
   const CachedMeasurement* nearest = nullptr;
   std::tuple<float, float> nearestDistance;
   for (uint32_t i = 0; i < layout.nextCachedMeasurementsIndex; i++) {
     const CachedMeasurement& earlier = layout.cachedMeasurements[i];
-    const Offer earlierWidth{earlier.widthSizingMode, earlier.availableWidth};
-    const Offer earlierHeight{
+    const Constraint earlierWidth{earlier.widthSizingMode, earlier.availableWidth};
+    const Constraint earlierHeight{
         earlier.heightSizingMode, earlier.availableHeight};
-    if (earlierWidth.isGiven() != width.isGiven() ||
-        earlierHeight.isGiven() != height.isGiven()) {
+    if (earlierWidth.isExact() != width.isExact() ||
+        earlierHeight.isExact() != height.isExact()) {
       continue;
     }
     const std::tuple distance{
@@ -95,12 +98,12 @@ inline const CachedMeasurement* nearestMeasurement(
   return nearest;
 }
 
-// Sets the measured size of a node that is not to be measured again. Answers
-// whether it was one.
+// If the node is not to be measured again, sets its measured size and returns
+// true.
 inline bool measureFromNearest(
     Node& node,
-    const Offer& width,
-    const Offer& height,
+    const Constraint& width,
+    const Constraint& height,
     float ownerWidth,
     LayoutData& data) {
   if (visits(data) < data.visitLimit) {
@@ -115,10 +118,10 @@ inline bool measureFromNearest(
     return node.style().computeMarginForAxis(axis, ownerWidth);
   };
   node.setLayoutMeasuredDimension(
-      width.answer(margin(FlexDirection::Row), nearest->computedWidth),
+      width.measuredSize(margin(FlexDirection::Row), nearest->computedWidth),
       Dimension::Width);
   node.setLayoutMeasuredDimension(
-      height.answer(margin(FlexDirection::Column), nearest->computedHeight),
+      height.measuredSize(margin(FlexDirection::Column), nearest->computedHeight),
       Dimension::Height);
   data.cachedMeasures += 1;
   return true;
