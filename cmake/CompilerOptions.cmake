@@ -1,4 +1,4 @@
-# Warnings for our own code, and the sanitizers for all of it.
+# Warnings for our own code, and sanitizers for all code.
 add_library(plix_options INTERFACE)
 
 if(MSVC)
@@ -11,7 +11,7 @@ else()
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
         -Wconversion -Wsign-conversion -Wold-style-cast)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION MATCHES "^12\\.")
-        # It sees overlaps in assignments to a std::string where there are none.
+        # GCC 12 warns of overlaps in assignments to a std::string where there are none.
         target_compile_options(plix_options INTERFACE -Wno-restrict)
     endif()
     if(PLIX_WARNINGS_AS_ERRORS)
@@ -22,8 +22,8 @@ target_compile_definitions(plix_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
 
 if(PLIX_SANITIZE)
-    # Every object of the build, Yoga included: a fault in a callback of ours
-    # may show only there.
+    # For every object of the build, including Yoga: an error in one of our callbacks may
+    # only be visible there.
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)

@@ -1,9 +1,9 @@
-# The shared library: the exports of api/exports.txt and nothing else.
+# The shared library. It exports the functions of api/exports.txt and nothing else.
 file(STRINGS ${PROJECT_SOURCE_DIR}/api/exports.txt plix_exports)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/api/exports.txt)
 
-# Windows: a module definition file, which also gives each function its place
-# in the list as its number.
+# For Windows: a module definition file. The ordinal of each function is its place in the
+# list.
 function(plix_write_definition_file path)
     set(lines "LIBRARY plix\nEXPORTS\n")
     set(ordinal 0)
@@ -38,7 +38,7 @@ if(WIN32)
     set(definition_file ${PROJECT_BINARY_DIR}/plix.def)
     plix_write_definition_file(${definition_file})
     target_sources(plix PRIVATE ${definition_file})
-    # plix.dll with any compiler.
+    # The file is called plix.dll with every compiler.
     set_target_properties(plix PROPERTIES PREFIX "")
 else()
     set(version_script ${PROJECT_BINARY_DIR}/plix.map)

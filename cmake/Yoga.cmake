@@ -1,8 +1,7 @@
 # Yoga, the layout engine, as the target `plix_yoga`.
 #
-# The sources come out of the npm package that carries them, pinned by version
-# and checksum, are unpacked into build/cache, shared by all presets, and changed
-# there (yoga/Changes.cmake).
+# The sources come from an npm package of a fixed version and checksum. They are unpacked
+# into build/cache, which all presets share, and changed there (yoga/Changes.cmake).
 option(PLIX_SYSTEM_YOGA
        "Use the installed yoga package, which lacks our changes: a small card may then freeze its host"
        OFF)
@@ -25,8 +24,8 @@ set(PLIX_CACHE_DIR ${PROJECT_SOURCE_DIR}/build/cache CACHE PATH "Where downloade
 set(yoga_dir ${PLIX_CACHE_DIR}/yoga-${PLIX_YOGA_VERSION})
 set(yoga_subdir package/ReactCommon/yoga)
 
-# Unpacks into a scratch folder and moves it into place last, so that an
-# interrupted run is not taken for a finished one.
+# Unpacks into a scratch folder and moves that to its place when it is complete, so an
+# interrupted run is not mistaken for a finished one.
 function(plix_fetch_yoga)
     find_program(NPM npm REQUIRED)
     set(scratch ${yoga_dir}.part)
@@ -55,8 +54,8 @@ endif()
 plix_change_yoga(${yoga_dir}/${yoga_subdir}/yoga)
 
 add_subdirectory(${yoga_dir}/${yoga_subdir}/yoga ${PROJECT_BINARY_DIR}/yoga EXCLUDE_FROM_ALL SYSTEM)
-# Its own build asks for link-time optimisation and warnings as errors: the one
-# would bring our objects' link to a crawl, the other breaks on new compilers.
+# Yoga's own build uses link-time optimisation and treats warnings as errors. The first
+# would make linking our objects very slow, the second fails with new compilers.
 set_target_properties(yogacore PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF)
 target_compile_options(yogacore PRIVATE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX-,-Wno-error>)
 target_link_libraries(plix_yoga INTERFACE yogacore)

@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# Sourced by ./run and ./test: from a bare Debian 12 to a built preset.
-# Says what it does on stderr; stdout belongs to the command itself.
+# Sourced by ./run and ./test: installs packages on a bare Debian 12 and builds a preset.
+# Messages go to stderr, because stdout is for the output of the command itself.
 : "${root:?the folder of the project, set by the script that sources this}"
 
 readonly PLIX_PACKAGES=(
@@ -35,13 +35,12 @@ install_packages() {
     } >&2
 }
 
-# Any npm will do, to fetch Yoga with; Debian's is installed where there is none.
+# npm fetches Yoga. Debian's npm is installed if there is none.
 install_npm() {
     command -v npm >/dev/null || install_packages npm
 }
 
-# build_preset PRESET TARGET: configures where that was not done yet, and builds
-# what has changed.
+# build_preset PRESET TARGET: configures the preset if needed and builds the target.
 build_preset() {
     local preset=$1 target=$2 dir=$root/build/$1
     install_packages "${PLIX_PACKAGES[@]}"
@@ -50,12 +49,13 @@ build_preset() {
         say "Configuring $preset"
         (cd "$root" && cmake --preset "$preset") >&2
     fi
-    # Says nothing when there is nothing to do.
+    # Prints nothing when there is nothing to do.
     cmake --build "$dir" --target "$target" |
         sed -u -e '/Re-checking globbed/d' -e '/no work to do/d' >&2
 }
 
-# The surroundings in which pictures and measures are the same everywhere.
+# use_fixed_surroundings PRESET: with this environment, pictures and layouts are the same
+# on every machine.
 use_fixed_surroundings() {
     export QT_QPA_PLATFORM=offscreen
     export FONTCONFIG_FILE=$root/build/$1/fonts.conf

@@ -1,5 +1,5 @@
-# Sourced by windows/build, windows/test and windows/package: what the Windows
-# build needs and takes long to make, each piece made once and kept outside the
+# Sourced by windows/build, windows/test and windows/package: makes the parts that the
+# Windows build needs and that take long to make. Each is made once and kept outside the
 # checkout.
 # shellcheck shell=bash
 : "${root:?the folder of the project, set by the script that sources this}"
@@ -13,11 +13,11 @@ readonly PLIX_WINDOWS_PACKAGES=(
     ca-certificates dpkg-dev debootstrap googletest xz-utils
     fonts-dejavu-core fonts-dejavu-extra fonts-noto-cjk fonts-noto-color-emoji)
 
-# make_piece NAME RECIPE: calls the function RECIPE in a scratch folder that it
-# fills, and moves that into place last, so that an interrupted run is not
-# taken for a finished one. The piece keeps the text of its recipe: when that
-# changes, the piece is made anew.
-make_piece() {
+# make_part NAME RECIPE: calls the function RECIPE in a scratch folder, which it
+# fills. The folder is moved to its place when it is complete, so an interrupted
+# run is not mistaken for a finished one. The part contains the text of its recipe.
+# When the recipe changes, the part is made again.
+make_part() {
     local recipe=$2 place=$PLIX_WINDOWS_CACHE/$1
     local scratch=$place.part log=$place.log start=$SECONDS status
     if [[ -e $place/made-by && $(<"$place/made-by") == "$(declare -f "$recipe")" ]]; then
@@ -26,7 +26,7 @@ make_piece() {
     say "Making $1 in $PLIX_WINDOWS_CACHE"
     rm -rf "$scratch"
     mkdir -p "$scratch"
-    # In a condition, set -e would be off inside of the recipe.
+    # Not in a condition: set -e would be off inside the recipe.
     set +e
     (
         set -e
@@ -46,8 +46,8 @@ make_piece() {
     say "Made $1 in $((SECONDS - start)) seconds"
 }
 
-# The Debian archives that this machine uses, as "URI SUITE COMPONENT" lines,
-# in whatever way and from whatever mirror it was told to.
+# The Debian archives that this machine is configured to use, as lines of
+# "URI SUITE COMPONENT".
 debian_archives() {
     local VERSION_CODENAME
     # shellcheck source=/dev/null
@@ -56,8 +56,8 @@ debian_archives() {
         sort -u | grep -E " $VERSION_CODENAME(-updates|-security)? "
 }
 
-# fetch_source PACKAGE FOLDER: Debian's source of it, patched, with signatures
-# checked. The lists are ours: the machine's own stay as they are.
+# fetch_source PACKAGE FOLDER: fetches Debian's patched source of the package and checks
+# its signatures. Uses package lists of its own; those of the machine do not change.
 fetch_source() {
     local sources=$PWD/sources.list lists=$PWD/apt-lists
     debian_archives | sed 's/^/deb-src /' >"$sources"
@@ -67,7 +67,7 @@ fetch_source() {
     "${apt[@]}" update
     (cd source.part && "${apt[@]}" source --only-source "$1")
     mv source.part/*/ "$2"
-    # Kept for who wants to know what was built.
+    # Kept to tell which version was built.
     cp source.part/*.dsc .
     rm -r source.part "$lists" "$sources"
 }
@@ -115,8 +115,8 @@ make_googletest() {
     rm -r build
 }
 
-# What a program of this compiler needs to run; the host and the library share
-# it, because strings and lists of the standard library go from one to the other.
+# The run-time DLLs of the compiler. The host and the library must use the same ones,
+# because they exchange strings and lists of the standard library.
 make_runtime() {
     local library
     mkdir bin licences
@@ -134,9 +134,9 @@ make_fonts() {
         /usr/share/fonts/truetype/noto/NotoColorEmoji.ttf .
 }
 
-# A 32-bit root file system with Wine: adding its architecture to the running
-# system would fail wherever two versions of one package differ. Mono and Gecko
-# are not wanted, and the prefix is made now because that takes a while.
+# A 32-bit root file system with Wine. Adding the i386 architecture to the running
+# system would fail if the versions of a package differ between architectures. Mono and
+# Gecko are not needed. The Wine prefix is made here because that takes a while.
 make_wine() {
     local VERSION_CODENAME archive
     # shellcheck source=/dev/null
@@ -147,8 +147,8 @@ make_wine() {
     in_wine root env DEBIAN_FRONTEND=noninteractive apt-get install -qy --no-install-recommends \
         wine wine32 xvfb xauth imagemagick fonts-dejavu-core fonts-noto-cjk
     in_wine root wineboot --init
-    # Temporary folders on the drive that shows this file system, so that paths
-    # like those of the checkout mean the same wherever a program runs.
+    # Temporary folders are on the drive of this file system, so that their paths mean the
+    # same in programs of both systems.
     in_wine root wine reg add "HKCU\\Environment" /f /v TEMP /d "Z:\\tmp"
     in_wine root wine reg add "HKCU\\Environment" /f /v TMP /d "Z:\\tmp"
     in_wine root wineserver --wait
@@ -157,12 +157,12 @@ make_wine() {
     rm -rf root/var/lib/apt/lists/*
 }
 
-# mount_into_wine ROOT [FOLDER...]: what a process needs to see in there; the
-# folders at the same place as outside.
+# mount_into_wine ROOT [FOLDER...]: mounts what a process in ROOT needs, and the folders
+# at the same paths as outside.
 mount_into_wine() {
     local wine_root=$1 folder
     shift
-    # Expanded now: at the exit, the variable is gone.
+    # Expanded now, because the variable does not exist any more at the exit.
     # shellcheck disable=SC2064
     trap "unmount_from_wine '$wine_root'" EXIT
     mount -t proc proc "$wine_root/proc"
@@ -173,7 +173,7 @@ mount_into_wine() {
     done
 }
 
-# Ends what runs in there, and takes away everything that is mounted below ROOT,
+# unmount_from_wine ROOT: ends the processes of Wine and unmounts everything below ROOT,
 # the latest first.
 unmount_from_wine() {
     local place
@@ -183,8 +183,8 @@ unmount_from_wine() {
         while read -r place; do umount "$place"; done
 }
 
-# in_wine ROOT COMMAND...: runs it in there, with the variables that it needs
-# and none of ours that it should not see.
+# in_wine ROOT COMMAND...: runs the command in ROOT, with the environment variables that
+# it needs and none of the others.
 in_wine() {
     local pass=() name
     for name in PLIX_FONTS WINEPATH DISPLAY; do
@@ -199,29 +199,28 @@ in_wine() {
 # The libraries, the tool and the tests, in build/windows.
 build_windows() {
     install_packages "${PLIX_WINDOWS_PACKAGES[@]}"
-    make_piece qt make_qt
-    make_piece jsoncpp make_jsoncpp
-    make_piece googletest make_googletest
-    make_piece runtime make_runtime
-    make_piece fonts make_fonts
+    make_part qt make_qt
+    make_part jsoncpp make_jsoncpp
+    make_part googletest make_googletest
+    make_part runtime make_runtime
+    make_part fonts make_fonts
     [[ -e $root/build/cache ]] || install_npm
-    # Configures always: where the cache is may have changed.
+    # Always configures, because the path of the cache may have changed.
     (cd "$root" && cmake --preset windows && cmake --build --preset windows) >&2
 }
 
-# start_wine [FOLDER...]: makes the Wine root see the folders, at the same place
-# as outside, until this script ends.
-# A shell that waits keeps the services of Wine running, so that each program
-# starts fast.
+# start_wine [FOLDER...]: mounts the folders into the Wine root, at the same paths as
+# outside, until this script ends. A waiting shell keeps the services of Wine running, so
+# that each program starts fast.
 start_wine() {
     local wine_root=$PLIX_WINDOWS_CACHE/wine/root
-    make_piece wine make_wine
+    make_part wine make_wine
     exec {wine_lock}>"$PLIX_WINDOWS_CACHE/wine.lock"
-    flock -n "$wine_lock" || say "Waiting for another run to be done with Wine"
+    flock -n "$wine_lock" || say "Waiting for another run that uses Wine"
     flock "$wine_lock"
     unmount_from_wine "$wine_root"
     mount_into_wine "$wine_root" "$@"
     coproc WINE_SHELL { in_wine "$wine_root" wine cmd 2>/dev/null; }
-    # Its greeting: by then everything is up.
+    # Everything runs when the shell prints its first line.
     read -r -t 60 _ <&"${WINE_SHELL[0]}" || say "Wine does not answer"
 }
