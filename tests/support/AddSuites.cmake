@@ -1,8 +1,8 @@
-# Read by CTest before it runs: makes each suite of a test program one test.
-# Suites rather than cases, since starting a program costs more than most cases.
+# CTest reads this before it runs. Each suite of a test program becomes one test: starting
+# a program takes longer than most cases, so not each case.
 
-# plix_add_suites(NAME PROGRAM FOLDER LAUNCHER ENVIRONMENT): the suites of PROGRAM,
-# as NAME.Suite, run in FOLDER. LAUNCHER, if not empty, runs programs of another
+# plix_add_suites(NAME PROGRAM FOLDER LAUNCHER ENVIRONMENT): adds the suites of PROGRAM
+# as NAME.Suite. They run in FOLDER. LAUNCHER, if not empty, starts programs of another
 # system.
 function(plix_add_suites name program folder launcher environment)
     execute_process(
@@ -11,7 +11,7 @@ function(plix_add_suites name program folder launcher environment)
         RESULT_VARIABLE status
         OUTPUT_VARIABLE list)
     if(NOT status EQUAL 0)
-        # A test that cannot run, and so fails.
+        # This test cannot run, so it fails.
         add_test(${name}.CannotListItsSuites ${program}-cannot-list-its-suites)
         return()
     endif()

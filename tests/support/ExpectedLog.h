@@ -2,25 +2,25 @@
 
 #include <string>
 
-// What a test allows to be said.
+// The log lines that a test expects.
 //
-// The test host collects every line of the library's log and every Qt message
-// of warning level or above, and fails the running test for each one that the
-// test did not take or allow. Tests that provoke lines fetch them here.
+// The test host collects every line of the library's log and every Qt message of warning
+// level or above. It fails the running test for each of them that is left at its end.
+// Tests that provoke lines take them here.
 namespace plix::test {
 
-// The oldest collected log line that was not taken yet, which is taken; an
-// empty string when there is none.
+// Removes the oldest collected log line and returns it; returns an empty string when there
+// is none.
 std::string takeLogLine();
 
-// How many log lines wait to be taken.
+// The number of log lines that are not taken yet.
 int pendingLogLines();
 
-// Throws away what was logged so far in this test: for tests about something
-// else than the lines, such as floods of hostile input.
+// Removes all lines that were logged so far in this test. For tests that do not check
+// lines, such as those of random input.
 void ignoreLog();
 
-// Appends to the log as the library would.
+// Adds a line, as the library does.
 void collectLogLine(const char* text);
 
 } // namespace plix::test

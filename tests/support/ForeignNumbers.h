@@ -5,9 +5,8 @@
 
 namespace plix::test {
 
-// While it lives, the process writes and reads numbers as "1.234,5", in the C++
-// streams that ask the global locale. The locale is made up: none has to be
-// installed.
+// While it lives, C++ streams that use the global locale write and read numbers as
+// "1.234,5". No locale has to be installed.
 class ForeignNumbers {
 public:
     explicit ForeignNumbers(char point = ',', char separator = '.', std::string grouping = "\3")

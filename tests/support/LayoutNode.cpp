@@ -8,7 +8,7 @@ int silence(YGConfigConstRef, YGNodeConstRef, YGLogLevel, const char*, va_list)
     return 0;
 }
 
-// Yoga prints what it refuses; tests make it refuse much.
+// Yoga prints errors, and tests provoke many.
 YGNodeRef makeQuietNode()
 {
     static const YGConfigRef config = [] {
@@ -39,7 +39,7 @@ YGNodeRef nodeOf(YogaLayoutItem& item)
         if (parent->childAt(i) == &item)
             return YGNodeGetChild(nodeOf(*parent), static_cast<std::size_t>(i));
     }
-    // A node tells its parent: put one of ours in for a moment.
+    // A node knows its parent, so a temporary child tells the node of `item`.
     LayoutNode probe;
     item.insertChild(&probe, item.childCount());
     return YGNodeGetParent(probe.node());

@@ -6,11 +6,11 @@
 
 namespace plix::test {
 
-// A layout item whose node the test can look into.
+// A layout item whose node the test can read.
 class LayoutNode : public YogaLayoutItem {
 public:
     LayoutNode();
-    // Takes over `node`, which may be null.
+    // Takes ownership of `node`, which may be null.
     explicit LayoutNode(YGNodeRef node);
 
     YGNodeRef node() const { return ownNode_; }
@@ -19,7 +19,7 @@ private:
     YGNodeRef ownNode_;
 };
 
-// The node of an item of a card. `item` must be a container or be in one.
+// The node of an item of a card. `item` must be in a box, or able to have children.
 YGNodeRef nodeOf(YogaLayoutItem& item);
 
 } // namespace plix::test

@@ -56,7 +56,7 @@ void LiveView::paintAllAgain()
 
 void LiveView::paintWhatChanged()
 {
-    // The scene collects what changed, then the view asks for a paint.
+    // First the scene collects the changes, then the view requests a paint.
     QApplication::sendPostedEvents();
     QApplication::sendPostedEvents();
 }

@@ -9,25 +9,25 @@
 
 namespace plix::test {
 
-// A card in a host's window. As on a screen, what was painted stays there, and
-// only parts of it are painted anew.
+// A card in a host's window. As on a screen, what was painted stays there, and only parts
+// of it are painted again.
 class LiveView {
 public:
-    // Shows a card, `scale` pixels of the window for each logical one, with some
-    // free space around it.
+    // Shows a card with some free space around it, at `scale` pixels of the window per
+    // logical pixel.
     explicit LiveView(QGraphicsItem& root, double scale = 1);
-    // Gives back the card if it is still there.
+    // Removes the card from the scene if it still exists. The caller owns it.
     ~LiveView();
 
     LiveView(const LiveView&) = delete;
     LiveView& operator=(const LiveView&) = delete;
 
-    // Paints a part of the window anew, in its pixels.
+    // Paints a part of the window again. The part is in pixels of the window.
     void paintAgain(const QRegion& part);
     void paintAllAgain();
 
-    // Has everything painted that asked for it, once. No timer runs out
-    // meanwhile, so movies stand still.
+    // Paints everything that has requested an update, once. Delivers no timer events, so
+    // animations stand still.
     void paintWhatChanged();
 
     // What the user sees now.
@@ -43,7 +43,8 @@ private:
     QPointer<QGraphicsObject> root_;
 };
 
-// Where two pictures of one size differ, in pixels; empty when they do not.
+// The smallest rectangle around the pixels that differ; empty when there are none. All of
+// both for images of different sizes.
 QRect differenceOf(const QImage& one, const QImage& other);
 
 } // namespace plix::test

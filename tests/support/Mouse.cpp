@@ -41,9 +41,9 @@ void CardView::add(QGraphicsItem& root)
 
 void CardView::moveTo(const QPointF& at)
 {
-    const QPointF place = view_.viewportTransform().map(at);
-    const QPoint pixel(static_cast<int>(std::floor(place.x())),
-                       static_cast<int>(std::floor(place.y())));
+    const QPointF position = view_.viewportTransform().map(at);
+    const QPoint pixel(static_cast<int>(std::floor(position.x())),
+                       static_cast<int>(std::floor(position.y())));
     if (pixel == pixel_)
         return;
     pixel_ = pixel;

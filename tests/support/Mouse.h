@@ -10,14 +10,14 @@
 
 namespace plix::test {
 
-// Cards in a host's view, and the user's mouse over it. Its events go the way
-// of the platform's: to the viewport, at whole pixels, with the moves between
-// them. Places are those of the scene.
+// Cards in a host's view, and the user's mouse. As from the platform, mouse events go to
+// the viewport, at whole pixels, with moves between them. Positions are in scene
+// coordinates.
 class CardView {
 public:
     // Shows a card with some free space around it.
     explicit CardView(QGraphicsItem& root);
-    // Gives back the cards that are still there.
+    // Removes the cards that still exist from the scene. The caller owns them.
     ~CardView();
 
     CardView(const CardView&) = delete;
@@ -30,15 +30,15 @@ public:
     void release(const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
     // A press and a release.
     void click(const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
-    // Two clicks, of which the platform calls the second press a double click.
+    // Two clicks; the second press is a double click event, as on all platforms.
     void doubleClick(const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
 
-    // What the mouse looks like where it is.
+    // The cursor at the position of the mouse.
     Qt::CursorShape cursor() const { return view_.viewport()->cursor().shape(); }
 
     QGraphicsScene& scene() { return scene_; }
 
-    // A place of the scene that no card is at.
+    // A position in the scene where there is no card.
     QPointF nowhere() const { return scene_.sceneRect().topLeft() + QPointF(5, 5); }
 
 private:
@@ -52,7 +52,7 @@ private:
     Qt::MouseButtons buttons_ = Qt::NoButton;
 };
 
-// A click on a card that is shown for as long as it takes.
+// Shows the card in a view, clicks at `at` and closes the view.
 void click(QGraphicsItem& root, const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
 
 } // namespace plix::test

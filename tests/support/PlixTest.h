@@ -19,19 +19,19 @@ class PlixDataMgr;
 
 namespace plix::test {
 
-// Every test starts from the process-wide settings of a fresh process, except
-// that the library's log goes to the test host, which fails the test for each
-// line that is not taken (ExpectedLog.h).
+// Every test starts with the process-wide settings of a new process, except that the
+// library's log goes to the test host. That fails the test for each line that the test did
+// not take (ExpectedLog.h).
 class PlixTest : public testing::Test {
 protected:
     PlixTest();
     ~PlixTest() override;
 };
 
-// One card as a host has it. The item goes first, then the controller.
+// One card as a host has it. Its end deletes the item, then frees the controller.
 class TestCard {
 public:
-    // Reads and builds `json` with what `configure` sets before that.
+    // Calls `configure` with the new controller, then reads `json` and builds its item.
     explicit TestCard(const std::string& json,
                       const std::function<void(PlixDataController*)>& configure = {});
     ~TestCard();
@@ -49,10 +49,10 @@ public:
 
     // The item at the end of a path of child numbers, in the order that the
     // children were made: item({0, 2}) is the third child of the first child.
-    // Fails the test and answers null when there is no such item.
+    // Fails the test and returns null when there is no such item.
     QGraphicsItem* item(const std::vector<int>& path) const;
 
-    // The same as one of the item classes: ui<PlixBoxUI>({0}).
+    // The same, cast to one of the item classes: ui<PlixBoxUI>({0}).
     template <typename Ui> Ui* ui(const std::vector<int>& path) const
     {
         auto* const found = dynamic_cast<Ui*>(item(path));
@@ -66,19 +66,20 @@ private:
     QGraphicsItem* root_;
 };
 
-// A bubble around `body`, the JSON of its body zone; `more` are further members
-// of the bubble, each followed by a comma.
+// The JSON of a bubble. `body` is the JSON of its body zone, `more` are other members of
+// the bubble, each followed by a comma.
 std::string bubbleWithBody(const std::string& body, const std::string& more = {});
 
-// A box of `contents`, JSON members separated by commas; `more` as above.
+// The JSON of a box. `contents` are the components in it, separated by commas; `more` as
+// above.
 std::string box(const std::string& layout, const std::string& contents,
                 const std::string& more = {});
 
-// A component with members of its own, each followed by a comma:
+// The JSON of a component. `more` are its other members, each followed by a comma:
 // component("separator", R"("margin": "md",)").
 std::string component(const std::string& type, const std::string& more = {});
 
-// A text component; `words` as they stand in JSON.
+// The JSON of a text component. `words` are escaped for JSON already.
 std::string text(const std::string& words, const std::string& more = {});
 
 } // namespace plix::test

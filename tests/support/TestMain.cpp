@@ -1,5 +1,5 @@
-// The one main() of all Qt tests: fixed fonts, no display, and a failure for
-// every log line or Qt warning that a test did not ask for.
+// main() of all Qt tests: fixed fonts, no display, and a failure for every log line or Qt
+// warning that a test did not expect.
 #include "support/ExpectedLog.h"
 #include "tools/FontList.h"
 
@@ -85,18 +85,18 @@ void collectLogLine(const char* text)
 int main(int argc, char** argv)
 {
 #if defined(Q_OS_WIN)
-    // Who reads the list of tests may run on a system whose lines end otherwise.
+    // The list of tests may be read on Linux, so lines end there as they do on Linux.
     _setmode(_fileno(stdout), _O_BINARY);
 #endif
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("FONTCONFIG_FILE", PLIX_TEST_FONTS_CONF);
-    // Offscreen, nothing has a scale factor or a style of the user's desktop.
+    // No scale factor, style or logging of the user's desktop.
     for (const char* name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI",
                              "QT_STYLE_OVERRIDE", "QT_LOGGING_RULES"})
         qunsetenv(name);
 
     testing::InitGoogleTest(&argc, argv);
-    // The build lists the tests without the environment that they run in.
+    // The build lists the tests without the environment in which they run.
     if (testing::GTEST_FLAG(list_tests))
         return RUN_ALL_TESTS();
 
@@ -104,7 +104,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
 #if defined(Q_OS_WIN)
     if (!plix::tool::useFontList(QStringLiteral(PLIX_TEST_FONT_LIST))) {
-        std::cerr << "the fonts of " PLIX_TEST_FONT_LIST " are not all there" << std::endl;
+        std::cerr << "some fonts of " PLIX_TEST_FONT_LIST " are missing" << std::endl;
         return EXIT_FAILURE;
     }
 #endif

@@ -9,8 +9,8 @@ class QGraphicsItem;
 
 namespace plix::test {
 
-// Calls `visit` for `root` and everything below it. No recursion: cards may be
-// deeper than a small stack.
+// Calls `visit` for `root` and all items below it. Without recursion, because cards may be
+// too deep for a small stack.
 void forEachItem(QGraphicsItem& root, const std::function<void(QGraphicsItem&)>& visit);
 
 // For every item of a card, its rectangle in its parent and its size by the layout.

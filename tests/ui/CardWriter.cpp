@@ -27,13 +27,13 @@ std::string CardWriter::pick(const std::vector<std::string>& words)
     return words[static_cast<std::size_t>(below(static_cast<int>(words.size())))];
 }
 
-std::string CardWriter::words(int most)
+std::string CardWriter::words(int maximum)
 {
     static const std::vector<std::string> list {"a",    "the",    "card", "receipt", "wide",
                                                 "WWWW", "iiii",   "lily", "12:30",   "晚上一起吃饭",
                                                 "저녁", "العشاء", "הערב", "😀",       "fjord"};
     std::string all = pick(list);
-    for (int i = below(most); i > 0; --i)
+    for (int i = below(maximum); i > 0; --i)
         all.append(1, ' ').append(pick(list));
     return all;
 }
@@ -64,7 +64,7 @@ std::string CardWriter::writeBox(const std::string& layout, int levels)
     const int count = 1 + below(layout == "vertical" ? 4 : 2);
     for (int i = 0; i < count; ++i) {
         contents += i ? "," : "";
-        // Texts stand on one line with texts, not with boxes.
+        // In a baseline row there is room for texts only.
         const bool mayHoldBoxes = layout != "baseline" || room_ == Room::Any;
         const bool isBox = levels > 0 && mayHoldBoxes && below(2) == 0;
         contents += isBox ? writeChildBox(layout, levels - 1) : writeText(layout);

@@ -6,12 +6,12 @@
 
 namespace plix::test {
 
-// Writes cards of boxes and texts, always the same for a seed.
+// Writes random cards of boxes and texts, the same for the same seed.
 class CardWriter {
 public:
     enum class Room {
-        Enough, // everything fits: rows hold things that can get narrower
-        Any
+        Enough, // everything fits: items of rows can get narrower
+        Any // items may need more room than there is
     };
 
     explicit CardWriter(unsigned seed, Room room = Room::Enough);
@@ -21,7 +21,7 @@ public:
 private:
     int below(int limit);
     std::string pick(const std::vector<std::string>& words);
-    std::string words(int most);
+    std::string words(int maximum);
     std::string writeText(const std::string& layout);
     std::string writeBox(const std::string& layout, int levels);
     std::string writeChildBox(const std::string& parent, int levels);

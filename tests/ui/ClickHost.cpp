@@ -18,19 +18,19 @@ void ClickHost::listenTo(PlixDataController* controller)
             const std::string uri = action.uri.empty() ? action.appUri : action.uri;
             if (host.onAction)
                 host.onAction(action);
-            host.note(uri);
+            host.record(uri);
         },
         this);
     Plix_SetMentionHandleCallback(
         controller,
         [](std::int64_t user, void* self) {
-            static_cast<ClickHost*>(self)->note("user " + std::to_string(user));
+            static_cast<ClickHost*>(self)->record("user " + std::to_string(user));
         },
         this);
     Plix_SetBotMentionHandleCallback(
         controller,
         [](std::int64_t bot, void* self) {
-            static_cast<ClickHost*>(self)->note("bot " + std::to_string(bot));
+            static_cast<ClickHost*>(self)->record("bot " + std::to_string(bot));
         },
         this);
 }
@@ -40,10 +40,10 @@ std::function<void(PlixDataController*)> ClickHost::setUp()
     return [this](PlixDataController* controller) { listenTo(controller); };
 }
 
-void ClickHost::note(const std::string& what)
+void ClickHost::record(const std::string& what)
 {
     arrived.push_back(what);
-    if (const std::function<void()> next = std::exchange(deed, {}))
+    if (const std::function<void()> next = std::exchange(nextAction, {}))
         next();
 }
 

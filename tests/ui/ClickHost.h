@@ -8,36 +8,35 @@
 
 namespace plix::test {
 
-// A host that notes what it is told of clicks, and may do anything about it.
+// A host that records clicks, and may do anything in the callback.
 class ClickHost {
 public:
-    // To be called before the card is read: has everything told to this host,
-    // and mentions read.
+    // Sets the callbacks of this host and enables markup. Call it before the card is read.
     void listenTo(PlixDataController* controller);
 
-    // The same as a function, for those who make the card.
+    // The same as a function, for TestCard.
     std::function<void(PlixDataController*)> setUp();
 
-    // The URI of each click, that for apps when there is no other; "user 7" and
-    // "bot 7" for mentions.
+    // For each click its URI, or that for apps if it has no other. "user 7" and "bot 7" for
+    // mentions.
     std::vector<std::string> arrived;
 
-    // What it does the next time, once.
-    std::function<void()> deed;
-    // What it does with the action, every time.
+    // Called by the next callback, once.
+    std::function<void()> nextAction;
+    // Called with the action by every callback of a click.
     std::function<void(ST_ACTION&)> onAction;
 
 private:
-    void note(const std::string& what);
+    void record(const std::string& what);
 };
 
 using Arrived = std::vector<std::string>;
 
-// JSON members for components.
+// JSON members of components.
 std::string uriAction(const std::string& uri, const std::string& type = "uri");
 std::string appAction(const std::string& appUri);
 
-// An item's JSON with a label of its own.
+// The JSON of a button.
 std::string button(const std::string& action);
 
 } // namespace plix::test

@@ -1,5 +1,5 @@
-// Every kind of item under the mouse: what arrives at the host, what the mouse
-// looks like, and what the host is told when it asks.
+// Every kind of item under the mouse: which clicks arrive at the host, which cursor is
+// shown, and what Plix_HasAction() returns.
 #include "ClickHost.h"
 
 #include "support/Mouse.h"
@@ -16,9 +16,9 @@ constexpr char kApp[] = "app://a";
 constexpr char kSize[] = R"("width": "60px", "height": "40px",)";
 constexpr char kSmall[] = R"("size": "xxs", "flex": 0,)";
 
-// What is known of an item with a box around it.
+// The expectations for an item in a box.
 struct Outcome {
-    const char* arrives; // empty: nothing
+    const char* arrives; // with a click; empty for nothing
     bool hand;
     bool hasAction;
 };
@@ -32,11 +32,11 @@ struct Target {
 };
 
 constexpr Outcome kNothing {"", false, false};
-constexpr Outcome kTheBoxs {kAround, true, false};
-// Where the box's click would tell of an action that is the item's.
-constexpr Outcome kTheBoxsForOneOfItsOwn {kAround, true, true};
+constexpr Outcome kClicksBox {kAround, true, false};
+// The item has an action that no click delivers; a click on it is one on the box.
+constexpr Outcome kClicksBoxDespiteItsAction {kAround, true, true};
 
-constexpr Outcome its(const char* uri)
+constexpr Outcome clicksItem(const char* uri)
 {
     return {uri, true, true};
 }
@@ -62,63 +62,75 @@ const std::vector<Target>& targets()
     static const std::string app = appAction(kApp);
     static const std::string appBox = std::string(kSize) + app;
     static const std::vector<Target> rows = {
-        {"Box", box("vertical", "", kSize), {}, kNothing, kTheBoxs},
-        {"BoxInABox", box("vertical", box("vertical", "", kSize)), {0}, kNothing, kTheBoxs},
+        {"Box", box("vertical", "", kSize), {}, kNothing, kClicksBox},
+        {"BoxInABox", box("vertical", box("vertical", "", kSize)), {0}, kNothing, kClicksBox},
         {"BoxWithAction",
          box("vertical", "", kSize + uriAction("its")),
          {},
-         its("its"),
-         its("its")},
+         clicksItem("its"),
+         clicksItem("its")},
         {"BoxWithUnknownAction",
          box("vertical", "", kSize + uriAction("its", "dance")),
          {},
-         its("its"),
-         its("its")},
-        {"BoxForApps", box("vertical", "", appBox), {}, kNothing, kTheBoxs},
-        {"TextInABoxForApps", box("vertical", text("words"), appBox), {0}, kNothing, kTheBoxs},
+         clicksItem("its"),
+         clicksItem("its")},
+        {"BoxForApps", box("vertical", "", appBox), {}, kNothing, kClicksBox},
+        {"TextInABoxForApps", box("vertical", text("words"), appBox), {0}, kNothing, kClicksBox},
         {"TextWithActionInABoxForApps",
          box("vertical", text("words", uriAction("its")), appBox),
          {0},
-         its("its"),
-         its("its")},
+         clicksItem("its"),
+         clicksItem("its")},
         {"ButtonWithoutActionInABoxForApps",
          box("vertical", button(""), appBox),
          {0},
          kNothing,
-         // The button keeps the click to itself; the hand is the box's.
+         // The button accepts the click and ignores it; the cursor is the box's.
          {"", true, false}},
-        {"Text", text("words"), {}, kNothing, kTheBoxs},
-        {"TextInABox", box("vertical", text("words")), {0}, kNothing, kTheBoxs},
-        {"TextWithAction", text("words", uriAction("its")), {}, its("its"), its("its")},
+        {"Text", text("words"), {}, kNothing, kClicksBox},
+        {"TextInABox", box("vertical", text("words")), {0}, kNothing, kClicksBox},
+        {"TextWithAction",
+         text("words", uriAction("its")),
+         {},
+         clicksItem("its"),
+         clicksItem("its")},
         {"TextWithActionInABox",
          box("vertical", text("words", uriAction("its"))),
          {0},
-         its("its"),
-         its("its")},
+         clicksItem("its"),
+         clicksItem("its")},
         {"TextWithUnknownAction",
          text("words", uriAction("its", "dance")),
          {},
          kNothing,
-         kTheBoxsForOneOfItsOwn},
-        {"TextForApps", text("words", app), {}, kNothing, kTheBoxsForOneOfItsOwn},
-        {"Spans", spans(""), {}, kNothing, kTheBoxs},
-        {"SpansWithAction", spans(uriAction("its")), {}, its("its"), its("its")},
-        {"Mention", mention("user"), {}, {"user -7", true, false}, kTheBoxs},
-        {"MentionOfABot", mention("bot"), {}, {"bot -7", true, false}, kTheBoxs},
-        {"MentionInATextWithAction", mention("user", uriAction("its")), {}, its("its"), its("its")},
-        {"Image", imageOf(""), {}, kNothing, kTheBoxs},
-        {"ImageWithAction", imageOf(uriAction("its")), {}, its("its"), its("its")},
-        {"ImageWithUnknownAction", imageOf(uriAction("its", "dance")), {}, kNothing, kTheBoxs},
-        {"ImageForApps", imageOf(app), {}, kNothing, kTheBoxs},
-        {"Icon", component("icon"), {}, kNothing, kTheBoxs},
-        {"IconWithAction", component("icon", uriAction("its")), {}, kNothing, kTheBoxs},
+         kClicksBoxDespiteItsAction},
+        {"TextForApps", text("words", app), {}, kNothing, kClicksBoxDespiteItsAction},
+        {"Spans", spans(""), {}, kNothing, kClicksBox},
+        {"SpansWithAction", spans(uriAction("its")), {}, clicksItem("its"), clicksItem("its")},
+        {"Mention", mention("user"), {}, {"user -7", true, false}, kClicksBox},
+        {"MentionOfABot", mention("bot"), {}, {"bot -7", true, false}, kClicksBox},
+        {"MentionInATextWithAction",
+         mention("user", uriAction("its")),
+         {},
+         clicksItem("its"),
+         clicksItem("its")},
+        {"Image", imageOf(""), {}, kNothing, kClicksBox},
+        {"ImageWithAction", imageOf(uriAction("its")), {}, clicksItem("its"), clicksItem("its")},
+        {"ImageWithUnknownAction", imageOf(uriAction("its", "dance")), {}, kNothing, kClicksBox},
+        {"ImageForApps", imageOf(app), {}, kNothing, kClicksBox},
+        {"Icon", component("icon"), {}, kNothing, kClicksBox},
+        {"IconWithAction", component("icon", uriAction("its")), {}, kNothing, kClicksBox},
         {"Button", button(""), {}, {"", true, false}, {"", true, false}},
-        {"ButtonWithAction", button(uriAction("its")), {}, its("its"), its("its")},
-        {"ButtonWithUnknownAction", button(uriAction("its", "dance")), {}, its("its"), its("its")},
+        {"ButtonWithAction", button(uriAction("its")), {}, clicksItem("its"), clicksItem("its")},
+        {"ButtonWithUnknownAction",
+         button(uriAction("its", "dance")),
+         {},
+         clicksItem("its"),
+         clicksItem("its")},
         {"ButtonForApps", button(app), {}, kNothing, {"", true, false}},
-        {"Separator", component("separator", uriAction("its")), {}, kNothing, kTheBoxs},
-        {"Spacer", component("spacer", uriAction("its")), {}, kNothing, kTheBoxs},
-        {"Filler", component("filler", uriAction("its")), {}, kNothing, kTheBoxs},
+        {"Separator", component("separator", uriAction("its")), {}, kNothing, kClicksBox},
+        {"Spacer", component("spacer", uriAction("its")), {}, kNothing, kClicksBox},
+        {"Filler", component("filler", uriAction("its")), {}, kNothing, kClicksBox},
     };
     return rows;
 }
@@ -149,7 +161,7 @@ std::vector<Row> rows()
     return all;
 }
 
-// What is done with the mouse, and how many clicks on the item that makes.
+// A gesture with the mouse, and how many clicks on the item it makes.
 struct Gesture {
     const char* name;
     void (*make)(CardView& view, const QPointF& one, const QPointF& other);
@@ -248,7 +260,7 @@ constexpr Gesture kGestures[] = {
 
 // ----- What arrives
 
-// `words`, in this order, for the property of a test.
+// All strings in one, for the property of a test.
 std::string joined(const Arrived& words)
 {
     std::string all;
@@ -259,7 +271,7 @@ std::string joined(const Arrived& words)
 
 class ShownItem : public PlixTest {
 protected:
-    // What is for apps only shows the host's wording, and nothing without one.
+    // Items for apps only show the host's wording, so they need one to be visible.
     ShownItem()
     {
         Plix_SetMultiLangGetCallback([](const char*) { return std::string("On your phone"); });
@@ -297,7 +309,7 @@ INSTANTIATE_TEST_SUITE_P(Items, ClickMatrix,
                              return std::get<0>(row.param).name + "_" + std::get<1>(row.param).name;
                          });
 
-// ----- What is seen, and what is told before
+// ----- The cursor, and Plix_HasAction()
 
 class Clickable : public ShownItem, public testing::WithParamInterface<Row> { };
 
@@ -312,11 +324,11 @@ TEST_P(Clickable, ShowsAHandInTheView)
     EXPECT_EQ(view.cursor(), elsewhere);
 }
 
-TEST_P(Clickable, IsToldToAHostThatAsks)
+TEST_P(Clickable, IsReportedByHasAction)
 {
     const TestCard card(GetParam().card, ClickHost().setUp());
     EXPECT_EQ(Plix_HasAction(card.item(GetParam().path)), GetParam().outcome.hasAction);
-    EXPECT_FALSE(Plix_HasAction(card.root())) << "a bubble has none";
+    EXPECT_FALSE(Plix_HasAction(card.root())) << "a bubble has no action";
 }
 
 INSTANTIATE_TEST_SUITE_P(Items, Clickable, testing::ValuesIn(rows()),
@@ -324,7 +336,7 @@ INSTANTIATE_TEST_SUITE_P(Items, Clickable, testing::ValuesIn(rows()),
 
 // ----- From one item to another
 
-// A column of one of each, in a box with an action.
+// A column with one item of each kind, in a box with an action.
 std::string column()
 {
     const std::string contents[] = {
@@ -345,8 +357,8 @@ std::string column()
         + box("vertical", all, R"("paddingAll": "20px",)" + uriAction("box")) + "}";
 }
 
-// The places in it: their numbers among the children, or the box's own padding.
-enum Place {
+// The items of the column by their indices, and the padding of the box.
+enum ColumnPart {
     Words,
     TextWithAction,
     Image,
@@ -361,8 +373,8 @@ enum Place {
 
 struct Drag {
     const char* name;
-    Place from;
-    Place to;
+    ColumnPart from;
+    ColumnPart to;
     const char* arrives;
 
     friend std::ostream& operator<<(std::ostream& out, const Drag& row) { return out << row.name; }
@@ -370,14 +382,14 @@ struct Drag {
 
 class DragBetweenItems : public PlixTest, public testing::WithParamInterface<Drag> {
 protected:
-    static QPointF at(const TestCard& card, Place place)
+    static QPointF at(const TestCard& card, ColumnPart part)
     {
-        return place == Background ? QPointF(10, 10)
-                                   : card.item({0, place})->sceneBoundingRect().center();
+        return part == Background ? QPointF(10, 10)
+                                  : card.item({0, part})->sceneBoundingRect().center();
     }
 };
 
-TEST_P(DragBetweenItems, IsAClickOnWhatTookThePressUnlessItLeftThat)
+TEST_P(DragBetweenItems, IsAClickOnThePressedItemIfItEndsThere)
 {
     const Drag& drag = GetParam();
     ClickHost host;
@@ -419,7 +431,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Drag {"InnerBoxWithActionToInnerBox", InnerBoxWithAction, InnerBox, ""}),
     [](const auto& row) { return std::string(row.param.name); });
 
-// ----- For apps, when the host says that it can do what they can
+// ----- Actions for apps only, with a host that supports them
 
 struct AppItem {
     const char* name;
@@ -433,7 +445,7 @@ struct AppItem {
 
 class ActionForApps : public PlixTest, public testing::WithParamInterface<AppItem> { };
 
-TEST_P(ActionForApps, IsOrdinaryForAHostThatChecksNothing)
+TEST_P(ActionForApps, IsOrdinaryWithoutTheMobileCheck)
 {
     ClickHost host;
     const TestCard card(bubbleWithBody(box("horizontal", GetParam().item, uriAction(kAround))),

@@ -1,4 +1,4 @@
-// Clicks: where they go, and what arrives at the host.
+// Which item gets a click, and what arrives at the host.
 #include "CardTree.h"
 #include "ClickHost.h"
 #include "ExampleCards.h"
@@ -18,7 +18,7 @@ constexpr char kSize[] = R"("width": "100px", "height": "60px",)";
 
 using Click = PlixTest;
 
-// What is left of an item by the items around it, without their round corners.
+// The part of an item that its parents do not clip, without round corners.
 QRectF visibleRect(const QGraphicsItem& item)
 {
     QRectF visible = item.sceneBoundingRect();
@@ -27,7 +27,7 @@ QRectF visibleRect(const QGraphicsItem& item)
     return visible.adjusted(8, 8, -8, -8);
 }
 
-// Qt finds items by crossing the outlines of all that is around them.
+// Qt looks for items within the shapes of all their parents.
 TEST_F(Click, FindsEveryItemOfExampleCards)
 {
     for (const std::string& name : exampleNames()) {
@@ -44,7 +44,7 @@ TEST_F(Click, FindsEveryItemOfExampleCards)
     }
 }
 
-TEST_F(Click, BesideABoxReachesNobody)
+TEST_F(Click, BesideABoxDoesNotArrive)
 {
     ClickHost host;
     const TestCard card(bubbleWithBody(box("vertical", "", kSize + uriAction("here"))),
@@ -53,7 +53,7 @@ TEST_F(Click, BesideABoxReachesNobody)
     EXPECT_EQ(host.arrived, Arrived {});
 }
 
-TEST_F(Click, OnABoxWithoutAnActionGoesToTheNextBoxThatHasOne)
+TEST_F(Click, OnABoxWithoutAnActionGoesToTheNearestBoxWithOne)
 {
     ClickHost host;
     const TestCard card(
@@ -65,8 +65,8 @@ TEST_F(Click, OnABoxWithoutAnActionGoesToTheNextBoxThatHasOne)
     EXPECT_EQ(host.arrived, (Arrived {"around", "around"}));
 }
 
-// Boxes without an action do not take presses, so no mouse gets here.
-TEST_F(Click, OnABoxWithoutAnActionIsHandedOnWhenItComesToTheBox)
+// A box without an action does not accept presses, so the mouse cannot cause this.
+TEST_F(Click, OnABoxWithoutAnActionIsPassedOnByTheBox)
 {
     ClickHost host;
     const TestCard card(
@@ -83,7 +83,7 @@ TEST_F(Click, OnABoxWithoutAnActionIsHandedOnWhenItComesToTheBox)
     EXPECT_EQ(host.arrived, Arrived {"around"});
 }
 
-TEST_F(Click, IsTakenByTheInnermostBoxWithAnAction)
+TEST_F(Click, GoesToTheInnermostBoxWithAnAction)
 {
     ClickHost host;
     const TestCard card(
@@ -95,7 +95,7 @@ TEST_F(Click, IsTakenByTheInnermostBoxWithAnAction)
     EXPECT_EQ(host.arrived, (Arrived {"inner", "inner"}));
 }
 
-TEST_F(Click, PassesABoxForAppsOnItsWayToTheBoxAround)
+TEST_F(Click, OnABoxForAppsGoesToTheBoxAroundIt)
 {
     ClickHost host;
     const TestCard card(
@@ -107,7 +107,7 @@ TEST_F(Click, PassesABoxForAppsOnItsWayToTheBoxAround)
     EXPECT_EQ(host.arrived, Arrived {"around"});
 }
 
-TEST_F(Click, ReachesWhatIsAZonesOwn)
+TEST_F(Click, ArrivesFromTheTopItemOfAZone)
 {
     const std::string items[] = {text("words", uriAction("its")),
                                  component("image", uriAction("its")), button(uriAction("its")),
@@ -124,7 +124,7 @@ TEST_F(Click, ReachesWhatIsAZonesOwn)
     }
 }
 
-TEST_F(Click, StaysOnTheItemWhereverTheHostShowsTheCard)
+TEST_F(Click, ArrivesWhereverTheHostShowsTheCard)
 {
     ClickHost host;
     const TestCard card(
@@ -156,7 +156,7 @@ TEST_F(Click, StaysOnTheItemWhereverTheHostShowsTheCard)
     }
 }
 
-TEST_F(Click, HoldsAtTheVeryEdge)
+TEST_F(Click, ArrivesAtTheEdgeOfAnItem)
 {
     ClickHost host;
     const TestCard card(bubbleWithBody(box("vertical", button(uriAction("its")))), host.setUp());
@@ -173,7 +173,7 @@ TEST_F(Click, HoldsAtTheVeryEdge)
     EXPECT_EQ(host.arrived, Arrived {});
 }
 
-TEST_F(Click, OnTheCornerThatABubbleLacksGoesToTheViewsOwnItems)
+TEST_F(Click, OutsideTheRoundCornerOfABubbleDoesNotArrive)
 {
     ClickHost host;
     const TestCard card(R"({"type": "bubble", "hero": )"
@@ -186,7 +186,7 @@ TEST_F(Click, OnTheCornerThatABubbleLacksGoesToTheViewsOwnItems)
     EXPECT_EQ(host.arrived, Arrived {"its"});
 }
 
-TEST_F(Click, OnWhatABoxCutsOffGoesToWhatIsSeenThere)
+TEST_F(Click, OnAClippedPartGoesToTheVisibleItem)
 {
     ClickHost host;
     const TestCard card(bubbleWithBody(box("vertical",
@@ -203,7 +203,7 @@ TEST_F(Click, OnWhatABoxCutsOffGoesToWhatIsSeenThere)
     EXPECT_EQ(host.arrived, (Arrived {"its", "around"}));
 }
 
-TEST_F(Click, IsLeftToWhatTheHostPutsOverTheCard)
+TEST_F(Click, GoesToAnItemOfTheHostOverTheCard)
 {
     ClickHost host;
     const TestCard card(bubbleWithBody(box("vertical", button(uriAction("its")))), host.setUp());
@@ -216,7 +216,7 @@ TEST_F(Click, IsLeftToWhatTheHostPutsOverTheCard)
     EXPECT_TRUE(cover->isSelected());
 }
 
-TEST_F(Click, IsNotOfferedToItemsThatDoNothingAboutIt)
+TEST_F(Click, IsNotAcceptedByItemsWithoutAnActionToDeliver)
 {
     for (const std::string& item :
          {box("vertical", "", kSize), box("vertical", "", kSize + appAction("app://a")),
@@ -232,7 +232,7 @@ TEST_F(Click, IsNotOfferedToItemsThatDoNothingAboutIt)
 TEST_F(Click, DeliversACopyOfTheAction)
 {
     ClickHost host;
-    host.onAction = [](ST_ACTION& received) { received.uri = "changed"; };
+    host.onAction = [](ST_ACTION& action) { action.uri = "changed"; };
     for (const std::string& item :
          {box("vertical", "", kSize + uriAction("its")), text("words", uriAction("its")),
           component("image", uriAction("its")), button(uriAction("its"))}) {
@@ -245,12 +245,12 @@ TEST_F(Click, DeliversACopyOfTheAction)
     }
 }
 
-TEST_F(Click, CarriesTheControllerAndAllOfTheAction)
+TEST_F(Click, DeliversTheControllerAndTheWholeAction)
 {
-    struct Heard {
+    struct Received {
         PlixDataController* controller = nullptr;
         ST_ACTION action;
-    } heard;
+    } received;
     const TestCard card(bubbleWithBody(box("vertical", component("button", R"("action": {
                             "type": "postback", "label": "l", "data": "d", "displayText": "t",
                             "i18nLabels": {"ko": "k"}, "copyText": "c"},)"))),
@@ -258,21 +258,21 @@ TEST_F(Click, CarriesTheControllerAndAllOfTheAction)
                             Plix_SetClickCallBack(
                                 controller,
                                 [](PlixDataController* from, ST_ACTION& action, void* to) {
-                                    *static_cast<Heard*>(to) = {from, action};
+                                    *static_cast<Received*>(to) = {from, action};
                                 },
-                                &heard);
+                                &received);
                         });
     click(*card.root(), card.item({0, 0})->sceneBoundingRect().center());
-    EXPECT_EQ(heard.controller, card.controller());
-    EXPECT_EQ(heard.action.type, "postback");
-    EXPECT_EQ(heard.action.label, "l");
-    EXPECT_EQ(heard.action.data, "d");
-    EXPECT_EQ(heard.action.displayText, "t");
-    EXPECT_EQ(heard.action.copyText, "c");
-    EXPECT_EQ(heard.action.i18nLabels.Get("ko"), "k");
+    EXPECT_EQ(received.controller, card.controller());
+    EXPECT_EQ(received.action.type, "postback");
+    EXPECT_EQ(received.action.label, "l");
+    EXPECT_EQ(received.action.data, "d");
+    EXPECT_EQ(received.action.displayText, "t");
+    EXPECT_EQ(received.action.copyText, "c");
+    EXPECT_EQ(received.action.i18nLabels.Get("ko"), "k");
 }
 
-TEST_F(Click, UsesTheCallbackOfTheMoment)
+TEST_F(Click, UsesTheCurrentCallback)
 {
     const TestCard card(bubbleWithBody(box("vertical", "", kSize + uriAction("here"))));
     click(*card.root(), {10, 10});
@@ -285,7 +285,7 @@ TEST_F(Click, UsesTheCallbackOfTheMoment)
     EXPECT_EQ(host.arrived, Arrived {"here"});
 }
 
-TEST_F(Click, ReachesTheHostOfTheCardThatWasClicked)
+TEST_F(Click, ArrivesAtTheHostOfTheClickedCard)
 {
     ClickHost firstHost;
     ClickHost secondHost;

@@ -62,7 +62,7 @@ std::string inBox(const CostlyLevel& level, const std::string& inner, int width)
     return box(level.layout, contents, level.members);
 }
 
-// What a search for the costliest cards has found.
+// Found by a search for the costliest cards.
 std::vector<CostlyCard> foundCards()
 {
     const std::string line = text("a");

@@ -5,8 +5,8 @@
 
 namespace plix::test {
 
-// A level of a card that is costly to lay out: what its box is, and what is in
-// it before and after the box of the next level, JSON components.
+// A level of a card that is costly to lay out: its box, and the JSON of the components that
+// are in it before and after the box of the next level.
 struct CostlyLevel {
     std::string layout;
     std::string members; // of the box, each followed by a comma
@@ -14,24 +14,23 @@ struct CostlyLevel {
     std::vector<std::string> after;
 };
 
-// Boxes nested in each other, as many as are read. The levels repeat, from the
-// outside.
+// Nested boxes. `levels` are those of the outermost boxes, and repeat inside.
 struct CostlyCard {
     std::string name;
     std::vector<CostlyLevel> levels;
     bool rightToLeft = false;
 
-    // `width`: how often each level has what is before and after its box.
+    // `width`: how often each level repeats its components before and after the box.
     std::string json(int depth, int width = 1) const;
-    // As wide as 64 KB allow.
+    // With the largest width that fits into 64 KB.
     std::string largestJson(int depth) const;
 };
 
-// The costliest ones that were found, and every direction that turns, with each
-// kind of neighbours, widths and places.
+// The costliest cards that are known, and cards of every sequence of directions with each
+// kind of neighbours, widths and positions.
 std::vector<CostlyCard> costlyCards();
 
-// Up to five levels of anything, the same for the same seed.
+// A card of up to five random levels, the same for the same seed.
 CostlyCard randomCostlyCard(unsigned seed);
 
 } // namespace plix::test

@@ -7,11 +7,11 @@ class PlixDataController;
 
 namespace plix::test {
 
-// The cards of examples/cards, by their names.
+// The names of the cards in examples/cards, and the JSON of one of them.
 std::vector<std::string> exampleNames();
 std::string exampleCard(const std::string& name);
 
-// A host that knows the pictures of examples/images and enables markup.
+// Sets up a host that finds the images of examples/images and enables markup.
 void showExamplePictures(PlixDataController* controller);
 
 } // namespace plix::test

@@ -1,5 +1,5 @@
-// A host may connect to the geometryChanged() of a card's items, and do anything
-// when a layout has them move: delete items, free the controller, lay out again.
+// A host may connect to geometryChanged() of a card's items, and do anything when a layout
+// moves them: delete items, free the controller, lay out again.
 #include "CardTree.h"
 
 #include "api/PlixDataMgr.h"
@@ -34,7 +34,7 @@ std::string card()
                               + ",");
 }
 
-// One card, whose parts the host may end.
+// A host with one card, of which it may delete any part.
 struct Host {
     Host()
         : controller(Plix_CreateController())
@@ -61,16 +61,19 @@ struct Host {
     QPointer<QGraphicsObject> root; // null while it is built
 };
 
-struct Deed {
+struct SlotAction {
     const char* name;
     // `item` is the one whose geometry has changed.
     void (*perform)(Host& host, QGraphicsWidget* item);
-    bool endsItems = true;
+    bool deletesItems = true;
 
-    friend std::ostream& operator<<(std::ostream& out, const Deed& row) { return out << row.name; }
+    friend std::ostream& operator<<(std::ostream& out, const SlotAction& row)
+    {
+        return out << row.name;
+    }
 };
 
-const Deed kDeeds[] = {
+const SlotAction kActions[] = {
     {"DeletesTheCard", [](Host&, QGraphicsWidget* item) { delete item->topLevelItem(); }},
     {"DeletesTheCardAndFrees",
      [](Host& host, QGraphicsWidget* item) {
@@ -134,38 +137,38 @@ std::vector<QGraphicsWidget*> widgetsOf(QGraphicsItem& root)
     return widgets;
 }
 
-// Puts every item elsewhere, so that the next layout has all of them move.
-void disarrange(QGraphicsItem& root)
+// Moves every item, so that the next layout moves all of them back.
+void moveAllItems(QGraphicsItem& root)
 {
     for (QGraphicsWidget* widget : widgetsOf(root))
         widget->setGeometry(widget->geometry().adjusted(3, 5, 10, 13));
 }
 
 class GeometrySlotMay : public PlixTest,
-                        public testing::WithParamInterface<std::tuple<Layout, Deed>> { };
+                        public testing::WithParamInterface<std::tuple<Layout, SlotAction>> { };
 
 TEST_P(GeometrySlotMay, DoAnything)
 {
-    const auto& [layout, deed] = GetParam();
+    const auto& [layout, action] = GetParam();
     std::size_t count = 1;
     for (std::size_t i = 0; i < count; ++i) {
         SCOPED_TRACE(i);
         Host host;
         host.build();
         const std::vector<QRectF> settled = geometryOf(*host.root);
-        disarrange(*host.root);
+        moveAllItems(*host.root);
         const std::vector<QGraphicsWidget*> widgets = widgetsOf(*host.root);
         count = widgets.size();
         bool done = false;
         QGraphicsWidget* const item = widgets.at(i);
         QObject::connect(item, &QGraphicsWidget::geometryChanged, item,
-                         [&, item, perform = deed.perform] {
+                         [&, item, perform = action.perform] {
                              if (!std::exchange(done, true))
                                  perform(host, item);
                          });
         layout.perform(host);
         EXPECT_TRUE(done);
-        if (!deed.endsItems) {
+        if (!action.deletesItems) {
             EXPECT_EQ(geometryOf(*host.root), settled);
         }
     }
@@ -173,19 +176,19 @@ TEST_P(GeometrySlotMay, DoAnything)
 }
 
 INSTANTIATE_TEST_SUITE_P(Hosts, GeometrySlotMay,
-                         testing::Combine(testing::ValuesIn(kLayouts), testing::ValuesIn(kDeeds)),
+                         testing::Combine(testing::ValuesIn(kLayouts), testing::ValuesIn(kActions)),
                          [](const auto& row) {
                              return std::string(std::get<0>(row.param).name)
                                  + std::get<1>(row.param).name;
                          });
 
-// Connects to the item whose size is the `number`th that a build changes: an
-// application may watch all events.
+// Connects to the item whose size is the `number`th that a build changes. It watches all
+// events of the application, as a host may.
 class BuildWatcher : public QObject {
 public:
-    BuildWatcher(int number, std::function<void(QGraphicsWidget*)> deed)
+    BuildWatcher(int number, std::function<void(QGraphicsWidget*)> action)
         : number_(number)
-        , deed_(std::move(deed))
+        , action_(std::move(action))
     {
         qApp->installEventFilter(this);
     }
@@ -193,24 +196,24 @@ public:
     bool eventFilter(QObject* receiver, QEvent* event) override
     {
         auto* const item = qobject_cast<QGraphicsWidget*>(receiver);
-        const bool isMeant = item && event->type() == QEvent::GraphicsSceneResize && number_-- == 0;
-        if (isMeant) {
+        const bool isNext = item && event->type() == QEvent::GraphicsSceneResize && number_-- == 0;
+        if (isNext) {
             connect(item, &QGraphicsWidget::geometryChanged, this, [this, item] {
-                if (const auto deed = std::exchange(deed_, {}))
-                    deed(item);
+                if (const auto action = std::exchange(action_, {}))
+                    action(item);
             });
         }
         return false;
     }
 
-    bool isDone() const { return !deed_; }
+    bool isDone() const { return !action_; }
 
 private:
     int number_;
-    std::function<void(QGraphicsWidget*)> deed_;
+    std::function<void(QGraphicsWidget*)> action_;
 };
 
-class GeometrySlotInABuildMay : public PlixTest, public testing::WithParamInterface<Deed> { };
+class GeometrySlotInABuildMay : public PlixTest, public testing::WithParamInterface<SlotAction> { };
 
 TEST_P(GeometrySlotInABuildMay, DoAnything)
 {
@@ -222,14 +225,14 @@ TEST_P(GeometrySlotInABuildMay, DoAnything)
                                    [&](QGraphicsWidget* item) { GetParam().perform(host, item); });
         host.build();
         isDone = watcher.isDone();
-        if (!GetParam().endsItems) {
+        if (!GetParam().deletesItems) {
             EXPECT_NE(host.root, nullptr);
         }
     }
     EXPECT_GT(number, 8);
 }
 
-INSTANTIATE_TEST_SUITE_P(Hosts, GeometrySlotInABuildMay, testing::ValuesIn(kDeeds),
+INSTANTIATE_TEST_SUITE_P(Hosts, GeometrySlotInABuildMay, testing::ValuesIn(kActions),
                          [](const auto& row) { return std::string(row.param.name); });
 
 } // namespace

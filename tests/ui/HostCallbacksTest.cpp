@@ -1,5 +1,5 @@
-// A host may do anything from within a callback: end the card, free its
-// controller, build others, run an event loop, throw.
+// A host may do anything in a callback: delete the card, free its controller, build other
+// cards, run an event loop, throw.
 #include "CardTree.h"
 #include "ClickHost.h"
 
@@ -23,7 +23,7 @@ namespace {
 
 constexpr char kSize[] = R"("width": "100px", "height": "40px",)";
 
-// One of each item that tells the host of clicks.
+// A card with one of each kind of item that reports clicks.
 std::string cardOfAll()
 {
     const std::string contents[] = {box("vertical", "", kSize + uriAction("box")),
@@ -38,7 +38,7 @@ std::string cardOfAll()
     return bubbleWithBody(box("vertical", all));
 }
 
-// A card as a careful host holds it, who knows that others may delete it.
+// A card of a host that expects others to delete its item.
 class HeldCard {
 public:
     HeldCard(ClickHost& host, const std::string& json)
@@ -57,10 +57,10 @@ public:
     HeldCard(const HeldCard&) = delete;
     HeldCard& operator=(const HeldCard&) = delete;
 
-    // The item of the last build; the one before is deleted.
+    // Builds the item and deletes the one of the last build.
     QGraphicsItem* build()
     {
-        // Other builds of the same card may happen meanwhile.
+        // A callback may build the same card meanwhile.
         QGraphicsItem* const item = Plix_CreateQGraphicsItem(controller_);
         deleteItem();
         root_ = item ? item->toGraphicsObject() : nullptr;
@@ -83,10 +83,10 @@ private:
     QPointer<QGraphicsObject> root_;
 };
 
-// ----- While a click is told
+// ----- In the callback of a click
 
-// What the host has at hand.
-struct Desk {
+// All that a callback may use.
+struct HostObjects {
     ClickHost& host;
     HeldCard& card;
     HeldCard& other; // shown in the same view
@@ -94,7 +94,7 @@ struct Desk {
     QPointF clicked;
 };
 
-// Runs `body` as a dialog would: from an event loop of its own.
+// Runs `body` in a new event loop, like a dialog.
 void inEventLoop(const std::function<void()>& body)
 {
     QEventLoop loop;
@@ -105,92 +105,107 @@ void inEventLoop(const std::function<void()>& body)
     loop.exec();
 }
 
-struct Deed {
+struct HostAction {
     const char* name;
-    void (*perform)(Desk& desk);
-    // What else arrives, from the clicks that are part of the deed: "again" is
-    // what has arrived already.
+    void (*perform)(HostObjects& objects);
+    // What other clicks arrive, which are part of the action. "again" stands for the first
+    // one repeated.
     Arrived arrives;
     bool endsItem = false;
     bool endsController = false;
 
-    friend std::ostream& operator<<(std::ostream& out, const Deed& row) { return out << row.name; }
+    friend std::ostream& operator<<(std::ostream& out, const HostAction& row)
+    {
+        return out << row.name;
+    }
 };
 
-const std::vector<Deed>& deeds()
+const std::vector<HostAction>& hostActions()
 {
-    static const std::vector<Deed> rows = {
-        {"DeletesTheItem", [](Desk& desk) { desk.card.deleteItem(); }, {}, true, false},
-        {"FreesTheController", [](Desk& desk) { desk.card.free(); }, {}, false, true},
+    static const std::vector<HostAction> rows = {
+        {"DeletesTheItem",
+         [](HostObjects& objects) { objects.card.deleteItem(); },
+         {},
+         true,
+         false},
+        {"FreesTheController", [](HostObjects& objects) { objects.card.free(); }, {}, false, true},
         {"FreesTheControllerAndClicksTheSameItem",
-         [](Desk& desk) {
-             desk.card.free();
-             desk.view.click(desk.clicked);
+         [](HostObjects& objects) {
+             objects.card.free();
+             objects.view.click(objects.clicked);
          },
          {},
          false,
          true},
         {"DeletesTheItemAndFrees",
-         [](Desk& desk) {
-             desk.card.deleteItem();
-             desk.card.free();
+         [](HostObjects& objects) {
+             objects.card.deleteItem();
+             objects.card.free();
          },
          {},
          true,
          true},
         {"FreesAndDeletesTheItem",
-         [](Desk& desk) {
-             desk.card.free();
-             desk.card.deleteItem();
+         [](HostObjects& objects) {
+             objects.card.free();
+             objects.card.deleteItem();
          },
          {},
          true,
          true},
-        {"ClearsTheScene", [](Desk& desk) { desk.view.scene().clear(); }, {}, true, false},
+        {"ClearsTheScene",
+         [](HostObjects& objects) { objects.view.scene().clear(); },
+         {},
+         true,
+         false},
         {"TakesTheItemOutOfTheScene",
-         [](Desk& desk) {
-             desk.view.scene().removeItem(desk.card.root());
-             desk.view.scene().addItem(desk.card.root());
+         [](HostObjects& objects) {
+             objects.view.scene().removeItem(objects.card.root());
+             objects.view.scene().addItem(objects.card.root());
          },
          {}},
         {"HidesAndDisablesTheItem",
-         [](Desk& desk) {
-             desk.card.root()->hide();
-             desk.card.root()->setEnabled(false);
-             desk.card.root()->setEnabled(true);
-             desk.card.root()->show();
+         [](HostObjects& objects) {
+             objects.card.root()->hide();
+             objects.card.root()->setEnabled(false);
+             objects.card.root()->setEnabled(true);
+             objects.card.root()->show();
          },
          {}},
         {"BuildsAndClicksAnotherCard",
-         [](Desk& desk) {
-             HeldCard third(desk.host, cardOfAll());
+         [](HostObjects& objects) {
+             HeldCard third(objects.host, cardOfAll());
              third.build();
              click(*third.root(), third.centerOf(0));
          },
          {"box"}},
         {"ClicksAnotherCardOfTheView",
-         [](Desk& desk) { desk.view.click(desk.other.centerOf(3)); },
+         [](HostObjects& objects) { objects.view.click(objects.other.centerOf(3)); },
          {"button"}},
-        {"ClicksTheSameItem", [](Desk& desk) { desk.view.click(desk.clicked); }, {"again"}},
+        {"ClicksTheSameItem",
+         [](HostObjects& objects) { objects.view.click(objects.clicked); },
+         {"again"}},
         {"ReadsTheCardAgain",
-         [](Desk& desk) { EXPECT_EQ(Plix_InitData(desk.card.controller(), cardOfAll()), 0); },
+         [](HostObjects& objects) {
+             EXPECT_EQ(Plix_InitData(objects.card.controller(), cardOfAll()), 0);
+         },
          {}},
         {"BuildsTheCardAgain",
-         [](Desk& desk) {
+         [](HostObjects& objects) {
              const std::unique_ptr<QGraphicsItem> root(
-                 Plix_CreateQGraphicsItem(desk.card.controller()));
+                 Plix_CreateQGraphicsItem(objects.card.controller()));
              EXPECT_NE(root, nullptr);
          },
          {}},
         {"LaysTheCardOutAgain",
-         [](Desk& desk) {
-             Plix_RefreshLayout(desk.card.controller());
-             EXPECT_EQ(Plix_ModifyHeight(desk.card.controller(), 0), 0);
+         [](HostObjects& objects) {
+             Plix_RefreshLayout(objects.card.controller());
+             EXPECT_EQ(Plix_ModifyHeight(objects.card.controller(), 0), 0);
          },
          {}},
         {"ChangesEverySetting",
-         [](Desk& desk) {
-             PlixDataController* const card = desk.card.controller();
+         [](HostObjects& objects) {
+             PlixDataController* const card = objects.card.controller();
              Plix_SetBubbleBkColor(card, "red");
              Plix_ResumeBubbleBkColor(card);
              Plix_SetHighLightText(card, {"words", "AnnLee"});
@@ -202,45 +217,49 @@ const std::vector<Deed>& deeds()
          },
          {}},
         {"SetsTheCallbacksAnew",
-         [](Desk& desk) { desk.host.listenTo(desk.card.controller()); },
+         [](HostObjects& objects) { objects.host.listenTo(objects.card.controller()); },
          {}},
-        {"RunsAnEventLoop", [](Desk&) { inEventLoop([] {}); }, {}},
+        {"RunsAnEventLoop", [](HostObjects&) { inEventLoop([] {}); }, {}},
         {"ClicksTheSameItemInAnEventLoop",
-         [](Desk& desk) { inEventLoop([&] { desk.view.click(desk.clicked); }); },
+         [](HostObjects& objects) { inEventLoop([&] { objects.view.click(objects.clicked); }); },
          {"again"}},
         {"DoubleClicksTheSameItemInAnEventLoop",
-         [](Desk& desk) { inEventLoop([&] { desk.view.doubleClick(desk.clicked); }); },
+         [](HostObjects& objects) {
+             inEventLoop([&] { objects.view.doubleClick(objects.clicked); });
+         },
          {"again", "again"}},
         {"ClicksAnotherCardInAnEventLoop",
-         [](Desk& desk) { inEventLoop([&] { desk.view.click(desk.other.centerOf(3)); }); },
+         [](HostObjects& objects) {
+             inEventLoop([&] { objects.view.click(objects.other.centerOf(3)); });
+         },
          {"button"}},
-        {"MovesTheMouseAboutInAnEventLoop",
-         [](Desk& desk) {
+        {"MovesTheMouseInAnEventLoop",
+         [](HostObjects& objects) {
              inEventLoop([&] {
-                 desk.view.moveTo(desk.view.nowhere());
-                 desk.view.moveTo(desk.other.centerOf(0));
-                 desk.view.moveTo(desk.clicked);
+                 objects.view.moveTo(objects.view.nowhere());
+                 objects.view.moveTo(objects.other.centerOf(0));
+                 objects.view.moveTo(objects.clicked);
              });
          },
          {}},
         {"EndsTheCardInAnEventLoop",
-         [](Desk& desk) {
+         [](HostObjects& objects) {
              inEventLoop([&] {
-                 desk.card.free();
-                 desk.card.deleteItem();
-                 desk.view.click(desk.clicked);
+                 objects.card.free();
+                 objects.card.deleteItem();
+                 objects.view.click(objects.clicked);
              });
          },
          {},
          true,
          true},
-        {"EndsTheCardFromWithinAClickInAnEventLoop",
-         [](Desk& desk) {
-             desk.host.deed = [&desk] {
-                 desk.card.deleteItem();
-                 desk.card.free();
+        {"EndsTheCardInAClickInAnEventLoop",
+         [](HostObjects& objects) {
+             objects.host.nextAction = [&objects] {
+                 objects.card.deleteItem();
+                 objects.card.free();
              };
-             inEventLoop([&] { desk.view.click(desk.clicked); });
+             inEventLoop([&] { objects.view.click(objects.clicked); });
          },
          {"again"},
          true,
@@ -276,9 +295,9 @@ protected:
         view.add(*other.root());
     }
 
-    // After whatever happened: the mouse is free, and whoever is left hears of
+    // After the action: no item has grabbed the mouse, and the items that are left report
     // clicks as before.
-    void expectClicksToGoOn(const Source& source, bool isControllerLeft)
+    void expectClicksToWork(const Source& source, bool isControllerLeft)
     {
         EXPECT_EQ(view.scene().mouseGrabberItem(), nullptr);
         if (card.root()) {
@@ -301,27 +320,28 @@ protected:
 };
 
 class ClickCallbackMay : public ClickCallback,
-                         public testing::WithParamInterface<std::tuple<Source, Deed>> { };
+                         public testing::WithParamInterface<std::tuple<Source, HostAction>> { };
 
 TEST_P(ClickCallbackMay, DoAnything)
 {
-    const auto& [source, deed] = GetParam();
-    Desk desk {host, card, other, view, card.centerOf(source.child)};
-    host.deed = [&, perform = deed.perform] { perform(desk); };
+    const auto& [source, action] = GetParam();
+    HostObjects objects {host, card, other, view, card.centerOf(source.child)};
+    host.nextAction = [&, perform = action.perform] { perform(objects); };
 
-    view.click(desk.clicked);
+    view.click(objects.clicked);
 
     Arrived expected {source.arrives};
-    for (const std::string& also : deed.arrives)
+    for (const std::string& also : action.arrives)
         expected.push_back(also == "again" ? source.arrives : also);
     EXPECT_EQ(host.arrived, expected);
-    EXPECT_EQ(card.root() == nullptr, deed.endsItem);
-    EXPECT_EQ(card.controller() == nullptr, deed.endsController);
-    expectClicksToGoOn(source, !deed.endsController);
+    EXPECT_EQ(card.root() == nullptr, action.endsItem);
+    EXPECT_EQ(card.controller() == nullptr, action.endsController);
+    expectClicksToWork(source, !action.endsController);
 }
 
 INSTANTIATE_TEST_SUITE_P(Hosts, ClickCallbackMay,
-                         testing::Combine(testing::ValuesIn(kSources), testing::ValuesIn(deeds())),
+                         testing::Combine(testing::ValuesIn(kSources),
+                                          testing::ValuesIn(hostActions())),
                          [](const auto& row) {
                              return std::string(std::get<0>(row.param).name)
                                  + std::get<1>(row.param).name;
@@ -329,36 +349,36 @@ INSTANTIATE_TEST_SUITE_P(Hosts, ClickCallbackMay,
 
 class ThrowingClickCallback : public ClickCallback, public testing::WithParamInterface<Source> { };
 
-TEST_P(ThrowingClickCallback, PassesThroughAndLeavesNothingBroken)
+TEST_P(ThrowingClickCallback, PassesTheExceptionOnAndLeavesTheCardUsable)
 {
     const QPointF place = card.centerOf(GetParam().child);
-    host.deed = [] { throw std::runtime_error("the host's"); };
+    host.nextAction = [] { throw std::runtime_error("the host's"); };
     EXPECT_THROW(view.click(place), std::runtime_error);
     EXPECT_EQ(host.arrived, Arrived {GetParam().arrives});
-    expectClicksToGoOn(GetParam(), true);
+    expectClicksToWork(GetParam(), true);
 
     host.arrived.clear();
-    host.deed = [] { throw 5; };
+    host.nextAction = [] { throw 5; };
     EXPECT_THROW(view.click(place), int);
     EXPECT_EQ(host.arrived, Arrived {GetParam().arrives});
-    expectClicksToGoOn(GetParam(), true);
+    expectClicksToWork(GetParam(), true);
 }
 
-TEST_P(ThrowingClickCallback, MayHaveEndedTheCard)
+TEST_P(ThrowingClickCallback, MayEndTheCardFirst)
 {
-    host.deed = [this] {
+    host.nextAction = [this] {
         card.deleteItem();
         card.free();
         throw std::runtime_error("the host's");
     };
     EXPECT_THROW(view.click(card.centerOf(GetParam().child)), std::runtime_error);
-    expectClicksToGoOn(GetParam(), false);
+    expectClicksToWork(GetParam(), false);
 }
 
 INSTANTIATE_TEST_SUITE_P(Hosts, ThrowingClickCallback, testing::ValuesIn(kSources),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(ClickCallback, IsNotCalledOnceTheControllerIsFreed)
+TEST_F(ClickCallback, IsNotCalledAfterTheControllerIsFreed)
 {
     card.free();
     for (const Source& source : kSources) {
@@ -369,7 +389,7 @@ TEST_F(ClickCallback, IsNotCalledOnceTheControllerIsFreed)
     EXPECT_EQ(view.scene().mouseGrabberItem(), nullptr);
 }
 
-TEST_F(ClickCallback, IsNotCalledForACardThatEndedUnderTheMouse)
+TEST_F(ClickCallback, IsNotCalledForACardThatEndsBetweenPressAndRelease)
 {
     for (const bool frees : {false, true}) {
         for (const Source& source : kSources) {
@@ -386,26 +406,26 @@ TEST_F(ClickCallback, IsNotCalledForACardThatEndedUnderTheMouse)
     }
 }
 
-TEST_F(ClickCallback, MayEndWhileTheNextPressLasts)
+TEST_F(ClickCallback, MayReturnDuringTheNextPress)
 {
     for (const Source& source : kSources) {
         SCOPED_TRACE(source.name);
         const QPointF place = card.centerOf(source.child);
         host.arrived.clear();
-        host.deed = [&] { inEventLoop([&] { view.press(place); }); };
+        host.nextAction = [&] { inEventLoop([&] { view.press(place); }); };
         view.click(place);
         view.release(place);
         EXPECT_EQ(host.arrived.front(), source.arrives);
         EXPECT_LE(host.arrived.size(), 2u);
-        expectClicksToGoOn(source, true);
+        expectClicksToWork(source, true);
     }
 }
 
-// ----- While a card is read and built
+// ----- In the callbacks of reading and building a card
 
-// A card that asks its host for everything while it is built, in this order:
-// a download, the wording for what is for apps, the font family, an emoji.
-std::string askingCard()
+// A card whose build calls every callback of the host: downloads, wordings of items for
+// apps only, font families, an emoji.
+std::string cardOfAllCallbacks()
 {
     return bubbleWithBody(
         box("vertical",
@@ -417,26 +437,26 @@ std::string askingCard()
                 + text("last", uriAction("last"))));
 }
 
-// A host that is asked many things, and acts on one of the questions.
-class AskedHost : public KestroControlSupport {
+// A host that performs an action in one of the calls of its callbacks.
+class ActingHost : public KestroControlSupport {
 public:
-    enum Question { Download, Wording, FontFamily, Emoji, LogLine };
+    enum Callback { Download, Wording, FontFamily, Emoji, LogLine };
 
-    AskedHost()
+    ActingHost()
     {
         Plix_SetKestroControlSupport(this);
         Plix_SetMultiLangGetCallback([](const char*) {
-            current->asked(Wording);
+            current->called(Wording);
             return std::string("On your phone");
         });
         Plix_SetWiteLogCallback([](const char* line) {
             current->lines.emplace_back(line);
-            current->asked(LogLine);
+            current->called(LogLine);
         });
         current = this;
     }
 
-    ~AskedHost() override
+    ~ActingHost() override
     {
         Plix_SetWiteLogCallback(&collectLogLine);
         Plix_SetMultiLangGetCallback(nullptr);
@@ -450,7 +470,7 @@ public:
             controller,
             [](PlixDataController*, const std::string&, void*) {
                 ++current->downloads;
-                current->asked(Download);
+                current->called(Download);
                 return std::string();
             },
             nullptr);
@@ -458,144 +478,151 @@ public:
 
     QString GetFontFamily() const override
     {
-        current->asked(FontFamily);
+        current->called(FontFamily);
         return QStringLiteral("DejaVu Sans");
     }
 
     QImage GetEmojiImage(const QString&) const override
     {
-        current->asked(Emoji);
+        current->called(Emoji);
         QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::yellow);
         return image;
     }
 
-    void actOn(Question question, int number, std::function<void()> deed)
+    void actOn(Callback callback, int number, std::function<void()> action)
     {
-        question_ = question;
+        callback_ = callback;
         number_ = number;
-        deed_ = std::move(deed);
+        action_ = std::move(action);
     }
 
-    bool hasActed() const { return !deed_; }
+    bool hasActed() const { return !action_; }
 
     std::vector<std::string> lines;
     int downloads = 0;
 
 private:
-    void asked(Question question)
+    void called(Callback callback)
     {
-        if (question != question_ || number_-- > 0)
+        if (callback != callback_ || number_-- > 0)
             return;
-        if (const std::function<void()> deed = std::exchange(deed_, {}))
-            deed();
+        if (const std::function<void()> action = std::exchange(action_, {}))
+            action();
     }
 
-    static AskedHost* current;
+    static ActingHost* current;
 
-    Question question_ = Download;
-    int number_ = 0; // how many questions are let pass
-    std::function<void()> deed_;
+    Callback callback_ = Download;
+    int number_ = 0; // how many calls come before the one that acts
+    std::function<void()> action_;
 };
 
-AskedHost* AskedHost::current = nullptr;
+ActingHost* ActingHost::current = nullptr;
 
-struct Asked {
+struct CallRow {
     const char* name;
-    AskedHost::Question question;
+    ActingHost::Callback callback;
     int number;
 
-    friend std::ostream& operator<<(std::ostream& out, const Asked& row) { return out << row.name; }
-};
-
-constexpr Asked kAsked[] = {
-    {"Download", AskedHost::Download, 0},          {"SecondDownload", AskedHost::Download, 1},
-    {"WordingOfAText", AskedHost::Wording, 0},     {"WordingOfAButton", AskedHost::Wording, 1},
-    {"FirstFontFamily", AskedHost::FontFamily, 0}, {"FontFamily", AskedHost::FontFamily, 2},
-    {"LastFontFamily", AskedHost::FontFamily, 6},  {"Emoji", AskedHost::Emoji, 0}};
-
-struct BuildDeed {
-    const char* name;
-    void (*perform)(Desk& desk);
-    Arrived arrives; // from clicks on the other card
-    bool endsController = false;
-
-    friend std::ostream& operator<<(std::ostream& out, const BuildDeed& row)
+    friend std::ostream& operator<<(std::ostream& out, const CallRow& row)
     {
         return out << row.name;
     }
 };
 
-const std::vector<BuildDeed>& buildDeeds()
+constexpr CallRow kCalls[] = {
+    {"Download", ActingHost::Download, 0},          {"SecondDownload", ActingHost::Download, 1},
+    {"WordingOfAText", ActingHost::Wording, 0},     {"WordingOfAButton", ActingHost::Wording, 1},
+    {"FirstFontFamily", ActingHost::FontFamily, 0}, {"FontFamily", ActingHost::FontFamily, 2},
+    {"LastFontFamily", ActingHost::FontFamily, 6},  {"Emoji", ActingHost::Emoji, 0}};
+
+struct BuildAction {
+    const char* name;
+    void (*perform)(HostObjects& objects);
+    Arrived arrives; // from clicks on the other card
+    bool endsController = false;
+
+    friend std::ostream& operator<<(std::ostream& out, const BuildAction& row)
+    {
+        return out << row.name;
+    }
+};
+
+const std::vector<BuildAction>& buildActions()
 {
-    static const std::vector<BuildDeed> rows = {
-        {"FreesTheController", [](Desk& desk) { desk.card.free(); }, {}, true},
-        {"DeletesTheEarlierItem", [](Desk& desk) { desk.card.deleteItem(); }, {}},
+    static const std::vector<BuildAction> rows = {
+        {"FreesTheController", [](HostObjects& objects) { objects.card.free(); }, {}, true},
+        {"DeletesTheEarlierItem", [](HostObjects& objects) { objects.card.deleteItem(); }, {}},
         {"DeletesTheEarlierItemAndFrees",
-         [](Desk& desk) {
-             desk.card.deleteItem();
-             desk.card.free();
+         [](HostObjects& objects) {
+             objects.card.deleteItem();
+             objects.card.free();
          },
          {},
          true},
         {"FreesAndDeletesTheEarlierItem",
-         [](Desk& desk) {
-             desk.card.free();
-             desk.card.deleteItem();
+         [](HostObjects& objects) {
+             objects.card.free();
+             objects.card.deleteItem();
          },
          {},
          true},
         {"EndsAnotherCard",
-         [](Desk& desk) {
-             desk.other.deleteItem();
-             desk.other.free();
+         [](HostObjects& objects) {
+             objects.other.deleteItem();
+             objects.other.free();
          },
          {}},
-        {"ClearsTheScene", [](Desk& desk) { desk.view.scene().clear(); }, {}},
+        {"ClearsTheScene", [](HostObjects& objects) { objects.view.scene().clear(); }, {}},
         {"BuildsAndClicksAnotherCard",
-         [](Desk& desk) {
-             HeldCard third(desk.host, cardOfAll());
+         [](HostObjects& objects) {
+             HeldCard third(objects.host, cardOfAll());
              third.build();
              click(*third.root(), third.centerOf(0));
          },
          {"box"}},
         {"ClicksAnotherCardInAnEventLoop",
-         [](Desk& desk) { inEventLoop([&] { desk.view.click(desk.other.centerOf(3)); }); },
+         [](HostObjects& objects) {
+             inEventLoop([&] { objects.view.click(objects.other.centerOf(3)); });
+         },
          {"button"}},
         {"ReadsTheCardAgain",
-         [](Desk& desk) { EXPECT_EQ(Plix_InitData(desk.card.controller(), askingCard()), 0); },
+         [](HostObjects& objects) {
+             EXPECT_EQ(Plix_InitData(objects.card.controller(), cardOfAllCallbacks()), 0);
+         },
          {}},
         {"BuildsTheCardAgain",
-         [](Desk& desk) {
+         [](HostObjects& objects) {
              const std::unique_ptr<QGraphicsItem> root(
-                 Plix_CreateQGraphicsItem(desk.card.controller()));
+                 Plix_CreateQGraphicsItem(objects.card.controller()));
              EXPECT_NE(root, nullptr);
          },
          {}},
         {"BuildsTheCardAgainAndFrees",
-         [](Desk& desk) {
-             delete Plix_CreateQGraphicsItem(desk.card.controller());
-             desk.card.free();
+         [](HostObjects& objects) {
+             delete Plix_CreateQGraphicsItem(objects.card.controller());
+             objects.card.free();
          },
          {},
          true},
         {"LaysTheCardOutAgain",
-         [](Desk& desk) {
-             Plix_RefreshLayout(desk.card.controller());
-             Plix_ModifyHeight(desk.card.controller(), 100);
-             Plix_SetHighLightText(desk.card.controller(), {"first"});
-             Plix_SetBubbleBkColor(desk.card.controller(), "red");
+         [](HostObjects& objects) {
+             Plix_RefreshLayout(objects.card.controller());
+             Plix_ModifyHeight(objects.card.controller(), 100);
+             Plix_SetHighLightText(objects.card.controller(), {"first"});
+             Plix_SetBubbleBkColor(objects.card.controller(), "red");
          },
          {}},
         {"TakesItsCallbacksBack",
-         [](Desk& desk) {
-             Plix_SetDownloadCallBack(desk.card.controller(), nullptr, nullptr);
+         [](HostObjects& objects) {
+             Plix_SetDownloadCallBack(objects.card.controller(), nullptr, nullptr);
              Plix_SetMultiLangGetCallback(nullptr);
              Plix_SetKestroControlSupport(nullptr);
          },
          {}},
         {"SwitchesTheFont",
-         [](Desk&) { KestroControlManager::GetInstance()->FontFamilyChanged(); },
+         [](HostObjects&) { KestroControlManager::GetInstance()->FontFamilyChanged(); },
          {}},
     };
     return rows;
@@ -604,15 +631,15 @@ const std::vector<BuildDeed>& buildDeeds()
 class BuildCallback : public PlixTest {
 protected:
     BuildCallback()
-        : card(clicks, askingCard())
+        : card(clicks, cardOfAllCallbacks())
         , other(clicks, cardOfAll())
         , view(*other.build())
     {
         host.listenTo(card.controller());
     }
 
-    // Shows what was built beside the other card and clicks both.
-    void expectClicksToGoOn()
+    // Adds the built card to the view of the other card and clicks both.
+    void expectClicksToWork()
     {
         EXPECT_EQ(view.scene().mouseGrabberItem(), nullptr);
         clicks.arrived.clear();
@@ -630,57 +657,57 @@ protected:
     }
 
     ClickHost clicks;
-    AskedHost host;
+    ActingHost host;
     HeldCard card;
     HeldCard other;
     CardView view;
 };
 
 class BuildCallbackMay : public BuildCallback,
-                         public testing::WithParamInterface<std::tuple<Asked, BuildDeed>> { };
+                         public testing::WithParamInterface<std::tuple<CallRow, BuildAction>> { };
 
 TEST_P(BuildCallbackMay, DoAnything)
 {
-    const auto& [asked, deed] = GetParam();
-    Desk desk {clicks, card, other, view, {}};
-    // With an item of an earlier build, which the host may end meanwhile.
+    const auto& [call, action] = GetParam();
+    HostObjects objects {clicks, card, other, view, {}};
+    // There is an item of an earlier build, which the callback may delete.
     card.build();
-    host.actOn(asked.question, asked.number, [&, perform = deed.perform] { perform(desk); });
+    host.actOn(call.callback, call.number, [&, perform = action.perform] { perform(objects); });
 
     EXPECT_NE(card.build(), nullptr);
 
     ASSERT_TRUE(host.hasActed());
-    EXPECT_EQ(clicks.arrived, deed.arrives);
-    EXPECT_EQ(card.controller() == nullptr, deed.endsController);
+    EXPECT_EQ(clicks.arrived, action.arrives);
+    EXPECT_EQ(card.controller() == nullptr, action.endsController);
     EXPECT_EQ(host.lines, std::vector<std::string> {});
-    expectClicksToGoOn();
+    expectClicksToWork();
 }
 
 INSTANTIATE_TEST_SUITE_P(Hosts, BuildCallbackMay,
-                         testing::Combine(testing::ValuesIn(kAsked),
-                                          testing::ValuesIn(buildDeeds())),
+                         testing::Combine(testing::ValuesIn(kCalls),
+                                          testing::ValuesIn(buildActions())),
                          [](const auto& row) {
                              return std::string(std::get<0>(row.param).name)
                                  + std::get<1>(row.param).name;
                          });
 
-TEST_F(BuildCallback, IsNotCalledOnceTheControllerIsFreed)
+TEST_F(BuildCallback, IsNotCalledAfterTheControllerIsFreed)
 {
     EXPECT_NE(card.build(), nullptr);
     EXPECT_EQ(host.downloads, 2);
-    host.actOn(AskedHost::Download, 0, [this] { card.free(); });
+    host.actOn(ActingHost::Download, 0, [this] { card.free(); });
     EXPECT_NE(card.build(), nullptr);
-    EXPECT_EQ(host.downloads, 3) << "the second picture is not asked for";
+    EXPECT_EQ(host.downloads, 3) << "the second image is not downloaded";
 }
 
-class ThrowingBuildCallback : public BuildCallback, public testing::WithParamInterface<Asked> {
+class ThrowingBuildCallback : public BuildCallback, public testing::WithParamInterface<CallRow> {
 protected:
-    // What is thrown costs the item that is without an answer, unless it can do
-    // without: a picture shows its background, a wording is empty.
-    int itemsLost() const
+    // The item whose callback throws is lost, unless it works without the result: an image
+    // shows its background, a wording is empty.
+    int lostItems() const
     {
-        const AskedHost::Question question = GetParam().question;
-        return question == AskedHost::FontFamily || question == AskedHost::Emoji ? 1 : 0;
+        const ActingHost::Callback callback = GetParam().callback;
+        return callback == ActingHost::FontFamily || callback == ActingHost::Emoji ? 1 : 0;
     }
 
     int items() const
@@ -690,65 +717,65 @@ protected:
         return count;
     }
 
-    // The builds of a host that throws once, and of the same host afterwards.
-    void expectOnePieceLost(std::function<void()> thrown, const std::string& line)
+    // Builds with a host that throws once, and then with the same host again.
+    void expectOneItemLost(std::function<void()> thrown, const std::string& line)
     {
         ASSERT_NE(card.build(), nullptr);
         const int whole = items();
-        host.actOn(GetParam().question, GetParam().number, std::move(thrown));
+        host.actOn(GetParam().callback, GetParam().number, std::move(thrown));
         ASSERT_NE(card.build(), nullptr);
         EXPECT_TRUE(host.hasActed());
-        EXPECT_EQ(items(), whole - itemsLost());
+        EXPECT_EQ(items(), whole - lostItems());
         EXPECT_EQ(std::exchange(host.lines, {}), std::vector<std::string> {line});
-        expectClicksToGoOn();
+        expectClicksToWork();
 
         ASSERT_NE(card.build(), nullptr);
         EXPECT_EQ(items(), whole);
         EXPECT_EQ(host.lines, std::vector<std::string> {});
-        expectClicksToGoOn();
+        expectClicksToWork();
     }
 };
 
-TEST_P(ThrowingBuildCallback, CostsNoMoreThanItsPiece)
+TEST_P(ThrowingBuildCallback, LosesNoMoreThanItsItem)
 {
-    expectOnePieceLost([] { throw std::runtime_error("the host's"); },
-                       "call PlixDataMgr::CreateUI failed. the host's");
+    expectOneItemLost([] { throw std::runtime_error("the host's"); },
+                      "call PlixDataMgr::CreateUI failed. the host's");
 }
 
-TEST_P(ThrowingBuildCallback, CostsNoMoreThanItsPieceWhateverIsThrown)
+TEST_P(ThrowingBuildCallback, LosesNoMoreThanItsItemWhateverTypeIsThrown)
 {
     struct Anything { };
-    expectOnePieceLost([] { throw 5; }, "call PlixDataMgr::CreateUI failed. ");
-    expectOnePieceLost([] { throw Anything(); }, "call PlixDataMgr::CreateUI failed. ");
+    expectOneItemLost([] { throw 5; }, "call PlixDataMgr::CreateUI failed. ");
+    expectOneItemLost([] { throw Anything(); }, "call PlixDataMgr::CreateUI failed. ");
 }
 
-TEST_P(ThrowingBuildCallback, MayHaveFreedTheController)
+TEST_P(ThrowingBuildCallback, MayFreeTheControllerFirst)
 {
-    host.actOn(GetParam().question, GetParam().number, [this] {
+    host.actOn(GetParam().callback, GetParam().number, [this] {
         card.free();
         throw std::runtime_error("the host's");
     });
     EXPECT_NE(card.build(), nullptr);
-    expectClicksToGoOn();
+    expectClicksToWork();
 }
 
-INSTANTIATE_TEST_SUITE_P(Hosts, ThrowingBuildCallback, testing::ValuesIn(kAsked),
+INSTANTIATE_TEST_SUITE_P(Hosts, ThrowingBuildCallback, testing::ValuesIn(kCalls),
                          [](const auto& row) { return std::string(row.param.name); });
 
-// So nothing of the host's can throw into Qt's painting.
+// So no callback can throw while Qt paints.
 TEST_F(BuildCallback, IsNotCalledWhileACardIsPainted)
 {
     ASSERT_NE(card.build(), nullptr);
-    for (const Asked& asked : kAsked) {
-        host.actOn(asked.question, 0, [] {});
+    for (const CallRow& call : kCalls) {
+        host.actOn(call.callback, 0, [] {});
         const Picture picture(*card.root());
-        EXPECT_FALSE(host.hasActed()) << asked.name;
+        EXPECT_FALSE(host.hasActed()) << call.name;
     }
 }
 
-// The log, while a card of many mistakes is read.
+// The callback of the log, while a card with many errors is read.
 class LogCallbackMay : public BuildCallback,
-                       public testing::WithParamInterface<std::tuple<int, BuildDeed>> {
+                       public testing::WithParamInterface<std::tuple<int, BuildAction>> {
 protected:
     static std::string brokenCard()
     {
@@ -762,36 +789,36 @@ protected:
 
 TEST_P(LogCallbackMay, DoAnythingWhileACardIsRead)
 {
-    const auto& [number, deed] = GetParam();
-    Desk desk {clicks, card, other, view, {}};
+    const auto& [number, action] = GetParam();
+    HostObjects objects {clicks, card, other, view, {}};
     card.build();
-    host.actOn(AskedHost::LogLine, number, [&, perform = deed.perform] { perform(desk); });
+    host.actOn(ActingHost::LogLine, number, [&, perform = action.perform] { perform(objects); });
 
     Plix_InitData(card.controller(), brokenCard());
 
     ASSERT_TRUE(host.hasActed());
-    EXPECT_EQ(clicks.arrived, deed.arrives);
-    EXPECT_EQ(card.controller() == nullptr, deed.endsController);
-    expectClicksToGoOn();
+    EXPECT_EQ(clicks.arrived, action.arrives);
+    EXPECT_EQ(card.controller() == nullptr, action.endsController);
+    expectClicksToWork();
     if (card.controller()) {
         EXPECT_NE(card.build(), nullptr);
     }
-    expectClicksToGoOn();
+    expectClicksToWork();
 }
 
 INSTANTIATE_TEST_SUITE_P(Hosts, LogCallbackMay,
-                         testing::Combine(testing::Range(0, 4), testing::ValuesIn(buildDeeds())),
+                         testing::Combine(testing::Range(0, 4), testing::ValuesIn(buildActions())),
                          [](const auto& row) {
                              return "Line" + std::to_string(std::get<0>(row.param))
                                  + std::get<1>(row.param).name;
                          });
 
-TEST_F(BuildCallback, OfTheLogMayDoAnythingWhileACardIsBuilt)
+TEST_F(BuildCallback, OfTheLogMayDoAnything)
 {
-    for (const BuildDeed& deed : buildDeeds()) {
-        SCOPED_TRACE(deed.name);
+    for (const BuildAction& action : buildActions()) {
+        SCOPED_TRACE(action.name);
         ClickHost others;
-        HeldCard mine(others, askingCard());
+        HeldCard mine(others, cardOfAllCallbacks());
         HeldCard shown(others, cardOfAll());
         CardView shownIn(*shown.build());
         Plix_SetDownloadCallBack(
@@ -800,18 +827,18 @@ TEST_F(BuildCallback, OfTheLogMayDoAnythingWhileACardIsBuilt)
                 throw std::runtime_error("no network");
             },
             nullptr);
-        Desk desk {others, mine, shown, shownIn, {}};
-        host.actOn(AskedHost::LogLine, 0, [&] { deed.perform(desk); });
+        HostObjects objects {others, mine, shown, shownIn, {}};
+        host.actOn(ActingHost::LogLine, 0, [&] { action.perform(objects); });
         EXPECT_NE(mine.build(), nullptr);
         EXPECT_TRUE(host.hasActed());
-        EXPECT_EQ(others.arrived, deed.arrives);
+        EXPECT_EQ(others.arrived, action.arrives);
         host.listenTo(card.controller());
         Plix_SetKestroControlSupport(&host);
     }
 }
 
-// The zone's own list grows while its item is being built.
-TEST_F(BuildCallback, OfAZonesOwnPictureMayReadTheCardAgain)
+// This adds to the zone's list while its item is built.
+TEST_F(BuildCallback, OfTheImageOfAZoneMayReadTheCardAgain)
 {
     static const std::string json =
         R"({"type": "bubble", "hero": {"type": "image", "url": "picture", "size": "xl"}})";
@@ -833,14 +860,14 @@ TEST_F(BuildCallback, OfAZonesOwnPictureMayReadTheCardAgain)
 
 TEST_F(BuildCallback, OfTheLogMayThrow)
 {
-    host.actOn(AskedHost::LogLine, 0, [] { throw std::runtime_error("the log's"); });
+    host.actOn(ActingHost::LogLine, 0, [] { throw std::runtime_error("the log's"); });
     EXPECT_EQ(Plix_InitData(card.controller(), R"({"type": "bubble", "size": 5})"), -1);
     EXPECT_TRUE(host.hasActed());
-    host.actOn(AskedHost::LogLine, 0, [] { throw 5; });
+    host.actOn(ActingHost::LogLine, 0, [] { throw 5; });
     EXPECT_EQ(Plix_InitData(card.controller(), R"({"type": "bubble", "size": 5})"), -1);
     EXPECT_TRUE(host.hasActed());
     EXPECT_NE(card.build(), nullptr);
-    expectClicksToGoOn();
+    expectClicksToWork();
 }
 
 } // namespace

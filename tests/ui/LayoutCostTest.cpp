@@ -1,4 +1,4 @@
-// What the costliest cards cost, counted in calls.
+// The cost of laying out the costliest cards, counted in calls.
 #include "CostlyCards.h"
 #include "LayoutCosts.h"
 #include "model/PlixJsonDataParse.h"
@@ -11,8 +11,8 @@ namespace {
 
 constexpr int kDepth = PlixJsonDataParse::kMaxNestedBoxes;
 constexpr double kMaxPerItem = 2.0 * kDepth;
-// Some texts have the box around them laid out again, and so all that is below
-// it. On the average that is half of the card.
+// Some texts make the box around them lay itself and all below it out again. On the
+// average that is half of the card.
 constexpr double kMaxPerItemInABuild = kDepth * kMaxPerItem / 2;
 
 void expectAffordable(const CostlyCard& card, const std::string& json)
@@ -28,22 +28,22 @@ void expectAffordable(const CostlyCard& card, const std::string& json)
     EXPECT_LE(costs.highest().measureCalls, kMaxPerItem);
 }
 
-using LayoutCostTest = PlixTest;
+using CardLayoutCost = PlixTest;
 
-TEST_F(LayoutCostTest, IsAFewCallsForEachItemOfTheDeepestCards)
+TEST_F(CardLayoutCost, IsAFewCallsPerItemInTheDeepestCards)
 {
     for (const CostlyCard& card : costlyCards())
         expectAffordable(card, card.json(kDepth));
 }
 
-TEST_F(LayoutCostTest, IsAFewCallsForEachItemOfTheLargestCards)
+TEST_F(CardLayoutCost, IsAFewCallsPerItemInTheLargestCards)
 {
     const std::vector<CostlyCard> cards = costlyCards();
     for (std::size_t i = 0; i < cards.size(); i += 31)
         expectAffordable(cards[i], cards[i].largestJson(kDepth));
 }
 
-TEST_F(LayoutCostTest, IsBelowItsLimitInCardsThatPeopleWrite)
+TEST_F(CardLayoutCost, IsBelowTheLimitInCardsThatPeopleWrite)
 {
     // At the limit, sizes are no longer exact.
     for (const CostlyCard& card : costlyCards()) {
@@ -56,7 +56,7 @@ TEST_F(LayoutCostTest, IsBelowItsLimitInCardsThatPeopleWrite)
 
 class RandomLayoutCost : public PlixTest, public testing::WithParamInterface<unsigned> { };
 
-TEST_P(RandomLayoutCost, IsAFewCallsForEachItem)
+TEST_P(RandomLayoutCost, IsAFewCallsPerItem)
 {
     for (unsigned i = 0; i < 20; ++i) {
         const CostlyCard card = randomCostlyCard(GetParam() * 20 + i);

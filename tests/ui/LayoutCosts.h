@@ -4,16 +4,16 @@
 
 namespace plix::test {
 
-// What one layout or several cost, for each node that took part.
+// The cost of one or more layouts, per node of the layout.
 struct LayoutCost {
-    double visits = 0; // the node was asked for its size or laid out, also from memory
-    double measureCalls = 0; // its item was asked for its size
+    double visits = 0; // Yoga measured or laid out the node, or used a remembered size
+    double measureCalls = 0; // Yoga called measure() of its item
 
-    // Keeps the higher one of each.
+    // Sets each value to the higher one of both.
     void raiseTo(const LayoutCost& other);
 };
 
-// Counts what Yoga does for as long as this lives. One at a time.
+// Counts the work of Yoga for as long as it lives. There must be only one at a time.
 class LayoutCosts {
 public:
     LayoutCosts();
@@ -23,9 +23,9 @@ public:
     LayoutCosts& operator=(const LayoutCosts&) = delete;
 
     int layouts() const { return layouts_; }
-    // The highest of any single layout.
+    // The highest costs of a single layout.
     const LayoutCost& highest() const { return highest_; }
-    // Visits of all layouts, for each node of the largest one.
+    // The visits of all layouts, per node of the largest one.
     double allVisits() const;
 
 private:

@@ -67,7 +67,7 @@ std::string PaintedCardWriter::writeText()
                     + pick({"", R"("wrap": true,)"}) + pick({"", R"("flex": 0,)"}));
 }
 
-std::string PaintedCardWriter::writePicture(const std::string& type)
+std::string PaintedCardWriter::writeImage(const std::string& type)
 {
     return component(type,
                      anyOf("url",
@@ -94,7 +94,7 @@ std::string PaintedCardWriter::writeItem(int levels)
                          anyOf("style", {"link", "primary", "secondary", "automatic"})
                              + anyOf("height", {"sm", "md"}) + anyOf("size", {"", "xs", "5xl"})
                              + R"("action": {"label": ")" + words() + R"("},)");
-    return writePicture(type);
+    return writeImage(type);
 }
 
 std::string PaintedCardWriter::writeBox(int levels)

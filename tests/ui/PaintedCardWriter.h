@@ -6,9 +6,9 @@
 
 namespace plix::test {
 
-// Writes cards that show everything that can be painted: grounds, borders,
-// corners, lines, texts, buttons and the pictures of examples/images, one upon
-// the other. The same card for the same seed.
+// Writes random cards that show everything that can be painted: backgrounds, borders,
+// corners, separators, texts, buttons and the images of examples/images, on top of each
+// other. The same card for the same seed.
 class PaintedCardWriter {
 public:
     explicit PaintedCardWriter(unsigned seed);
@@ -23,7 +23,7 @@ private:
     std::string words();
     std::string writeItem(int levels);
     std::string writeText();
-    std::string writePicture(const std::string& type);
+    std::string writeImage(const std::string& type);
     std::string writeBox(int levels);
 
     std::mt19937 random_;
