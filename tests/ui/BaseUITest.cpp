@@ -1,4 +1,4 @@
-// What all items share: their action, and their place in their box.
+// What all items have in common: their action, and their position in their box.
 #include "ui/PlixBaseUI.h"
 
 #include "api/PlixDataMgr.h"
@@ -27,7 +27,7 @@ void withoutMobileCheck(PlixDataController* controller)
 
 void ignoreClick(ST_ACTION&) { }
 
-// The base with nothing of its own.
+// An item that adds nothing to the base.
 class BareItem : public PlixWidgetUI {
 public:
     BareItem()
@@ -47,16 +47,16 @@ std::shared_ptr<PlixDataText> dataWithAction()
     return data;
 }
 
-class ActionOfItem : public PlixTest {
+class ItemAction : public PlixTest {
 protected:
-    ActionOfItem() { item_.setData(kDataItemRole, qlonglong(registry().Add(dataWithAction()))); }
+    ItemAction() { item_.setData(kDataItemRole, qlonglong(registry().Add(dataWithAction()))); }
 
     static PlixItemRegistry& registry() { return PlixItemRegistry::GetInstance(); }
 
     BareItem item_;
 };
 
-TEST_F(ActionOfItem, IsThereWithAClickableItemAClickFunctionAndAnAction)
+TEST_F(ItemAction, ExistsForAClickableItemWithAClickFunctionAndAnAction)
 {
     item_.makeClickable();
     item_.keepClickFunc();
@@ -64,26 +64,26 @@ TEST_F(ActionOfItem, IsThereWithAClickableItemAClickFunctionAndAnAction)
     EXPECT_TRUE(Plix_HasAction(&item_));
 }
 
-TEST_F(ActionOfItem, IsNotThereForAnItemOfTheDefaults)
+TEST_F(ItemAction, DoesNotExistByDefault)
 {
     item_.SetClickFunc(&ignoreClick);
     EXPECT_FALSE(item_.HasAction());
 }
 
-TEST_F(ActionOfItem, IsNotThereForAnItemThatIsNotClickable)
+TEST_F(ItemAction, DoesNotExistForAnItemThatIsNotClickable)
 {
     item_.keepClickFunc();
     EXPECT_FALSE(item_.HasAction());
 }
 
-TEST_F(ActionOfItem, IsNotThereWithoutAClickFunction)
+TEST_F(ItemAction, DoesNotExistWithoutAClickFunction)
 {
     item_.makeClickable();
-    item_.SetClickFunc(&ignoreClick); // the base keeps none
+    item_.SetClickFunc(&ignoreClick); // the base does not keep it
     EXPECT_FALSE(item_.HasAction());
 }
 
-TEST_F(ActionOfItem, IsNotThereWhenItIsSuppressed)
+TEST_F(ItemAction, DoesNotExistWhenItIsSuppressed)
 {
     item_.makeClickable();
     item_.keepClickFunc();
@@ -91,7 +91,7 @@ TEST_F(ActionOfItem, IsNotThereWhenItIsSuppressed)
     EXPECT_FALSE(item_.HasAction());
 }
 
-TEST_F(ActionOfItem, IsNotThereForAKeyThatIsNotRegistered)
+TEST_F(ItemAction, DoesNotExistForAKeyThatIsNotRegistered)
 {
     item_.makeClickable();
     item_.keepClickFunc();
@@ -101,7 +101,7 @@ TEST_F(ActionOfItem, IsNotThereForAKeyThatIsNotRegistered)
     EXPECT_FALSE(item_.HasAction());
 }
 
-TEST_F(ActionOfItem, IsNotThereForDataWithoutOne)
+TEST_F(ItemAction, DoesNotExistForDataWithoutAnAction)
 {
     item_.makeClickable();
     item_.keepClickFunc();
@@ -109,7 +109,7 @@ TEST_F(ActionOfItem, IsNotThereForDataWithoutOne)
     EXPECT_FALSE(item_.HasAction());
 }
 
-TEST_F(ActionOfItem, IsNotThereForItemsThatAreNoGraphicsItems)
+TEST_F(ItemAction, DoesNotExistForItemsThatAreNoGraphicsItems)
 {
     class NoItem : public PlixBaseUI {
     public:
@@ -126,7 +126,7 @@ TEST_F(ActionOfItem, IsNotThereForItemsThatAreNoGraphicsItems)
     EXPECT_FALSE(item.HasAction());
 }
 
-TEST_F(ActionOfItem, IsNotThereForItemsOfTheHost)
+TEST_F(ItemAction, DoesNotExistForItemsOfTheHost)
 {
     QGraphicsWidget widget;
     EXPECT_FALSE(Plix_HasAction(&widget));
@@ -135,7 +135,7 @@ TEST_F(ActionOfItem, IsNotThereForItemsOfTheHost)
 
 struct ActionRow {
     const char* name;
-    std::string content; // the first thing in the body's box
+    std::string content; // the first component in the box of the body
     bool mobileOnlyCheck;
     bool hasAction;
 
@@ -147,7 +147,7 @@ struct ActionRow {
 
 class ActionInCard : public PlixTest, public testing::WithParamInterface<ActionRow> { };
 
-TEST_P(ActionInCard, IsAnsweredToTheHost)
+TEST_P(ActionInCard, IsReportedByHasAction)
 {
     const std::string json = bubbleWithBody(box("vertical", GetParam().content));
     const TestCard card =
@@ -231,15 +231,15 @@ TEST_F(Placement, GivesTheFirstItemNoMargin)
     }
 }
 
-TEST_F(Placement, CountsSiblingsAsTheMessageDoes)
+TEST_F(Placement, CountsComponentsThatAreNotDrawnAsSiblings)
 {
-    // The unknown component is not shown, but the text is still the second.
+    // The unknown component is not drawn, but the text is still the second child.
     const TestCard card(bubbleWithBody(
         box("vertical", component("unknown") + "," + text("b", R"("margin": "xl",)"))));
     EXPECT_EQ(card.ui<PlixTextUI>({0, 0})->marginTop(), 16);
 }
 
-TEST_F(Placement, TakesOnlyTheWordAbsoluteOutOfTheFlow)
+TEST_F(Placement, IsAbsoluteOnlyForTheExactWord)
 {
     const TestCard card(bubbleWithBody(
         box("vertical",
@@ -265,7 +265,7 @@ struct OffsetRow {
 
 class Offset : public PlixTest, public testing::WithParamInterface<OffsetRow> {
 protected:
-    // The position that `value` gives the edge, of a text and of a box.
+    // The position style of `edge` when the offset is `value`, for a text and for a box.
     static std::vector<YGValue> positions(const std::string& value, YGEdge edge)
     {
         const std::string offset = std::string("\"") + GetParam().key + "\": \"" + value + "\",";
@@ -326,7 +326,7 @@ TEST_F(Placement, ResolvesPercentagesAgainstTheParent)
     EXPECT_EQ(card.ui<PlixBoxUI>({0, 0, 0})->YogaLayoutItem::geometry(), QRectF(50, 50, 10, 10));
 }
 
-TEST_F(Placement, MovesAnItemOfTheFlowByItsOffsets)
+TEST_F(Placement, MovesARelativeItemByItsOffsets)
 {
     const TestCard card(bubbleWithBody(
         box("vertical",

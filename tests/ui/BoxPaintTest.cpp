@@ -1,4 +1,4 @@
-// Boxes and lines on rendered pixels.
+// The pixels of boxes and separators.
 #include "support/Picture.h"
 #include "support/PlixTest.h"
 #include "ui/PlixBoxUI.h"
@@ -13,7 +13,7 @@
 namespace plix::test {
 namespace {
 
-const QColor kGround(0xF1, 0xF3, 0xF7);
+const QColor kBackground(0xF1, 0xF3, 0xF7);
 const QColor kRed(Qt::red);
 const QColor kBlue(Qt::blue);
 
@@ -43,11 +43,11 @@ private:
 
 using BoxPaint = PlixTest;
 
-TEST_F(BoxPaint, ShowsNothingWithoutGroundAndBorder)
+TEST_F(BoxPaint, ShowsNothingWithoutABackgroundAndABorder)
 {
     const PaintedBox box("");
     for (const double x : {0.0, 50.0, 99.0})
-        EXPECT_EQ(box.at(x, 30), kGround);
+        EXPECT_EQ(box.at(x, 30), kBackground);
 }
 
 TEST_F(BoxPaint, FillsTheBox)
@@ -58,10 +58,10 @@ TEST_F(BoxPaint, FillsTheBox)
         EXPECT_EQ(box.at(inside.x(), inside.y()), kRed);
     for (const QPointF outside :
          {QPointF(-1, 30), QPointF(100, 30), QPointF(50, -1), QPointF(50, 60)})
-        EXPECT_EQ(box.at(outside.x(), outside.y()), kGround);
+        EXPECT_EQ(box.at(outside.x(), outside.y()), kBackground);
 }
 
-TEST_F(BoxPaint, ReadsTheAlphaOfAGroundLast)
+TEST_F(BoxPaint, ReadsTheAlphaOfABackgroundLast)
 {
     const PaintedBox box(R"("backgroundColor": "#FF000080",)");
     const QColor mixed = box.at(50, 30);
@@ -89,7 +89,7 @@ int mixedWithWhite(int part, int alpha)
     return (part * alpha + 255 * (255 - alpha)) / 255;
 }
 
-// Boxes and texts give the alpha last, all others first.
+// In the colours of boxes and texts alpha is last, in all others first.
 TEST_P(MixedColor, LetsWhiteShowThrough)
 {
     const TestCard card(R"({"type": "bubble", "hero": )"
@@ -107,11 +107,11 @@ const std::string kBlock = R"("width": "100px", "height": "60px",)";
 INSTANTIATE_TEST_SUITE_P(
     Items, MixedColor,
     testing::Values(
-        MixRow {"Ground",
+        MixRow {"Background",
                 box("vertical", "", kBlock + R"("backgroundColor": "#11223344",)"),
                 {50, 30},
                 QColor(0x11, 0x22, 0x33, 0x44)},
-        MixRow {"RoundGround",
+        MixRow {"RoundBackground",
                 box("vertical", "",
                     kBlock + R"("backgroundColor": "#11223344", "cornerRadius": "9px",)"),
                 {50, 30},
@@ -132,8 +132,9 @@ INSTANTIATE_TEST_SUITE_P(
                 component("separator", R"("color": "#80C02222",)"),
                 {50, 0},
                 QColor(0xC0, 0x22, 0x22, 0x80)},
-        MixRow {"UsualSeparator", component("separator"), {50, 0}, QColor(0x22, 0x22, 0x22, 0x1A)},
-        MixRow {"SaidToBeUsual",
+        MixRow {
+            "DefaultSeparator", component("separator"), {50, 0}, QColor(0x22, 0x22, 0x22, 0x1A)},
+        MixRow {"SeparatorOfTheDefaultColor",
                 component("separator", R"("color": "#1A222222",)"),
                 {50, 0},
                 QColor(0x22, 0x22, 0x22, 0x1A)},
@@ -143,7 +144,7 @@ INSTANTIATE_TEST_SUITE_P(
                 QColor(0x11, 0x22, 0x33, 0x44)}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(BoxPaint, FillsAnInvalidGroundWithBlack)
+TEST_F(BoxPaint, FillsAnInvalidBackgroundWithBlack)
 {
     EXPECT_EQ(PaintedBox(R"("backgroundColor": "dark",)").at(50, 30), QColor(Qt::black));
 }
@@ -167,9 +168,9 @@ TEST_P(BoxCorner, IsRoundedByTheRadiusButByNoMoreThanHalfTheHeight)
     const PaintedBox painted(std::string(R"("backgroundColor": "#FF0000", "cornerRadius": ")")
                                  + GetParam().radius + "\",",
                              GetParam().height);
-    // The same by Qt, on the same ground.
+    // The same drawn by Qt, on the same background.
     QImage expected(100, static_cast<int>(GetParam().height), QImage::Format_ARGB32_Premultiplied);
-    expected.fill(kGround);
+    expected.fill(kBackground);
     QPainter painter(&expected);
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath path;
@@ -191,7 +192,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CornerRow {"Negative", "-9px", 60, 0}, CornerRow {"NotGiven", "", 60, 0}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(BoxPaint, GivesTheCornersOfABoxToTheBoxesInIt)
+TEST_F(BoxPaint, PassesTheCornersOfABoxOnToTheBoxesInIt)
 {
     const TestCard card(
         R"({"type": "bubble", "hero": )"
@@ -202,7 +203,7 @@ TEST_F(BoxPaint, GivesTheCornersOfABoxToTheBoxesInIt)
               R"("paddingAll": "20px",)")
         + "}");
     const Picture picture(*card.root());
-    EXPECT_EQ(picture.at({22, 22}), kGround);
+    EXPECT_EQ(picture.at({22, 22}), kBackground);
     EXPECT_EQ(picture.at({50, 50}), kRed);
 }
 
@@ -223,15 +224,15 @@ TEST_P(BoxBorder, IsHalfAPenInside)
 {
     const PaintedBox box(std::string(R"("borderColor": "#FF0000", "borderWidth": ")")
                          + GetParam().width + "\",");
-    EXPECT_EQ(box.at(-1, 30), kGround) << "the outer half is clipped";
+    EXPECT_EQ(box.at(-1, 30), kBackground) << "the outer half is clipped";
     for (int i = 0; i < GetParam().visible; ++i) {
         EXPECT_EQ(box.at(i, 30), kRed) << i;
         EXPECT_EQ(box.at(99 - i, 30), kRed) << i;
         EXPECT_EQ(box.at(50, i), kRed) << i;
         EXPECT_EQ(box.at(50, 59 - i), kRed) << i;
     }
-    EXPECT_EQ(box.at(GetParam().visible + 1, 30), kGround);
-    EXPECT_EQ(box.at(50, 30), kGround) << "nothing is filled";
+    EXPECT_EQ(box.at(GetParam().visible + 1, 30), kBackground);
+    EXPECT_EQ(box.at(50, 30), kBackground) << "nothing is filled";
 }
 
 INSTANTIATE_TEST_SUITE_P(Widths, BoxBorder,
@@ -241,15 +242,15 @@ INSTANTIATE_TEST_SUITE_P(Widths, BoxBorder,
                                          BorderRow {"Pixels", "9px", 5}),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(BoxPaint, DrawsNoBorderWithoutColourOrWidth)
+TEST_F(BoxPaint, DrawsNoBorderWithoutAColorOrAWidth)
 {
     for (const char* properties : {R"("borderWidth": "bold",)", R"("borderColor": "#FF0000",)",
                                    R"("borderColor": "#FF0000", "borderWidth": "none",)",
                                    R"("borderColor": "#FF0000", "borderWidth": "-3px",)"})
-        EXPECT_EQ(PaintedBox(properties).at(0, 30), kGround) << properties;
+        EXPECT_EQ(PaintedBox(properties).at(0, 30), kBackground) << properties;
 }
 
-TEST_F(BoxPaint, DrawsTheBorderOverTheGround)
+TEST_F(BoxPaint, DrawsTheBorderOverTheBackground)
 {
     const PaintedBox box(
         R"("borderColor": "#FF0000", "borderWidth": "medium", "backgroundColor": "#0000FF",)");
@@ -259,7 +260,7 @@ TEST_F(BoxPaint, DrawsTheBorderOverTheGround)
     EXPECT_EQ(box.at(50, 30), kBlue);
 }
 
-TEST_F(BoxPaint, LeavesThePainterAsItWas)
+TEST_F(BoxPaint, RestoresThePainter)
 {
     const TestCard card(bubbleWithBody(
         box("vertical", "",
@@ -280,7 +281,7 @@ TEST_F(BoxPaint, LeavesThePainterAsItWas)
     }
 }
 
-TEST_F(BoxPaint, LeavesTheMouseTheWholeRectangle)
+TEST_F(BoxPaint, AcceptsTheMouseInItsWholeRectangle)
 {
     const TestCard card(bubbleWithBody(
         box("vertical", box("vertical", "", R"("height": "40px", "cornerRadius": "8px",)"))));

@@ -1,4 +1,4 @@
-// How a box lays itself and its children out.
+// How a box and its children are laid out.
 #include "ui/PlixBoxUI.h"
 
 #include "support/LayoutNode.h"
@@ -19,7 +19,7 @@ template <typename Row> std::string rowName(const testing::TestParamInfo<Row>& r
     return row.param.name;
 }
 
-// The card of a box within a box, and the node of the inner one.
+// A card with a box inside a box, and the node of the inner one.
 class BoxInBox : public TestCard {
 public:
     explicit BoxInBox(const std::string& inner, const std::string& outerLayout = "vertical")
@@ -76,7 +76,7 @@ struct SpacingRow {
 
 class BoxSpacing : public PlixTest, public testing::WithParamInterface<SpacingRow> { };
 
-TEST_P(BoxSpacing, IsALeadingMarginOfAllButTheFirst)
+TEST_P(BoxSpacing, IsALeadingMarginOfEachChildButTheFirst)
 {
     const std::string spacing = std::string(R"("spacing": ")") + GetParam().spacing + "\",";
     const BoxInBox card(box(GetParam().layout, kThreeTexts, spacing));
@@ -101,7 +101,7 @@ INSTANTIATE_TEST_SUITE_P(Boxes, BoxSpacing,
 
 using Box = PlixTest;
 
-TEST_F(Box, LeavesMarginsOfItsChildrensOwn)
+TEST_F(Box, DoesNotReplaceMarginsOfItsChildren)
 {
     for (const char* layout : {"vertical", "horizontal"}) {
         const BoxInBox card(
@@ -115,7 +115,7 @@ TEST_F(Box, LeavesMarginsOfItsChildrensOwn)
     }
 }
 
-TEST_F(Box, KeepsTheSpacingOutOfAMarginOfZero)
+TEST_F(Box, DoesNotReplaceAMarginOfZeroByItsSpacing)
 {
     const BoxInBox card(box("vertical", text("one") + "," + text("two", R"("margin": "none",)"),
                             R"("spacing": "md",)"));
@@ -136,7 +136,7 @@ TEST_F(Box, SeparatesItsChildrenByItsSpacing)
     }
 }
 
-TEST_F(Box, StretchesChildrenOfAColumnThatHaveNoWidth)
+TEST_F(Box, StretchesChildrenWithoutAWidthInAColumn)
 {
     const BoxInBox card(box("vertical",
                             box("vertical", "") + "," + component("separator") + ","
@@ -168,14 +168,14 @@ TEST_F(Box, StretchesAMeasuredChildWithoutAWidthToTheFullWidth)
     EXPECT_EQ(unit, YGUnitPercent);
 }
 
-TEST_F(Box, TakesNothingForAChild)
+TEST_F(Box, IgnoresANullChild)
 {
     PlixBoxUI column(nullptr);
     column.addChild(nullptr);
     EXPECT_EQ(column.childCount(), 0);
 }
 
-TEST_F(Box, HasARowInABaselineRowStandOnItsTextsToo)
+TEST_F(Box, AlignsARowInABaselineRowOnTheBaselines)
 {
     const std::string texts =
         text("low", R"("size": "xxs",)") + "," + text("high", R"("size": "xxl",)");
@@ -219,8 +219,8 @@ TEST_P(GrowingBox, SharesTheFreeSpaceOfARow)
 INSTANTIATE_TEST_SUITE_P(
     Boxes, GrowingBox,
     testing::Values(
-        GrowRow {"RowStartsFromNothing", "horizontal", R"("flex": 1,)", 1, YGUnitPoint, 0},
-        GrowRow {"BaselineRowStartsFromNothing", "baseline", R"("flex": 2,)", 2, YGUnitPoint, 0},
+        GrowRow {"RowHasABasisOfZero", "horizontal", R"("flex": 1,)", 1, YGUnitPoint, 0},
+        GrowRow {"BaselineRowHasABasisOfZero", "baseline", R"("flex": 2,)", 2, YGUnitPoint, 0},
         GrowRow {"RowGrowsByDefaultInARow", "horizontal", "", 1, YGUnitPoint, 0},
         GrowRow {"RowThatDoesNotGrowKeepsItsWidth", "horizontal", R"("flex": 0,)", 0, YGUnitAuto,
                  0},
@@ -241,7 +241,7 @@ INSTANTIATE_TEST_SUITE_P(
                  1, YGUnitPercent, 30}),
     rowName<GrowRow>);
 
-TEST_F(Box, KeepsItsWidthAnywhereInAnAbsoluteBox)
+TEST_F(Box, HasAnAutomaticWidthAnywhereInAnAbsoluteBox)
 {
     const std::string row = box("horizontal", text("a"), R"("flex": 1,)");
     const std::string absolute = R"("position": "absolute",)";
@@ -271,7 +271,7 @@ TEST_F(Box, SharesARowBetweenGrowingBoxesWhateverTheyHold)
     EXPECT_EQ(card.ui<PlixBoxUI>({0, 1})->layoutWidth(), 150);
 }
 
-TEST_F(Box, HasTheSizeThatItIsGiven)
+TEST_F(Box, HasTheSizeOfTheCard)
 {
     const BoxInBox pixels(box("vertical", "", R"("width": "70px", "height": "30px",)"));
     EXPECT_EQ(pixels.inner().size(), QSizeF(70, 30));
@@ -283,7 +283,7 @@ TEST_F(Box, HasTheSizeThatItIsGiven)
     EXPECT_FALSE(percent.inner().widthIsPercent());
 }
 
-TEST_F(Box, MayBeGivenNoHeightAtAll)
+TEST_F(Box, MayHaveAHeightOfZero)
 {
     for (const char* height : {"0", "0px"}) {
         const std::string member = std::string(R"("height": ")") + height + "\",";
@@ -318,7 +318,7 @@ struct PaddingRow {
 
 class BoxPadding : public PlixTest, public testing::WithParamInterface<PaddingRow> { };
 
-TEST_P(BoxPadding, KeepsTheContentOffTheEdges)
+TEST_P(BoxPadding, IsBetweenTheContentAndTheEdges)
 {
     const BoxInBox card(box("vertical", text("a"), GetParam().properties));
     EXPECT_EQ(card.inner().paddingLeft(), GetParam().left);
@@ -347,7 +347,7 @@ INSTANTIATE_TEST_SUITE_P(
                     1, 2, 3, 4},
         PaddingRow {"EdgesBeforeAll", R"("paddingAll": "10px", "paddingTop": "2px",)", 10, 2, 10,
                     10},
-        PaddingRow {"BorderWidensNothingGiven", withLightBorder(), 1, 1, 1, 1},
+        PaddingRow {"BorderAloneIsAPadding", withLightBorder(), 1, 1, 1, 1},
         PaddingRow {"BorderWidensEdges", withLightBorder(R"("paddingTop": "2px",)"), 1, 3, 1, 1},
         PaddingRow {"BorderDoesNotWidenAll", withLightBorder(R"("paddingAll": "10px",)"), 10, 10,
                     10, 10},
@@ -409,7 +409,7 @@ TEST_F(Box, InsetsAbsoluteChildrenByItsPaddings)
     EXPECT_EQ(card.inner().childAt(1)->geometry().topLeft(), QPointF(40, 30));
 }
 
-// ----- Reaching the children
+// ----- Calls of the children
 
 class Child : public LayoutNode {
 public:
@@ -435,20 +435,20 @@ private:
     int highlightResult_;
 };
 
-TEST_F(Box, AsksEveryChildToHighlight)
+TEST_F(Box, HighlightsInEveryChild)
 {
     PlixBoxUI column(nullptr);
     const QStringList words {QStringLiteral("word")};
     EXPECT_EQ(column.setHighlightText(words), -1);
-    Child shows(1);
-    Child showsNot(-1);
-    Child showsToo(0);
-    column.addChild(&showsNot);
+    Child withWord(1);
+    Child withoutWord(-1);
+    Child withWordToo(0);
+    column.addChild(&withoutWord);
     EXPECT_EQ(column.setHighlightText(words), -1);
-    column.addChild(&shows);
-    column.addChild(&showsToo);
+    column.addChild(&withWord);
+    column.addChild(&withWordToo);
     EXPECT_EQ(column.setHighlightText(words), 1);
-    EXPECT_EQ(showsToo.highlighted, words) << "also behind one that shows the word";
+    EXPECT_EQ(withWordToo.highlighted, words) << "also after a child that contains the word";
 }
 
 TEST_F(Box, MakesItsChildrenClickable)
@@ -467,7 +467,7 @@ TEST_F(Box, MakesItsChildrenClickable)
     EXPECT_EQ(column.cursor().shape(), Qt::PointingHandCursor);
 }
 
-TEST_F(Box, MakesChildrenThatComeLaterClickableToo)
+TEST_F(Box, MakesChildrenClickableThatAreAddedLater)
 {
     const BoxInBox card(
         box("vertical", "", R"("action": {"type": "uri", "uri": "https://a.example"},)"));

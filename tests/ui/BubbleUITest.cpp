@@ -1,4 +1,4 @@
-// The card itself: its outline, its ground and its height.
+// The card itself: its outline, its background and its height.
 #include "ui/PlixBubbleUI.h"
 
 #include "model/PlixDataBubble.h"
@@ -14,15 +14,15 @@
 namespace plix::test {
 namespace {
 
-const QColor kOthers(0xF1, 0xF3, 0xF7);
-const QColor kOwn(0xC0, 0xEA, 0xFC);
+const QColor kBackgroundOfOthers(0xF1, 0xF3, 0xF7);
+const QColor kBackgroundOfUser(0xC0, 0xEA, 0xFC);
 
 std::string plainCard(const std::string& more = {})
 {
     return bubbleWithBody(box("vertical", "", R"("height": "100px",)"), more);
 }
 
-QColor groundOf(const TestCard& card)
+QColor backgroundOf(const TestCard& card)
 {
     return Picture(*card.root()).at({150, 50});
 }
@@ -59,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 using Bubble = PlixTest;
 
-TEST_F(Bubble, IsClippedToItsOutlineWithAllItHolds)
+TEST_F(Bubble, ClipsItselfAndItsChildrenToItsOutline)
 {
     const TestCard card(
         bubbleWithBody(box("vertical", "", R"("height": "100px", "backgroundColor": "#FF0000",)")));
@@ -134,49 +134,49 @@ INSTANTIATE_TEST_SUITE_P(Words, BubbleDirection,
                                          DirectionRow {"Empty", "", Qt::LeftToRight}),
                          [](const auto& row) { return std::string(row.param.name); });
 
-// ----- Ground
+// ----- Background
 
-TEST_F(Bubble, HasTheGroundOfItsSender)
+TEST_F(Bubble, HasTheBackgroundOfItsSender)
 {
-    const auto groundFrom = [](int from) {
-        return groundOf(TestCard(plainCard(), [from](PlixDataController* controller) {
+    const auto backgroundFrom = [](int from) {
+        return backgroundOf(TestCard(plainCard(), [from](PlixDataController* controller) {
             Plix_InitSetFrom(controller, from);
         }));
     };
-    EXPECT_EQ(groundFrom(0), kOthers);
-    EXPECT_EQ(groundFrom(1), kOwn);
-    EXPECT_EQ(groundFrom(2), kOthers);
-    EXPECT_EQ(groundFrom(-1), kOthers);
+    EXPECT_EQ(backgroundFrom(0), kBackgroundOfOthers);
+    EXPECT_EQ(backgroundFrom(1), kBackgroundOfUser);
+    EXPECT_EQ(backgroundFrom(2), kBackgroundOfOthers);
+    EXPECT_EQ(backgroundFrom(-1), kBackgroundOfOthers);
 }
 
-TEST_F(Bubble, KeepsItsGroundWhenTheSenderIsNoLongerTheUser)
+TEST_F(Bubble, KeepsItsBackgroundWhenTheSenderIsNoLongerTheUser)
 {
     const TestCard card(plainCard());
     card.ui<PlixBubbleUI>({})->setFrom(1);
     card.ui<PlixBubbleUI>({})->setFrom(0);
-    EXPECT_EQ(groundOf(card), kOwn);
+    EXPECT_EQ(backgroundOf(card), kBackgroundOfUser);
     card.ui<PlixBubbleUI>({})->resumeBackgroundColor();
-    EXPECT_EQ(groundOf(card), kOthers);
+    EXPECT_EQ(backgroundOf(card), kBackgroundOfOthers);
 }
 
-TEST_F(Bubble, ShowsAnotherGroundUntilItIsResumed)
+TEST_F(Bubble, ShowsAnotherBackgroundUntilTheFirstIsResumed)
 {
     for (const int from : {0, 1}) {
         const TestCard card(plainCard(), [from](PlixDataController* controller) {
             Plix_InitSetFrom(controller, from);
         });
         Plix_SetBubbleBkColor(card.controller(), "#123456");
-        EXPECT_EQ(groundOf(card), QColor(0x12, 0x34, 0x56));
+        EXPECT_EQ(backgroundOf(card), QColor(0x12, 0x34, 0x56));
         Plix_ResumeBubbleBkColor(card.controller());
-        EXPECT_EQ(groundOf(card), from == 1 ? kOwn : kOthers);
+        EXPECT_EQ(backgroundOf(card), from == 1 ? kBackgroundOfUser : kBackgroundOfOthers);
     }
 }
 
-TEST_F(Bubble, ShowsAnInvalidGroundInBlack)
+TEST_F(Bubble, ShowsAnInvalidBackgroundInBlack)
 {
     const TestCard card(plainCard());
     card.ui<PlixBubbleUI>({})->setBackgroundColor("no colour");
-    EXPECT_EQ(groundOf(card), QColor(Qt::black));
+    EXPECT_EQ(backgroundOf(card), QColor(Qt::black));
 }
 
 // ----- Height
@@ -219,7 +219,7 @@ TEST_F(Bubble, DoesNotShrink)
     }
 }
 
-TEST_F(Bubble, CannotGrowWithoutABody)
+TEST_F(Bubble, DoesNotGrowWithoutABody)
 {
     const TestCard card(R"({"type": "bubble", "header": )"
                         + box("vertical", "", R"("height": "40px",)") + "}");
@@ -228,7 +228,7 @@ TEST_F(Bubble, CannotGrowWithoutABody)
     EXPECT_EQ(heightOf(card), 40);
 }
 
-TEST_F(Bubble, GrowsABodyOfAnyType)
+TEST_F(Bubble, GrowsABodyOfAnyClass)
 {
     const TestCard card(bubbleWithBody(text("a")));
     EXPECT_EQ(Plix_ModifyHeight(card.controller(), 400), 0);
@@ -246,29 +246,29 @@ public:
 
     int setHighlightText(const QStringList&) override
     {
-        ++asked;
+        ++calls;
         return result_;
     }
 
-    int asked = 0;
+    int calls = 0;
 
 private:
     int result_;
 };
 
-TEST_F(Bubble, AsksEveryChildToHighlight)
+TEST_F(Bubble, HighlightsInEveryChild)
 {
     PlixBubbleUI bubble(nullptr);
     EXPECT_EQ(bubble.setHighlightText({}), -1);
-    Child showsNot(-1);
-    Child shows(0);
+    Child withoutWord(-1);
+    Child withWord(0);
     Child last(-1);
-    bubble.addChild(&showsNot);
+    bubble.addChild(&withoutWord);
     EXPECT_EQ(bubble.setHighlightText({}), -1);
-    bubble.addChild(&shows);
+    bubble.addChild(&withWord);
     bubble.addChild(&last);
     EXPECT_EQ(bubble.setHighlightText({}), 1);
-    EXPECT_EQ(last.asked, 1);
+    EXPECT_EQ(last.calls, 1);
 }
 
 TEST_F(Bubble, StretchesItsChildren)

@@ -1,4 +1,4 @@
-// Cards come apart in any order.
+// The parts of a card may be deleted in any order.
 #include "api/PlixDataMgr.h"
 #include "layout/YogaLayoutItem.h"
 #include "support/Picture.h"
@@ -34,7 +34,7 @@ protected:
     QGraphicsItem* root;
 };
 
-TEST_F(CardEnd, MayTakeTheItemFirst)
+TEST_F(CardEnd, MayDeleteTheItemFirst)
 {
     delete root;
     EXPECT_EQ(Plix_ModifyHeight(controller, 900), 0);
@@ -45,7 +45,7 @@ TEST_F(CardEnd, MayTakeTheItemFirst)
     Plix_Free(controller);
 }
 
-TEST_F(CardEnd, MayTakeTheControllerFirst)
+TEST_F(CardEnd, MayFreeTheControllerFirst)
 {
     Plix_Free(controller);
     EXPECT_EQ(root->childItems().size(), 3);
@@ -53,7 +53,7 @@ TEST_F(CardEnd, MayTakeTheControllerFirst)
     delete root;
 }
 
-TEST_F(CardEnd, MayTakeTheItemWithItsScene)
+TEST_F(CardEnd, MayDeleteTheItemWithItsScene)
 {
     {
         QGraphicsScene scene;
@@ -63,7 +63,7 @@ TEST_F(CardEnd, MayTakeTheItemWithItsScene)
     Plix_Free(controller);
 }
 
-TEST_F(CardEnd, MayTakeAPartOfTheCard)
+TEST_F(CardEnd, MayDeletePartsOfTheCard)
 {
     const double before = root->boundingRect().height();
     delete root->childItems()[0]; // the header
@@ -75,7 +75,7 @@ TEST_F(CardEnd, MayTakeAPartOfTheCard)
     Plix_Free(controller);
 }
 
-TEST_F(CardEnd, MayTakeTheBodyThatGrows)
+TEST_F(CardEnd, MayDeleteTheBodyThatGrows)
 {
     delete root->childItems()[1];
     EXPECT_EQ(Plix_ModifyHeight(controller, 900), -1);
@@ -85,7 +85,7 @@ TEST_F(CardEnd, MayTakeTheBodyThatGrows)
     Plix_Free(controller);
 }
 
-TEST_F(CardEnd, MayTakeTheControllerOfACardThatWasNeverRead)
+TEST_F(CardEnd, MayFreeTheControllerOfACardThatWasNeverRead)
 {
     PlixDataController* const empty = Plix_CreateController();
     PlixDataController* const unread = Plix_CreateController();
@@ -97,7 +97,7 @@ TEST_F(CardEnd, MayTakeTheControllerOfACardThatWasNeverRead)
     Plix_Free(controller);
 }
 
-TEST_F(CardEnd, MayTakeTheBubbleBeforeOrAfterItsLayout)
+TEST_F(CardEnd, MayDeleteTheBubbleBeforeOrAfterTheRootNode)
 {
     auto layout = std::make_unique<YogaLayoutItem>(true);
     auto* bubble = new PlixBubbleUI(nullptr);

@@ -1,4 +1,4 @@
-// Empty space that takes what is left over.
+// Empty space that fills the free space.
 #include "ui/PlixFillerUI.h"
 
 #include "support/LayoutNode.h"
@@ -43,21 +43,21 @@ TEST_P(FillerStyle, IsAStripAcrossTheBox)
 
 INSTANTIATE_TEST_SUITE_P(
     Boxes, FillerStyle,
-    testing::Values(FillerRow {"CollapsesInAColumn", "vertical", "", 0, 5, 1},
-                    FillerRow {"GrowsInAColumnWhenTold", "vertical", R"("flex": 2,)", 2, 5, -1},
-                    FillerRow {"CollapsesInAColumnWhenTold", "vertical", R"("flex": 0,)", 0, 5, 1},
-                    FillerRow {"OneInAColumnWhenTold", "vertical", R"("flex": 1,)", 1, 5, -1},
-                    FillerRow {"GrowsInARow", "horizontal", "", 1, -1, 5},
-                    FillerRow {"GrowsInARowWhenTold", "horizontal", R"("flex": 3,)", 3, -1, 5},
-                    FillerRow {"CollapsesInARowWhenTold", "horizontal", R"("flex": 0,)", 0, 1, 5},
-                    FillerRow {"OnlyGrowsInABaselineRow", "baseline", "", 1, -1, -1},
-                    FillerRow {"OnlyCollapsesInABaselineRow", "baseline", R"("flex": 0,)", 0, -1,
-                               -1}),
+    testing::Values(
+        FillerRow {"CollapsesInAColumn", "vertical", "", 0, 5, 1},
+        FillerRow {"GrowsInAColumnWithFlex", "vertical", R"("flex": 2,)", 2, 5, -1},
+        FillerRow {"CollapsesInAColumnWithFlexZero", "vertical", R"("flex": 0,)", 0, 5, 1},
+        FillerRow {"GrowsInAColumnWithFlexOne", "vertical", R"("flex": 1,)", 1, 5, -1},
+        FillerRow {"GrowsInARow", "horizontal", "", 1, -1, 5},
+        FillerRow {"GrowsInARowWithFlex", "horizontal", R"("flex": 3,)", 3, -1, 5},
+        FillerRow {"CollapsesInARowWithFlexZero", "horizontal", R"("flex": 0,)", 0, 1, 5},
+        FillerRow {"OnlyGrowsInABaselineRow", "baseline", "", 1, -1, -1},
+        FillerRow {"OnlyCollapsesInABaselineRow", "baseline", R"("flex": 0,)", 0, -1, -1}),
     [](const auto& row) { return std::string(row.param.name); });
 
 using Filler = PlixTest;
 
-TEST_F(Filler, CollapsesAtAFlexOfZeroOnly)
+TEST_F(Filler, DoesNotCollapseAtANegativeFlex)
 {
     const std::string filler = component("filler", R"("flex": -1,)");
     const TestCard column(bubbleWithBody(box("vertical", filler)));
@@ -86,7 +86,7 @@ TEST_F(Filler, PushesWhatFollowsToTheEnd)
     EXPECT_EQ(column.item({0, 2})->pos().y(), 180);
 }
 
-TEST_F(Filler, IsLeftToTheLayoutAsAZone)
+TEST_F(Filler, GrowsAsTheTopItemOfAZone)
 {
     const TestCard card(R"({"type": "bubble", "hero": {"type": "filler"}})");
     EXPECT_EQ(card.ui<PlixFillerUI>({0})->growFactor(), 1);

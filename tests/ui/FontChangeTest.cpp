@@ -1,4 +1,4 @@
-// What the host's other font family does to cards on show.
+// What a new font family of the host changes in cards that are shown.
 #include "CardTree.h"
 #include "CardWriter.h"
 #include "support/FontFamilyHost.h"
@@ -19,8 +19,8 @@ protected:
 
 constexpr unsigned kCards = 150;
 
-// A card with all that has a font: spans, buttons with and without a width of
-// their own, and texts of every kind of width.
+// A card of all items that have a font: texts with spans, buttons, and texts of every kind
+// of width.
 std::string cardWithFonts()
 {
     const std::string label = R"("action": {"type": "uri", "uri": "a", "label": "Press here"},)";
@@ -55,7 +55,7 @@ void expectFamily(const PlixTextUI& item, const QString& family)
     }
 }
 
-TEST_F(FontChange, ReachesEveryPieceOfTextAtOnce)
+TEST_F(FontChange, ReachesEveryTextSpanAndLabelAtOnce)
 {
     for (unsigned seed = 0; seed < kCards; ++seed) {
         SCOPED_TRACE(seed);
@@ -74,7 +74,7 @@ TEST_F(FontChange, ReachesEveryPieceOfTextAtOnce)
     }
 }
 
-TEST_F(FontChange, LeavesTextsInTheWidthThatTheyHave)
+TEST_F(FontChange, KeepsTheWidthOfTexts)
 {
     for (unsigned seed = 0; seed < kCards; ++seed) {
         SCOPED_TRACE(seed);
@@ -94,7 +94,7 @@ TEST_F(FontChange, LeavesTextsInTheWidthThatTheyHave)
     }
 }
 
-TEST_F(FontChange, LeavesTextsOfSeveralLinesInTheHeightThatTheyHave)
+TEST_F(FontChange, KeepsTheHeightOfTextsOfSeveralLines)
 {
     bool isAnyShorter = false;
     for (unsigned seed = 0; seed < kCards; ++seed) {
@@ -115,7 +115,7 @@ TEST_F(FontChange, LeavesTextsOfSeveralLinesInTheHeightThatTheyHave)
     EXPECT_TRUE(isAnyShorter);
 }
 
-TEST_F(FontChange, MakesTheCardEqualToANewOneWithTheNextLayout)
+TEST_F(FontChange, MakesTheCardEqualToANewOneInTheNextLayout)
 {
     for (unsigned seed = 0; seed < kCards; ++seed) {
         SCOPED_TRACE(generatedCard(seed));
@@ -135,7 +135,7 @@ TEST_F(FontChange, MakesTheCardEqualToANewOneWithTheNextLayout)
     }
 }
 
-TEST_F(FontChange, GivesANaturalWidthOfTheNewFamily)
+TEST_F(FontChange, SetsTheNaturalWidthOfTheNewFamily)
 {
     const TestCard card(
         bubbleWithBody(box("horizontal", text("natural", R"("flex": 0,)") + "," + text("rest"))));

@@ -1,4 +1,4 @@
-// When a card is laid out, and that doing it again changes nothing.
+// When a card is laid out, and in how many passes.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
 #include "ui/PlixBoxUI.h"
@@ -13,7 +13,7 @@
 namespace plix::test {
 namespace {
 
-// The heights that boxes are given, in the order of time.
+// Records the heights that layouts give to boxes.
 class BoxHeights : public QObject {
 public:
     BoxHeights() { qApp->installEventFilter(this); }
@@ -30,9 +30,9 @@ public:
 
 using LayoutPasses = PlixTest;
 
-TEST_F(LayoutPasses, OfferAHeightOf500FirstAndThenFollowTheContent)
+TEST_F(LayoutPasses, StartWithAHeightOf500AndThenFollowTheContent)
 {
-    // A share of a height counts only where there is a height.
+    // A percentage of a height counts only where there is a height.
     const std::string json =
         bubbleWithBody(box("vertical", "", R"("height": "50%", "paddingAll": "7px",)"));
     BoxHeights seen;
@@ -42,7 +42,7 @@ TEST_F(LayoutPasses, OfferAHeightOf500FirstAndThenFollowTheContent)
     EXPECT_EQ(seen.heights[1], 14);
 }
 
-// Keeps what it is offered.
+// Records the constraints that it is measured under.
 class Measured : public LayoutNode {
 public:
     Measured() { setHasMeasureFunc(true); }
@@ -58,7 +58,7 @@ public:
     std::vector<YGMeasureMode> widthModes;
 };
 
-TEST_F(LayoutPasses, MeasureAgainstTheWidthOfTheCard)
+TEST_F(LayoutPasses, MeasureWithTheWidthOfTheCard)
 {
     const TestCard card(bubbleWithBody(box("vertical", "")));
     Measured item;
@@ -69,7 +69,7 @@ TEST_F(LayoutPasses, MeasureAgainstTheWidthOfTheCard)
     EXPECT_EQ(item.widthModes.back(), YGMeasureModeExactly);
 }
 
-TEST_F(LayoutPasses, PlaceTheItemsWhereTheLayoutSays)
+TEST_F(LayoutPasses, PlaceTheItemsInTheirRectangles)
 {
     const TestCard card(bubbleWithBody(
         box("vertical", text("a") + "," + box("horizontal", text("b") + "," + text("c")))));
@@ -92,7 +92,7 @@ TEST_F(LayoutPasses, KeepTheSizeOfTheCardWhenItIsRefreshed)
     EXPECT_EQ(card.ui<PlixBubbleUI>({})->size(), size);
 }
 
-TEST_F(LayoutPasses, OfferTheHeightThatTheCardHasWhenItIsRefreshed)
+TEST_F(LayoutPasses, UseTheHeightOfTheCardWhenItIsRefreshed)
 {
     const TestCard card(bubbleWithBody(box("vertical", "", R"("height": "50%",)")));
     card.ui<PlixBubbleUI>({})->resize(300, 400);
@@ -100,7 +100,7 @@ TEST_F(LayoutPasses, OfferTheHeightThatTheCardHasWhenItIsRefreshed)
     EXPECT_EQ(card.ui<PlixBoxUI>({0})->size().height(), 200);
 }
 
-TEST_F(LayoutPasses, TakeUpAChangeWhenTheCardIsRefreshed)
+TEST_F(LayoutPasses, ApplyAChangeWhenTheCardIsRefreshed)
 {
     const TestCard card(bubbleWithBody(
         box("vertical", box("vertical", "", R"("height": "20px",)") + "," + text("b"))));

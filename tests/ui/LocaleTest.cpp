@@ -1,4 +1,4 @@
-// A host may have set any locale for its own numbers.
+// A host may set any locale.
 #include "layout/PlixStyleValues.h"
 #include "support/ForeignNumbers.h"
 #include "support/PlixTest.h"
@@ -9,8 +9,8 @@ namespace {
 
 using Locale = PlixTest;
 
-// Numbers wherever a card can have them; more of them, and without sense, in
-// places that do not care.
+// A card with a number wherever there can be one, and with numbers of the wrong type where
+// any type is read.
 std::string card()
 {
     return bubbleWithBody(
@@ -30,7 +30,7 @@ QByteArray layout()
     return plix::tool::dumpLayout(*built.root());
 }
 
-TEST_F(Locale, ChangesNothingAboutACard)
+TEST_F(Locale, DoesNotChangeACard)
 {
     const QByteArray expected = layout();
     ASSERT_EQ(expected.count("PlixTextUI"), 4);
@@ -45,7 +45,7 @@ TEST_F(Locale, ChangesNothingAboutACard)
     }
 }
 
-TEST_F(Locale, ChangesNothingAboutComplaints)
+TEST_F(Locale, DoesNotChangeLogLines)
 {
     const ForeignNumbers numbers;
     const TestCard built(bubbleWithBody(text("a", R"("margin": 12345.5,)")));
@@ -54,7 +54,7 @@ TEST_F(Locale, ChangesNothingAboutComplaints)
               R"("margin" must be a string, but is the number 12345.5)");
 }
 
-TEST_F(Locale, ChangesNothingAboutStyleValues)
+TEST_F(Locale, DoesNotChangeStyleValues)
 {
     const ForeignNumbers numbers;
     EXPECT_EQ(ToLengthPixels("1000px"), 1000);

@@ -1,4 +1,4 @@
-// What an item paints stays in its rectangle: what is beside it is not its own.
+// Items paint inside their rectangles only.
 #include "CardTree.h"
 #include "ExampleCards.h"
 #include "PaintedCardWriter.h"
@@ -15,16 +15,16 @@ namespace plix::test {
 namespace {
 
 constexpr int kMargin = 60; // in pixels
-constexpr double kLargest = 1000;
-constexpr QRgb kUntouched = 0;
+constexpr double kMaximumSize = 1000;
+constexpr QRgb kUnpainted = 0;
 
-// The item alone, clipped to its shape where a scene does that.
+// The item alone, clipped to its shape if a scene would clip it.
 QImage paintAlone(QGraphicsItem& item, double scale)
 {
     const QRectF rect = item.boundingRect();
     const QSize size = (rect.size() * scale).toSize() + 2 * QSize(kMargin, kMargin);
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(kUntouched);
+    image.fill(kUnpainted);
     QPainter painter(&image);
     painter.translate(kMargin, kMargin);
     painter.scale(scale, scale);
@@ -40,7 +40,7 @@ QImage paintAlone(QGraphicsItem& item, double scale)
 void expectNothingOutside(const QImage& image, const QRect& inside)
 {
     const QRect painted =
-        boundsOfPixels(image, image.rect(), [](QRgb pixel) { return pixel != kUntouched; });
+        boundsOfPixels(image, image.rect(), [](QRgb pixel) { return pixel != kUnpainted; });
     if (!painted.isEmpty() && !inside.contains(painted)) {
         ADD_FAILURE() << painted.width() << " x " << painted.height() << " at " << painted.x()
                       << ", " << painted.y() << " is not inside of " << inside.width() << " x "
@@ -48,13 +48,14 @@ void expectNothingOutside(const QImage& image, const QRect& inside)
     }
 }
 
-// Texts have letters that stand out, and tests of their own.
+// Not texts: their letters may stick out, and they have tests of their own.
 void expectItemsPaintInside(const std::string& json, double scale)
 {
     const TestCard card(json, &showExamplePictures);
     forEachItem(*card.root(), [scale](QGraphicsItem& item) {
         const QRectF rect = item.boundingRect();
-        if (dynamic_cast<PlixTextUI*>(&item) || std::max(rect.width(), rect.height()) > kLargest)
+        if (dynamic_cast<PlixTextUI*>(&item)
+            || std::max(rect.width(), rect.height()) > kMaximumSize)
             return;
         const QRectF inside(QPointF(kMargin, kMargin), rect.size() * scale);
         SCOPED_TRACE(item.toGraphicsObject()->metaObject()->className());

@@ -1,4 +1,4 @@
-// A view paints parts of a card, and keeps the rest: both show the same pixels.
+// A view repaints parts of a card and keeps the rest. Both must show the same pixels.
 #include "ExampleCards.h"
 #include "PaintedCardWriter.h"
 #include "support/LiveView.h"
@@ -15,7 +15,7 @@ namespace {
 constexpr double kScales[] = {1, 1.5, 2};
 const std::list<std::string> kHighlighted {"release", "a", "12"};
 
-// Parts of a window that a view paints again.
+// Random parts of a window that a view repaints.
 class Parts {
 public:
     Parts(const QRect& pixels, unsigned seed)
@@ -24,14 +24,14 @@ public:
     {
     }
 
-    // A rectangle, or all that is within two of them.
+    // One rectangle or two.
     QRegion next()
     {
         const bool isOne = random_() % 4 != 0;
         return isOne ? QRegion(rect()) : QRegion(rect()) + QRegion(rect());
     }
 
-    // What moves into the window when it is scrolled by nine pixels.
+    // A strip of nine rows of pixels, as after scrolling.
     QRect strip() { return {pixels_.left(), within(pixels_.height()), pixels_.width(), 9}; }
 
 private:
@@ -57,7 +57,7 @@ void expectSamePixels(const QImage& parts, const QImage& whole, const char* when
                   << difference.width() << " x " << difference.height() << " differ";
 }
 
-void expectPartsShowTheWhole(LiveView& view, unsigned seed, const char* when)
+void expectSamePixelsInParts(LiveView& view, unsigned seed, const char* when)
 {
     view.paintAllAgain();
     const QImage whole = view.shown();
@@ -69,7 +69,7 @@ void expectPartsShowTheWhole(LiveView& view, unsigned seed, const char* when)
     expectSamePixels(view.shown(), whole, when);
 }
 
-void expectSamePixelsInParts(const std::string& json, double scale, unsigned seed)
+void expectPartsOfCard(const std::string& json, double scale, unsigned seed)
 {
     SCOPED_TRACE(testing::Message() << "scale " << scale);
     const TestCard card(json, [scale](PlixDataController* controller) {
@@ -77,33 +77,33 @@ void expectSamePixelsInParts(const std::string& json, double scale, unsigned see
         Plix_SetDpi(controller, static_cast<float>(scale));
     });
     LiveView view(*card.root(), scale);
-    expectPartsShowTheWhole(view, seed, "as it was built");
+    expectSamePixelsInParts(view, seed, "after the build");
     Plix_SetHighLightText(card.controller(), kHighlighted);
     view.paintWhatChanged();
     const QImage highlighted = view.shown();
-    expectPartsShowTheWhole(view, seed + 1, "highlighted");
-    expectSamePixels(highlighted, view.shown(), "what the highlight changed");
+    expectSamePixelsInParts(view, seed + 1, "highlighted");
+    expectSamePixels(highlighted, view.shown(), "after the repaint of the highlight");
 }
 
 using PartialPaint = PlixTest;
 
-TEST_F(PartialPaint, ShowsExampleCardsAsAWholePaintDoes)
+TEST_F(PartialPaint, ShowsTheSamePixelsOfExampleCards)
 {
     for (const std::string& name : exampleNames()) {
         SCOPED_TRACE(name);
         for (const double scale : kScales)
-            expectSamePixelsInParts(exampleCard(name), scale, 7);
+            expectPartsOfCard(exampleCard(name), scale, 7);
     }
 }
 
-TEST_F(PartialPaint, ShowsGeneratedCardsAsAWholePaintDoes)
+TEST_F(PartialPaint, ShowsTheSamePixelsOfGeneratedCards)
 {
-    // Where a child sticks out of its box, Qt cuts it at whole pixels only in
-    // the same place.
+    // Only at whole scales: at others, Qt does not always cut a child that overflows its box
+    // at the same pixel.
     for (unsigned seed = 0; seed < 60; ++seed) {
         const std::string json = PaintedCardWriter(seed).card();
         SCOPED_TRACE(json);
-        expectSamePixelsInParts(json, seed % 2 ? 1 : 2, seed);
+        expectPartsOfCard(json, seed % 2 ? 1 : 2, seed);
     }
 }
 

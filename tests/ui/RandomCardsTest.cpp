@@ -1,4 +1,4 @@
-// Cards that nobody meant: whatever they say, they are shown somehow.
+// Cards of random and extreme content can all be shown.
 #include "CardTree.h"
 #include "layout/YogaLayoutItem.h"
 #include "model/PlixJsonDataParse.h"
@@ -14,9 +14,9 @@
 namespace plix::test {
 namespace {
 
-class ChaosWriter {
+class RandomCardWriter {
 public:
-    explicit ChaosWriter(unsigned seed)
+    explicit RandomCardWriter(unsigned seed)
         : random_(seed)
     {
     }
@@ -51,7 +51,7 @@ private:
         return std::string(1, '"').append(word).append(1, '"');
     }
 
-    // Mostly what the property could be, sometimes something else entirely.
+    // Mostly a value of the right type, sometimes another one.
     std::string value()
     {
         static const std::vector<std::string> strings {"",
@@ -217,7 +217,7 @@ std::string noFile(PlixDataController*, const std::string&, void*)
     return {};
 }
 
-// All that a host does with a card.
+// Makes all calls that a host makes for a card.
 void useCard(const std::string& json, bool withCallbacks, bool itemFirst)
 {
     PlixDataController* const controller = Plix_CreateController();
@@ -246,16 +246,16 @@ void useCard(const std::string& json, bool withCallbacks, bool itemFirst)
 
 class RandomCard : public PlixTest, public testing::WithParamInterface<unsigned> { };
 
-TEST_P(RandomCard, IsShownSomehow)
+TEST_P(RandomCard, CanBeShown)
 {
     for (unsigned i = 0; i < 20; ++i) {
-        const std::string json = ChaosWriter(GetParam() * 1000 + i).card();
+        const std::string json = RandomCardWriter(GetParam() * 1000 + i).card();
         SCOPED_TRACE(json);
         useCard(json, i % 2 == 0, i % 3 == 0);
         if (HasFailure())
             break;
     }
-    ignoreLog(); // wrong types are told, one line each
+    ignoreLog(); // there is one line for each wrong type
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomCard, testing::Range(1U, 21U));
@@ -296,7 +296,7 @@ TEST_F(ExtremeCard, MayHoldOneLongText)
     useCard(bubbleWithBody(box("vertical", text(words))), true, false);
 }
 
-TEST_F(ExtremeCard, MayHaveSizesThatNoScreenHas)
+TEST_F(ExtremeCard, MayHaveHugeSizes)
 {
     for (const char* size : {"2147483647px", "2147483647%", "-2147483648px", "1000000px"}) {
         const std::string members = std::string(R"("width": ")") + size + R"(", "height": ")" + size
@@ -311,7 +311,7 @@ TEST_F(ExtremeCard, MayHaveSizesThatNoScreenHas)
     }
 }
 
-TEST_F(ExtremeCard, NeedsNoHostAtAll)
+TEST_F(ExtremeCard, NeedsNoCallbacks)
 {
     Plix_SetWiteLogCallback(nullptr);
     Plix_SetMultiLangGetCallback(nullptr);

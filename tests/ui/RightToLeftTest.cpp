@@ -1,4 +1,4 @@
-// Cards that read from right to left.
+// Cards of the direction "rtl".
 #include "support/Picture.h"
 #include "support/PlixTest.h"
 #include "ui/PlixBoxUI.h"
@@ -35,7 +35,7 @@ TEST_F(RightToLeft, RunsRowsFromTheRight)
     }
 }
 
-TEST_F(RightToLeft, KeepsSpacingBetweenTheThingsOfARow)
+TEST_F(RightToLeft, KeepsSpacingBetweenTheItemsOfARow)
 {
     const TestCard card(
         mirrored(box("horizontal", block() + "," + block() + "," + block(R"("margin": "xl",)"),
@@ -45,7 +45,7 @@ TEST_F(RightToLeft, KeepsSpacingBetweenTheThingsOfARow)
     EXPECT_EQ(card.item({0, 2})->pos().x(), 126) << "a margin of its own";
 }
 
-TEST_F(RightToLeft, KeepsTheMarginOfALineBeforeIt)
+TEST_F(RightToLeft, KeepsTheMarginBeforeASeparator)
 {
     const TestCard card(mirrored(box(
         "horizontal", block() + "," + component("separator", R"("margin": "md",)") + "," + block(),

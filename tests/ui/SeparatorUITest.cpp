@@ -1,4 +1,4 @@
-// Lines between the things in a box.
+// Lines between the items of a box.
 #include "ui/PlixSeparatorUI.h"
 
 #include "support/Picture.h"
@@ -10,9 +10,9 @@
 namespace plix::test {
 namespace {
 
-const QColor kGround(0xF1, 0xF3, 0xF7);
+const QColor kBackground(0xF1, 0xF3, 0xF7);
 
-// A zone without insets that holds the separator between two blocks of 30.
+// A zone without insets, with a separator between two blocks of 30 pixels.
 std::string card(const std::string& layout, const std::string& properties,
                  const std::string& before = "30px")
 {
@@ -37,8 +37,7 @@ TEST_F(Separator, IsOnePixelHighAcrossAColumn)
 TEST_F(Separator, IsOnePixelWideAcrossARow)
 {
     for (const char* layout : {"horizontal", "diagonal"}) {
-        // Any other word than the three makes a column of a box, but not of
-        // the lines in it.
+        // A box of an unknown layout is a column, but its separators are those of a row.
         const TestCard shown(card(layout, ""));
         YGUnit unit = YGUnitUndefined;
         const auto* line = shown.ui<PlixSeparatorUI>({0, 1});
@@ -68,14 +67,14 @@ TEST_P(SeparatorColor, FillsTheLine)
     const Picture picture(*shown.root());
     for (const double x : {0.0, 150.0, 299.0})
         EXPECT_EQ(picture.at({x, 30}), GetParam().color);
-    EXPECT_EQ(picture.at({150, 29}), kGround);
-    EXPECT_EQ(picture.at({150, 31}), kGround);
+    EXPECT_EQ(picture.at({150, 29}), kBackground);
+    EXPECT_EQ(picture.at({150, 31}), kBackground);
 }
 
-// 0x222222 with an alpha of 26 over the ground.
-int mixed(int ground)
+// 0x222222 with an alpha of 26 over the background.
+int mixed(int background)
 {
-    return (0x22 * 26 + ground * (255 - 26)) / 255;
+    return (0x22 * 26 + background * (255 - 26)) / 255;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -95,7 +94,7 @@ TEST_F(Separator, IsAFaintGreyByDefault)
     }
 }
 
-TEST_F(Separator, IsGreyUntilItHasAColour)
+TEST_F(Separator, IsGreyUntilAColorIsSet)
 {
     PlixSeparatorUI line(nullptr);
     line.resize(10, 10);
@@ -121,7 +120,7 @@ TEST_F(Separator, KeepsItsMarginOnTheLeadingEdge)
     EXPECT_EQ(row.ui<PlixSeparatorUI>({0, 1})->marginLeft(), 8);
 }
 
-TEST_F(Separator, HasNoMarginAsTheFirstInItsBox)
+TEST_F(Separator, HasNoMarginAsTheFirstItemOfItsBox)
 {
     const TestCard shown(
         bubbleWithBody(box("vertical", component("separator", R"("margin": "md",)"))));
@@ -135,7 +134,7 @@ TEST_F(Separator, DoesNotGrow)
     EXPECT_EQ(shown.ui<PlixSeparatorUI>({0, 1})->growFactor(), 0);
 }
 
-TEST_F(Separator, LiesAcrossTheCardAsAZone)
+TEST_F(Separator, IsHorizontalAsTheTopItemOfAZone)
 {
     const TestCard shown(R"({"type": "bubble", "hero": {"type": "separator"}})");
     EXPECT_EQ(shown.ui<PlixSeparatorUI>({0})->size(), QSizeF(300, 1));

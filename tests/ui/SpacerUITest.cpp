@@ -12,7 +12,7 @@ struct SpacerRow {
     const char* name;
     const char* layout;
     const char* properties;
-    double width; // -1: up to the layout
+    double width; // -1: not checked
     double height;
 
     friend std::ostream& operator<<(std::ostream& out, const SpacerRow& row)
@@ -23,7 +23,7 @@ struct SpacerRow {
 
 class SpacerSize : public PlixTest, public testing::WithParamInterface<SpacerRow> { };
 
-TEST_P(SpacerSize, RunsAlongTheBox)
+TEST_P(SpacerSize, IsAlongTheBox)
 {
     const TestCard card(bubbleWithBody(
         box(GetParam().layout, text("a") + "," + component("spacer", GetParam().properties))));
@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 using Spacer = PlixTest;
 
-TEST_F(Spacer, CountsAZoneAsARow)
+TEST_F(Spacer, InAZoneHasAWidth)
 {
     const TestCard card(R"({"type": "bubble", "hero": {"type": "spacer", "size": "xl"}})");
     YGUnit unit = YGUnitUndefined;

@@ -1,4 +1,4 @@
-// Whatever a card holds, its texts get the height that their width needs.
+// In any card, texts get the height that their width needs.
 #include "CardTree.h"
 #include "CardWriter.h"
 #include "model/PlixDataBox.h"
@@ -21,8 +21,7 @@ std::shared_ptr<PlixDataItem> dataOf(const QGraphicsItem& item)
     return PlixItemRegistry::GetInstance().Find(item.data(kDataItemRole).toLongLong());
 }
 
-// The height of the shown lines of `item` in another width, by an item that no
-// layout has touched.
+// The height of the shown lines of `item` in another width, measured with a new TextItem.
 double neededHeight(const PlixTextUI& item, double width)
 {
     const auto data = std::dynamic_pointer_cast<PlixDataText>(dataOf(item));
@@ -45,7 +44,7 @@ double neededHeight(const PlixTextUI& item, double width)
     return std::trunc(fresh.boundingRect().height());
 }
 
-// What the content of an item needs in the widths that its texts have.
+// The height that the content of an item needs at the widths that its texts have.
 double neededHeight(YogaLayoutItem& item)
 {
     if (const auto* shown = dynamic_cast<PlixTextUI*>(&item))
@@ -88,8 +87,8 @@ void expectTextFits(const PlixTextUI& item)
     EXPECT_TRUE(inside.adjusted(-1, 0, 1, 0).contains(item.mapRectToParent(item.boundingRect())));
 }
 
-// The space that an item takes. Texts keep their width from the rounding.
-QRectF takenRect(YogaLayoutItem& item)
+// The rectangle of an item. Texts have a width that is not rounded.
+QRectF rectOf(YogaLayoutItem& item)
 {
     const auto& shown = dynamic_cast<QGraphicsItem&>(item);
     return {shown.pos(), QSizeF(shown.boundingRect().width(), item.layoutHeight())};
@@ -98,8 +97,8 @@ QRectF takenRect(YogaLayoutItem& item)
 void expectNoOverlap(const YogaLayoutItem& parent, bool rightToLeft)
 {
     for (int i = 1; i < parent.childCount(); ++i) {
-        const QRectF before = takenRect(*parent.childAt(i - 1));
-        const QRectF after = takenRect(*parent.childAt(i));
+        const QRectF before = rectOf(*parent.childAt(i - 1));
+        const QRectF after = rectOf(*parent.childAt(i));
         if (parent.orientation() == Qt::Vertical)
             EXPECT_GE(after.top(), before.bottom());
         else if (rightToLeft)
@@ -135,7 +134,7 @@ void expectAllFits(const TestCard& card)
     });
 }
 
-// Rounding to pixels may move an edge that lies between two of them.
+// An edge between two pixels may be rounded either way.
 void expectSame(const std::vector<QRectF>& after, const std::vector<QRectF>& before)
 {
     ASSERT_EQ(after.size(), before.size());
@@ -175,7 +174,7 @@ TEST_P(GeneratedCard, GivesItsTextsTheHeightTheyNeed)
     }
 }
 
-TEST_P(GeneratedCard, StaysAsItIsWhenItIsLaidOutAgain)
+TEST_P(GeneratedCard, DoesNotChangeWhenItIsLaidOutAgain)
 {
     for (unsigned i = 0; i < 20; ++i) {
         const std::string json = CardWriter(GetParam() * 1000 + i).card();
@@ -194,7 +193,7 @@ TEST_P(GeneratedCard, StaysAsItIsWhenItIsLaidOutAgain)
     }
 }
 
-TEST_P(GeneratedCard, StaysAsItIsHoweverLittleRoomItHas)
+TEST_P(GeneratedCard, DoesNotChangeWhenItIsLaidOutAgainWithLittleRoom)
 {
     for (unsigned i = 0; i < 40; ++i) {
         const unsigned seed = GetParam() * 1000 + i;
@@ -215,7 +214,7 @@ TEST_P(GeneratedCard, StaysAsItIsHoweverLittleRoomItHas)
     }
 }
 
-TEST_P(GeneratedCard, GivesItsTextsTheHeightTheyNeedWhenItIsHigher)
+TEST_P(GeneratedCard, GivesItsTextsTheHeightTheyNeedWhenTheCardGrows)
 {
     for (unsigned i = 0; i < 10; ++i) {
         const std::string json = CardWriter(GetParam() * 1000 + i).card();
@@ -241,7 +240,7 @@ using TextFit = PlixTest;
 constexpr char kLong[] = "one two three four five six seven eight nine ten eleven twelve";
 constexpr char kWrap[] = R"("wrap": true,)";
 
-TEST_F(TextFit, HoldsInAbsoluteBoxes)
+TEST_F(TextFit, AppliesToAbsoluteBoxes)
 {
     for (const char* width : {"90px", "50%", "133px", "33%"}) {
         const TestCard card(bubbleWithBody(
@@ -270,7 +269,7 @@ TEST_F(TextFit, GivesTextsOfSeveralSizesOneBaseline)
     EXPECT_GT(card.item({0, 0})->pos().y(), card.item({0, 2})->pos().y() + 5);
 }
 
-TEST_F(TextFit, WrapsOnceMoreForEveryPixelThatIsMissing)
+TEST_F(TextFit, GivesATextTheHeightThatEveryWidthNeeds)
 {
     for (int width = 40; width < 200; ++width) {
         const TestCard card(

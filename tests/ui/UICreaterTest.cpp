@@ -1,4 +1,4 @@
-// Which class draws which kind of data.
+// Which class draws which kind of data item.
 #include "ui/PlixUICreater.h"
 
 #include "api/PlixDataMgr.h"
@@ -48,7 +48,7 @@ TEST_P(CreatedItem, IsOfTheClassOfItsKind)
     EXPECT_EQ(item->GetOwner(), nullptr);
 }
 
-TEST_P(CreatedItem, HasThreeFacesOfOneObject)
+TEST_P(CreatedItem, IsOneObjectOfThreeBaseClasses)
 {
     PlixBaseUI* const item =
         PlixUICreater::GetInstance().Create(GetParam().kind, nullptr, nullptr, {});
@@ -62,7 +62,7 @@ TEST_P(CreatedItem, HasThreeFacesOfOneObject)
     EXPECT_EQ(item->GetYogaItem()->orientation(), Qt::Vertical);
 }
 
-TEST_P(CreatedItem, TakesNothingFromDataThatItDoesNotKnow)
+TEST_P(CreatedItem, DoesNotInitialiseFromDataOfAnotherClass)
 {
     PlixBaseUI* const item =
         PlixUICreater::GetInstance().Create(GetParam().kind, nullptr, nullptr, {});
@@ -97,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, CreatedItem,
 
 class UndrawnKind : public PlixTest, public testing::WithParamInterface<int> { };
 
-TEST_P(UndrawnKind, HasNoItemAndNoLogLine)
+TEST_P(UndrawnKind, IsNotCreatedAndNotLogged)
 {
     EXPECT_EQ(PlixUICreater::GetInstance().Create(GetParam(), nullptr, nullptr, {}), nullptr);
     EXPECT_EQ(pendingLogLines(), 0);
@@ -120,7 +120,7 @@ std::shared_ptr<PlixDataText> makeText()
 
 using UICreater = PlixTest;
 
-TEST_F(UICreater, LeavesDataThatIsNotDrawnOutWithAllItHolds)
+TEST_F(UICreater, SkipsDataThatIsNotDrawnWithItsChildren)
 {
     PlixDataMgr manager;
     const auto body = std::make_shared<PlixDataBox>();

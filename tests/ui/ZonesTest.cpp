@@ -1,4 +1,4 @@
-// The zones of a card: their grounds, the lines between them, their insets.
+// The zones of a card: their backgrounds, the separators between them, their insets.
 #include "support/LayoutNode.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
@@ -12,7 +12,7 @@
 namespace plix::test {
 namespace {
 
-const QColor kGround(0xF1, 0xF3, 0xF7);
+const QColor kBackground(0xF1, 0xF3, 0xF7);
 const QColor kLine(0xCC, 0xCC, 0xCC);
 
 // A zone of one box, 40 pixels high.
@@ -37,7 +37,7 @@ std::string bubble(const std::vector<std::string>& zones, const std::vector<std:
     return json + "}";
 }
 
-// The bubble's children from top to bottom: "-" for a line, else "#".
+// The bubble's children from top to bottom: "-" for a separator, else "#".
 std::string orderOf(const TestCard& card)
 {
     std::string order;
@@ -61,16 +61,16 @@ struct LinesRow {
     }
 };
 
-class ZoneLines : public PlixTest, public testing::WithParamInterface<LinesRow> { };
+class ZoneSeparators : public PlixTest, public testing::WithParamInterface<LinesRow> { };
 
-TEST_P(ZoneLines, StandBeforeTheZonesThatAskForThem)
+TEST_P(ZoneSeparators, AreBeforeTheZonesWhoseStyleHasThem)
 {
     const TestCard card(bubble(GetParam().zones, GetParam().styles));
     EXPECT_EQ(orderOf(card), GetParam().order);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Cards, ZoneLines,
+    Cards, ZoneSeparators,
     testing::Values(
         LinesRow {"BodyAndFooter",
                   {zone("header"), zone("body"), zone("footer")},
@@ -109,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 using Zones = PlixTest;
 
-TEST_F(Zones, AreSeparatedByALineOfOnePixelInFullWidth)
+TEST_F(Zones, AreSeparatedByALineOfOnePixelAndFullWidth)
 {
     const TestCard card(
         bubble({zone("header"), zone("body"), zone("footer")},
@@ -121,14 +121,14 @@ TEST_F(Zones, AreSeparatedByALineOfOnePixelInFullWidth)
     EXPECT_EQ(root->size().height(), 122);
     const Picture picture(*card.root());
     for (const double x : {0.0, 150.0, 299.0}) {
-        EXPECT_EQ(picture.at({x, 39}), kGround);
+        EXPECT_EQ(picture.at({x, 39}), kBackground);
         EXPECT_EQ(picture.at({x, 40}), kLine);
-        EXPECT_EQ(picture.at({x, 41}), kGround);
+        EXPECT_EQ(picture.at({x, 41}), kBackground);
         EXPECT_EQ(picture.at({x, 81}), QColor(Qt::red));
     }
 }
 
-TEST_F(Zones, HaveTheGroundOfTheirStyle)
+TEST_F(Zones, HaveTheBackbackgroundOfTheirStyle)
 {
     const TestCard card(
         bubble({zone("header"), zone("hero"), zone("body"), zone("footer")},
@@ -145,41 +145,41 @@ TEST_F(Zones, HaveTheGroundOfTheirStyle)
     EXPECT_EQ(picture.at({150, 140}), QColor(Qt::yellow));
 }
 
-TEST_F(Zones, KeepGroundsOfTheirOwn)
+TEST_F(Zones, KeepABackbackgroundOfTheirOwn)
 {
     const TestCard card(bubble({zone("body", R"("backgroundColor": "#00FF00",)")},
                                {style("body", R"("backgroundColor": "#FF0000")")}));
     EXPECT_EQ(Picture(*card.root()).at({150, 20}), QColor(Qt::green));
 }
 
-TEST_F(Zones, StayClearWithoutAGround)
+TEST_F(Zones, AreTransparentWithoutABackground)
 {
     const TestCard card(bubble({zone("body")}, {style("body", R"("backgroundColor": "")")}));
     EXPECT_FALSE(card.ui<PlixBoxUI>({0})->hasBackground());
-    EXPECT_EQ(Picture(*card.root()).at({150, 20}), kGround);
+    EXPECT_EQ(Picture(*card.root()).at({150, 20}), kBackground);
 }
 
-TEST_F(Zones, GetNoGroundWhenTheyAreNoBoxes)
+TEST_F(Zones, HaveNoBackgroundWhenTheyAreNoBoxes)
 {
     const TestCard card(
         bubble({R"("body": )" + text("a")}, {style("body", R"("backgroundColor": "#FF0000")")}));
-    EXPECT_EQ(Picture(*card.root()).at({290, 30}), kGround);
+    EXPECT_EQ(Picture(*card.root()).at({290, 30}), kBackground);
 }
 
-// What must not move the styles of the zones after it.
-struct GapRow {
+// A hero that must not change which styles the zones after it have.
+struct HeroRow {
     const char* name;
     std::string hero;
 
-    friend std::ostream& operator<<(std::ostream& out, const GapRow& row)
+    friend std::ostream& operator<<(std::ostream& out, const HeroRow& row)
     {
         return out << row.name;
     }
 };
 
-class ZoneAfterAGap : public PlixTest, public testing::WithParamInterface<GapRow> { };
+class ZoneAfterAnyHero : public PlixTest, public testing::WithParamInterface<HeroRow> { };
 
-TEST_P(ZoneAfterAGap, HasItsOwnStyle)
+TEST_P(ZoneAfterAnyHero, HasItsOwnStyle)
 {
     const TestCard card(bubble({zone("header"), GetParam().hero, zone("body"), zone("footer")},
                                {style("header", R"("backgroundColor": "#FF0000")"),
@@ -190,26 +190,26 @@ TEST_P(ZoneAfterAGap, HasItsOwnStyle)
     const int last = root->childCount() - 1;
     ASSERT_GE(last, 3);
     const Picture picture(*card.root());
-    const auto groundOf = [&](int index) {
+    const auto backgroundOf = [&](int index) {
         return picture.at(root->childAt(index)->geometry().center());
     };
-    EXPECT_EQ(groundOf(0), QColor(Qt::red));
+    EXPECT_EQ(backgroundOf(0), QColor(Qt::red));
     EXPECT_TRUE(orderOf(card).ends_with("-##")) << orderOf(card);
-    EXPECT_EQ(groundOf(last - 1), QColor(Qt::blue));
-    EXPECT_EQ(groundOf(last), QColor(Qt::yellow));
+    EXPECT_EQ(backgroundOf(last - 1), QColor(Qt::blue));
+    EXPECT_EQ(backgroundOf(last), QColor(Qt::yellow));
     EXPECT_EQ(Plix_ModifyHeight(card.controller(), 700), 0);
     EXPECT_EQ(root->childAt(last)->geometry().height(), 40);
     EXPECT_GT(root->childAt(last - 1)->geometry().height(), 300) << "the body has grown";
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Heroes, ZoneAfterAGap,
-    testing::Values(GapRow {"Missing", R"("more": 1)"}, GapRow {"WithoutType", R"("hero": {})"},
-                    GapRow {"OfAnUnknownType", R"("hero": {"type": "film"})"},
-                    GapRow {"Image", R"("hero": {"type": "image", "url": "a.png"})"},
-                    GapRow {"Button", R"("hero": {"type": "button"})"},
-                    GapRow {"Separator", R"("hero": {"type": "separator"})"},
-                    GapRow {"Text", R"("hero": {"type": "text", "text": "a"})"}),
+    Heroes, ZoneAfterAnyHero,
+    testing::Values(HeroRow {"Missing", R"("more": 1)"}, HeroRow {"WithoutType", R"("hero": {})"},
+                    HeroRow {"OfAnUnknownType", R"("hero": {"type": "film"})"},
+                    HeroRow {"Image", R"("hero": {"type": "image", "url": "a.png"})"},
+                    HeroRow {"Button", R"("hero": {"type": "button"})"},
+                    HeroRow {"Separator", R"("hero": {"type": "separator"})"},
+                    HeroRow {"Text", R"("hero": {"type": "text", "text": "a"})"}),
     [](const auto& row) { return std::string(row.param.name); });
 
 // ----- Insets
@@ -229,7 +229,7 @@ struct InsetRow {
 
 class ZoneInsets : public PlixTest, public testing::WithParamInterface<InsetRow> { };
 
-TEST_P(ZoneInsets, KeepTheContentOffTheEdges)
+TEST_P(ZoneInsets, AreBetweenTheContentAndTheEdges)
 {
     const TestCard card(std::string(R"({"type": "bubble", "size": ")") + GetParam().size + "\","
                         + GetParam().zones + "}");
@@ -259,11 +259,11 @@ INSTANTIATE_TEST_SUITE_P(
                     InsetRow {"NanoBodyAboveAFooter", "nano",
                               plainZone("body") + "," + plainZone("footer"), 10, 0},
                     InsetRow {"Text", "mega", R"("body": {"type": "text", "text": "a"})", 20, 20},
-                    InsetRow {"PaddingOfTheBoxsOwn", "mega",
+                    InsetRow {"PaddingAllOfTheBox", "mega",
                               R"("body": {"type": "box", "paddingAll": "3px"})", 3, 3}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(Zones, GiveARowTheFullWidth)
+TEST_F(Zones, GiveABoxTheFullWidth)
 {
     for (const char* layout : {"horizontal", "baseline", "vertical"}) {
         const TestCard card(bubbleWithBody(box(layout, text("a") + "," + text("b"))));
@@ -272,7 +272,7 @@ TEST_F(Zones, GiveARowTheFullWidth)
     }
 }
 
-TEST_F(Zones, HoldTextsInsideTheirInsets)
+TEST_F(Zones, DrawTextsInsideTheirInsets)
 {
     const TestCard card(bubbleWithBody(
         text("words that do not fit into a single line of so narrow a card", R"("wrap": true,)"),
