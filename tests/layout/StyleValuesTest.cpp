@@ -1,4 +1,4 @@
-// What the words of a card mean in pixels and colours.
+// Conversions of the words of a card to pixels and colours.
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataBubble.h"
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-// A word and what a conversion makes of it.
+// A text and the value that a conversion returns for it.
 template <typename Value> struct Row {
     const char* name;
     std::string text;
@@ -98,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ParsedLength,
                                          LengthRow {"Garbage", "wide", {0, 0}}),
                          rowName<LengthRow>);
 
-TEST(ParseLength, LeavesThePercentageOfAnEarlierTextWhenTheNewOneIsInPixels)
+TEST(ParseLength, KeepsAnEarlierPercentageWhenTheNewTextIsInPixels)
 {
     PlixLength length;
     plix::ParseLength("40%", length);
@@ -107,7 +107,7 @@ TEST(ParseLength, LeavesThePercentageOfAnEarlierTextWhenTheNewOneIsInPixels)
     EXPECT_EQ(length.percent, 40);
 }
 
-TEST(ParseLength, TakesEverythingBackForAnEmptyText)
+TEST(ParseLength, ResetsTheLengthForAnEmptyText)
 {
     PlixLength length;
     plix::ParseLength("40%", length);
@@ -127,8 +127,8 @@ INSTANTIATE_TEST_SUITE_P(Texts, Spacing,
                          testing::Values(PixelRow {"Xs", "xs", 2}, PixelRow {"Sm", "sm", 4},
                                          PixelRow {"Md", "md", 8}, PixelRow {"Lg", "lg", 12},
                                          PixelRow {"Xl", "xl", 16}, PixelRow {"Xxl", "xxl", 20},
-                                         PixelRow {"PixelsAreNothing", "8px", 0},
-                                         PixelRow {"NumbersAreNothing", "8", 0},
+                                         PixelRow {"PixelsAreZero", "8px", 0},
+                                         PixelRow {"NumbersAreZero", "8", 0},
                                          PixelRow {"Empty", "", 0},
                                          PixelRow {"OtherCase", "MD", 0}),
                          rowName<PixelRow>);
@@ -199,7 +199,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ImageRow {"Lg", "lg", 120}, ImageRow {"Xl", "xl", 140},
                     ImageRow {"Xxl", "xxl", 160}, ImageRow {"ThreeXl", "3xl", 180},
                     ImageRow {"FourXl", "4xl", 200}, ImageRow {"FiveXl", "5xl", 220},
-                    ImageRow {"FullIsAMark", "full", -2}, ImageRow {"Empty", "", 100},
+                    ImageRow {"FullIsASpecialValue", "full", -2}, ImageRow {"Empty", "", 100},
                     ImageRow {"Pixels", "70px", 100}, ImageRow {"OtherCase", "XL", 100}),
     rowName<ImageRow>);
 

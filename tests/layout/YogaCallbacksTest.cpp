@@ -1,4 +1,4 @@
-// What Yoga asks the items while it computes.
+// The callbacks that Yoga makes while it computes a layout.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
 
@@ -14,16 +14,16 @@ namespace {
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-// Answers a fixed size and keeps the questions.
+// Returns a fixed size and records the calls.
 class Measured : public LayoutNode {
 public:
-    explicit Measured(const QSizeF& answer)
-        : answer_(answer)
+    explicit Measured(const QSizeF& size)
+        : size_(size)
     {
         setHasMeasureFunc(true);
     }
 
-    struct Question {
+    struct Call {
         double width;
         YGMeasureMode widthMode;
         double height;
@@ -33,20 +33,20 @@ public:
     QSizeF measure(double width, YGMeasureMode widthMode, double height,
                    YGMeasureMode heightMode) override
     {
-        questions.push_back({width, widthMode, height, heightMode});
-        return answer_;
+        calls.push_back({width, widthMode, height, heightMode});
+        return size_;
     }
 
-    std::vector<Question> questions;
+    std::vector<Call> calls;
 
 private:
-    QSizeF answer_;
+    QSizeF size_;
 };
 
 struct SizeRow {
     const char* name;
-    QSizeF answer;
-    QSizeF seen;
+    QSizeF size;
+    QSizeF expected;
 
     friend std::ostream& operator<<(std::ostream& out, const SizeRow& row)
     {
@@ -61,43 +61,43 @@ TEST_P(MeasuredSize, IsAtLeastOne)
     LayoutNode root;
     root.setOrientation(Qt::Horizontal);
     YGNodeStyleSetAlignItems(root.node(), YGAlignFlexStart);
-    Measured item(GetParam().answer);
+    Measured item(GetParam().size);
     root.addChild(&item);
     root.calculateLayout();
-    EXPECT_EQ(item.geometry().size(), GetParam().seen);
+    EXPECT_EQ(item.geometry().size(), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Answers, MeasuredSize,
+INSTANTIATE_TEST_SUITE_P(Sizes, MeasuredSize,
                          testing::Values(SizeRow {"Ordinary", {30, 20}, {30, 20}},
                                          SizeRow {"Zero", {0, 0}, {1, 1}},
                                          SizeRow {"Negative", {-3, -4}, {1, 1}},
                                          SizeRow {"ZeroWidthOnly", {0, 20}, {1, 20}},
                                          SizeRow {"ZeroHeightOnly", {30, 0}, {30, 1}},
                                          SizeRow {"NotANumber", {kNan, kNan}, {1, 1}},
-                                         SizeRow {"BelowWhatAFloatHolds", {1e-60, 1e-60}, {1, 1}}),
+                                         SizeRow {"TooSmallForAFloat", {1e-60, 1e-60}, {1, 1}}),
                          [](const auto& row) { return std::string(row.param.name); });
 
 using LayoutCallbacks = PlixTest;
 
-TEST_F(LayoutCallbacks, PassOnWhatYogaOffers)
+TEST_F(LayoutCallbacks, PassTheConstraintsOfYogaOn)
 {
     LayoutNode root;
     Measured item({30, 20});
     root.addChild(&item);
     root.calculateLayout(80, 500);
-    ASSERT_FALSE(item.questions.empty());
-    EXPECT_EQ(item.questions.front().width, 80);
-    EXPECT_EQ(item.questions.front().widthMode, YGMeasureModeExactly);
+    ASSERT_FALSE(item.calls.empty());
+    EXPECT_EQ(item.calls.front().width, 80);
+    EXPECT_EQ(item.calls.front().widthMode, YGMeasureModeExactly);
 
-    item.questions.clear();
+    item.calls.clear();
     item.markDirty();
     root.calculateLayout();
-    ASSERT_FALSE(item.questions.empty());
-    EXPECT_TRUE(std::isnan(item.questions.front().width));
-    EXPECT_EQ(item.questions.front().widthMode, YGMeasureModeUndefined);
+    ASSERT_FALSE(item.calls.empty());
+    EXPECT_TRUE(std::isnan(item.calls.front().width));
+    EXPECT_EQ(item.calls.front().widthMode, YGMeasureModeUndefined);
 }
 
-TEST_F(LayoutCallbacks, TakeWhatIsOfferedForItemsThatDoNotMeasure)
+TEST_F(LayoutCallbacks, UseTheConstraintsForItemsThatDoNotMeasure)
 {
     LayoutNode root;
     YogaLayoutItem item(false);
@@ -107,22 +107,22 @@ TEST_F(LayoutCallbacks, TakeWhatIsOfferedForItemsThatDoNotMeasure)
     EXPECT_EQ(item.geometry().width(), 80);
 }
 
-TEST_F(LayoutCallbacks, TakeWhatIsOfferedForNodesThatAreNotChildren)
+TEST_F(LayoutCallbacks, UseTheConstraintsForNodesThatAreNotChildren)
 {
     Measured root({30, 20});
     root.calculateLayout(80, 40);
-    EXPECT_TRUE(root.questions.empty());
+    EXPECT_TRUE(root.calls.empty());
     EXPECT_EQ(root.geometry(), QRectF(0, 0, 80, 40));
 }
 
-TEST_F(LayoutCallbacks, AreNotMadeOnceMeasuringIsOff)
+TEST_F(LayoutCallbacks, AreNotMadeWhenMeasuringIsOff)
 {
     LayoutNode root;
     Measured item({30, 20});
     item.setHasMeasureFunc(false);
     root.addChild(&item);
     root.calculateLayout(80, YGUndefined);
-    EXPECT_TRUE(item.questions.empty());
+    EXPECT_TRUE(item.calls.empty());
     EXPECT_EQ(item.geometry().height(), 0);
 }
 
@@ -132,15 +132,15 @@ TEST_F(LayoutCallbacks, AreMadeAgainForADirtyItemOnly)
     Measured item({30, 20});
     root.addChild(&item);
     root.calculateLayout(80, 500);
-    item.questions.clear();
+    item.calls.clear();
     root.calculateLayout(80, 500);
-    EXPECT_TRUE(item.questions.empty());
+    EXPECT_TRUE(item.calls.empty());
     item.markDirty();
     root.calculateLayout(80, 500);
-    EXPECT_FALSE(item.questions.empty());
+    EXPECT_FALSE(item.calls.empty());
 }
 
-TEST_F(LayoutCallbacks, AreNeededToMarkAnItemDirty)
+TEST_F(LayoutCallbacks, AreNeededToMarkAnItemAsDirty)
 {
     LayoutNode root;
     LayoutNode child;
@@ -168,7 +168,7 @@ public:
     float baseline(double, double) override { throw 42; }
 };
 
-TEST_F(LayoutCallbacks, ContainWhatTheItemsThrow)
+TEST_F(LayoutCallbacks, CatchExceptionsOfTheItems)
 {
     LayoutNode root;
     root.setOrientation(Qt::Horizontal);
@@ -179,12 +179,12 @@ TEST_F(LayoutCallbacks, ContainWhatTheItemsThrow)
     root.addChild(&second);
     EXPECT_NO_THROW(root.calculateLayout(80, 40));
     EXPECT_NO_THROW(root.calculateLayout());
-    EXPECT_EQ(first.geometry().size(), QSizeF(1, 1)) << "nothing was offered";
+    EXPECT_EQ(first.geometry().size(), QSizeF(1, 1)) << "there was no constraint";
 }
 
-class Standing : public Measured {
+class Aligned : public Measured {
 public:
-    Standing(const QSizeF& size, float baseline)
+    Aligned(const QSizeF& size, float baseline)
         : Measured(size)
         , baseline_(baseline)
     {
@@ -202,20 +202,20 @@ TEST_F(LayoutCallbacks, AlignItemsOnTheirBaselines)
     LayoutNode row;
     row.setOrientation(Qt::Horizontal);
     row.setAlignment(Qt::AlignBaseline, true);
-    Standing small({10, 10}, 8);
-    Standing large({10, 40}, 30);
+    Aligned small({10, 10}, 8);
+    Aligned large({10, 40}, 30);
     row.addChild(&small);
     row.addChild(&large);
     row.calculateLayout(100, YGUndefined);
     EXPECT_EQ(small.geometry().top() + 8, large.geometry().top() + 30);
 }
 
-TEST_F(LayoutCallbacks, StandItemsWithoutABaselineOnTheirBottoms)
+TEST_F(LayoutCallbacks, AlignItemsWithoutABaselineOnTheirBottoms)
 {
     LayoutNode row;
     row.setOrientation(Qt::Horizontal);
     row.setAlignment(Qt::AlignBaseline, true);
-    Standing small({10, 10}, 2);
+    Aligned small({10, 10}, 2);
     small.setHasBaselineFunc(false);
     YogaLayoutItem bare(false);
     bare.setHasBaselineFunc(true);
@@ -227,7 +227,7 @@ TEST_F(LayoutCallbacks, StandItemsWithoutABaselineOnTheirBottoms)
     EXPECT_EQ(small.geometry().bottom(), bare.geometry().bottom());
 }
 
-TEST_F(LayoutCallbacks, SurviveSizesThatNoLayoutHolds)
+TEST_F(LayoutCallbacks, AcceptInfiniteAndHugeSizes)
 {
     LayoutNode root;
     Measured item({kInfinity, 1e300});

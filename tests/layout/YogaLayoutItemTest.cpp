@@ -1,4 +1,4 @@
-// What each style operation sets on the node, and what the getters read back.
+// What each style setter sets on the node, and what the getters return.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
 
@@ -16,7 +16,7 @@ template <typename Row> std::string rowName(const testing::TestParamInfo<Row>& r
 
 using Item = YogaLayoutItem;
 
-// A setter and the one style value that it is to change.
+// A setter and the style value that it changes.
 struct StyleRow {
     const char* name;
     std::function<void(Item&)> set;
@@ -203,7 +203,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 using LayoutItem = PlixTest;
 
-TEST_F(LayoutItem, StartsWithoutBorderAndKnowsItself)
+TEST_F(LayoutItem, StartsWithoutABorderAndIsTheContextOfItsNode)
 {
     LayoutNode item;
     EXPECT_EQ(item.border(), 0);
@@ -220,7 +220,7 @@ TEST_F(LayoutItem, HasTheDirectionOfItsDefaults)
     EXPECT_EQ(YogaLayoutItem(true).orientation(), Qt::Horizontal);
 }
 
-TEST_F(LayoutItem, TakesTheTwoOrientationsOnly)
+TEST_F(LayoutItem, AcceptsTheTwoOrientationsOnly)
 {
     LayoutNode item;
     item.setOrientation(Qt::Horizontal);
@@ -233,14 +233,14 @@ TEST_F(LayoutItem, TakesTheTwoOrientationsOnly)
     EXPECT_EQ(YGNodeStyleGetFlexDirection(item.node()), YGFlexDirectionColumn);
 }
 
-TEST_F(LayoutItem, TakesAReversedRowForVertical)
+TEST_F(LayoutItem, ReportsAReversedRowAsVertical)
 {
     LayoutNode item;
     YGNodeStyleSetFlexDirection(item.node(), YGFlexDirectionRowReverse);
     EXPECT_EQ(item.orientation(), Qt::Vertical);
 }
 
-TEST_F(LayoutItem, TakesTheTwoLayoutDirections)
+TEST_F(LayoutItem, AcceptsTheTwoLayoutDirectionsOnly)
 {
     LayoutNode item;
     EXPECT_EQ(item.layoutDirection(), Qt::LeftToRight);
@@ -253,7 +253,7 @@ TEST_F(LayoutItem, TakesTheTwoLayoutDirections)
     EXPECT_EQ(YGNodeStyleGetDirection(item.node()), YGDirectionLTR);
 }
 
-TEST_F(LayoutItem, ReadsMarginsBack)
+TEST_F(LayoutItem, ReturnsItsMargins)
 {
     LayoutNode item;
     EXPECT_EQ(item.marginTop(), 0);
@@ -265,7 +265,7 @@ TEST_F(LayoutItem, ReadsMarginsBack)
     EXPECT_EQ(item.marginBottom(), 4);
 }
 
-TEST_F(LayoutItem, LeavesPaddingsAloneThatAreNegative)
+TEST_F(LayoutItem, IgnoresNegativePaddings)
 {
     LayoutNode item;
     item.setPaddings(1, 2, 3, 4);
@@ -281,7 +281,7 @@ TEST_F(LayoutItem, LeavesPaddingsAloneThatAreNegative)
     EXPECT_EQ(YGNodeStyleGetPadding(fresh.node(), YGEdgeRight).unit, YGUnitUndefined);
 }
 
-TEST_F(LayoutItem, ReadsAnEdgesPaddingBeforeThatOfAllEdges)
+TEST_F(LayoutItem, PrefersThePaddingOfAnEdgeToThatOfAllEdges)
 {
     LayoutNode item;
     EXPECT_EQ(item.paddingLeft(), 0);
@@ -295,18 +295,18 @@ TEST_F(LayoutItem, ReadsAnEdgesPaddingBeforeThatOfAllEdges)
     EXPECT_EQ(item.paddingTop(), 6);
 }
 
-TEST_F(LayoutItem, NotesThePaddingsThatKeepAZonesInsetsOut)
+TEST_F(LayoutItem, KnowsWhetherItHasAPaddingThatReplacesInsets)
 {
-    const auto noted = [](const std::function<void(Item&)>& set) {
+    const auto hasPaddingAfter = [](const std::function<void(Item&)>& set) {
         LayoutNode item;
         set(item);
         return item.hasPadding();
     };
-    EXPECT_TRUE(noted([](Item& i) { i.setPadding(0); }));
-    EXPECT_TRUE(noted([](Item& i) { i.setPaddingBottom(3); }));
-    EXPECT_FALSE(noted([](Item& i) { i.setPaddings(1, 2, 3, 4); }));
-    EXPECT_FALSE(noted([](Item& i) { i.setPaddingPercent(5); }));
-    EXPECT_FALSE(noted([](Item& i) { i.setPaddingBottomPercent(5); }));
+    EXPECT_TRUE(hasPaddingAfter([](Item& i) { i.setPadding(0); }));
+    EXPECT_TRUE(hasPaddingAfter([](Item& i) { i.setPaddingBottom(3); }));
+    EXPECT_FALSE(hasPaddingAfter([](Item& i) { i.setPaddings(1, 2, 3, 4); }));
+    EXPECT_FALSE(hasPaddingAfter([](Item& i) { i.setPaddingPercent(5); }));
+    EXPECT_FALSE(hasPaddingAfter([](Item& i) { i.setPaddingBottomPercent(5); }));
 }
 
 TEST_F(LayoutItem, ReportsTheStyleWidthWithItsUnit)
@@ -324,7 +324,7 @@ TEST_F(LayoutItem, ReportsTheStyleWidthWithItsUnit)
     EXPECT_EQ(unit, YGUnitAuto);
 }
 
-TEST_F(LayoutItem, ForgetsAHeightThatBecomesAutomatic)
+TEST_F(LayoutItem, ReplacesAHeightByAnAutomaticOne)
 {
     LayoutNode item;
     item.setHeight(40);
@@ -350,7 +350,7 @@ TEST_F(LayoutItem, TruncatesTheGrowFactor)
     EXPECT_FLOAT_EQ(YGNodeStyleGetFlexGrow(item.node()), 2.75F);
 }
 
-TEST_F(LayoutItem, CountsAGrowFactorThatIsNoNumberAsNone)
+TEST_F(LayoutItem, TreatsAGrowFactorOfNanAsZero)
 {
     LayoutNode item;
     item.setGrowFactor(std::numeric_limits<double>::quiet_NaN());
@@ -373,7 +373,7 @@ TEST_F(LayoutItem, DoesNotGrowByANegativeFactor)
     EXPECT_EQ(negative.growFactor(), 0);
 }
 
-TEST_F(LayoutItem, SurvivesGrowFactorsBeyondAnInteger)
+TEST_F(LayoutItem, ClampsGrowFactorsToTheLargestInteger)
 {
     LayoutNode item;
     item.setGrowFactor(std::numeric_limits<int>::max());
@@ -382,7 +382,7 @@ TEST_F(LayoutItem, SurvivesGrowFactorsBeyondAnInteger)
     EXPECT_EQ(item.growFactor(), std::numeric_limits<int>::max());
 }
 
-TEST_F(LayoutItem, TurnsIntoATextNodeAndBack)
+TEST_F(LayoutItem, BecomesATextNodeAndADefaultOneAgain)
 {
     LayoutNode item;
     item.setTextNode(true);
@@ -391,7 +391,7 @@ TEST_F(LayoutItem, TurnsIntoATextNodeAndBack)
     EXPECT_EQ(YGNodeGetNodeType(item.node()), YGNodeTypeDefault);
 }
 
-TEST_F(LayoutItem, LeavesTheFlowAndReturns)
+TEST_F(LayoutItem, BecomesAbsoluteAndRelativeAgain)
 {
     LayoutNode item;
     EXPECT_FALSE(item.isAbsolute());
@@ -435,7 +435,7 @@ TEST_F(LayoutItem, ReportsNoOffsetThatIsAPercentage)
     EXPECT_EQ(item.positionTop(), -1) << "the percentage replaces the pixels";
 }
 
-TEST_F(LayoutItem, KeepsItsMarks)
+TEST_F(LayoutItem, KeepsItsFlags)
 {
     LayoutNode item;
     item.setHasMargin(true);
@@ -470,7 +470,7 @@ TEST_F(LayoutItem, RefusesToResetWhileItIsAChildOrAParent)
     EXPECT_EQ(YGNodeStyleGetWidth(child.node()).value, 30);
 }
 
-TEST_F(LayoutItem, FindsNothingToHighlight)
+TEST_F(LayoutItem, HighlightsNothing)
 {
     LayoutNode item;
     EXPECT_EQ(item.setHighlightText({QStringLiteral("word")}), -1);

@@ -1,4 +1,4 @@
-// An item without a node: every operation does nothing or answers its default.
+// Items without a node: every operation does nothing or returns its default.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
 
@@ -156,7 +156,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 using ItemWithoutNode = PlixTest;
 
-TEST_F(ItemWithoutNode, AnswersTheOtherDefaults)
+TEST_F(ItemWithoutNode, ReturnsTheOtherDefaults)
 {
     LayoutNode item(nullptr);
     EXPECT_EQ(item.orientation(), Qt::Vertical);
@@ -169,14 +169,14 @@ TEST_F(ItemWithoutNode, AnswersTheOtherDefaults)
     EXPECT_EQ(item.setHighlightText({QStringLiteral("word")}), -1);
 }
 
-TEST_F(ItemWithoutNode, TakesWhatItIsOfferedWhenMeasured)
+TEST_F(ItemWithoutNode, UsesTheConstraintsWhenMeasured)
 {
     LayoutNode item(nullptr);
     EXPECT_EQ(item.measure(30, YGMeasureModeExactly, 40, YGMeasureModeAtMost), QSizeF(30, 40));
     EXPECT_EQ(item.baseline(30, 40), 40);
 }
 
-TEST_F(ItemWithoutNode, IsNotTakenInAsAChild)
+TEST_F(ItemWithoutNode, IsNotAddedAsAChild)
 {
     LayoutNode parent;
     LayoutNode child(nullptr);

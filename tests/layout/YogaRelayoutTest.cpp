@@ -1,5 +1,5 @@
-// Items that change their own style while they are placed: the parent computes
-// its subtree again, once.
+// Items that change their own style while they are placed: the parent is laid out again,
+// once.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
 
@@ -12,11 +12,11 @@
 namespace plix::test {
 namespace {
 
-// Behaves like a text that takes another width than it was given: changes its
-// width style each time it is placed, and asks for the layout of its parent.
-class Restless : public LayoutNode, public QGraphicsLayoutItem {
+// Behaves like a text that needs another width than it was given: changes the width of its
+// style each time it is placed, and requests a layout of its parent.
+class Resizing : public LayoutNode, public QGraphicsLayoutItem {
 public:
-    explicit Restless(double step = -1)
+    explicit Resizing(double step = -1)
         : step_(step)
     {
         setGeometryTarget(this);
@@ -58,14 +58,14 @@ private:
     double step_;
 };
 
-// The calls of a round of layout, for a card that is not a single item.
+// The calls of all items of a layout.
 struct Calls {
     long measured = 0;
     long placed = 0;
     long relayouts = 0;
 };
 
-Calls callsOf(const std::vector<std::unique_ptr<Restless>>& items)
+Calls callsOf(const std::vector<std::unique_ptr<Resizing>>& items)
 {
     Calls calls;
     for (const auto& item : items) {
@@ -78,7 +78,7 @@ Calls callsOf(const std::vector<std::unique_ptr<Restless>>& items)
 
 using Relayout = PlixTest;
 
-TEST_F(Relayout, IsPendingOnceAChildHasAskedForIt)
+TEST_F(Relayout, IsPendingAfterARequest)
 {
     LayoutNode item;
     EXPECT_FALSE(item.isRelayoutPending());
@@ -107,7 +107,7 @@ TEST_F(Relayout, KeepsTheSizeOfTheSubtree)
     EXPECT_EQ(child.geometry().height(), 30);
 }
 
-TEST_F(Relayout, LeavesTheStyleAsItWas)
+TEST_F(Relayout, RestoresTheStyle)
 {
     LayoutNode root;
     LayoutNode box;
@@ -128,7 +128,7 @@ TEST_F(Relayout, LeavesTheStyleAsItWas)
     EXPECT_EQ(YGNodeStyleGetHeight(box.node()).value, 22);
 }
 
-TEST_F(Relayout, KeepsThePlaceOfTheSubtree)
+TEST_F(Relayout, KeepsThePositionOfTheSubtree)
 {
     LayoutNode root;
     LayoutNode above;
@@ -162,10 +162,10 @@ TEST_F(Relayout, KeepsTheDirectionOfTheCard)
     EXPECT_EQ(child.geometry().left(), 60);
 }
 
-// Takes another width the first time that it is measured.
-class SecondThought : public LayoutNode {
+// Changes its width the first time that it is measured.
+class NarrowingItem : public LayoutNode {
 public:
-    SecondThought()
+    NarrowingItem()
     {
         setHasMeasureFunc(true);
         LayoutNode::setWidth(80);
@@ -184,7 +184,7 @@ TEST_F(Relayout, IsNotNeededForStylesThatChangeWhileTheyAreMeasured)
     LayoutNode root;
     LayoutNode outer;
     LayoutNode inner;
-    SecondThought item;
+    NarrowingItem item;
     root.addChild(&outer);
     outer.addChild(&inner);
     inner.addChild(&item);
@@ -193,13 +193,13 @@ TEST_F(Relayout, IsNotNeededForStylesThatChangeWhileTheyAreMeasured)
     EXPECT_EQ(item.layoutWidth(), 40);
 }
 
-TEST_F(Relayout, IsTakenUpByTheNextLayoutFromDeepBelow)
+TEST_F(Relayout, OfNestedBoxesIsKeptByTheNextLayouts)
 {
-    // Two boxes that were computed again, one in the other.
+    // Two boxes that are laid out again, one inside the other.
     LayoutNode root;
     LayoutNode outer;
     LayoutNode inner;
-    SecondThought item;
+    NarrowingItem item;
     outer.setMargins(0, 7, 0, 0);
     inner.setMargins(0, 5, 0, 0);
     root.addChild(&outer);
@@ -218,32 +218,32 @@ TEST_F(Relayout, IsTakenUpByTheNextLayoutFromDeepBelow)
     EXPECT_EQ(outer.geometry().top(), 7);
 }
 
-TEST_F(Relayout, PlacesTheSiblingsThatWerePlacedBefore)
+TEST_F(Relayout, PlacesSiblingsAgain)
 {
     LayoutNode root;
     LayoutNode row;
     row.setOrientation(Qt::Horizontal);
-    Restless first(0);
-    Restless second(-10);
-    Restless third(0);
+    Resizing first(0);
+    Resizing second(-10);
+    Resizing third(0);
     root.addChild(&row);
-    for (Restless* child : {&first, &second, &third})
+    for (Resizing* child : {&first, &second, &third})
         row.addChild(child);
     root.calculateLayout(200, 100);
     root.applyLayoutRecursive();
-    for (const Restless* child : {&first, &second, &third})
+    for (const Resizing* child : {&first, &second, &third})
         EXPECT_EQ(child->last, child->YogaLayoutItem::geometry());
 }
 
-TEST_F(Relayout, HappensOncePerRoundHoweverOftenItIsAskedFor)
+TEST_F(Relayout, HappensOncePerPassHoweverOftenItIsRequested)
 {
     LayoutNode root;
     LayoutNode row;
     row.setOrientation(Qt::Horizontal);
     root.addChild(&row);
-    std::vector<std::unique_ptr<Restless>> children;
+    std::vector<std::unique_ptr<Resizing>> children;
     for (int i = 0; i < 10; ++i) {
-        children.push_back(std::make_unique<Restless>());
+        children.push_back(std::make_unique<Resizing>());
         row.addChild(children.back().get());
     }
     root.calculateLayout(1000, 100);
@@ -253,11 +253,11 @@ TEST_F(Relayout, HappensOncePerRoundHoweverOftenItIsAskedFor)
 
     root.calculateLayout(1000, 100);
     root.applyLayoutRecursive();
-    EXPECT_EQ(callsOf(children).relayouts, 2) << "the next round has one of its own";
+    EXPECT_EQ(callsOf(children).relayouts, 2) << "once more in the next pass";
     EXPECT_EQ(callsOf(children).placed, 40);
 }
 
-TEST_F(Relayout, StartsFromTheStylesOwnWidthEachTime)
+TEST_F(Relayout, StartsFromTheOriginalWidthInEachPass)
 {
     LayoutNode root;
     LayoutNode row;
@@ -281,7 +281,7 @@ TEST_F(Relayout, StartsFromTheStylesOwnWidthEachTime)
     }
 }
 
-TEST_F(Relayout, LeavesAWidthThatIsSetMeanwhile)
+TEST_F(Relayout, DoesNotRestoreAWidthThatWasSetMeanwhile)
 {
     LayoutNode root;
     LayoutNode child;
@@ -311,7 +311,7 @@ TEST_F(Relayout, AppliesAMeasuredWidthOnlyToAnItemThatIsWider)
     EXPECT_EQ(narrow.layoutWidth(), 20);
 }
 
-TEST_F(Relayout, HappensInAFewBoxesInsideEachOther)
+TEST_F(Relayout, HappensInAtMostFourNestedBoxes)
 {
     LayoutNode root;
     LayoutNode card;
@@ -337,7 +337,7 @@ TEST_F(Relayout, HappensInAFewBoxesInsideEachOther)
 
 // ----- Changes
 
-TEST_F(Relayout, IsOwedAfterAChangeAnywhereBelow)
+TEST_F(Relayout, IsNeededAfterAChangeOfAnyItem)
 {
     LayoutNode root;
     LayoutNode box;
@@ -357,10 +357,10 @@ TEST_F(Relayout, IsOwedAfterAChangeAnywhereBelow)
     EXPECT_TRUE(root.hasChanged());
     root.forgetChanges();
     child.reset();
-    EXPECT_TRUE(root.hasChanged()) << "an item is gone";
+    EXPECT_TRUE(root.hasChanged()) << "an item was deleted";
 }
 
-TEST_F(Relayout, IsNoChange)
+TEST_F(Relayout, DoesNotCountAsAChange)
 {
     LayoutNode root;
     LayoutNode box;
@@ -388,19 +388,19 @@ struct TreeRow {
 
 class RelayoutTree : public PlixTest, public testing::WithParamInterface<TreeRow> { };
 
-TEST_P(RelayoutTree, CostsAFewCallsAnItem)
+TEST_P(RelayoutTree, NeedsAFewCallsPerItem)
 {
-    // Boxes inside each other, `width` restless items before the inner one.
+    // Nested boxes, with `width` resizing items before the inner one.
     LayoutNode root;
     std::vector<std::unique_ptr<LayoutNode>> boxes;
-    std::vector<std::unique_ptr<Restless>> items;
+    std::vector<std::unique_ptr<Resizing>> items;
     LayoutNode* parent = &root;
     for (int level = 0; level < GetParam().depth; ++level) {
         boxes.push_back(std::make_unique<LayoutNode>());
         parent->addChild(boxes.back().get());
         parent = boxes.back().get();
         for (int i = 0; i < GetParam().width; ++i) {
-            items.push_back(std::make_unique<Restless>());
+            items.push_back(std::make_unique<Resizing>());
             parent->addChild(items.back().get());
         }
     }
@@ -409,8 +409,8 @@ TEST_P(RelayoutTree, CostsAFewCallsAnItem)
     root.calculateLayout();
     root.applyLayoutRecursive();
 
-    // Two rounds, each places an item at most twice for each of the boxes
-    // around it that settles; settling does not nest.
+    // There are two passes. Each places an item once, and once more for each box around it
+    // that is laid out again. Relayouts do not nest.
     const long count = static_cast<long>(items.size());
     const Calls calls = callsOf(items);
     EXPECT_LE(calls.relayouts, 2 * GetParam().depth);

@@ -1,4 +1,4 @@
-// Links between layout items, their layout, and the end of either side.
+// Links between layout items, their layout, and what happens when an item is deleted.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 constexpr char kAddChildLine[] = "call YogaLayoutItem::AddChild failed.- ";
 
-// Keeps the rectangles that it is given.
+// Records the rectangles that it is given.
 class Target : public QGraphicsLayoutItem {
 public:
     void setGeometry(const QRectF& rect) override { rects.push_back(rect); }
@@ -53,7 +53,7 @@ TEST_F(LayoutTree, DoesNotFindARootAsAParent)
 struct IndexRow {
     const char* name;
     int index;
-    int place;
+    int expected;
 
     friend std::ostream& operator<<(std::ostream& out, const IndexRow& row)
     {
@@ -63,7 +63,7 @@ struct IndexRow {
 
 class InsertedChild : public PlixTest, public testing::WithParamInterface<IndexRow> { };
 
-TEST_P(InsertedChild, GoesToItsIndexBroughtIntoRange)
+TEST_P(InsertedChild, GoesToItsIndexClampedToTheRange)
 {
     LayoutNode parent;
     LayoutNode children[2];
@@ -72,7 +72,7 @@ TEST_P(InsertedChild, GoesToItsIndexBroughtIntoRange)
     LayoutNode inserted;
     parent.insertChild(&inserted, GetParam().index);
     EXPECT_EQ(parent.childCount(), 3);
-    EXPECT_EQ(parent.childAt(GetParam().place), &inserted);
+    EXPECT_EQ(parent.childAt(GetParam().expected), &inserted);
 }
 
 INSTANTIATE_TEST_SUITE_P(Indices, InsertedChild,
@@ -81,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(Indices, InsertedChild,
                                          IndexRow {"Negative", -5, 0}),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(LayoutTree, LogsThatNothingCannotBeAdded)
+TEST_F(LayoutTree, LogsThatANullChildCannotBeAdded)
 {
     LayoutNode parent;
     parent.addChild(nullptr);
@@ -89,7 +89,7 @@ TEST_F(LayoutTree, LogsThatNothingCannotBeAdded)
     EXPECT_EQ(takeLogLine().rfind(kAddChildLine, 0), 0u);
 }
 
-TEST_F(LayoutTree, LeavesAChildWithItsFirstParent)
+TEST_F(LayoutTree, DoesNotMoveAChildToAnotherParent)
 {
     LayoutNode first;
     LayoutNode second;
@@ -98,7 +98,7 @@ TEST_F(LayoutTree, LeavesAChildWithItsFirstParent)
     second.addChild(&child);
     const std::string line = takeLogLine();
     EXPECT_EQ(line.rfind(kAddChildLine, 0), 0u);
-    EXPECT_GT(line.size(), sizeof kAddChildLine - 1) << "the reason is told";
+    EXPECT_GT(line.size(), sizeof kAddChildLine - 1) << "the reason is logged";
     EXPECT_EQ(first.childAt(0), &child);
     EXPECT_EQ(second.childCount(), 0);
 }
@@ -146,7 +146,7 @@ TEST_F(LayoutTree, DoesNotAddToAMeasuredItem)
     EXPECT_EQ(child.parentItem(), nullptr);
 }
 
-TEST_F(LayoutTree, RefusesInsertionsWithoutALine)
+TEST_F(LayoutTree, RefusesInsertionsWithoutALogLine)
 {
     LayoutNode parent;
     LayoutNode child;
@@ -168,7 +168,7 @@ TEST_F(LayoutTree, RefusesMeasuringAnItemWithChildren)
     EXPECT_FALSE(YGNodeHasMeasureFunc(parent.node()));
 }
 
-TEST_F(LayoutTree, KeepsYogaFromPrinting)
+TEST_F(LayoutTree, PreventsYogaFromPrinting)
 {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
@@ -194,7 +194,7 @@ TEST_F(LayoutTree, KeepsYogaFromPrinting)
     ignoreLog();
 }
 
-TEST_F(LayoutTree, LeavesWhatYogaSaysOfAHostsNodesToTheHost)
+TEST_F(LayoutTree, DoesNotChangeTheLoggerOfAHostsNodes)
 {
     const YogaLayoutItem item(false);
     YGNodeRef parent = YGNodeNew();
@@ -236,7 +236,7 @@ TEST_F(LayoutTree, LetsTheSizeFollowTheContentWithoutBounds)
     EXPECT_EQ(root.geometry(), QRectF(0, 0, 30, 20));
 }
 
-TEST_F(LayoutTree, ReadsInItsOwnDirection)
+TEST_F(LayoutTree, HasItsOwnDirection)
 {
     LayoutNode root;
     root.setOrientation(Qt::Horizontal);
@@ -251,7 +251,7 @@ TEST_F(LayoutTree, ReadsInItsOwnDirection)
     EXPECT_EQ(child.geometry().left(), 0);
 }
 
-TEST_F(LayoutTree, BoundsWidthsByAShareOfTheParents)
+TEST_F(LayoutTree, LimitsWidthsToAPercentageOfTheParent)
 {
     LayoutNode root;
     LayoutNode child;
@@ -262,7 +262,7 @@ TEST_F(LayoutTree, BoundsWidthsByAShareOfTheParents)
     EXPECT_EQ(child.layoutWidth(), 50);
 }
 
-TEST_F(LayoutTree, HandsTheRectanglesToTheTargets)
+TEST_F(LayoutTree, PassesTheRectanglesToTheTargets)
 {
     LayoutNode root;
     LayoutNode child;
@@ -287,7 +287,7 @@ TEST_F(LayoutTree, HandsTheRectanglesToTheTargets)
     EXPECT_EQ(targets[1].rects[0], QRectF(4, 4, 42, 10));
 }
 
-TEST_F(LayoutTree, PlacesNothingBeforeItWasComputed)
+TEST_F(LayoutTree, PlacesNothingBeforeTheFirstLayout)
 {
     LayoutNode item;
     Target target;
@@ -301,8 +301,8 @@ TEST_F(LayoutTree, PlacesNothingBeforeItWasComputed)
 TEST_F(LayoutTree, SkipsNodesThatAreNotItems)
 {
     LayoutNode root;
-    const YGNodeRef stranger = YGNodeNew();
-    YGNodeInsertChild(root.node(), stranger, 0);
+    const YGNodeRef otherNode = YGNodeNew();
+    YGNodeInsertChild(root.node(), otherNode, 0);
     LayoutNode child;
     Target target;
     child.setGeometryTarget(&target);
@@ -312,8 +312,8 @@ TEST_F(LayoutTree, SkipsNodesThatAreNotItems)
     root.applyPaddingToAbsoluteChildren();
     root.applyLayoutRecursive();
     EXPECT_EQ(target.rects.size(), 1u);
-    YGNodeRemoveChild(root.node(), stranger);
-    YGNodeFree(stranger);
+    YGNodeRemoveChild(root.node(), otherNode);
+    YGNodeFree(otherNode);
 }
 
 class AbsoluteChild : public PlixTest {
@@ -329,7 +329,7 @@ protected:
     LayoutNode child_;
 };
 
-TEST_F(AbsoluteChild, SitsInsideThePaddingsOfItsParent)
+TEST_F(AbsoluteChild, IsInsideThePaddingsOfItsParent)
 {
     parent_.applyPaddingToAbsoluteChildren();
     EXPECT_EQ(child_.positionStart(), 1);
@@ -371,7 +371,7 @@ TEST_F(AbsoluteChild, IsTheOnlyKindOfChildThatIsInset)
 
 using LayoutTreeEnd = PlixTest;
 
-TEST_F(LayoutTreeEnd, ReleasesTheChildrenWhenTheParentGoesFirst)
+TEST_F(LayoutTreeEnd, ReleasesTheChildrenWhenTheParentIsDeletedFirst)
 {
     LayoutNode child;
     LayoutNode grandchild;
@@ -388,7 +388,7 @@ TEST_F(LayoutTreeEnd, ReleasesTheChildrenWhenTheParentGoesFirst)
     EXPECT_EQ(next.childAt(0), &child) << "free for another parent";
 }
 
-TEST_F(LayoutTreeEnd, ClosesTheGapWhenAChildGoesFirst)
+TEST_F(LayoutTreeEnd, RemovesAChildThatIsDeletedFirst)
 {
     LayoutNode parent;
     auto first = std::make_unique<LayoutNode>();
@@ -402,20 +402,21 @@ TEST_F(LayoutTreeEnd, ClosesTheGapWhenAChildGoesFirst)
     parent.applyLayoutRecursive();
 }
 
-TEST_F(LayoutTreeEnd, ForgetsTheItemOfANodeThatIsGone)
+TEST_F(LayoutTreeEnd, ForgetsTheItemOfADeletedNode)
 {
-    // Nodes are reused by the allocator: an entry left behind would be found.
+    // The allocator reuses the addresses of nodes, so an entry that was not removed would be
+    // found.
     for (int i = 0; i < 50; ++i) {
         LayoutNode parent;
         {
             LayoutNode child;
             parent.addChild(&child);
         }
-        const YGNodeRef stranger = YGNodeNew();
-        YGNodeInsertChild(parent.node(), stranger, 0);
+        const YGNodeRef otherNode = YGNodeNew();
+        YGNodeInsertChild(parent.node(), otherNode, 0);
         EXPECT_EQ(parent.childAt(0), nullptr);
-        YGNodeRemoveChild(parent.node(), stranger);
-        YGNodeFree(stranger);
+        YGNodeRemoveChild(parent.node(), otherNode);
+        YGNodeFree(otherNode);
     }
 }
 
