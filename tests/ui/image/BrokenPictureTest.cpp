@@ -1,4 +1,4 @@
-// Files that are cut off, empty or no pictures at all.
+// Files that are cut off, empty, or not pictures.
 #include "ui/image/AnimationFrames.h"
 #include "ui/image/ChatView.h"
 #include "ui/image/PictureBytes.h"

@@ -1,4 +1,4 @@
-// Files that are made to cost more than they are worth.
+// Files that are made to cost much time or memory.
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
 #include "ui/image/PlixGifPixelCount.h"
@@ -28,9 +28,9 @@ QByteArray riff(const QByteArray& chunk)
     return "RIFF" + QByteArray::fromHex("40000000") + "WEBP" + chunk;
 }
 
-// Frame data of so many codes. Each stands for a pixel more than the one before,
+// Frame data of this many codes. Each code stands for one pixel more than the one before,
 // until the table of codes is full.
-QByteArray swellingGifData(int codes)
+QByteArray gifDataOfManyPixels(int codes)
 {
     constexpr int kLastCode = 4095;
     QByteArray data;
@@ -68,7 +68,7 @@ QByteArray times(int count, const QByteArray& bytes)
     return bytes.repeated(count);
 }
 
-QByteArray blackText(const char* type, const QByteArray& head)
+QByteArray pngWithTexts(const char* type, const QByteArray& head)
 {
     return blackPng({10, 10}, times(50, pngChunk(type, head + zlibZeros(1 << 20))));
 }
@@ -91,7 +91,7 @@ struct HostileRow {
 
 class HostilePicture : public PlixTest, public testing::WithParamInterface<HostileRow> { };
 
-TEST_P(HostilePicture, IsShownOrNot)
+TEST_P(HostilePicture, IsShownUnlessItCostsTooMuch)
 {
     const QtMessagesIgnored messages;
     const PictureFolder folder;
@@ -134,12 +134,12 @@ INSTANTIATE_TEST_SUITE_P(
                     gifHead({10, 10}) + gifFrame({10, 10}, 1)
                         + gifFrameOf({65535, 65535}, 3, "\x98") + ';',
                     kShown},
-        HostileRow {"DataThatSwell",
-                    gifHead({100, 100}) + gifFrameOf({100, 100}, 8, swellingGifData(300)) + ';',
+        HostileRow {"DataOfTooManyPixels",
+                    gifHead({100, 100}) + gifFrameOf({100, 100}, 8, gifDataOfManyPixels(300)) + ';',
                     kRefused},
-        HostileRow {"DataThatSwellLater",
+        HostileRow {"DataOfTooManyPixelsLater",
                     gifHead({100, 100}) + gifFrame({100, 100}, 1)
-                        + gifFrameOf({100, 100}, 8, swellingGifData(300)) + ';',
+                        + gifFrameOf({100, 100}, 8, gifDataOfManyPixels(300)) + ';',
                     kRefused},
         HostileRow {"TooManyBitsACode", gifHead({9, 9}) + gifFrameOf({9, 9}, 13, "\x98") + ';',
                     kRefused},
@@ -155,9 +155,9 @@ INSTANTIATE_TEST_SUITE_P(
         HostileRow {"HeadOfTwoBillion", pngHeader({0x7FFFFFFF, 0x7FFFFFFF}, 8, 6), kRefused},
         HostileRow {"OverTheLimit", blackPng({4097, 4096}), kRefused},
         HostileRow {"AtTheLimit", blackPng({4096, 4096}), kShown},
-        HostileRow {"CompressedTexts", blackText("zTXt", QByteArray("k\0\0", 3)), kShown},
-        HostileRow {"CompressedInternationalTexts", blackText("iTXt", QByteArray("k\0\1\0\0\0", 6)),
-                    kShown},
+        HostileRow {"CompressedTexts", pngWithTexts("zTXt", QByteArray("k\0\0", 3)), kShown},
+        HostileRow {"CompressedInternationalTexts",
+                    pngWithTexts("iTXt", QByteArray("k\0\1\0\0\0", 6)), kShown},
         HostileRow {
             "Profile",
             blackPng({10, 10}, pngChunk("iCCP", QByteArray("k\0\0", 3) + zlibZeros(20 << 20))),
@@ -187,7 +187,7 @@ INSTANTIATE_TEST_SUITE_P(
         HostileRow {"BmpOf16384", bmpHead(16384, 16384), kRefused},
         HostileRow {"BmpOfTwoBillion", bmpHead(0x7FFFFFFF, 0x7FFFFFFF), kRefused},
         HostileRow {"BmpOfNegativeWidth", bmpHead(-10, 10) + QByteArray(1000, '\0'), kRefused},
-        HostileRow {"BmpOfTheLeastHeight", bmpHead(10, -0x7FFFFFFF - 1), kRefused},
+        HostileRow {"BmpOfTheMinimumHeight", bmpHead(10, -0x7FFFFFFF - 1), kRefused},
         HostileRow {"BmpOfNegativeHugeHeight", bmpHead(16384, -16384), kRefused},
         HostileRow {"BmpFromTheTop", bmpHead(10, -10) + QByteArray(320, '\0'), kShown},
         HostileRow {"WebPOf16384",
@@ -203,11 +203,11 @@ INSTANTIATE_TEST_SUITE_P(
         HostileRow {"Tiff", QByteArray::fromHex("49492a0008000000"), kRefused}),
     [](const auto& row) { return std::string(row.param.name); });
 
-// ----- Places that are no files
+// ----- Paths that are no files
 
 using HostileFile = PlixTest;
 
-TEST_F(HostileFile, IsNotReadWhenItIsNoFile)
+TEST_F(HostileFile, IsNotReadWhenItIsNotAFile)
 {
     const PictureFolder folder;
     const QString directory = QString::fromStdString(folder.path("folder"));
@@ -233,7 +233,7 @@ TEST_F(HostileFile, IsNotReadWhenItIsNoFile)
     }
 }
 
-TEST_F(HostileFile, IsNotReadWhenItIsTooLong)
+TEST_F(HostileFile, IsNotReadWhenItIsTooLarge)
 {
     const PictureFolder folder;
     const QByteArray picture = pictureBytes(filled({10, 10}, Qt::red));
@@ -245,7 +245,7 @@ TEST_F(HostileFile, IsNotReadWhenItIsTooLong)
     EXPECT_FALSE(ReadPictureFile(file.fileName()));
 }
 
-TEST_F(HostileFile, IsTriedAgainOnlyWhenItIsAnotherOne)
+TEST_F(HostileFile, IsReadAgainOnlyWhenItHasChanged)
 {
     const PictureFolder folder;
     const QByteArray picture = pictureBytes(filled({10, 10}, Qt::red));
@@ -261,7 +261,7 @@ TEST_F(HostileFile, IsTriedAgainOnlyWhenItIsAnotherOne)
         image(write(QByteArray(picture.size(), 'x'), then), R"("backgroundColor": "#FFFF00",)"));
     EXPECT_EQ(card.at(50, 50), QColor(Qt::yellow));
     write(picture, then);
-    EXPECT_EQ(card.at(50, 50), QColor(Qt::yellow)) << "as long and as old as before";
+    EXPECT_EQ(card.at(50, 50), QColor(Qt::yellow)) << "same size and time as before";
     write(picture, then.addSecs(2));
     EXPECT_EQ(card.at(50, 50), QColor(Qt::red));
 }
@@ -294,29 +294,29 @@ TEST_F(HostileFile, IsShownInItemsOfMillionsOfPixels)
         + box("vertical",
               image(path, R"("size": "full", "aspectMode": "cover", "aspectRatio": "1:1e6",)"),
               R"("width": "3000000px",)"));
-    QImage ground(50, 50, QImage::Format_ARGB32_Premultiplied);
-    ground.fill(Qt::white);
-    QPainter painter(&ground);
+    QImage canvas(50, 50, QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::white);
+    QPainter painter(&canvas);
     for (const int i : {0, 1, 2})
         card.item(i).childItems().value(0)->paint(&painter, nullptr, nullptr);
     painter.end();
-    EXPECT_EQ(ground.pixelColor(25, 25), QColor(Qt::red));
+    EXPECT_EQ(canvas.pixelColor(25, 25), QColor(Qt::red));
 }
 
-TEST_F(HostileFile, IsEnlargedInAThinItemNoMoreThanItIsShown)
+TEST_F(HostileFile, IsNotEnlargedBeyondAThinItem)
 {
     const PictureFolder folder;
     const std::string path = folder.write("a.png", pictureBytes(filled({10, 10}, Qt::red)));
-    // With proportions kept, the line that is shown would be 100000 x 10000.
+    // If proportions were kept, the visible line would be scaled to 100000 x 10000.
     const PictureCard card(
         box("vertical",
             image(path, R"("size": "full", "aspectMode": "cover", "aspectRatio": "10000:1",)"),
             R"("width": "100000px",)"));
-    QImage ground(50, 50, QImage::Format_ARGB32_Premultiplied);
-    QPainter painter(&ground);
+    QImage canvas(50, 50, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&canvas);
     card.item().childItems().value(0)->paint(&painter, nullptr, nullptr);
     painter.end();
-    EXPECT_EQ(ground.pixelColor(25, 5), QColor(Qt::red));
+    EXPECT_EQ(canvas.pixelColor(25, 5), QColor(Qt::red));
     EXPECT_EQ(PlixPicture::Get(QString::fromStdString(path))
                   ->scaled([](const QSize&) { return QSize(100'000, 10); })
                   .size(),
@@ -335,7 +335,7 @@ struct ThinRow {
 
 class ThinPicture : public PlixTest, public testing::WithParamInterface<ThinRow> { };
 
-TEST_P(ThinPicture, CoversTheItemAndFitsInIt)
+TEST_P(ThinPicture, CoversTheItemAndFitsIntoIt)
 {
     const PictureFolder folder;
     const std::string path = folder.write("a.png", blackPng(GetParam().picture));
@@ -349,9 +349,9 @@ INSTANTIATE_TEST_SUITE_P(Shapes, ThinPicture,
                                          ThinRow {"OnePixel", {1, 1}}),
                          [](const auto& row) { return std::string(row.param.name); });
 
-// ----- What is taken out of files
+// ----- Data that is removed before decoding
 
-TEST_F(HostileFile, IsTheSamePictureWithoutWhatIsNotNeeded)
+TEST_F(HostileFile, IsTheSamePngPictureWithoutTexts)
 {
     const QByteArray png = pictureBytes(noise({50, 50}));
     const QByteArray more = pngChunk("tEXt", QByteArray("k\0v", 3));
@@ -370,51 +370,51 @@ TEST_F(HostileFile, IsTheSameJpegPictureWithoutComments)
     EXPECT_EQ(pixels.bytes, jpeg);
 }
 
-TEST_F(HostileFile, HasTheScansThatTheDecoderFinds)
+TEST_F(HostileFile, HasTheScansThatTheDecoderCounts)
 {
     for (const int scans : {0, 1, 5, 64, 65, 3000})
         EXPECT_EQ(ReadJpegPixels(jpegOfScans({16, 16}, scans)).scans, scans);
     const QByteArray head = QByteArray::fromHex("ffd8");
     EXPECT_EQ(ReadJpegPixels(head + jpegSegment(0xE0, QByteArray::fromHex("ffda"))).scans, 0)
-        << "inside of other data";
+        << "inside other data";
     EXPECT_EQ(ReadJpegPixels(head + QByteArray::fromHex("ffffffda0002")).scans, 1)
-        << "behind filling";
+        << "after fill bytes";
     EXPECT_EQ(ReadJpegPixels(head + QByteArray::fromHex("ff00ffd0ffda0002")).scans, 1)
-        << "behind coded pixels";
+        << "after coded pixels";
     EXPECT_EQ(ReadJpegPixels(head + QByteArray::fromHex("fffe0000ffda0002")).scans, 1)
-        << "behind a comment of impossible length";
+        << "after a comment of an impossible length";
     EXPECT_EQ(ReadJpegPixels(head + QByteArray::fromHex("ffd9ffda0002")).scans, 0)
-        << "behind the end";
+        << "after the end";
 }
 
 qint64 pixelCount(int bits, const QByteArray& data)
 {
     PlixGifPixelCount count(bits);
-    // In two pieces, as it comes in blocks.
+    // In two parts, because files contain it in blocks.
     const int half = data.size() / 2;
     count.Take(data.constData(), half);
     count.Take(data.constData() + half, data.size() - half);
     return count.Count();
 }
 
-TEST_F(HostileFile, HasThePixelsThatItsCodesStandFor)
+TEST_F(HostileFile, HasThePixelsOfItsCodes)
 {
-    constexpr int kLongest = 4095 - 256;
+    constexpr int kMaximum = 4095 - 256;
     qint64 expected = 0;
     for (int codes = 1; codes <= 5000; ++codes) {
-        expected += std::min(codes, kLongest);
-        if (codes % 7 == 0 || codes > kLongest - 5) {
-            ASSERT_EQ(pixelCount(8, swellingGifData(codes)), expected) << codes;
+        expected += std::min(codes, kMaximum);
+        if (codes % 7 == 0 || codes > kMaximum - 5) {
+            ASSERT_EQ(pixelCount(8, gifDataOfManyPixels(codes)), expected) << codes;
         }
     }
     // Codes of four bits, the lower half of a byte first.
     EXPECT_EQ(pixelCount(3, QByteArray::fromHex("1821")), 3);
     EXPECT_EQ(pixelCount(3, QByteArray::fromHex("1821191111")), 3) << "up to the end code";
     EXPECT_EQ(pixelCount(3, QByteArray::fromHex("188111")), 4) << "cleared between";
-    EXPECT_EQ(pixelCount(3, QByteArray::fromHex("f811")), 1) << "a code that nothing stands for";
+    EXPECT_EQ(pixelCount(3, QByteArray::fromHex("f811")), 1) << "an undefined code";
 }
 
-// ----- What Qt makes of the same bytes
+// ----- The size that Qt decodes
 
 struct GifRow {
     const char* name;
@@ -428,7 +428,7 @@ struct GifRow {
 
 class GifSize : public PlixTest, public testing::WithParamInterface<GifRow> { };
 
-TEST_P(GifSize, IsWhatTheDecoderFills)
+TEST_P(GifSize, IsThatOfTheDecoder)
 {
     const QImage decoded = QImage::fromData(GetParam().bytes, "gif");
     EXPECT_EQ(ReadGifSize(GetParam().bytes), decoded.isNull() ? QSize() : decoded.size());

@@ -75,7 +75,7 @@ QByteArray gifHead(const QSize& screen)
 
 QByteArray gifFrame(const QSize& size, int color)
 {
-    // Codes of four bits as long as no table grows: it is cleared before.
+    // The codes have four bits, because the table is cleared before it grows.
     constexpr int kClear = 8;
     constexpr int kEnd = 9;
     std::vector<int> codes;

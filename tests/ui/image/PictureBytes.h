@@ -14,7 +14,7 @@ QByteArray littleEndian16(int value);
 QByteArray bigEndian16(int value);
 QByteArray bigEndian32(quint32 value);
 
-// The picture as a file of that format.
+// The bytes of a file of that format.
 QByteArray pictureBytes(const QImage& image, const char* format = "PNG");
 
 // ----- GIF
@@ -22,13 +22,13 @@ QByteArray pictureBytes(const QImage& image, const char* format = "PNG");
 // The beginning of a GIF file, up to its first block. Colour 0 is black, 1 red, 2 green,
 // 3 blue, 4 white.
 QByteArray gifHead(const QSize& screen);
-// One frame, all of one of these colours, at the screen's corner.
+// One frame of a single colour (see gifHead()), in the corner of the screen.
 QByteArray gifFrame(const QSize& size, int color);
-// What says how long the next frame is shown.
+// The block that sets how long the next frame is shown.
 QByteArray gifDelay(int hundredths);
-// Ten minutes: no test lasts so long.
+// Ten minutes, longer than any test.
 constexpr int kLongGifDelay = 60'000;
-// What says how often all is repeated; 0 for ever.
+// The block that sets how often the animation is repeated; 0: for ever.
 QByteArray gifLoops(int count);
 
 // Frames of these colours. Their delay is kLongGifDelay, so that none ends by itself:
@@ -42,20 +42,20 @@ QByteArray fastGifAnimation(const QSize& size, const std::vector<int>& colors);
 QByteArray pngSignature();
 QByteArray pngChunk(const QByteArray& type, const QByteArray& data);
 QByteArray pngHeader(const QSize& size, int bitDepth, int colorType);
-// Zeros, as PNG packs them.
+// Compressed zeros.
 QByteArray zlibZeros(int count);
-// A whole black picture of one bit a pixel, with more chunks after the header.
+// A black picture with one bit per pixel. `more` are chunks after its header.
 QByteArray blackPng(const QSize& size, const QByteArray& more = {});
 
 // ----- JPEG
 
 QByteArray jpegSegment(int marker, const QByteArray& data);
-// A progressive grey picture of `scans` passes, hardly any bytes each.
+// A progressive grey picture of `scans` passes of a few bytes each.
 QByteArray jpegOfScans(const QSize& size, int scans);
 
 // ----- BMP
 
-// A head that announces this size with nothing behind it; the height may be negative.
+// A header that announces this size, without pixels. The height may be negative.
 QByteArray bmpHead(qint32 width, qint32 height);
 
 } // namespace plix::test

@@ -15,9 +15,9 @@ void ignoreMessage(QtMsgType, const QMessageLogContext&, const QString&)
     ++ignoredMessages;
 }
 
-std::string PLIX_CALL download(PlixDataController*, const std::string& url, void* asked)
+std::string PLIX_CALL download(PlixDataController*, const std::string& url, void* downloads)
 {
-    static_cast<std::vector<std::string>*>(asked)->push_back(url);
+    static_cast<std::vector<std::string>*>(downloads)->push_back(url);
     return url;
 }
 
@@ -39,7 +39,7 @@ std::string PictureFolder::path(const std::string& name) const
 PictureCard::PictureCard(const std::string& contents, const std::string& more, float dpi)
     : card_("{\"type\": \"bubble\", " + more + "\"hero\": " + box("vertical", contents) + "}",
             [&](PlixDataController* controller) {
-                Plix_SetDownloadCallBack(controller, &download, &asked_);
+                Plix_SetDownloadCallBack(controller, &download, &downloads_);
                 Plix_SetDpi(controller, dpi);
             })
 {

@@ -10,10 +10,10 @@
 
 namespace plix::test {
 
-// Files that a host has downloaded, gone with the test.
+// A folder of files that a host has downloaded. It is deleted with this object.
 class PictureFolder {
 public:
-    // Writes the file, which may be there already. The path of it.
+    // Writes the file, which may exist, and returns its path.
     std::string write(const std::string& name, const QByteArray& bytes) const;
     std::string path(const std::string& name) const;
 
@@ -21,25 +21,25 @@ private:
     QTemporaryDir folder_;
 };
 
-// A card around `contents`, JSON members of a vertical box without insets, 300
-// pixels wide. The host has downloaded every URL to the file of that path, and
-// the URLs are remembered.
+// A card of 300 pixels that is a vertical box without insets. `contents` is the JSON of its
+// items. Each URL in it is the path of a file that the host has downloaded.
 class PictureCard {
 public:
     explicit PictureCard(const std::string& contents, const std::string& more = {}, float dpi = 1);
 
     const TestCard& card() const { return card_; }
-    // The n-th thing of the box.
+    // The n-th item of the box.
     QGraphicsItem& item(int n = 0) const { return *card_.item({0, n}); }
-    const std::vector<std::string>& asked() const { return asked_; }
+    // The URLs of all downloads, in order.
+    const std::vector<std::string>& downloads() const { return downloads_; }
 
-    // The card as a view scaled by `scale` shows it on white.
+    // The card on white, as a view scaled by `scale` shows it.
     QImage paint(double scale = 1) const;
     // A pixel of the card, painted now.
     QColor at(double x, double y) const { return paint().pixelColor(int(x), int(y)); }
 
 private:
-    std::vector<std::string> asked_;
+    std::vector<std::string> downloads_;
     TestCard card_;
 };
 
@@ -48,17 +48,17 @@ private:
 std::string image(const std::string& path, const std::string& more = {});
 std::string icon(const std::string& path, const std::string& more = {});
 
-// So many of a component, separated by commas.
+// A component `count` times, separated by commas.
 std::string list(int count, const std::string& component);
 
 // A picture of one colour.
 QImage filled(const QSize& size, const QColor& color);
-// Every pixel another colour than those beside it.
+// A picture in which each pixel has another colour than its neighbours.
 QImage noise(const QSize& size);
 // The smallest rectangle around the pixels of this colour.
 QRect areaOf(const QImage& image, const QColor& color);
 
-// What Qt's decoders complain about, instead of failing the test.
+// While it lives, messages of Qt are counted and do not fail the test.
 class QtMessagesIgnored {
 public:
     QtMessagesIgnored();
@@ -67,7 +67,7 @@ public:
     QtMessagesIgnored(const QtMessagesIgnored&) = delete;
     QtMessagesIgnored& operator=(const QtMessagesIgnored&) = delete;
 
-    // Since then.
+    // The number of messages since the constructor.
     static int count();
 
 private:

@@ -1,4 +1,4 @@
-// Where the files of pictures come from.
+// How the files of images get from the host to the items.
 #include "support/LiveView.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
@@ -20,7 +20,7 @@ QObject* objectOf(QGraphicsItem& item)
     return item.toGraphicsObject();
 }
 
-void tellOfFile(QGraphicsItem& item, const std::string& path)
+void fileArrives(QGraphicsItem& item, const std::string& path)
 {
     EXPECT_TRUE(QMetaObject::invokeMethod(objectOf(item), "OnFileArrived",
                                           Q_ARG(QString, QString::fromStdString(path))));
@@ -40,17 +40,17 @@ using Urls = std::vector<std::string>;
 
 using PictureDownload = PlixTest;
 
-TEST_F(PictureDownload, AsksTheHostOnceForEachPicture)
+TEST_F(PictureDownload, IsRequestedOncePerItem)
 {
     const PictureCard card(image("a") + "," + image("b") + ","
                            + box("horizontal", icon("c") + "," + icon("a")));
-    EXPECT_EQ(card.asked(), (Urls {"a", "b", "c", "a"}));
+    EXPECT_EQ(card.downloads(), (Urls {"a", "b", "c", "a"}));
     card.paint();
     card.paint();
-    EXPECT_EQ(card.asked().size(), 4U);
+    EXPECT_EQ(card.downloads().size(), 4U);
 }
 
-TEST_F(PictureDownload, ShowsAPictureThatArrivesLateInAViewThatIsOpen)
+TEST_F(PictureDownload, IsShownInAnOpenViewWhenItArrivesLate)
 {
     const PictureFolder folder;
     const std::string red = folder.write("a.png", redPicture());
@@ -60,17 +60,17 @@ TEST_F(PictureDownload, ShowsAPictureThatArrivesLateInAViewThatIsOpen)
     LiveView view(*card.root());
     const QPoint middle = view.pixelsOf(item.sceneBoundingRect()).center().toPoint();
     const auto shownAfter = [&](const std::string& path) {
-        tellOfFile(item, path);
+        fileArrives(item, path);
         view.paintWhatChanged();
         return view.shown().pixelColor(middle);
     };
-    const QColor ground = view.shown().pixelColor(middle);
+    const QColor background = view.shown().pixelColor(middle);
     EXPECT_EQ(shownAfter(red), QColor(Qt::red));
     EXPECT_EQ(shownAfter(blue), QColor(Qt::blue));
-    EXPECT_EQ(shownAfter({}), ground);
+    EXPECT_EQ(shownAfter({}), background);
 }
 
-TEST_F(PictureDownload, TellsWhichFileIsShown)
+TEST_F(PictureDownload, IsThePropertyPictureFile)
 {
     const PictureCard card(image("/there/a.png"));
     EXPECT_EQ(objectOf(card.item())->property("pictureFile").toString(),
@@ -83,7 +83,7 @@ struct LanguageRow {
     const char* name;
     const char* language;
     const char* urls;
-    const char* asked;
+    const char* downloaded;
 
     friend std::ostream& operator<<(std::ostream& out, const LanguageRow& row)
     {
@@ -98,7 +98,7 @@ TEST_P(PictureLanguage, ChoosesTheUrl)
     Plix_SetCurrentLanguage(GetParam().language);
     const std::string urls = std::string("\"i18nUrls\": {") + GetParam().urls + "},";
     const PictureCard card(image("plain", urls) + "," + box("horizontal", icon("plain", urls)));
-    EXPECT_EQ(card.asked(), (Urls {GetParam().asked, GetParam().asked}));
+    EXPECT_EQ(card.downloads(), (Urls {GetParam().downloaded, GetParam().downloaded}));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -110,7 +110,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LanguageRow {"PlainWithNothing", "ja", "", "plain"}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(PictureDownload, ShowsAFileThatComesLaterWhenItIsPaintedAgain)
+TEST_F(PictureDownload, IsShownByTheNextPaintWhenTheFileIsWrittenLater)
 {
     const PictureFolder folder;
     const PictureCard card(image(folder.path("a.png"), R"("backgroundColor": "#FFFF00",)"));
@@ -119,7 +119,7 @@ TEST_F(PictureDownload, ShowsAFileThatComesLaterWhenItIsPaintedAgain)
     EXPECT_EQ(card.at(50, 50), QColor(Qt::red));
 }
 
-TEST_F(PictureDownload, ShowsAFileThatIsMendedLater)
+TEST_F(PictureDownload, IsShownByTheNextPaintWhenTheFileIsRepairedLater)
 {
     const PictureFolder folder;
     const PictureCard card(image(folder.write("a.png", "<html>not there yet</html>"),
@@ -129,52 +129,52 @@ TEST_F(PictureDownload, ShowsAFileThatIsMendedLater)
     EXPECT_EQ(card.at(50, 50), QColor(Qt::red));
 }
 
-TEST_F(PictureDownload, ShowsTheFileThatTheHostTellsOf)
+TEST_F(PictureDownload, IsReplacedWhenTheHostReportsAFile)
 {
     const PictureFolder folder;
     const TestCard card(R"({"type": "bubble", "hero": )" + image("a") + "}");
-    tellOfFile(*card.item({0}), folder.write("a.png", redPicture()));
+    fileArrives(*card.item({0}), folder.write("a.png", redPicture()));
     EXPECT_EQ(objectOf(*card.item({0}))->property("pictureFile").toString(),
               QString::fromStdString(folder.path("a.png")));
-    tellOfFile(*card.item({0}), {});
+    fileArrives(*card.item({0}), {});
     EXPECT_EQ(objectOf(*card.item({0}))->property("pictureFile").toString(), QString());
 }
 
-TEST_F(PictureDownload, ShowsWhatArrivedInsteadOfWhatWasThere)
+TEST_F(PictureDownload, ReplacesTheImageOfOneItem)
 {
     const PictureFolder folder;
     const PictureCard card(image(folder.write("a.png", redPicture())) + ","
                            + image(folder.path("a.png")));
     card.paint();
-    tellOfFile(card.item(), folder.write("b.png", bluePicture()));
+    fileArrives(card.item(), folder.write("b.png", bluePicture()));
     EXPECT_EQ(card.at(50, 50), QColor(Qt::blue));
-    EXPECT_EQ(card.at(50, 150), QColor(Qt::red)) << "the other one is another item";
+    EXPECT_EQ(card.at(50, 150), QColor(Qt::red)) << "the other item keeps its file";
 }
 
-TEST_F(PictureDownload, ShowsTheSameFileAnewWhenItArrivesAgain)
+TEST_F(PictureDownload, IsReadAgainWhenTheSameFileArrivesAgain)
 {
     const PictureFolder folder;
     const PictureCard card(image(folder.write("a.png", redPicture())) + ","
                            + image(folder.path("a.png")));
     card.paint();
     folder.write("a.png", pictureBytes(filled({11, 11}, Qt::blue)));
-    ASSERT_EQ(card.at(50, 50), QColor(Qt::red)) << "nobody said that it is another one";
-    tellOfFile(card.item(), folder.path("a.png"));
+    ASSERT_EQ(card.at(50, 50), QColor(Qt::red)) << "no new file was reported";
+    fileArrives(card.item(), folder.path("a.png"));
     EXPECT_EQ(card.at(50, 50), QColor(Qt::blue));
-    EXPECT_EQ(card.at(50, 150), QColor(Qt::blue)) << "all who show it";
+    EXPECT_EQ(card.at(50, 150), QColor(Qt::blue)) << "all items of the file";
 }
 
-TEST_F(PictureDownload, ShowsNothingMoreWhenTheNewFileIsMissing)
+TEST_F(PictureDownload, RemovesTheImageWhenTheNewFileIsMissing)
 {
     const PictureFolder folder;
     const PictureCard card(
         image(folder.write("a.png", redPicture()), R"("backgroundColor": "#FFFF00",)"));
     card.paint();
-    tellOfFile(card.item(), folder.path("b.png"));
+    fileArrives(card.item(), folder.path("b.png"));
     EXPECT_EQ(card.at(50, 50), QColor(Qt::yellow));
 }
 
-TEST_F(PictureDownload, CostsAPictureWhenTheHostFails)
+TEST_F(PictureDownload, LosesOneImageWhenTheHostThrows)
 {
     const auto fail = [](PlixDataController*, const std::string&, void*) -> std::string {
         throw std::runtime_error("no network");
@@ -187,7 +187,7 @@ TEST_F(PictureDownload, CostsAPictureWhenTheHostFails)
     EXPECT_NE(takeLogLine().find("no network"), std::string::npos);
 }
 
-TEST_F(PictureDownload, TakesNamesOutsideOfAscii)
+TEST_F(PictureDownload, MayHaveAFileNameOutsideOfAscii)
 {
     const PictureFolder folder;
     const PictureCard card(image(folder.write("Bühne 写真.png", redPicture())));
@@ -199,7 +199,7 @@ TEST_F(PictureDownload, TakesNamesOutsideOfAscii)
 struct NameRow {
     const char* name;
     const char* url;
-    const char* kept;
+    const char* fileName;
 
     friend std::ostream& operator<<(std::ostream& out, const NameRow& row)
     {
@@ -214,7 +214,7 @@ TEST_P(WebImageName, IsTheLastSegment)
     const PlixWebImage image;
     EXPECT_EQ(image.TempFileName(QString::fromLatin1(GetParam().url)),
               QCoreApplication::applicationDirPath() + QStringLiteral("/bot_plix_temp/")
-                  + QString::fromLatin1(GetParam().kept));
+                  + QString::fromLatin1(GetParam().fileName));
     EXPECT_FALSE(
         QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/bot_plix_temp")).exists());
     EXPECT_EQ(image.parent(), nullptr);

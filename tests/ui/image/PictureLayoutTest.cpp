@@ -1,4 +1,4 @@
-// How wide and how high images and icons are.
+// The sizes and positions of images and icons.
 #include "layout/PlixStyleValues.h"
 #include "ui/image/PictureCard.h"
 
@@ -65,13 +65,13 @@ TEST_F(PictureLayout, FillsAColumnInFull)
     EXPECT_EQ(geometry(*card.item().childItems().value(0)), QRectF(10, 0, 100, 100));
 }
 
-TEST_F(PictureLayout, StretchesInFullAsAZonesOwnItem)
+TEST_F(PictureLayout, FillsTheBubbleInFullAsTheTopItemOfAZone)
 {
     const TestCard card(R"({"type": "bubble", "hero": )" + sized("image", "full") + "}");
     EXPECT_EQ(geometry(*card.item({0})), QRectF(0, 0, 300, 300));
 }
 
-TEST_F(PictureLayout, TakesWhatARowLeavesInFull)
+TEST_F(PictureLayout, FillsTheRestOfARowInFull)
 {
     const PictureCard card(box("horizontal",
                                box("vertical", "", R"("width": "60px", "flex": 0,)") + ","
@@ -102,7 +102,7 @@ TEST_F(PictureLayout, FillsARowInFullWithoutGrowing)
     EXPECT_EQ(geometry(*beside.item().childItems().value(0)), QRectF(0, 0, 140, 140));
 }
 
-TEST_F(PictureLayout, FillsARowInFullFromAnAbsolutePlace)
+TEST_F(PictureLayout, FillsARowInFullWhenItIsAbsolute)
 {
     const PictureCard card(box("horizontal",
                                component("image", R"("size": "full", "position": "absolute",)"),
@@ -125,7 +125,7 @@ struct RatioRow {
 
 class PictureRatio : public PlixTest, public testing::WithParamInterface<RatioRow> { };
 
-TEST_P(PictureRatio, IsTheWidthByTheHeight)
+TEST_P(PictureRatio, IsTheWidthDividedByTheHeight)
 {
     const std::string ratio = std::string(R"("aspectRatio": ")") + GetParam().text + "\",";
     EXPECT_NEAR(ToAspectRatio(GetParam().text), GetParam().ratio, 1e-4);
@@ -165,7 +165,7 @@ TEST_F(PictureLayout, IsASquareWithoutARatio)
     EXPECT_EQ(geometry(*card.item(1).childItems().value(0)).size(), QSizeF(16, 16));
 }
 
-TEST_F(PictureLayout, IsNotAsLargeAsThePictureButAsTheCardSays)
+TEST_F(PictureLayout, HasTheSizeOfTheCardAndNotOfTheFile)
 {
     const PictureFolder folder;
     const PictureCard card(image(folder.write("a.png", "anything"), R"("size": "xs",)"));

@@ -1,4 +1,4 @@
-// Images and icons on rendered pixels.
+// The pixels of images and icons.
 #include "support/Picture.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
@@ -12,7 +12,7 @@
 namespace plix::test {
 namespace {
 
-const QColor kGround(0xF1, 0xF3, 0xF7);
+const QColor kBackground(0xF1, 0xF3, 0xF7);
 
 // Red on the left and at the top, green in the middle, blue on the right and below.
 QImage threeParts(const QSize& size)
@@ -46,7 +46,7 @@ struct FitRow {
 
 class ImageFit : public PlixTest, public testing::WithParamInterface<FitRow> { };
 
-TEST_P(ImageFit, ShowsAllOfThePictureInItsPlace)
+TEST_P(ImageFit, ShowsTheWholePictureInItsPosition)
 {
     const PictureFolder folder;
     const std::string path =
@@ -110,7 +110,7 @@ TEST_F(PicturePaint, CoversTheItemWithTheMiddleOfAWidePicture)
     const std::string path = folder.write("a.png", pictureBytes(threeParts({400, 100})));
     const PictureCard card(image(path, R"("aspectMode": "cover",)"));
     const QImage painted = card.paint();
-    // Of the 400 pixels the middle 100, so neither side.
+    // The middle 100 of the 400 pixels are shown, so no red or blue.
     EXPECT_EQ(areaOf(painted, Qt::green), QRect(0, 0, 100, 100));
     EXPECT_TRUE(areaOf(painted, Qt::red).isEmpty());
     EXPECT_TRUE(areaOf(painted, Qt::blue).isEmpty());
@@ -119,7 +119,7 @@ TEST_F(PicturePaint, CoversTheItemWithTheMiddleOfAWidePicture)
 TEST_F(PicturePaint, CoversTheItemWithTheMiddleOfAHighPicture)
 {
     const PictureFolder folder;
-    // 100 x 200 in 100 x 160: twenty pixels of each fifty at the ends are lost.
+    // 100 x 200 in 100 x 160: each end of fifty pixels loses twenty.
     const std::string path = folder.write("a.png", pictureBytes(threeParts({100, 200})));
     const PictureCard card(
         image(path, R"("aspectMode": "cover", "aspectRatio": "100:160", "align": "end",)"));
@@ -142,7 +142,7 @@ TEST_F(PicturePaint, CentresAFixedWidthInAWiderItem)
 {
     const PictureFolder folder;
     const std::string path = folder.write("a.png", pictureBytes(filled({40, 40}, Qt::red)));
-    // The row makes the image 200 wide, which is drawn 80 wide all the same.
+    // The row makes the item 200 wide, but the image is drawn 80 wide.
     const PictureCard card(box("horizontal",
                                image(path, R"("size": "sm", "flex": 1, "aspectMode": "cover",)"),
                                R"("width": "200px", "height": "80px",)"));
@@ -161,20 +161,20 @@ TEST_F(PicturePaint, FillsTheItemBehindThePicture)
     const QImage painted = card.paint();
     EXPECT_EQ(areaOf(painted, Qt::red), QRect(25, 0, 50, 100));
     EXPECT_EQ(areaOf(painted, Qt::blue), QRect(0, 0, 100, 100));
-    EXPECT_EQ(painted.pixelColor(100, 50), kGround);
+    EXPECT_EQ(painted.pixelColor(100, 50), kBackground);
 }
 
 TEST_F(PicturePaint, ReadsTheAlphaOfABackgroundFirst)
 {
     const PictureCard card(component("image", R"("backgroundColor": "#00FF0000",)"));
-    EXPECT_EQ(card.at(50, 50), kGround);
+    EXPECT_EQ(card.at(50, 50), kBackground);
 }
 
-TEST_F(PicturePaint, LetsTheGroundShowThroughATransparentPicture)
+TEST_F(PicturePaint, ShowsTheBackgroundThroughATransparentPicture)
 {
     const PictureFolder folder;
     const std::string path = folder.write("a.png", pictureBytes(filled({10, 10}, Qt::transparent)));
-    EXPECT_EQ(PictureCard(image(path)).at(50, 50), kGround);
+    EXPECT_EQ(PictureCard(image(path)).at(50, 50), kBackground);
     EXPECT_EQ(PictureCard(image(path, R"("backgroundColor": "#0000FF",)")).at(50, 50),
               QColor(Qt::blue));
 }
@@ -185,7 +185,7 @@ TEST_F(PicturePaint, ShowsOnlyTheBackgroundWithoutAPicture)
     EXPECT_EQ(areaOf(card.paint(), Qt::blue), QRect(0, 0, 100, 100));
 }
 
-TEST_F(PicturePaint, TakesTheCornersOfTheBoxAroundIt)
+TEST_F(PicturePaint, HasTheCornersOfTheBoxAroundIt)
 {
     const PictureFolder folder;
     const std::string path = folder.write("a.png", pictureBytes(filled({10, 10}, Qt::red)));
@@ -196,7 +196,7 @@ TEST_F(PicturePaint, TakesTheCornersOfTheBoxAroundIt)
             R"("paddingAll": "20px",)"));
         const QImage painted = card.paint().copy(20, 20, 100, 100);
         for (const QPoint corner : {QPoint(2, 2), QPoint(97, 2), QPoint(2, 97), QPoint(97, 97)})
-            EXPECT_EQ(painted.pixelColor(corner), kGround);
+            EXPECT_EQ(painted.pixelColor(corner), kBackground);
         for (const QPoint inside : {QPoint(20, 0), QPoint(0, 50), QPoint(99, 50), QPoint(50, 99)})
             EXPECT_EQ(painted.pixelColor(inside), QColor(Qt::red));
     }
@@ -212,14 +212,14 @@ TEST_F(PicturePaint, RoundsTheItemAndNotTheFittingPicture)
     EXPECT_EQ(areaOf(painted, Qt::red), QRect(25, 0, 50, 100));
 }
 
-TEST_F(PicturePaint, LeavesThePainterAsItWas)
+TEST_F(PicturePaint, RestoresThePainter)
 {
     const PictureFolder folder;
     const std::string path = folder.write("a.png", pictureBytes(filled({10, 10}, Qt::red)));
     const PictureCard card(box("vertical", image(path, R"("backgroundColor": "#0000FF",)"),
                                R"("cornerRadius": "20px",)"));
-    QImage ground(300, 300, QImage::Format_ARGB32_Premultiplied);
-    QPainter painter(&ground);
+    QImage canvas(300, 300, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&canvas);
     const QPen pen(Qt::green, 7);
     painter.setPen(pen);
     card.item().childItems().value(0)->paint(&painter, nullptr, nullptr);
@@ -243,8 +243,8 @@ struct DeviceRow {
 
 class PictureOnDevice : public PlixTest, public testing::WithParamInterface<DeviceRow> { };
 
-// Wherever the item lies, a picture of as many pixels as the device has for it
-// comes out as it is.
+// A picture of as many pixels as the item has on the device is not changed, wherever the
+// item is.
 TEST_P(PictureOnDevice, IsShownPixelForPixel)
 {
     const double dpi = GetParam().dpi;
@@ -296,7 +296,7 @@ TEST_F(PicturePaint, FillsTheItemInAViewThatIsScaledOtherwise)
     }
 }
 
-TEST_F(PicturePaint, TakesAFactorThatIsNoneForOne)
+TEST_F(PicturePaint, UsesAFactorOfOneForInvalidFactors)
 {
     const PictureFolder folder;
     const QImage picture = noise({100, 100});
@@ -309,7 +309,7 @@ TEST_F(PicturePaint, TakesAFactorThatIsNoneForOne)
     }
 }
 
-TEST_F(PicturePaint, ScalesNoFurtherThanAnybodySees)
+TEST_F(PicturePaint, BoundsTheSizeOfAScaledImage)
 {
     const PictureFolder folder;
     const std::string path = folder.write("a.png", pictureBytes(filled({50, 50}, Qt::red)));
@@ -325,7 +325,7 @@ TEST_F(PicturePaint, SurvivesAnyFactor)
     const std::string path = folder.write("a.png", pictureBytes(filled({50, 50}, Qt::red)));
     for (const float dpi : {1e-30F, 1e30F, std::numeric_limits<float>::max()}) {
         const PictureCard card(image(path, R"("backgroundColor": "#0000FF",)"), {}, dpi);
-        EXPECT_NE(card.at(50, 50), kGround) << dpi;
+        EXPECT_NE(card.at(50, 50), kBackground) << dpi;
     }
 }
 
@@ -358,7 +358,7 @@ INSTANTIATE_TEST_SUITE_P(Areas, PictureTarget,
                                          TargetRow {"LessThanAPixel", {0.9, 30}, 1, {0, 30}}),
                          [](const auto& row) { return std::string(row.param.name); });
 
-// ----- What is kept
+// ----- The cache
 
 TEST_F(PicturePaint, ReadsTheFileOnceForEachSize)
 {
@@ -367,9 +367,9 @@ TEST_F(PicturePaint, ReadsTheFileOnceForEachSize)
     const PictureCard card(image(path));
     EXPECT_EQ(card.at(50, 50), QColor(Qt::red));
     folder.write("a.png", pictureBytes(filled({60, 60}, Qt::blue)));
-    EXPECT_EQ(card.at(50, 50), QColor(Qt::red)) << "what was scaled is painted again";
+    EXPECT_EQ(card.at(50, 50), QColor(Qt::red)) << "the scaled image is painted again";
     Plix_SetDpi(card.card().controller(), 2);
-    EXPECT_EQ(card.at(50, 50), QColor(Qt::blue)) << "another size is scaled anew";
+    EXPECT_EQ(card.at(50, 50), QColor(Qt::blue)) << "another size is read again";
 }
 
 TEST_F(PicturePaint, ReadsNothingBeforeItIsPainted)
@@ -400,11 +400,11 @@ TEST_F(PicturePaint, SharesAFileBetweenItems)
     first.paint();
     const PictureCard second(image(path) + "," + image(path, R"("size": "xs",)"));
     QFile::remove(QString::fromStdString(path));
-    EXPECT_EQ(second.at(50, 50), QColor(Qt::red)) << "the size is there already";
-    EXPECT_NE(second.at(30, 130), QColor(Qt::red)) << "this one is not";
+    EXPECT_EQ(second.at(50, 50), QColor(Qt::red)) << "this size is cached";
+    EXPECT_NE(second.at(30, 130), QColor(Qt::red)) << "this size is not";
 }
 
-TEST_F(PicturePaint, ForgetsAFileThatNobodyShows)
+TEST_F(PicturePaint, ForgetsAFileWithoutItems)
 {
     const PictureFolder folder;
     const std::string path = folder.write("a.png", pictureBytes(filled({50, 50}, Qt::red)));
@@ -414,7 +414,7 @@ TEST_F(PicturePaint, ForgetsAFileThatNobodyShows)
     }
     const PictureCard card(image(path));
     QFile::remove(QString::fromStdString(path));
-    EXPECT_EQ(card.at(50, 50), kGround);
+    EXPECT_EQ(card.at(50, 50), kBackground);
 }
 
 } // namespace
