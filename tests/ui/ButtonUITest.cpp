@@ -1,4 +1,4 @@
-// Buttons: their wording, look, size and place.
+// Buttons: their label, look, size and position.
 #include "ui/PlixButtonUI.h"
 
 #include "support/FontFamilyHost.h"
@@ -60,17 +60,17 @@ INSTANTIATE_TEST_SUITE_P(
     Languages, ButtonLabel,
     testing::Values(
         LabelRow {"Plain", R"("label": "plain",)", "ko", "plain"},
-        LabelRow {"TheLanguages",
+        LabelRow {"VariantOfTheLanguage",
                   R"("label": "plain", "i18nLabels": {"ko": "\uC608", "default": "any"},)", "ko",
                   "\uC608"},
-        LabelRow {"TheDefault", R"("label": "plain", "i18nLabels": {"ko": "k", "default": "any"},)",
-                  "fr", "any"},
-        LabelRow {"NeitherOfThem", R"("label": "plain", "i18nLabels": {"ko": "k"},)", "fr",
+        LabelRow {"DefaultVariant",
+                  R"("label": "plain", "i18nLabels": {"ko": "k", "default": "any"},)", "fr", "any"},
+        LabelRow {"NoVariantThatFits", R"("label": "plain", "i18nLabels": {"ko": "k"},)", "fr",
                   "plain"},
-        LabelRow {"AnEmptyOneOfTheLanguage",
+        LabelRow {"EmptyVariantOfTheLanguage",
                   R"("label": "plain", "i18nLabels": {"ko": "", "default": "any"},)", "ko", "any"},
-        LabelRow {"EmptyOnesOnly", R"("label": "plain", "i18nLabels": {"ko": "", "default": ""},)",
-                  "ko", "plain"},
+        LabelRow {"EmptyVariantsOnly",
+                  R"("label": "plain", "i18nLabels": {"ko": "", "default": ""},)", "ko", "plain"},
         LabelRow {"VariantsOnly", R"("i18nLabels": {"ko": "k"},)", "ko", "k"},
         LabelRow {"NoLabel", "", "en", ""},
         LabelRow {"OtherTexts", R"("text": "t", "displayText": "d", "i18nTexts": {"en": "e"},)",
@@ -117,7 +117,7 @@ TEST_F(UnavailableButton, ShowsTheHostsWording)
     EXPECT_EQ(card.ui<PlixButtonUI>({0, 0})->label(), QString::fromUtf8("\uC608 Go"));
 }
 
-TEST_F(UnavailableButton, IsAlsoOneBelowABoxForApps)
+TEST_F(UnavailableButton, IsAlsoAnyButtonInABoxForApps)
 {
     const TestCard card(
         bubbleWithBody(box("vertical", box("vertical", component("button")), kForApps)));
@@ -131,7 +131,7 @@ TEST_F(UnavailableButton, ShowsNothingWithoutAWording)
     EXPECT_EQ(card.ui<PlixButtonUI>({0, 0})->label(), QString());
 }
 
-TEST_F(UnavailableButton, LooksLikeAnyOther)
+TEST_F(UnavailableButton, LooksLikeAnAvailableOne)
 {
     const TestCard card(
         inBox(component("button", std::string(kForApps) + R"("style": "primary",)")));
@@ -140,7 +140,7 @@ TEST_F(UnavailableButton, LooksLikeAnyOther)
         QColor(0x0d, 0xc9, 0x50));
 }
 
-TEST_F(UnavailableButton, ExpectsNoMouse)
+TEST_F(UnavailableButton, DoesNotReactToTheMouse)
 {
     const TestCard card(
         inBox(component("button", kForApps) + "," + component("button") + "," + labelled("a")));
@@ -154,11 +154,11 @@ TEST_F(UnavailableButton, ExpectsNoMouse)
         EXPECT_TRUE(live->acceptHoverEvents());
         EXPECT_TRUE(live->acceptTouchEvents());
         EXPECT_EQ(live->acceptedMouseButtons(), QGraphicsRectItem().acceptedMouseButtons())
-            << "all that Qt knows";
+            << "all of Qt's buttons";
     }
 }
 
-TEST_F(UnavailableButton, IsLiveForAHostThatChecksNothing)
+TEST_F(UnavailableButton, IsAvailableWithoutTheMobileCheck)
 {
     const TestCard card(inBox(component("button", kForApps)), [](PlixDataController* controller) {
         PlixDisplayParam param;
@@ -175,7 +175,7 @@ TEST_F(UnavailableButton, IsLiveForAHostThatChecksNothing)
 struct LookRow {
     const char* name;
     const char* members;
-    QColor plate; // invalid: none
+    QColor background; // invalid: none
     QColor label;
 
     friend std::ostream& operator<<(std::ostream& out, const LookRow& row)
@@ -184,12 +184,12 @@ struct LookRow {
     }
 };
 
-const QColor kGround(0xF1, 0xF3, 0xF7);
+const QColor kBackground(0xF1, 0xF3, 0xF7);
 const QColor kNone;
 
 class ButtonLook : public PlixTest, public testing::WithParamInterface<LookRow> {
 protected:
-    // A label of full blocks: what is painted in its middle is its colour.
+    // A label of full blocks, whose middle has the colour of the label.
     static std::string blocks() { return labelled("\u2588\u2588\u2588", GetParam().members); }
 };
 
@@ -198,12 +198,12 @@ TEST_P(ButtonLook, IsPaintedInItsColors)
     const TestCard card(inBox(blocks()));
     const Picture picture(*card.root());
     const QRectF area = card.item({0, 0})->sceneBoundingRect();
-    const QColor plate = GetParam().plate.isValid() ? GetParam().plate : kGround;
+    const QColor expected = GetParam().background.isValid() ? GetParam().background : kBackground;
     EXPECT_EQ(picture.at(area.center()), GetParam().label);
-    EXPECT_EQ(picture.at({area.left() + 12, area.center().y()}), plate);
-    EXPECT_EQ(picture.at({area.center().x(), area.top()}), plate) << "up to the edge";
-    EXPECT_EQ(picture.at({area.center().x(), area.bottom() - 1}), plate);
-    EXPECT_EQ(picture.at(area.topLeft()), kGround) << "but for the corners";
+    EXPECT_EQ(picture.at({area.left() + 12, area.center().y()}), expected);
+    EXPECT_EQ(picture.at({area.center().x(), area.top()}), expected) << "up to the edge";
+    EXPECT_EQ(picture.at({area.center().x(), area.bottom() - 1}), expected);
+    EXPECT_EQ(picture.at(area.topLeft()), kBackground) << "the corners are round";
 }
 
 constexpr char kRed[] = R"("color": "#FF0000",)";
@@ -246,25 +246,25 @@ INSTANTIATE_TEST_SUITE_P(
         LookRow {"Unknown", kStyles[10].c_str(), kNone, Qt::black},
         LookRow {"HalfTransparent", kStyles[11].c_str(), QColor(0xF8, 0x79, 0x7B), Qt::white},
         // Qt paints invalid colours black.
-        LookRow {"InvalidPlate", kStyles[12].c_str(), Qt::black, Qt::white},
+        LookRow {"InvalidBackground", kStyles[12].c_str(), Qt::black, Qt::white},
         LookRow {"InvalidLabel", kStyles[13].c_str(), kNone, Qt::black}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(Button, RoundsItsPlate)
+TEST_F(Button, RoundsItsBackground)
 {
     const TestCard card(inBox(labelled("", R"("style": "primary",)")));
     const Picture picture(*card.root());
     const QPointF corner = card.item({0, 0})->sceneBoundingRect().topLeft();
-    const QColor plate(0x0D, 0xC9, 0x50);
+    const QColor color(0x0D, 0xC9, 0x50);
     // A circle of 6 pixels leaves 1.75 of them free along the diagonal.
-    EXPECT_EQ(picture.at(corner), kGround);
-    EXPECT_EQ(picture.at(corner + QPointF(2, 2)), plate);
-    EXPECT_NE(picture.at(corner + QPointF(4, 0)), plate);
-    EXPECT_EQ(picture.at(corner + QPointF(6, 0)), plate);
-    EXPECT_EQ(picture.at(corner + QPointF(0, 6)), plate);
+    EXPECT_EQ(picture.at(corner), kBackground);
+    EXPECT_EQ(picture.at(corner + QPointF(2, 2)), color);
+    EXPECT_NE(picture.at(corner + QPointF(4, 0)), color);
+    EXPECT_EQ(picture.at(corner + QPointF(6, 0)), color);
+    EXPECT_EQ(picture.at(corner + QPointF(0, 6)), color);
 }
 
-TEST_F(Button, LooksTheSameWhoeverSentTheMessage)
+TEST_F(Button, LooksTheSameForEverySender)
 {
     const std::string json = inBox(labelled("Go", R"("style": "primary",)"));
     const TestCard others(json);
@@ -272,7 +272,7 @@ TEST_F(Button, LooksTheSameWhoeverSentTheMessage)
                        [](PlixDataController* controller) { Plix_InitSetFrom(controller, 1); });
     const Picture othersPicture(*others.root());
     const Picture ownPicture(*own.root());
-    // Off the edges, where the bubble shines through.
+    // Without the edges, where the background of the bubble shows through.
     const QRectF area = others.item({0, 0})->sceneBoundingRect().adjusted(6, 6, -6, -6);
     ASSERT_EQ(area, own.item({0, 0})->sceneBoundingRect().adjusted(6, 6, -6, -6));
     for (double y = area.top(); y < area.bottom(); ++y) {
@@ -296,7 +296,7 @@ struct HeightRow {
 
 class ButtonHeight : public PlixTest, public testing::WithParamInterface<HeightRow> { };
 
-TEST_P(ButtonHeight, IsOneOfTwo)
+TEST_P(ButtonHeight, IsOneOfTwoHeights)
 {
     for (const char* layout : {"vertical", "horizontal", "baseline"}) {
         const TestCard card(inBox(labelled("a", GetParam().members), layout));
@@ -345,8 +345,8 @@ INSTANTIATE_TEST_SUITE_P(Words, ButtonGravity,
                                          GravityRow {"Empty", "", 0}),
                          [](const auto& row) { return std::string(row.param.name); });
 
-// Such a box is laid out as a column, but its buttons count it as a row.
-TEST_F(Button, HasItsGravityAlsoInABoxOfAnUnknownLayout)
+// Such a box is laid out as a column, but its buttons treat it as a row.
+TEST_F(Button, HasItsGravityInABoxOfAnUnknownLayout)
 {
     for (const char* layout : {"diagonal", "", "Vertical"}) {
         const TestCard card(inBox(labelled("a", R"("gravity": "center",)"), layout));
@@ -378,7 +378,7 @@ double labelWidth(const PlixButtonUI& button)
     return QFontMetrics(button.labelFont()).horizontalAdvance(button.label());
 }
 
-TEST_F(Button, IsAsWideAsItsLabelAndSomeRoomWhenItIsAbsolute)
+TEST_F(Button, IsAsWideAsItsLabelAndItsPaddingsWhenItIsAbsolute)
 {
     for (const char* layout : {"vertical", "horizontal"}) {
         for (const char* label : {"", "i", "Confirm the order"}) {
@@ -393,7 +393,7 @@ TEST_F(Button, IsAsWideAsItsLabelAndSomeRoomWhenItIsAbsolute)
     EXPECT_EQ(card.ui<PlixButtonUI>({0, 0})->size().width(), 300 - 2 * 20) << "the word is exact";
 }
 
-TEST_F(Button, TakesItsMarginAndPixelOffsets)
+TEST_F(Button, HasItsMarginAndOffsetsInPixels)
 {
     const TestCard card(
         bubbleWithBody(box("vertical",
@@ -428,7 +428,7 @@ protected:
     }
 };
 
-TEST_P(ButtonOffset, IsAShareOfTheBox)
+TEST_P(ButtonOffset, IsAPercentageOfTheBox)
 {
     const TestCard shown(card());
     const auto* button = shown.ui<PlixButtonUI>({0, 0});
@@ -436,19 +436,20 @@ TEST_P(ButtonOffset, IsAShareOfTheBox)
     EXPECT_EQ(button->pos(), GetParam().place);
 }
 
-TEST_P(ButtonOffset, StaysWhatItWasInTheFirstLayout)
+TEST_P(ButtonOffset, DoesNotChangeAfterTheFirstLayout)
 {
     const TestCard shown(card());
     const auto* button = shown.ui<PlixButtonUI>({0, 0});
     auto* around = shown.ui<YogaLayoutItem>({0});
     around->setWidth(260);
     around->setHeight(300);
-    // Twice: what a layout sets shows in the next one.
+    // Twice: what one layout sets has an effect in the next one.
     Plix_ModifyHeight(shown.controller(), 0);
     Plix_ModifyHeight(shown.controller(), 0);
-    const bool hangsBelow = std::string(GetParam().members).find("Bottom") != std::string::npos;
-    const bool hangsRight = std::string(GetParam().members).find("End") != std::string::npos;
-    EXPECT_EQ(button->pos(), GetParam().place + QPointF(hangsRight ? 60 : 0, hangsBelow ? 140 : 0));
+    const bool isFromBottom = std::string(GetParam().members).find("Bottom") != std::string::npos;
+    const bool isFromEnd = std::string(GetParam().members).find("End") != std::string::npos;
+    EXPECT_EQ(button->pos(),
+              GetParam().place + QPointF(isFromEnd ? 60 : 0, isFromBottom ? 140 : 0));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -505,7 +506,7 @@ TEST_F(ButtonFont, FollowsTheHost)
     EXPECT_EQ(button->labelFont().weight(), 75);
 }
 
-TEST_F(ButtonFont, IsLeftAloneWhileFontBindingIsOff)
+TEST_F(ButtonFont, DoesNotChangeWhileFontBindingIsOff)
 {
     const TestCard card(inBox(labelled("a")));
     auto* button = card.ui<PlixButtonUI>({0, 0});
@@ -519,7 +520,7 @@ TEST_F(ButtonFont, IsLeftAloneWhileFontBindingIsOff)
     EXPECT_EQ(button->labelFont().family(), host_.family);
 }
 
-TEST_F(ButtonFont, IsTheApplicationsWithoutAFamily)
+TEST_F(ButtonFont, IsThatOfTheApplicationWithoutAFamily)
 {
     host_.family.clear();
     const TestCard nameless(inBox(labelled("a")));
@@ -529,7 +530,7 @@ TEST_F(ButtonFont, IsTheApplicationsWithoutAFamily)
     EXPECT_EQ(alone.ui<PlixButtonUI>({0, 0})->labelFont().family(), QFont().family());
 }
 
-// ----- What of the label is shown
+// ----- The part of the label that is shown
 
 // A button of this width.
 std::string wide(const std::string& label, int width)
@@ -601,12 +602,12 @@ TEST_F(Button, PaintsItsLabelInTheMiddle)
     }
 }
 
-TEST_F(Button, PaintsExactlyWhatItTells)
+TEST_F(Button, PaintsItsShownLabel)
 {
     const TestCard elided(wide(kLong, 150));
     const QString shown = elided.ui<PlixButtonUI>({0, 0})->shownLabel();
     ASSERT_NE(shown, QString::fromLatin1(kLong));
-    // The same words as a label of its own, which fits.
+    // A button whose label is the elided text, which fits.
     const TestCard plain(wide(shown.toStdString(), 150));
     ASSERT_EQ(plain.ui<PlixButtonUI>({0, 0})->shownLabel(), shown);
     const Picture elidedPicture(*elided.root());
@@ -618,7 +619,7 @@ TEST_F(Button, PaintsExactlyWhatItTells)
     }
 }
 
-TEST_F(Button, TellsItsLabelToHosts)
+TEST_F(Button, HasItsLabelAsAProperty)
 {
     const TestCard card(wide(kLong, 150));
     QGraphicsObject* const object = card.item({0, 0})->toGraphicsObject();
@@ -628,7 +629,7 @@ TEST_F(Button, TellsItsLabelToHosts)
     EXPECT_EQ(object->property("labelFont").value<QFont>().pixelSize(), 16);
 }
 
-// What a sender who means harm writes on a button.
+// Labels that are made to slow the host down.
 struct HostileRow {
     const char* name;
     std::string label;
@@ -675,7 +676,7 @@ INSTANTIATE_TEST_SUITE_P(Labels, HostileLabel,
                                          HostileRow {"Emoji", repeated("\U0001F600", 200000)}),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(Button, ReadsFromRightToLeftInScriptsThatDo)
+TEST_F(Button, ShowsRightToLeftScripts)
 {
     const std::string hebrew = "\u05E9\u05DC\u05D5\u05DD \u05DC\u05DB\u05D5\u05DC\u05DD "
                                "\u05D5\u05EA\u05D5\u05D3\u05D4 \u05E8\u05D1\u05D4";

@@ -1,4 +1,4 @@
-// What a text and its host say to each other.
+// Signals and callbacks between a text and its host.
 #include "ui/text/PlixTextUI.h"
 
 #include "api/PlixDataMgr.h"
@@ -21,7 +21,7 @@ std::string oneText(const std::string& more = {})
 
 using TextMeta = PlixTest;
 
-TEST_F(TextMeta, NamesAllItsFaces)
+TEST_F(TextMeta, CastsToAllItsBaseClasses)
 {
     PlixTextUI item(nullptr, nullptr, {});
     EXPECT_EQ(item.qt_metacast("PlixTextUI"), static_cast<void*>(&item));
@@ -34,11 +34,11 @@ TEST_F(TextMeta, NamesAllItsFaces)
     EXPECT_EQ(item.qt_metacast(nullptr), nullptr);
 }
 
-TEST_F(TextMeta, HasItsSlotsInTheirOrder)
+TEST_F(TextMeta, HasItsSlotsInOrder)
 {
     const QMetaObject& meta = PlixTextUI::staticMetaObject;
     ASSERT_EQ(meta.methodCount() - meta.methodOffset(), 3);
-    // The compiler of the meta-objects spells qint64 its own way.
+    // moc writes qint64 as qlonglong.
     const char* const signatures[] = {"OnMentionClicked(qlonglong)",
                                       "OnBotMentionClicked(qlonglong)", "OnFontChanged()"};
     for (int i = 0; i < 3; ++i) {
@@ -72,7 +72,7 @@ struct Mentions {
 using Numbers = std::vector<std::int64_t>;
 using TextMentions = PlixTest;
 
-TEST_F(TextMentions, ReachTheHost)
+TEST_F(TextMentions, AreReportedToTheHost)
 {
     const TestCard card(oneText());
     Mentions mentions;
@@ -86,7 +86,7 @@ TEST_F(TextMentions, ReachTheHost)
     EXPECT_EQ(mentions.bots, Numbers {-7});
 }
 
-TEST_F(TextMentions, GoNowhereWithoutACallback)
+TEST_F(TextMentions, AreIgnoredWithoutACallback)
 {
     const TestCard card(oneText());
     auto* item = card.ui<PlixTextUI>({0, 0});
@@ -99,7 +99,7 @@ TEST_F(TextMentions, GoNowhereWithoutACallback)
     EXPECT_TRUE(mentions.users.empty());
 }
 
-TEST_F(TextMentions, GoNowhereWithoutAnOwner)
+TEST_F(TextMentions, AreIgnoredWithoutAnOwner)
 {
     const TestCard card(oneText());
     Mentions mentions;
@@ -112,7 +112,7 @@ TEST_F(TextMentions, GoNowhereWithoutAnOwner)
     EXPECT_TRUE(mentions.bots.empty());
 }
 
-TEST_F(TextMentions, GoNowhereWithAControllerOfTheHostsOwn)
+TEST_F(TextMentions, AreIgnoredWithAControllerOfTheHostsOwn)
 {
     class OtherController : public PlixDataController { };
     OtherController other;
@@ -125,9 +125,9 @@ TEST_F(TextMentions, GoNowhereWithAControllerOfTheHostsOwn)
 
 // ----- Fonts
 
-class TextFollowsFont : public PlixTest {
+class TextFontFamily : public PlixTest {
 protected:
-    // As the application calls it.
+    // Calls the slot as the application does.
     static void changeFont(PlixTextUI& item)
     {
         EXPECT_TRUE(QMetaObject::invokeMethod(&item, "OnFontChanged"));
@@ -136,19 +136,19 @@ protected:
     FontFamilyHost host_;
 };
 
-TEST_F(TextFollowsFont, TakesTheFamilyAndNothingElse)
+TEST_F(TextFontFamily, IsAllThatOnFontChangedSets)
 {
     const TestCard card(oneText(R"("weight": "bold", "size": "xl",)"));
     auto* item = card.ui<PlixTextUI>({0, 0});
     host_.switchFamily();
-    EXPECT_NE(item->font().family(), host_.family) << "not before it is told";
+    EXPECT_NE(item->font().family(), host_.family) << "not before the slot is called";
     changeFont(*item);
     EXPECT_EQ(item->font().family(), host_.family);
     EXPECT_EQ(item->font().pixelSize(), 22);
     EXPECT_EQ(item->font().weight(), 75);
 }
 
-TEST_F(TextFollowsFont, IsLaidOutAgainInTheNewFamily)
+TEST_F(TextFontFamily, ChangesTheHeightInTheNextLayout)
 {
     const std::string words = "one two three four five six seven eight nine ten";
     const TestCard card(bubbleWithBody(box("vertical", text(words, R"("wrap": true,)"))));
@@ -162,7 +162,7 @@ TEST_F(TextFollowsFont, IsLaidOutAgainInTheNewFamily)
     EXPECT_EQ(after, std::trunc(item->boundingRect().height()));
 }
 
-TEST_F(TextFollowsFont, WhenTheManagerIsTold)
+TEST_F(TextFontFamily, IsSetOnASignalOfTheManager)
 {
     const std::string words = "one two three four five six seven eight nine ten";
     const TestCard card(bubbleWithBody(box("vertical", text(words, R"("wrap": true,)"))));
@@ -175,7 +175,7 @@ TEST_F(TextFollowsFont, WhenTheManagerIsTold)
     EXPECT_GT(card.root()->boundingRect().height(), before);
 }
 
-TEST_F(TextFollowsFont, IsLeftAloneWhileFontBindingIsOff)
+TEST_F(TextFontFamily, DoesNotChangeWhileFontBindingIsOff)
 {
     const TestCard card(oneText());
     auto* item = card.ui<PlixTextUI>({0, 0});
@@ -186,7 +186,7 @@ TEST_F(TextFollowsFont, IsLeftAloneWhileFontBindingIsOff)
     EXPECT_EQ(item->font(), before);
 }
 
-TEST_F(TextFollowsFont, IsLeftAloneWithoutASupportObject)
+TEST_F(TextFontFamily, DoesNotChangeWithoutASupportObject)
 {
     const TestCard card(oneText());
     auto* item = card.ui<PlixTextUI>({0, 0});

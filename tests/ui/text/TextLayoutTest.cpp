@@ -1,4 +1,4 @@
-// How a text is measured and placed.
+// How texts are measured and placed.
 #include "ui/text/PlixTextUI.h"
 
 #include "api/PlixDataMgr.h"
@@ -24,9 +24,9 @@ constexpr char kWrap[] = R"("wrap": true,)";
 constexpr char kWords[] = "some words that do not fit into one line of so narrow an item";
 
 // A text without a box around it.
-class LooseText {
+class TextWithoutBox {
 public:
-    explicit LooseText(const std::function<void(PlixDataText&)>& set)
+    explicit TextWithoutBox(const std::function<void(PlixDataText&)>& set)
         : item(nullptr, nullptr, {})
     {
         const auto data = std::make_shared<PlixDataText>();
@@ -66,9 +66,9 @@ double topMargin(const PlixTextUI& item)
 
 using TextMeasure = PlixTest;
 
-TEST_F(TextMeasure, TakesTheOfferedWidthAndTheHeightItNeeds)
+TEST_F(TextMeasure, UsesTheGivenWidthAndTheHeightThatItNeeds)
 {
-    LooseText text(&setWrappedWords);
+    TextWithoutBox text(&setWrappedWords);
     for (const double width : {80.0, 120.5, 300.0}) {
         const QSizeF size = text.measure(width);
         EXPECT_EQ(size.width(), width);
@@ -80,7 +80,7 @@ TEST_F(TextMeasure, TakesTheOfferedWidthAndTheHeightItNeeds)
 
 TEST_F(TextMeasure, EmptiesAWrappedTextAtWidthZeroForGood)
 {
-    LooseText text(&setWrappedWords);
+    TextWithoutBox text(&setWrappedWords);
     text.measure(0);
     EXPECT_EQ(text.item.toPlainText(), QString());
     text.measure(100);
@@ -89,14 +89,14 @@ TEST_F(TextMeasure, EmptiesAWrappedTextAtWidthZeroForGood)
 
 TEST_F(TextMeasure, KeepsATextThatIsNotWrappedAtWidthZero)
 {
-    LooseText text(&setWords);
+    TextWithoutBox text(&setWords);
     text.measure(0);
     EXPECT_EQ(text.item.toPlainText(), QString::fromLatin1(kWords));
 }
 
-TEST_F(TextMeasure, TakesItsNaturalWidthWhenNothingIsOffered)
+TEST_F(TextMeasure, UsesItsNaturalWidthWithoutAGivenWidth)
 {
-    LooseText text(&setWords);
+    TextWithoutBox text(&setWords);
     text.item.SetFixedItemWidth(-1);
     const double natural = text.item.boundingRect().width();
     const QSizeF size = text.measure(std::numeric_limits<double>::quiet_NaN());
@@ -118,7 +118,7 @@ public:
     PlixTextUI& item() const { return *ui<PlixTextUI>({0, 0, 0}); }
 };
 
-TEST_F(TextMeasure, CutsTheOfferToTheInnerWidthOfTheParent)
+TEST_F(TextMeasure, LimitsTheWidthToTheInsideOfTheParent)
 {
     for (const char* properties : {kWrap, ""}) {
         const TextInBox card(properties);
@@ -150,14 +150,14 @@ public:
 
     void startNextLayout() { root_.calculateLayout(500, 500); }
 
-    LooseText text;
+    TextWithoutBox text;
 
 private:
     LayoutNode root_;
     LayoutNode box_;
 };
 
-TEST_F(TextMeasure, TellsTheNodeOfACutUntilTheNextLayout)
+TEST_F(TextMeasure, SetsASmallerWidthOfTheNodeUntilTheNextLayout)
 {
     YGUnit unit = YGUnitUndefined;
     WideTextInBox wrapped(&setWrappedWords);
@@ -169,7 +169,7 @@ TEST_F(TextMeasure, TellsTheNodeOfACutUntilTheNextLayout)
     EXPECT_EQ(wrapped.text.item.styleWidth(unit), 300);
 }
 
-TEST_F(TextMeasure, TellsTheNodeOfNoCutUnlessWrapped)
+TEST_F(TextMeasure, KeepsTheWidthOfTheNodeUnlessWrapped)
 {
     YGUnit unit = YGUnitUndefined;
     WideTextInBox plain(&setWords);
@@ -179,7 +179,7 @@ TEST_F(TextMeasure, TellsTheNodeOfNoCutUnlessWrapped)
 
 TEST_F(TextMeasure, IgnoresAParentWithoutAWidthYet)
 {
-    LooseText text(&setWrappedWords);
+    TextWithoutBox text(&setWrappedWords);
     LayoutNode root;
     LayoutNode parent;
     root.addChild(&parent);
@@ -188,9 +188,9 @@ TEST_F(TextMeasure, IgnoresAParentWithoutAWidthYet)
     EXPECT_EQ(text.measure(200).width(), 200);
 }
 
-TEST_F(TextMeasure, IgnoresAParentWhosePaddingsLeaveNothing)
+TEST_F(TextMeasure, IgnoresAParentWithoutRoomInsideItsPaddings)
 {
-    LooseText text(&setWrappedWords);
+    TextWithoutBox text(&setWrappedWords);
     LayoutNode root;
     LayoutNode parent;
     parent.setPadding(100);
@@ -204,7 +204,7 @@ using TextSizeHint = PlixTest;
 
 TEST_F(TextSizeHint, IsTheHeightOfTheText)
 {
-    LooseText text(&setWrappedWords);
+    TextWithoutBox text(&setWrappedWords);
     text.item.SetFixedItemWidth(100);
     const double height = text.item.boundingRect().height();
     for (const Qt::SizeHint hint : {Qt::MinimumSize, Qt::PreferredSize, Qt::MaximumSize})
@@ -216,8 +216,8 @@ TEST_F(TextSizeHint, IsTheHeightOfTheText)
 
 struct WidthRow {
     const char* name;
-    std::string body; // the text is its first child's first child, or so
-    std::vector<int> path;
+    std::string body;
+    std::vector<int> path; // of the text
     bool sharesRow;
 
     friend std::ostream& operator<<(std::ostream& out, const WidthRow& row)
@@ -276,7 +276,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 using TextWidth = PlixTest;
 
-TEST_F(TextWidth, IsNeverMoreThanTheParents)
+TEST_F(TextWidth, IsNeverMoreThanThatOfItsParent)
 {
     const std::string words(300, 'm');
     for (const char* layout : {"vertical", "horizontal", "baseline"}) {
@@ -292,7 +292,7 @@ TEST_F(TextWidth, IsNeverMoreThanTheParents)
 
 TEST_F(TextWidth, IsNotLostToTheRoundingOfShares)
 {
-    // Shares of a row that no float holds exactly.
+    // Shares of a row that a float cannot represent exactly.
     const std::string column = box("horizontal", "", R"("width": "40%",)");
     const std::string shares = box("baseline", text("one", R"("wrap": true, "flex": 3,)"),
                                    R"("borderWidth": "light", "borderColor": "#FF0000",)");
@@ -318,14 +318,14 @@ using TextBaseline = PlixTest;
 
 TEST_F(TextBaseline, IsTheAscentOfTheFont)
 {
-    LooseText text(&setWords);
+    TextWithoutBox text(&setWords);
     EXPECT_EQ(text.item.baseline(0, 0), QFontMetrics(text.item.font()).ascent());
     EXPECT_EQ(text.item.baseline(500, 500), text.item.baseline(0, 0));
 }
 
 TEST_F(TextBaseline, CountsFromTheTopOfTheRectangle)
 {
-    LooseText text(&setWords);
+    TextWithoutBox text(&setWords);
     const int height = lineHeight(text.item);
     text.item.setGeometry({0, 0, 300, height - 10.0});
     EXPECT_EQ(text.item.baseline(0, 0), QFontMetrics(text.item.font()).ascent() - 5);
@@ -337,7 +337,7 @@ using TextPlacement = PlixTest;
 
 TEST_F(TextPlacement, MovesToTheTopLeftCorner)
 {
-    LooseText text(&setWords);
+    TextWithoutBox text(&setWords);
     text.item.setGeometry({12, 34, 600, 40});
     EXPECT_EQ(text.item.pos(), QPointF(12, 34));
     EXPECT_EQ(static_cast<QGraphicsLayoutItem&>(text.item).geometry().topLeft(), QPointF(12, 34));
@@ -345,7 +345,7 @@ TEST_F(TextPlacement, MovesToTheTopLeftCorner)
 
 TEST_F(TextPlacement, CutsATextThatIsWiderThanItsRectangle)
 {
-    LooseText text(&setWords);
+    TextWithoutBox text(&setWords);
     text.item.setGeometry({0, 0, 70, 40});
     EXPECT_EQ(text.item.boundingRect().width(), 70);
     EXPECT_TRUE(text.item.IsElided());
@@ -385,9 +385,9 @@ struct GravityRow {
 
 class TextGravity : public PlixTest, public testing::WithParamInterface<GravityRow> { };
 
-TEST_P(TextGravity, SharesTheFreeHeight)
+TEST_P(TextGravity, DistributesTheFreeHeight)
 {
-    LooseText text([](PlixDataText& data) {
+    TextWithoutBox text([](PlixDataText& data) {
         setWords(data);
         data.SetGravity(GetParam().gravity);
         if (GetParam().absolute)
@@ -397,7 +397,7 @@ TEST_P(TextGravity, SharesTheFreeHeight)
     text.item.setGeometry({0, 0, 600, height + 40});
     EXPECT_EQ(topMargin(text.item), 40 * GetParam().share);
     text.item.setGeometry({0, 0, 600, height + 20});
-    EXPECT_EQ(topMargin(text.item), 20 * GetParam().share) << "not on top of the last time";
+    EXPECT_EQ(topMargin(text.item), 20 * GetParam().share) << "not added to the last margin";
     text.item.setGeometry({0, 0, 600, height});
     EXPECT_EQ(topMargin(text.item), 0);
 }
@@ -442,7 +442,7 @@ TEST_F(TextPlacement, LeavesTextsOfABaselineRowOnTheirLine)
     EXPECT_EQ(topMargin(*item), 0);
 }
 
-TEST_F(TextPlacement, RecomputesAParentThatWaitsForIt)
+TEST_F(TextPlacement, LaysOutAParentThatNeedsARelayout)
 {
     const TestCard card(bubbleWithBody(box("vertical", text("one") + "," + text("two"))));
     auto* parent = card.ui<PlixBoxUI>({0});

@@ -11,7 +11,7 @@
 namespace plix::test {
 namespace {
 
-// The words that decide, and some that do not.
+// Random text of pieces of markup and others.
 QString generatedText(std::mt19937& random)
 {
     static const QStringList pieces {
@@ -42,7 +42,7 @@ TEST(TextMarkup, IsDetectedAsTheRegularExpressionDoes)
     EXPECT_LT(detected, 19000);
 }
 
-TEST(TextMarkup, OfUpperCaseIsNone)
+TEST(TextMarkup, InUpperCaseIsNotDetected)
 {
     EXPECT_FALSE(HasMarkup(QStringLiteral("<E code=\"1F600\"/>")));
     EXPECT_FALSE(HasMarkup(QStringLiteral("<M user=\"1\">a</M>")));
@@ -56,7 +56,7 @@ TEST(TextMarkup, IsDetectedInLinearTime)
     EXPECT_TRUE(HasMarkup(openers + QStringLiteral("</m>")));
 }
 
-TEST(TextMarkup, EscapesOnceWhateverWasEscapedBefore)
+TEST(TextMarkup, EscapesNothingTwice)
 {
     const struct {
         const char* text;
@@ -74,7 +74,7 @@ TEST(TextMarkup, EscapesOnceWhateverWasEscapedBefore)
         {"&LT;", "&amp;LT;"},
         {"&quot;", "&amp;quot;"},
         {"a &lt; b < c", "a &lt; b &lt; c"},
-        // What an author spells out on purpose is read as the entity all the same.
+        // The first entity is kept, although the author may have meant it as text.
         {"&amp;lt;", "&amp;lt;"},
     };
     for (const auto& row : rows) {
@@ -99,7 +99,7 @@ protected:
     }
 };
 
-TEST_F(TextMarkupInCard, IsReadWhereItIsEnabled)
+TEST_F(TextMarkupInCard, IsReadWhenItIsEnabled)
 {
     EXPECT_EQ(shown(R"(Hi <m user=\"7\">@Ann</m>!)", true), "Hi @Ann!");
     EXPECT_EQ(shown(R"(a &lt; b <e code=\"1F600\"/>)", true), "a < b \xF0\x9F\x98\x80");
@@ -108,7 +108,7 @@ TEST_F(TextMarkupInCard, IsReadWhereItIsEnabled)
     EXPECT_EQ(shown("&amp;lt;", true), "&lt;");
 }
 
-TEST_F(TextMarkupInCard, IsShownAsItStandsWhereItIsNot)
+TEST_F(TextMarkupInCard, IsShownUnchangedWhenItIsDisabled)
 {
     for (const char* words : {"1 < 2 & 3", "1 &lt; 2", "&amp;lt;", "<b>x</b>", "<e/>"}) {
         SCOPED_TRACE(words);
@@ -117,12 +117,12 @@ TEST_F(TextMarkupInCard, IsShownAsItStandsWhereItIsNot)
     EXPECT_EQ(shown(R"(<m user=\"7\">@Ann</m>)", false), R"(<m user="7">@Ann</m>)");
 }
 
-TEST_F(TextMarkupInCard, LeavesOtherSignsOfATextWithElementsAlone)
+TEST_F(TextMarkupInCard, DoesNotChangeOtherCharactersOfATextWithElements)
 {
     EXPECT_EQ(shown(R"(1 < 2 & <m user=\"7\">@Ann</m> <b>)", true), "1 < 2 & @Ann <b>");
 }
 
-TEST_F(TextMarkupInCard, ReachesSpansToo)
+TEST_F(TextMarkupInCard, IsReadInSpans)
 {
     const TestCard card(bubbleWithBody(box("vertical", R"({"type": "text", "contents": [
             {"type": "span", "text": "a < b "},
@@ -166,7 +166,7 @@ TEST_F(TextHighlight, FindsWordsThatAreNotShown)
     EXPECT_EQ(highlight({"start only"}), 1);
 }
 
-TEST_F(TextHighlight, OfNoWordFindsNothing)
+TEST_F(TextHighlight, FindsNothingWithoutWords)
 {
     EXPECT_EQ(highlight({"harbour"}), 1);
     EXPECT_EQ(highlight({}), -1);

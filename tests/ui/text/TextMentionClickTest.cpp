@@ -1,4 +1,4 @@
-// Clicks on mentions, as a view delivers them.
+// Clicks on mentions in a view.
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
 #include "ui/text/PlixTextUI.h"
@@ -10,7 +10,7 @@
 namespace plix::test {
 namespace {
 
-// A host that notes what it is told.
+// A host that records its callbacks.
 class MentionClick : public PlixTest {
 protected:
     static std::string card(const std::string& boxMembers = {})
@@ -50,7 +50,7 @@ protected:
         };
     }
 
-    // In the middle of the letters after `before`.
+    // A point on the letters after `before`.
     static QPointF after(const char* before, PlixTextUI& item)
     {
         const QFontMetricsF metrics(item.font());
@@ -66,7 +66,7 @@ protected:
 
 using Numbers = std::vector<std::int64_t>;
 
-TEST_F(MentionClick, ReachesTheHostOnceWithItsNumber)
+TEST_F(MentionClick, IsReportedOnceWithItsNumber)
 {
     const TestCard shown(card(), setUp());
     auto* item = shown.ui<PlixTextUI>({0, 0});
@@ -78,7 +78,7 @@ TEST_F(MentionClick, ReachesTheHostOnceWithItsNumber)
     EXPECT_EQ(bots, Numbers {9});
 }
 
-TEST_F(MentionClick, BesideAMentionIsNone)
+TEST_F(MentionClick, BesideAMentionIsNotReported)
 {
     const TestCard shown(card(), setUp());
     auto* item = shown.ui<PlixTextUI>({0, 0});

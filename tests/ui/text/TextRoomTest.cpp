@@ -46,7 +46,7 @@ void expectInkInside(PlixTextUI& item)
 
 using TextRoom = PlixTest;
 
-TEST_F(TextRoom, WithoutAnyNothingIsDrawn)
+TEST_F(TextRoom, OfZeroDrawsNothing)
 {
     const TestCard card(bubbleWithBody(box(
         "horizontal",
@@ -74,7 +74,7 @@ TEST_F(TextRoom, IsNeverExceededSideways)
     }
 }
 
-TEST_F(TextRoom, OfItalicTextEndsWhereItsRectangleEnds)
+TEST_F(TextRoom, OfItalicTextEndsAtItsRectangle)
 {
     for (const char* size : {"md", "5xl"}) {
         const std::string italic =
@@ -96,9 +96,9 @@ std::string shownText(const std::string& words)
     return std::to_string(item->boundingRect().width());
 }
 
-TEST_F(TextRoom, OfOneLineIsEnoughForItsEllipsis)
+TEST_F(TextRoom, OfOneLineIncludesItsEllipsis)
 {
-    // The dots stand for the lines that are not shown; no letter makes way.
+    // The ellipsis stands for the lines that are not shown. It replaces no letter.
     EXPECT_EQ(shownText("Hello\\nWorld"), shownText("Hello…"));
     EXPECT_EQ(shownText("Hello\\nA longer second line"), shownText("A longer second line"));
     EXPECT_EQ(shownText("Hello\\n"), shownText("Hello"));
@@ -127,10 +127,10 @@ TEST_F(TextRoom, IsFilledFromTheRightByRightToLeftText)
         EXPECT_GT(leftOf(words, more), 150) << "short, " << more;
     }
     EXPECT_NEAR(rightOf(many, R"("wrap": true,)"), 280, 3) << "in lines";
-    EXPECT_LT(leftOf("short", ""), 25) << "as all others from the left";
+    EXPECT_LT(leftOf("short", ""), 25) << "left-to-right texts from the left";
 }
 
-TEST_F(TextRoom, IsSharedOutByTheAlignWordsInAnyScript)
+TEST_F(TextRoom, IsUsedAsAlignSaysInAnyScript)
 {
     const std::string words = "שלום";
     EXPECT_NEAR(rightOf(words, R"("align": "end",)"), 280, 3);

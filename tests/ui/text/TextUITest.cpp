@@ -1,4 +1,4 @@
-// What a text shows: its words, fonts, colours and lines.
+// What texts show: words, fonts, colours and lines.
 #include "ui/text/PlixTextUI.h"
 
 #include "api/PlixDataMgr.h"
@@ -116,7 +116,7 @@ TEST_F(Text, IsOfMediumSizeByDefault)
     EXPECT_EQ(data->GetPixelSize(), 16);
 }
 
-TEST_F(Text, NotesItsPixelSizeInItsData)
+TEST_F(Text, StoresItsPixelSizeInItsData)
 {
     const OneText card(text("words", property("size", "xl")));
     const auto data = std::dynamic_pointer_cast<PlixDataText>(
@@ -124,7 +124,7 @@ TEST_F(Text, NotesItsPixelSizeInItsData)
     EXPECT_EQ(data->GetPixelSize(), 22);
 }
 
-TEST_F(Text, GivesSpansWithoutASizeItsOwn)
+TEST_F(Text, PassesItsSizeOnToSpansWithoutASize)
 {
     const OneText card(
         spans(span("a") + "," + span("b", property("size", "xs")), property("size", "xl")));
@@ -213,13 +213,13 @@ protected:
     }
 };
 
-TEST_P(TextColor, IsItsOwnOrThatOfTheSender)
+TEST_P(TextColor, IsItsOwnOrDependsOnTheSender)
 {
     const OneText card(text("words", GetParam().properties), "vertical", &setFrom);
     EXPECT_EQ(card.item().defaultTextColor(), GetParam().color);
 }
 
-TEST_P(TextColor, IsTheColourOfSpansWithoutOne)
+TEST_P(TextColor, IsThatOfSpansWithoutAColor)
 {
     const OneText card(
         spans(span("a") + "," + span("b", property("color", "#00FF00")), GetParam().properties),
@@ -239,7 +239,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ColorRow {"Empty", 0, R"("color": "",)", QColor(0x76, 0x76, 0x76)}),
     rowName<ColorRow>);
 
-TEST_F(Text, HasAnInvalidColourForWordsThatAreNone)
+TEST_F(Text, HasAnInvalidColorForUnknownWords)
 {
     const OneText card(text("words", property("color", "dark-ish")));
     EXPECT_FALSE(card.item().defaultTextColor().isValid());
@@ -297,7 +297,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(Text, ShowsASpanThatConvertsToNothingAsASpace)
 {
-    // A byte order mark is no character of the text that it stands before.
+    // QString drops a byte order mark at the beginning, so the text of this span is empty.
     const OneText card(spans(span("a") + "," + span("\\ufeff") + "," + span("b")));
     EXPECT_EQ(card.item().toPlainText(), QStringLiteral("a b"));
     const OneText empty(spans(span("a") + "," + span("") + "," + span("b")));
@@ -314,7 +314,7 @@ TEST_F(Text, ShowsItsSpansInOrderInsteadOfItsWords)
     EXPECT_EQ(formatOf(card.item(), 2).font().weight(), 50);
 }
 
-TEST_F(Text, TakesNothingInItForMarkupOfADocument)
+TEST_F(Text, IsNotReadAsHtml)
 {
     const OneText card(text("<b>1 < 2 &amp; 3</b>"));
     EXPECT_EQ(card.item().toPlainText(), QStringLiteral("<b>1 < 2 &amp; 3</b>"));
@@ -326,14 +326,14 @@ TEST_F(Text, HasNoMarginAroundIt)
     EXPECT_EQ(card.item().document()->documentMargin(), 0);
 }
 
-// ----- Texts that only mobile apps can follow
+// ----- Texts with an action for mobile apps only
 
 std::string wording(const char* key)
 {
     return std::string(key) == "chat_room_check_on_mobile" ? "On your phone" : "wrong key";
 }
 
-TEST_F(Text, ForMobileAppsShowsTheHostsWords)
+TEST_F(Text, WithAnActionForAppsShowsTheHostsWording)
 {
     constexpr char action[] = R"("action": {"type": "uri", "appUri": "app://a"},)";
     for (const std::string& component :
@@ -350,7 +350,7 @@ TEST_F(Text, ForMobileAppsShowsTheHostsWords)
     }
 }
 
-TEST_F(Text, InABoxForMobileAppsShowsTheHostsWords)
+TEST_F(Text, InABoxForAppsShowsTheHostsWording)
 {
     Plix_SetMultiLangGetCallback(&wording);
     const TestCard card(bubbleWithBody(
@@ -358,7 +358,7 @@ TEST_F(Text, InABoxForMobileAppsShowsTheHostsWords)
     EXPECT_EQ(card.ui<PlixTextUI>({0, 0})->toPlainText(), QStringLiteral("On your phone"));
 }
 
-TEST_F(Text, ShowsItsOwnWordsForMobileAppsWhenTheHostSaysSo)
+TEST_F(Text, ShowsItsOwnWordsWithoutTheMobileCheck)
 {
     Plix_SetMultiLangGetCallback(&wording);
     const OneText card(text("words", R"("action": {"type": "uri", "appUri": "app://a"},)"),
@@ -400,7 +400,8 @@ INSTANTIATE_TEST_SUITE_P(
         LinesRow {"Wrapped", text(kFiveLines, R"("wrap": true,)"), 5},
         LinesRow {"NotWrapped", text(kFiveLines), 1},
         LinesRow {"WrappedWithALimit", text(kFiveLines, R"("wrap": true, "maxLines": 3,)"), 3},
-        LinesRow {"WrappingBeatsTheLimit", text(kFiveLines, R"("wrap": false, "maxLines": 3,)"), 1},
+        LinesRow {"NotWrappedDespiteTheLimit", text(kFiveLines, R"("wrap": false, "maxLines": 3,)"),
+                  1},
         LinesRow {"LimitOfZero", text(kFiveLines, R"("wrap": true, "maxLines": 0,)"), 5},
         LinesRow {"NegativeLimit", text(kFiveLines, R"("wrap": true, "maxLines": -1,)"), 5},
         LinesRow {"SpansIgnoreTheLimit", spans(span(kFiveLines), R"("wrap": true, "maxLines": 3,)"),
@@ -482,7 +483,7 @@ struct AlignRow {
 
 class TextAlign : public PlixTest, public testing::WithParamInterface<AlignRow> { };
 
-TEST_P(TextAlign, IsTheDocuments)
+TEST_P(TextAlign, IsThatOfTheDocument)
 {
     for (const char* direction : {"ltr", "rtl"}) {
         const TestCard card(
