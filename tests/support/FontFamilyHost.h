@@ -20,11 +20,11 @@ public:
 
     QString GetFontFamily() const override { return family; }
 
-    // Another family, and back. The items are not told.
+    // These set another family and the first one again, without a signal.
     void switchFamily() { family = QStringLiteral("Noto Sans CJK SC"); }
     void resetFamily() { family = QStringLiteral("DejaVu Sans"); }
 
-    // Another family, of which the items are told.
+    // Sets another family and emits the signal that changes all items.
     void changeFamily()
     {
         switchFamily();

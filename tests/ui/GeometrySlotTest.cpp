@@ -34,7 +34,7 @@ std::string card()
                               + ",");
 }
 
-// A host with one card, of which it may delete any part.
+// A host with one card. It may delete any part of the card.
 struct Host {
     Host()
         : controller(Plix_CreateController())

@@ -1,4 +1,4 @@
-// What all animations of the process may take in memory, together.
+// The memory limit of all animations of the process.
 #include "ui/image/AnimationFrames.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
@@ -11,8 +11,7 @@
 namespace plix::test {
 namespace {
 
-// An animation that counts as this large. Its picture is tiny: the budget goes by the size
-// that the file announces.
+// An animation whose file announces this size, which the budget uses. Its frames are tiny.
 std::unique_ptr<PlixMovie> animationOf(qint64 megabytes)
 {
     const auto height = static_cast<int>(megabytes * 1024 * 1024 / 16 / 1024);
@@ -25,7 +24,7 @@ protected:
     PlixMovieBudget& budget_ = PlixMovieBudget::GetInstance();
     std::vector<std::unique_ptr<PlixMovie>> animations_;
 
-    // Takes up the room with animations that play.
+    // Uses almost the whole budget for animations that play.
     void fill()
     {
         for (int i = 0; i < 10; ++i) {
