@@ -31,7 +31,7 @@ void YogaLayoutItem::setAlignment(int qtAlignment, bool mainAxis)
         YGJustify justify;
         YGAlign align;
     };
-    static constexpr Row rows[] = {
+    static constexpr Row kRows[] = {
         {Qt::AlignLeft, true, YGJustifyFlexStart, YGAlignFlexStart},
         {Qt::AlignRight, true, YGJustifyFlexEnd, YGAlignFlexEnd},
         {Qt::AlignHCenter, true, YGJustifyCenter, YGAlignCenter},
@@ -44,7 +44,7 @@ void YogaLayoutItem::setAlignment(int qtAlignment, bool mainAxis)
             YGNodeStyleSetAlignItems(node_, YGAlignBaseline);
         return;
     }
-    for (const Row& row : rows) {
+    for (const Row& row : kRows) {
         if (row.flag != qtAlignment)
             continue;
         if (mainAxis == row.justifiesOnMainAxis)

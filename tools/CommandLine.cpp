@@ -15,8 +15,8 @@
 namespace plix::tool {
 namespace {
 
-const QString scaleOption = QStringLiteral("scale");
-const QString outputOption = QStringLiteral("output");
+const QString kScaleOption = QStringLiteral("scale");
+const QString kOutputOption = QStringLiteral("output");
 
 struct CommandDescription {
     Command command;
@@ -32,7 +32,7 @@ struct CommandDescription {
     QLatin1String examples;
 };
 
-const std::array commands {
+const std::array kCommands {
     CommandDescription {
         Command::Render, QLatin1String("render"), QLatin1String("CARD.json"),
         QLatin1String("The card message; it may contain // and /* */ comments."),
@@ -67,7 +67,7 @@ const std::array commands {
                       "  plix gallery examples/cards -o gallery-ko --lang ko --scale 1\n")},
 };
 
-const QString exitCodes =
+const QString kExitCodes =
     QStringLiteral("\nExit codes:\n"
                    "  0  done, with or without warnings\n"
                    "  1  a file is not a card: not a JSON object of the \"type\" \"bubble\"\n"
@@ -78,7 +78,7 @@ QString generalHelp()
     QString text = QStringLiteral("Usage: plix COMMAND ...\n\n"
                                   "Draws card messages and shows how they are laid out.\n\n"
                                   "Commands:\n");
-    for (const CommandDescription& command : commands) {
+    for (const CommandDescription& command : kCommands) {
         text += QStringLiteral("  %1 %2\n")
                     .arg(QString(command.name).leftJustified(9), QString(command.summary));
     }
@@ -86,9 +86,9 @@ QString generalHelp()
                            "  -h, --help     Shows this help, or the help for a command.\n"
                            "  -v, --version  Shows the version.\n"
                            "\nExamples:\n");
-    for (const CommandDescription& command : commands)
+    for (const CommandDescription& command : kCommands)
         text += command.examples;
-    return text + exitCodes;
+    return text + kExitCodes;
 }
 
 [[noreturn]] void refuse(const QString& reason, const QString& command = QString())
@@ -139,9 +139,9 @@ void CommandParser::addOptions()
         parser_.addOption(QCommandLineOption(names, text, value));
     };
     option({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
-    option({QStringLiteral("o"), outputOption}, description_.outputText, description_.outputValue);
+    option({QStringLiteral("o"), kOutputOption}, description_.outputText, description_.outputValue);
     if (description_.paints) {
-        option({scaleOption},
+        option({kScaleOption},
                QStringLiteral("Device pixels per logical pixel, 0.25 to 8 (default: 2)."),
                QStringLiteral("F"));
     }
@@ -193,8 +193,8 @@ std::variant<Options, Information> CommandParser::parse(const QStringList& argum
     options.command = description_.command;
     options.input = input();
     options.output = output();
-    if (description_.paints && parser_.isSet(scaleOption))
-        options.scale = number(scaleOption, 0.25, 8);
+    if (description_.paints && parser_.isSet(kScaleOption))
+        options.scale = number(kScaleOption, 0.25, 8);
     options.card = cardOptions();
     if (description_.paints && !options.card.dpi)
         options.card.dpi = static_cast<float>(options.scale);
@@ -204,7 +204,7 @@ std::variant<Options, Information> CommandParser::parse(const QStringList& argum
 QString CommandParser::help() const
 {
     return parser_.helpText() + QStringLiteral("\nExamples:\n") + QString(description_.examples)
-        + exitCodes;
+        + kExitCodes;
 }
 
 QString CommandParser::input() const
@@ -222,10 +222,10 @@ QString CommandParser::input() const
 
 QString CommandParser::output() const
 {
-    QString output = parser_.value(outputOption);
+    QString output = parser_.value(kOutputOption);
     const bool isMissing = description_.outputRequired
         ? output.isEmpty()
-        : parser_.isSet(outputOption) && output.isEmpty();
+        : parser_.isSet(kOutputOption) && output.isEmpty();
     if (isMissing) {
         refuse(QStringLiteral("-o %1 is missing").arg(description_.outputValue), description_.name);
     }
@@ -328,9 +328,9 @@ std::variant<Options, Information> parseCommandLine(const QStringList& arguments
         return Information {QStringLiteral("plix %1").arg(QCoreApplication::applicationVersion())};
 
     const auto description =
-        std::find_if(commands.begin(), commands.end(),
+        std::find_if(kCommands.begin(), kCommands.end(),
                      [&](const CommandDescription& command) { return command.name == first; });
-    if (description == commands.end())
+    if (description == kCommands.end())
         refuse(QStringLiteral("unknown command \"%1\"").arg(first));
     return CommandParser(*description).parse(arguments);
 }

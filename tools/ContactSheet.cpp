@@ -12,16 +12,16 @@
 namespace plix::tool {
 namespace {
 
-constexpr int maximumSheetWidth = 2000;
-constexpr int margin = 40;
-constexpr int gap = 40;
-constexpr int captionHeight = 32;
-constexpr int minimumCaptionWidth = 120;
+constexpr int kMaximumSheetWidth = 2000;
+constexpr int kMargin = 40;
+constexpr int kGap = 40;
+constexpr int kCaptionHeight = 32;
+constexpr int kMinimumCaptionWidth = 120;
 // One very high card must not make the sheet unusable.
-constexpr int maximumThumbnailHeight = 3000;
+constexpr int kMaximumThumbnailHeight = 3000;
 
-const QColor sheetColour(0xE4, 0xE8, 0xED);
-const QColor captionColour(0x5B, 0x66, 0x75);
+const QColor kSheetColour(0xE4, 0xE8, 0xED);
+const QColor kCaptionColour(0x5B, 0x66, 0x75);
 
 QFont captionFont()
 {
@@ -32,8 +32,8 @@ QFont captionFont()
 
 QSize cellSize(const QImage& thumbnail)
 {
-    return {std::max(thumbnail.width(), minimumCaptionWidth) + gap,
-            captionHeight + thumbnail.height() + gap};
+    return {std::max(thumbnail.width(), kMinimumCaptionWidth) + kGap,
+            kCaptionHeight + thumbnail.height() + kGap};
 }
 
 } // namespace
@@ -44,23 +44,23 @@ void ContactSheet::add(const QString& name, const QImage& picture)
     QImage thumbnail =
         picture.scaled(size.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     thumbnail.setDevicePixelRatio(1);
-    if (thumbnail.height() > maximumThumbnailHeight)
-        thumbnail = thumbnail.copy(0, 0, thumbnail.width(), maximumThumbnailHeight);
+    if (thumbnail.height() > kMaximumThumbnailHeight)
+        thumbnail = thumbnail.copy(0, 0, thumbnail.width(), kMaximumThumbnailHeight);
     entries_.append({name, thumbnail});
 }
 
 QImage ContactSheet::paint() const
 {
     const ColumnLayout layout = columns();
-    const QSize size = layout.size() + QSize(2 * margin - gap, 2 * margin - gap);
+    const QSize size = layout.size() + QSize(2 * kMargin - kGap, 2 * kMargin - kGap);
     QImage sheet(withinPictureLimits(size), QImage::Format_RGB32);
-    sheet.fill(sheetColour);
+    sheet.fill(kSheetColour);
 
     QPainter painter(&sheet);
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.setFont(captionFont());
-    painter.setPen(captionColour);
-    painter.translate(margin, margin);
+    painter.setPen(kCaptionColour);
+    painter.translate(kMargin, kMargin);
     for (int i = 0; i < entries_.size(); ++i)
         paintEntry(painter, entries_.at(i), layout.positions().at(i));
     return sheet;
@@ -71,16 +71,16 @@ ColumnLayout ContactSheet::columns() const
     QVector<QSize> cells;
     for (const Entry& entry : entries_)
         cells.append(cellSize(entry.thumbnail));
-    return ColumnLayout(cells, maximumSheetWidth - 2 * margin + gap);
+    return ColumnLayout(cells, kMaximumSheetWidth - 2 * kMargin + kGap);
 }
 
 void ContactSheet::paintEntry(QPainter& painter, const Entry& entry, const QPoint& position) const
 {
-    const QRect caption(position, QSize(cellSize(entry.thumbnail).width() - gap, captionHeight));
+    const QRect caption(position, QSize(cellSize(entry.thumbnail).width() - kGap, kCaptionHeight));
     const QString name =
         painter.fontMetrics().elidedText(entry.name, Qt::ElideRight, caption.width());
     painter.drawText(caption, Qt::AlignLeft | Qt::AlignVCenter, name);
-    painter.drawImage(position + QPoint(0, captionHeight), entry.thumbnail);
+    painter.drawImage(position + QPoint(0, kCaptionHeight), entry.thumbnail);
 }
 
 } // namespace plix::tool

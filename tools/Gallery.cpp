@@ -11,8 +11,8 @@
 namespace plix::tool {
 namespace {
 
-const QString pictureFolder = QStringLiteral("cards");
-const QString sheetFile = QStringLiteral("gallery.png");
+const QString kPictureFolder = QStringLiteral("cards");
+const QString kSheetFile = QStringLiteral("gallery.png");
 
 } // namespace
 
@@ -46,7 +46,7 @@ QStringList Gallery::cardFiles() const
 
 void Gallery::createFolders() const
 {
-    if (!output_.mkpath(pictureFolder))
+    if (!output_.mkpath(kPictureFolder))
         throw fileError(output_.path(), QStringLiteral("Cannot create this folder"));
 }
 
@@ -74,15 +74,15 @@ QImage Gallery::drawOne(const QString& file)
 {
     QImage picture = drawCard(input_.filePath(file), options_);
     const QString name = QFileInfo(file).completeBaseName() + QStringLiteral(".png");
-    writePng(output_.filePath(pictureFolder + QLatin1Char('/') + name), picture);
+    writePng(output_.filePath(kPictureFolder + QLatin1Char('/') + name), picture);
     return picture;
 }
 
 void Gallery::writeSheet() const
 {
-    const QString path = output_.filePath(sheetFile);
+    const QString path = output_.filePath(kSheetFile);
     writePng(path, sheet_.paint());
-    console::print(QStringLiteral("Cards:         %1").arg(output_.filePath(pictureFolder)));
+    console::print(QStringLiteral("Cards:         %1").arg(output_.filePath(kPictureFolder)));
     console::print(QStringLiteral("Contact sheet: %1").arg(path));
 }
 

@@ -16,7 +16,7 @@
 namespace plix::tool {
 namespace {
 
-constexpr int dotsPerMeter = 3780; // 96 per inch
+constexpr int kDotsPerMeter = 3780; // 96 per inch
 
 bool writeAll(QFileDevice& file, const QByteArray& bytes)
 {
@@ -54,8 +54,8 @@ void writePng(const QString& path, const QImage& image)
 {
     // Otherwise Qt writes the resolution of the screen, which depends on the machine.
     QImage picture = image;
-    picture.setDotsPerMeterX(dotsPerMeter);
-    picture.setDotsPerMeterY(dotsPerMeter);
+    picture.setDotsPerMeterX(kDotsPerMeter);
+    picture.setDotsPerMeterY(kDotsPerMeter);
 
     QBuffer buffer;
     QImageWriter writer(&buffer, "png");

@@ -6,9 +6,9 @@ namespace plix::tool {
 
 QSize withinPictureLimits(const QSizeF& size)
 {
-    const int width = static_cast<int>(std::min<double>(size.width(), maximumPictureSide));
+    const int width = static_cast<int>(std::min<double>(size.width(), kMaximumPictureSide));
     const int maximumHeight =
-        std::min(maximumPictureSide, maximumPicturePixels / std::max(width, 1));
+        std::min(kMaximumPictureSide, kMaximumPicturePixels / std::max(width, 1));
     return {width, static_cast<int>(std::min<double>(size.height(), maximumHeight))};
 }
 

@@ -47,8 +47,8 @@ private:
 // occurred before.
 QByteArray compress(const QByteArray& indexes, int colorBits)
 {
-    constexpr int maximumBits = 12;
-    constexpr int maximumCode = (1 << maximumBits) - 1;
+    constexpr int kMaximumBits = 12;
+    constexpr int kMaximumCode = (1 << kMaximumBits) - 1;
     const int clear = 1 << colorBits;
     CodeWriter writer;
     std::map<std::pair<int, int>, int> codes;
@@ -63,7 +63,7 @@ QByteArray compress(const QByteArray& indexes, int colorBits)
     // Readers widen their codes now, even if no code follows.
     const auto write = [&](int code) {
         writer.write(code, bits);
-        if (next == 1 << bits && bits < maximumBits)
+        if (next == 1 << bits && bits < kMaximumBits)
             ++bits;
     };
 
@@ -78,7 +78,7 @@ QByteArray compress(const QByteArray& indexes, int colorBits)
         }
         write(run);
         run = pixel;
-        if (next > maximumCode)
+        if (next > kMaximumCode)
             restart();
         else
             codes[longer] = next++;
@@ -103,11 +103,11 @@ GifWriter::GifWriter(const QSize& size, const QVector<QRgb>& palette, int repeti
 
 void GifWriter::writeHeader(int repetitions)
 {
-    constexpr int hasTable = 0x80;
+    constexpr int kHasTable = 0x80;
     bytes_ = "GIF89a";
     append16(bytes_, size_.width());
     append16(bytes_, size_.height());
-    bytes_.append(static_cast<char>(hasTable | (colorBits_ - 1)));
+    bytes_.append(static_cast<char>(kHasTable | (colorBits_ - 1)));
     bytes_.append(2, '\0'); // the background colour, and square pixels
     for (const QRgb color : palette_) {
         bytes_.append(static_cast<char>(qRed(color)));
@@ -131,11 +131,11 @@ QByteArray GifWriter::indexes(const QImage& frame) const
 
 void GifWriter::addFrame(const QImage& frame, int milliseconds)
 {
-    constexpr int restoreBackground = 2 << 2;
-    constexpr int hasTransparent = 1;
-    constexpr int maximumBlockSize = 255;
+    constexpr int kRestoreBackground = 2 << 2;
+    constexpr int kHasTransparent = 1;
+    constexpr int kMaximumBlockSize = 255;
     bytes_.append("\x21\xF9\x04", 3);
-    bytes_.append(static_cast<char>(restoreBackground | hasTransparent));
+    bytes_.append(static_cast<char>(kRestoreBackground | kHasTransparent));
     append16(bytes_, (milliseconds + 5) / 10);
     bytes_.append(2, '\0'); // the transparent colour, and the end of the block
 
@@ -148,8 +148,8 @@ void GifWriter::addFrame(const QImage& frame, int milliseconds)
 
     bytes_.append(static_cast<char>(colorBits_));
     const QByteArray packed = compress(indexes(frame), colorBits_);
-    for (int at = 0; at < packed.size(); at += maximumBlockSize) {
-        const QByteArray block = packed.mid(at, maximumBlockSize);
+    for (int at = 0; at < packed.size(); at += kMaximumBlockSize) {
+        const QByteArray block = packed.mid(at, kMaximumBlockSize);
         bytes_.append(static_cast<char>(block.size()));
         bytes_.append(block);
     }

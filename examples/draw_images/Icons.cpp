@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int side = 64;
+constexpr int kSide = 64;
 
 QPolygonF star()
 {
@@ -33,10 +33,10 @@ void addCloud(Canvas& canvas, const QColor& color)
 
 QImage drawStar(double filled)
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     canvas.useBrush(QColor(0xD8, 0xDC, 0xE2));
     canvas.drawPolygon(star());
-    canvas.setClipRect(QRectF(0, 0, side * filled, side));
+    canvas.setClipRect(QRectF(0, 0, kSide * filled, kSide));
     canvas.useBrush(QColor(0xF6, 0xA6, 0x23));
     canvas.drawPolygon(star());
     return canvas.finish();
@@ -44,7 +44,7 @@ QImage drawStar(double filled)
 
 QImage drawPin()
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     canvas.useBrush(QColor(0xE0, 0x4F, 0x5F));
     QPainterPath path(QPointF(32, 61));
     path.cubicTo(28, 48, 12, 38, 12, 23);
@@ -58,7 +58,7 @@ QImage drawPin()
 
 QImage drawClock()
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     canvas.usePen(QColor(0x5B, 0x6B, 0x7F), 6);
     canvas.drawEllipse(QPointF(32, 32), 26, 26);
     canvas.drawPolyline(QVector<QPointF> {QPointF(32, 17), QPointF(32, 33), QPointF(43, 39)});
@@ -67,7 +67,7 @@ QImage drawClock()
 
 QImage drawCheck()
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     canvas.useBrush(QColor(0x2E, 0xB3, 0x6B));
     canvas.drawEllipse(QPointF(32, 32), 29, 29);
     canvas.usePen(Qt::white, 7);
@@ -77,7 +77,7 @@ QImage drawCheck()
 
 QImage drawCross()
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     canvas.useBrush(QColor(0xD9, 0x48, 0x48));
     canvas.drawEllipse(QPointF(32, 32), 29, 29);
     canvas.usePen(Qt::white, 7);
@@ -88,7 +88,7 @@ QImage drawCross()
 
 QImage drawSun()
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     canvas.usePen(QColor(0xF6, 0xB0, 0x1E), 5);
     for (int i = 0; i < 8; ++i) {
         const double angle = qDegreesToRadians(i * 45.0);
@@ -102,14 +102,14 @@ QImage drawSun()
 
 QImage drawCloud()
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     addCloud(canvas, QColor(0x9A, 0xAB, 0xC0));
     return canvas.finish();
 }
 
 QImage drawRain()
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     canvas.translate(0, -8);
     addCloud(canvas, QColor(0x7F, 0x90, 0xA8));
     canvas.usePen(QColor(0x3B, 0x8E, 0xD9), 5);
@@ -120,7 +120,7 @@ QImage drawRain()
 
 QImage drawPhone()
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     canvas.useBrush(QColor(0x34, 0x40, 0x55));
     canvas.drawRoundedRect(QRectF(17, 3, 30, 58), 6, 6);
     canvas.useBrush(QColor(0xC9, 0xE4, 0xF7));
@@ -132,7 +132,7 @@ QImage drawPhone()
 
 QImage drawNote()
 {
-    Canvas canvas(side, side);
+    Canvas canvas(kSide, kSide);
     canvas.usePen(QColor(0x8A, 0x5C, 0xD6), 5);
     canvas.drawPolyline(
         QVector<QPointF> {QPointF(22, 49), QPointF(22, 14), QPointF(50, 8), QPointF(50, 43)});
@@ -144,7 +144,7 @@ QImage drawNote()
 
 QImage drawBadge()
 {
-    Canvas canvas(2 * side, side);
+    Canvas canvas(2 * kSide, kSide);
     canvas.useBrush(QColor(0x1E, 0x88, 0xE5));
     canvas.drawRoundedRect(QRectF(2, 6, 124, 52), 26, 26);
     QFont font(QStringLiteral("DejaVu Sans"));

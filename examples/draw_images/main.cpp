@@ -25,10 +25,10 @@ public:
 
     void save(const char* name, const QImage& image)
     {
-        constexpr int quality = 80; // of the JPEG file; PNG is lossless
+        constexpr int kQuality = 80; // of the JPEG file; PNG is lossless
         const QString path = pathOf(name);
         countFailure(
-            name, image.save(path, nullptr, path.endsWith(QLatin1String(".jpg")) ? quality : -1));
+            name, image.save(path, nullptr, path.endsWith(QLatin1String(".jpg")) ? kQuality : -1));
     }
 
     void save(const char* name, const QByteArray& bytes)
