@@ -143,6 +143,22 @@ void PlixBaseUI::ResolvePercentOffsets(const QSizeF& parentSize)
     }
 }
 
+bool PlixBaseUI::TakesPresses() const
+{
+    return hasOwnAction_;
+}
+
+void PlixBaseUI::HandlePress(QGraphicsSceneMouseEvent& event) const
+{
+    event.setAccepted(TakesPresses() && event.button() == Qt::LeftButton);
+}
+
+void PlixBaseUI::HandleRelease(const QGraphicsSceneMouseEvent& event)
+{
+    if (hasOwnAction_ && IsClick(event))
+        DeliverClick();
+}
+
 bool PlixBaseUI::IsClick(const QGraphicsSceneMouseEvent& event)
 {
     if (event.button() != Qt::LeftButton)

@@ -72,25 +72,35 @@ protected:
     // Fixes percentage offsets as they are in a parent of this size.
     void ResolvePercentOffsets(const QSizeF& parentSize);
 
-    // Whether the release of a mouse button ends a click on this item: one of
-    // the left button that did not leave the item.
-    bool IsClick(const QGraphicsSceneMouseEvent& event);
+    // Whether the item accepts presses of the left button, so that nothing below
+    // it is clicked. By default, it does if it has an action of its own.
+    virtual bool TakesPresses() const;
 
-    // To be called before the host learns of a mouse event. The host may then
-    // run an event loop, or throw: the scene must not go on sending all mouse
-    // events to this item.
+    // The one rule for clicks. Accepts or ignores a press: Qt delivers the
+    // release only to the item that accepted the press.
+    void HandlePress(QGraphicsSceneMouseEvent& event) const;
+    // Hands the item's own action to the host if `event` ends a click. The host
+    // may delete this item meanwhile: return at once.
+    void HandleRelease(const QGraphicsSceneMouseEvent& event);
+
+    // Gives the mouse grab back. Call it before the host learns of a mouse
+    // event: the host may run an event loop, or throw, and the scene would send
+    // every mouse event to this item until then.
     void ReleaseMouse();
-
-    // Hands the data item's action to the host. The host may do anything
-    // meanwhile, so this item may be gone afterwards: return at once.
-    void DeliverClick();
 
     bool actionSuppressed_ = false;
     bool clickable_ = false;
     ClickFunc clickFunc_;
+    // Whether a click on the item delivers its own action. A clickable item
+    // without one leaves its clicks to the box around it.
+    bool hasOwnAction_ = false;
 
 private:
     std::shared_ptr<PlixDataItem> FindDataItem();
+    // Whether the release of a mouse button ends a click on this item: one of
+    // the left button that did not leave the item.
+    bool IsClick(const QGraphicsSceneMouseEvent& event);
+    void DeliverClick();
 
     PlixDataController* owner_ = nullptr;
     PlixLink<PlixDataMgr> manager_;

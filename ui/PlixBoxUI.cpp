@@ -206,12 +206,6 @@ void PlixBoxUI::setBackground(const QColor& color)
     update();
 }
 
-void PlixBoxUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
-{
-    // Qt delivers the release only to the item that took the press.
-    event->setAccepted(hasOwnAction_ && event->button() == Qt::LeftButton);
-}
-
 void PlixBoxUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
     handleRelease(event);
@@ -221,12 +215,9 @@ void PlixBoxUI::handleRelease(QGraphicsSceneMouseEvent* event)
 {
     if (clickOwnedAbove_)
         return;
-    if (hasOwnAction_) {
-        if (IsClick(*event))
-            DeliverClick();
-        return;
-    }
-    if (auto* box = dynamic_cast<PlixBoxUI*>(YogaLayoutItem::parentItem()))
+    if (hasOwnAction_)
+        HandleRelease(*event);
+    else if (auto* box = dynamic_cast<PlixBoxUI*>(YogaLayoutItem::parentItem()))
         box->handleRelease(event);
 }
 

@@ -36,7 +36,6 @@ public:
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 protected:
-    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
 
 private:
@@ -52,7 +51,6 @@ private:
     QPainterPath RoundedBorderPath() const;
 
     bool clickOwnedAbove_ = false;
-    bool hasOwnAction_ = false;
     std::optional<QBrush> background_;
     bool horizontal_ = false;
     bool baseline_ = false;

@@ -14,7 +14,6 @@
 
 #include <QCursor>
 #include <QFontMetrics>
-#include <QGraphicsSceneMouseEvent>
 #include <QPainter>
 #include <QTextOption>
 
@@ -79,6 +78,7 @@ bool PlixButtonUI::Init()
         return false;
     actionUnavailable_ = data->IsAppOnlyAction();
     actionSuppressed_ = actionUnavailable_;
+    hasOwnAction_ = !actionUnavailable_ && data->GetAction();
     InitLabel(*data);
     InitMouse();
     InitLook(*data);
@@ -219,17 +219,4 @@ void PlixButtonUI::setGeometry(const QRectF& rect)
         ResolvePercentOffsets({parent->layoutWidth(), parent->layoutHeight()});
     // Last: who is told of it may delete the button.
     PlixWidgetUI::setGeometry(rect);
-}
-
-void PlixButtonUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
-{
-    // Also of a button whose action is unavailable: it is not a hole through
-    // which the box below is clicked.
-    event->setAccepted(event->button() == Qt::LeftButton);
-}
-
-void PlixButtonUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
-{
-    if (!actionUnavailable_ && IsClick(*event))
-        DeliverClick();
 }

@@ -39,8 +39,9 @@ public:
     void setGeometry(const QRectF& rect) override;
 
 protected:
-    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+    // Also while its action is unavailable: no click goes through a button to the
+    // box below.
+    bool TakesPresses() const override { return true; }
 
 private:
     void InitLabel(const PlixDataButton& data);

@@ -18,4 +18,7 @@ public:
 protected:
     // `parent` owns the item; without one it is its creator's.
     PlixWidgetUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout);
+
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
 };

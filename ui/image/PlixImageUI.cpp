@@ -9,7 +9,6 @@
 #include "model/PlixLanguageText.h"
 
 #include <QCursor>
-#include <QGraphicsSceneMouseEvent>
 
 namespace {
 
@@ -56,7 +55,8 @@ bool PlixImageUI::Init()
 
 void PlixImageUI::InitAction(const PlixDataImage& data)
 {
-    clickable_ = !data.IsAppOnlyAction() && plix::HasKnownAction(data);
+    hasOwnAction_ = !data.IsAppOnlyAction() && plix::HasKnownAction(data);
+    clickable_ = hasOwnAction_;
     if (clickable_)
         setCursor(Qt::PointingHandCursor);
     else
@@ -103,16 +103,4 @@ void PlixImageUI::InitAlignment(const PlixDataImage& data)
 void PlixImageUI::SetClickFunc(const ClickFunc& func)
 {
     clickFunc_ = func;
-}
-
-void PlixImageUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
-{
-    // Qt delivers the release only to the item that took the press.
-    event->setAccepted(clickable_ && event->button() == Qt::LeftButton);
-}
-
-void PlixImageUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
-{
-    if (clickable_ && IsClick(*event))
-        DeliverClick();
 }

@@ -14,10 +14,6 @@ public:
     bool Init() override;
     void SetClickFunc(const ClickFunc& func) override;
 
-protected:
-    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
-
 private:
     void InitAction(const PlixDataImage& data);
     void InitSize(PlixDataImage& data);

@@ -467,10 +467,10 @@ void PlixTextUI::PlaceVertically(double available)
 
 void PlixTextUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
-    // Qt delivers the release only to the item that took the press. A text that
-    // is clickable because its box is leaves the press to the box.
+    // A text that is clickable because its box is has no action of its own: it
+    // leaves the press to the box.
     if (clickable_)
-        event->setAccepted(hasOwnAction_ && event->button() == Qt::LeftButton);
+        HandlePress(*event);
     else
         TextItem::mousePressEvent(event);
 }
@@ -489,8 +489,7 @@ void PlixTextUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
     if (unsupported_)
         return;
     if (clickable_) {
-        if (hasOwnAction_ && IsClick(*event))
-            DeliverClick();
+        HandleRelease(*event);
         return;
     }
     const QPointer<PlixTextUI> self(this); // the host may do anything about a mention

@@ -84,7 +84,6 @@ private:
     void PlaceVertically(double available);
 
     bool unsupported_ = false;
-    bool hasOwnAction_ = false;
     int colorMode_ = 0;
     bool baseline_ = false;
     bool wrap_ = false;
