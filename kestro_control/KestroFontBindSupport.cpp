@@ -1,6 +1,10 @@
 #include "kestro_control/KestroFontBindSupport.h"
 
 #include "kestro_control/KestroControlManager.h"
+#include "kestro_control/KestroControlSupport.h"
+
+#include <QFont>
+#include <QString>
 
 KestroFontBindSupport::KestroFontBindSupport()
 {
@@ -22,4 +26,15 @@ bool KestroFontBindSupport::IsUseFontBonding() const
 void KestroFontBindSupport::SetUseFontBonding(bool use)
 {
     useFontBonding_ = use;
+}
+
+bool KestroFontBindSupport::ApplyFontFamily(QFont& font)
+{
+    const KestroControlSupport* support =
+        KestroControlManager::GetInstance()->GetKestroControlSupport();
+    const QString family = support ? support->GetFontFamily() : QString();
+    if (family.isEmpty())
+        return false;
+    font.setFamily(family);
+    return true;
 }

@@ -281,14 +281,9 @@ bool TextItem::Private::IsWithinDisplayLimit(const QString& text) const
 
 void TextItem::Private::UseApplicationFontFamily()
 {
-    const KestroControlSupport* support =
-        KestroControlManager::GetInstance()->GetKestroControlSupport();
-    const QString family = support ? support->GetFontFamily() : QString();
-    if (family.isEmpty())
-        return;
     QFont font = item_.font();
-    font.setFamily(family);
-    item_.setFont(font);
+    if (ApplyFontFamily(font))
+        item_.setFont(font);
 }
 
 const ShownLines& TextItem::Private::Shown()

@@ -4,6 +4,8 @@
 
 #include <QtGlobal>
 
+class QFont;
+
 // A mix-in for items whose font can follow the application's font. The
 // constructor registers it with KestroControlManager, which then calls
 // FontChanged(); the destructor removes it.
@@ -20,6 +22,11 @@ public:
     // of FontChanged() must check it.
     bool IsUseFontBonding() const;
     void SetUseFontBonding(bool use);
+
+protected:
+    // Sets the application's font family in `font`. False, and nothing changed,
+    // when the application names none.
+    static bool ApplyFontFamily(QFont& font);
 
 private:
     Q_DISABLE_COPY(KestroFontBindSupport)
