@@ -6,6 +6,7 @@
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataItemCommon.h"
 #include "ui/PlixLeadingMargin.h"
+#include "ui/PlixOffsets.h"
 
 #include <QGraphicsItem>
 #include <QGraphicsScene>
@@ -13,38 +14,6 @@
 #include <QVariant>
 
 namespace {
-
-// One offset: where its text is, how the node takes it, and which of the
-// parent's lengths a percentage is a share of.
-struct Offset {
-    std::string (PlixDataItemCommon::*text)() const;
-    void (YogaLayoutItem::*setPixels)(double);
-    void (YogaLayoutItem::*setPercent)(double);
-    double (QSizeF::*parentLength)() const;
-
-    PlixLength Length(const PlixDataItemCommon& data) const
-    {
-        PlixLength length;
-        plix::ParseLength((data.*text)(), length);
-        return length;
-    }
-};
-
-constexpr Offset kOffsets[] = {
-    {&PlixDataItemCommon::GetOffsetTop, &YogaLayoutItem::setPositionTop,
-     &YogaLayoutItem::setPositionTopPercent, &QSizeF::height},
-    {&PlixDataItemCommon::GetOffsetBottom, &YogaLayoutItem::setPositionBottom,
-     &YogaLayoutItem::setPositionBottomPercent, &QSizeF::height},
-    {&PlixDataItemCommon::GetOffsetStart, &YogaLayoutItem::setPositionStart,
-     &YogaLayoutItem::setPositionStartPercent, &QSizeF::width},
-    {&PlixDataItemCommon::GetOffsetEnd, &YogaLayoutItem::setPositionEnd,
-     &YogaLayoutItem::setPositionEndPercent, &QSizeF::width},
-};
-
-bool IsPercentage(const PlixLength& length)
-{
-    return length.px <= 0 && length.percent > 0;
-}
 
 // A click may end this far outside of its item: items need not lie on whole
 // pixels of the view, where the mouse is.
@@ -98,49 +67,22 @@ std::shared_ptr<PlixDataItem> PlixBaseUI::FindDataItem()
     return PlixItemRegistry::GetInstance().Find(key);
 }
 
-void PlixBaseUI::ApplyPlacement(bool parentIsVertical)
+void PlixBaseUI::ApplyPlacement(const PlixDataItemCommon& data, bool parentIsVertical)
 {
-    const auto data = FindData<PlixDataItemCommon>();
-    if (!data)
-        return;
     YogaLayoutItem& node = *GetYogaItem();
-    if (!data->GetMargin().empty() && data->GetIndex() > 0) {
-        const int margin = plix::ToLengthPixels(data->GetMargin());
-        plix::SetLeadingMargin(node, margin, parentIsVertical, plix::IsInRightToLeftBubble(*data));
+    if (!data.GetMargin().empty() && data.GetIndex() > 0) {
+        const int margin = plix::ToLengthPixels(data.GetMargin());
+        plix::SetLeadingMargin(node, margin, parentIsVertical, plix::IsInRightToLeftBubble(data));
         node.setHasMargin(true);
     }
-    if (data->GetPosition() == "absolute")
+    if (data.GetPosition() == "absolute")
         node.setAbsolute(true);
-    for (const Offset& offset : kOffsets) {
-        const PlixLength length = offset.Length(*data);
-        if (length.px > 0)
-            (node.*offset.setPixels)(static_cast<double>(length.px));
-    }
+    PlixOffsets(data).ApplyPixels(node);
 }
 
-void PlixBaseUI::ApplyPercentOffsets()
+void PlixBaseUI::ApplyPercentOffsets(const PlixDataItemCommon& data)
 {
-    const auto data = FindData<PlixDataItemCommon>();
-    if (!data)
-        return;
-    for (const Offset& offset : kOffsets) {
-        const PlixLength length = offset.Length(*data);
-        if (IsPercentage(length))
-            (GetYogaItem()->*offset.setPercent)(static_cast<double>(length.percent));
-    }
-}
-
-void PlixBaseUI::ResolvePercentOffsets(const QSizeF& parentSize)
-{
-    const auto data = FindData<PlixDataItemCommon>();
-    if (!data)
-        return;
-    for (const Offset& offset : kOffsets) {
-        const PlixLength length = offset.Length(*data);
-        const double share = static_cast<double>(length.percent) / 100;
-        if (IsPercentage(length))
-            (GetYogaItem()->*offset.setPixels)(share * (parentSize.*offset.parentLength)());
-    }
+    PlixOffsets(data).ApplyPercentages(*GetYogaItem());
 }
 
 bool PlixBaseUI::TakesPresses() const

@@ -9,11 +9,11 @@
 #include <memory>
 #include <string>
 
+class PlixDataItemCommon;
 class PlixDataMgr;
 class QGraphicsItem;
 class QGraphicsLayoutItem;
 class QGraphicsSceneMouseEvent;
-class QSizeF;
 class YogaLayoutItem;
 
 // What every drawn item of a card is, next to a graphics item and a layout
@@ -65,12 +65,10 @@ protected:
     // The owner, for as long as it is there.
     PlixDataMgr* Manager() const;
 
-    // Gives the node the margin, position and pixel offsets of the data item.
-    void ApplyPlacement(bool parentIsVertical);
-    // Leaves percentage offsets to the layout.
-    void ApplyPercentOffsets();
-    // Fixes percentage offsets as they are in a parent of this size.
-    void ResolvePercentOffsets(const QSizeF& parentSize);
+    // Gives the node the margin, position and pixel offsets of `data`.
+    void ApplyPlacement(const PlixDataItemCommon& data, bool parentIsVertical);
+    // Gives the node the percentage offsets of `data`, for the layout to resolve.
+    void ApplyPercentOffsets(const PlixDataItemCommon& data);
 
     // Whether the item accepts presses of the left button, so that nothing below
     // it is clicked. By default, it does if it has an action of its own.

@@ -3,9 +3,9 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataBox.h"
-#include "ui/PlixContainer.h"
+#include "ui/PlixChildItems.h"
 #include "ui/PlixLeadingMargin.h"
-#include "ui/PlixRoundedPath.h"
+#include "ui/PlixPaths.h"
 
 #include <QCursor>
 #include <QGraphicsSceneMouseEvent>
@@ -58,8 +58,8 @@ bool PlixBoxUI::Init()
     InitBorder(*data);
     InitPaddings(*data);
     spacing_ = plix::ToSpacingPixels(data->GetSpacing());
-    ApplyPlacement(plix::IsInVerticalBox(*data));
-    ApplyPercentOffsets();
+    ApplyPlacement(*data, plix::IsInVerticalBox(*data));
+    ApplyPercentOffsets(*data);
     InitPercentSize(*data);
     setFlags(flags() | ItemClipsChildrenToShape | ItemClipsToShape);
     return true;

@@ -3,8 +3,8 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataBubble.h"
 #include "ui/PlixBoxUI.h"
-#include "ui/PlixContainer.h"
-#include "ui/PlixRoundedPath.h"
+#include "ui/PlixChildItems.h"
+#include "ui/PlixPaths.h"
 #include "ui/PlixSeparatorUI.h"
 
 #include <QPainter>

@@ -6,11 +6,9 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataButton.h"
-#include "ui/PlixRoundedPath.h"
+#include "ui/PlixAlignmentWords.h"
+#include "ui/PlixPaths.h"
 #include "ui/text/PlixTextFont.h"
-
-#include <kestro_control/KestroControlManager.h>
-#include <kestro_control/KestroControlSupport.h>
 
 #include <QCursor>
 #include <QFontMetrics>
@@ -48,9 +46,6 @@ constexpr std::array kLooks =
                                       {"secondary", {"#d8dee6", "black", Colored::Plate}},
                                       {"automatic", {"#ffffff", "#0087EE", Colored::Nothing}}});
 
-constexpr std::array kGravities = std::to_array<PlixKeyword<int>>(
-    {{"center", Qt::AlignVCenter}, {"top", Qt::AlignTop}, {"bottom", Qt::AlignBottom}});
-
 QString OnOneLine(QString text)
 {
     for (QChar& character : text) {
@@ -68,7 +63,7 @@ PlixButtonUI::PlixButtonUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLay
     : PlixWidgetUI(parent, parentLayout)
 {
     clickable_ = true;
-    TakeFontFamily();
+    ApplyFontFamily(font_);
 }
 
 bool PlixButtonUI::Init()
@@ -83,11 +78,13 @@ bool PlixButtonUI::Init()
     InitMouse();
     InitLook(*data);
     InitFont(*data);
-    InitSize(*data);
-    ApplyPlacement(!plix::IsInRow(*data));
+    const bool isInRow = plix::IsInRow(*data);
+    InitSize(*data, isInRow);
+    ApplyPlacement(*data, !isInRow);
+    offsets_ = PlixOffsets(*data);
     const bool isAbsolute = data->GetPosition() == "absolute";
-    // A button that shares out nothing in a row would have no width at all.
-    hasLabelWidth_ = isAbsolute || (plix::IsInRow(*data) && data->GetGrow() <= 0);
+    // A button that does not grow in a row would have no width otherwise.
+    hasLabelWidth_ = isAbsolute || (isInRow && data->GetGrow() <= 0);
     ApplyLabelWidth();
     return true;
 }
@@ -144,10 +141,10 @@ void PlixButtonUI::InitFont(PlixDataButton& data)
     font_.setPixelSize(data.GetPixelSize());
 }
 
-void PlixButtonUI::InitSize(const PlixDataButton& data)
+void PlixButtonUI::InitSize(const PlixDataButton& data, bool isInRow)
 {
-    if (const auto gravity = plix::FindKeyword(kGravities, data.GetGravity()))
-        setAlignment(*gravity, plix::IsInRow(data));
+    if (const auto gravity = plix::FindGravity(data.GetGravity()))
+        setAlignment(gravity->flag, isInRow);
     setGrowFactor(data.GetGrow());
     setHeight(data.GetHeight() == "sm" ? kSmallHeight : kHeight);
 }
@@ -166,18 +163,9 @@ void PlixButtonUI::FontChanged()
 {
     if (!IsUseFontBonding())
         return;
-    TakeFontFamily();
+    ApplyFontFamily(font_);
     ApplyLabelWidth();
     update();
-}
-
-void PlixButtonUI::TakeFontFamily()
-{
-    const KestroControlSupport* support =
-        KestroControlManager::GetInstance()->GetKestroControlSupport();
-    const QString family = support ? support->GetFontFamily() : QString();
-    if (!family.isEmpty())
-        font_.setFamily(family);
 }
 
 QString PlixButtonUI::shownLabel() const
@@ -216,7 +204,7 @@ void PlixButtonUI::setGeometry(const QRectF& rect)
     const bool isFirst = std::exchange(geometryPending_, false);
     const YogaLayoutItem* parent = YogaLayoutItem::parentItem();
     if (isFirst && parent)
-        ResolvePercentOffsets({parent->layoutWidth(), parent->layoutHeight()});
-    // Last: who is told of it may delete the button.
+        offsets_.ResolvePercentages(*this, {parent->layoutWidth(), parent->layoutHeight()});
+    // Last, because it tells the host, who may delete the button.
     PlixWidgetUI::setGeometry(rect);
 }

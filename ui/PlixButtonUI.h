@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/PlixOffsets.h"
 #include "ui/PlixWidgetUI.h"
 
 #include <kestro_control/KestroFontBindSupport.h>
@@ -48,8 +49,7 @@ private:
     void InitMouse();
     void InitLook(const PlixDataButton& data);
     void InitFont(PlixDataButton& data);
-    void InitSize(const PlixDataButton& data);
-    void TakeFontFamily();
+    void InitSize(const PlixDataButton& data, bool isInRow);
     void ApplyLabelWidth();
 
     bool actionUnavailable_ = false;
@@ -60,5 +60,7 @@ private:
     std::string plateColor_;
     bool hasLabelWidth_ = false;
     bool geometryPending_ = true;
+    // Percentages are resolved when the button is placed for the first time.
+    PlixOffsets offsets_;
     int from_ = 0;
 };

@@ -1,34 +1,18 @@
 #include "ui/image/PlixImageUI.h"
 
 #include "api/PlixCurrentLanguage.h"
-#include "layout/PlixKeywordTable.h"
 #include "layout/PlixStyleValues.h"
 #include "model/PlixActionKind.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataImage.h"
 #include "model/PlixLanguageText.h"
+#include "ui/PlixAlignmentWords.h"
 
 #include <QCursor>
 
 namespace {
 
 constexpr double kNoFixedWidth = -1;
-
-// How a word aligns the item, and where it puts a picture that fits inside.
-struct Alignment {
-    int flag;
-    double place;
-};
-
-constexpr std::array kAligns =
-    std::to_array<PlixKeyword<Alignment>>({{"start", {Qt::AlignLeft, 0}},
-                                           {"center", {Qt::AlignHCenter, 0.5}},
-                                           {"end", {Qt::AlignRight, 1}}});
-
-constexpr std::array kGravities =
-    std::to_array<PlixKeyword<Alignment>>({{"top", {Qt::AlignTop, 0}},
-                                           {"center", {Qt::AlignVCenter, 0.5}},
-                                           {"bottom", {Qt::AlignBottom, 1}}});
 
 } // namespace
 
@@ -89,13 +73,15 @@ void PlixImageUI::InitAlignment(const PlixDataImage& data)
 {
     const bool parentIsHorizontal = plix::IsInRow(data);
     Placement placement;
-    const auto align = plix::FindKeyword(kAligns, data.GetAlign());
+    const auto align = plix::FindAlign(data.GetAlign());
     setAlignment(align ? align->flag : Qt::AlignLeft, parentIsHorizontal);
-    if (align)
-        placement.x = plix::IsInRightToLeftBubble(data) ? 1 - align->place : align->place;
-    if (const auto gravity = plix::FindKeyword(kGravities, data.GetGravity())) {
+    if (align) {
+        const bool rightToLeft = plix::IsInRightToLeftBubble(data);
+        placement.x = rightToLeft ? 1 - align->shareBefore : align->shareBefore;
+    }
+    if (const auto gravity = plix::FindGravity(data.GetGravity())) {
         setAlignment(gravity->flag, parentIsHorizontal);
-        placement.y = gravity->place;
+        placement.y = gravity->shareBefore;
     }
     SetPlacement(placement);
 }

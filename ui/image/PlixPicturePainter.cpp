@@ -1,6 +1,6 @@
 #include "ui/image/PlixPicturePainter.h"
 
-#include "ui/PlixRoundedPath.h"
+#include "ui/PlixPaths.h"
 #include "ui/image/PlixPicture.h"
 
 #include <QBrush>

@@ -6,7 +6,7 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataItemCommon.h"
-#include "ui/PlixRoundedPath.h"
+#include "ui/PlixPaths.h"
 #include "ui/image/PlixPicture.h"
 #include "ui/image/PlixPicturePainter.h"
 
@@ -56,8 +56,8 @@ QString PlixPictureUI::pictureFile() const
 void PlixPictureUI::InitCommon(const PlixDataItemCommon& data)
 {
     setGrowFactor(data.GetGrow());
-    ApplyPlacement(plix::IsInVerticalBox(data));
-    ApplyPercentOffsets();
+    ApplyPlacement(data, plix::IsInVerticalBox(data));
+    ApplyPercentOffsets(data);
 }
 
 void PlixPictureUI::SetBackground(const std::string& color)

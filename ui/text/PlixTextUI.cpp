@@ -10,6 +10,7 @@
 #include "model/PlixDataSpan.h"
 #include "model/PlixDataText.h"
 #include "model/PlixLanguageText.h"
+#include "ui/PlixAlignmentWords.h"
 #include "ui/PlixBoxUI.h"
 #include "ui/text/PlixTextFont.h"
 #include "ui/text/PlixTextMarkup.h"
@@ -80,18 +81,19 @@ bool PlixTextUI::Init()
     InitColor(*data);
     InitAction(*data);
     InitFont(*data);
-    const std::shared_ptr<PlixDataBox> box = plix::ParentBox(*data);
-    baseline_ = box && box->IsBaseline();
+    const Place place = {plix::ParentBox(*data), plix::IsInRow(*data),
+                         plix::IsInRightToLeftBubble(*data)};
+    baseline_ = place.box && place.box->IsBaseline();
     wrap_ = data->GetWrap();
-    InitAlignment(*data);
-    InitGravity(*data);
+    InitAlignment(*data, place);
+    InitGravity(*data, place);
     InsertContent(*data);
-    KeepSides(*data);
-    InitWidth(*data);
+    KeepSides(*data, place);
+    InitWidth(*data, place);
     if (data->GetPosition() == "absolute")
-        gravity_ = Gravity::Top;
-    ApplyPlacement(box && box->IsVertical());
-    ApplyPercentOffsets();
+        shareAbove_ = 0;
+    ApplyPlacement(*data, place.box && place.box->IsVertical());
+    ApplyPercentOffsets(*data);
     setHasBaselineFunc(baseline_);
     InitLines(*data);
     return true;
@@ -132,36 +134,23 @@ void PlixTextUI::InitFont(PlixDataText& data)
     setFont(itemFont);
 }
 
-void PlixTextUI::InitAlignment(const PlixDataText& data)
+void PlixTextUI::InitAlignment(const PlixDataText& data, const Place& place)
 {
-    const bool parentIsHorizontal = plix::IsInRow(data);
-    const bool rightToLeft = plix::IsInRightToLeftBubble(data);
-    Qt::Alignment alignment = Qt::AlignLeft;
-    if (data.GetAlign() == "center") {
-        alignment = Qt::AlignHCenter;
-        YogaLayoutItem::setAlignment(Qt::AlignHCenter, parentIsHorizontal);
-    } else if (data.GetAlign() == "end") {
-        alignment = Qt::AlignRight;
-        YogaLayoutItem::setAlignment(Qt::AlignRight, parentIsHorizontal);
-    }
+    const PlixAlignment align = plix::FindAlign(data.GetAlign()).value_or(PlixAlignment());
+    if (align.flag != Qt::AlignLeft)
+        YogaLayoutItem::setAlignment(align.flag, place.isInRow);
     QTextOption option = document()->defaultTextOption();
-    option.setAlignment(alignment);
-    if (rightToLeft)
+    option.setAlignment(align.flag);
+    if (place.isRightToLeft)
         option.setTextDirection(Qt::RightToLeft);
     document()->setDefaultTextOption(option);
 }
 
-void PlixTextUI::InitGravity(const PlixDataText& data)
+void PlixTextUI::InitGravity(const PlixDataText& data, const Place& place)
 {
-    const bool parentIsHorizontal = plix::IsInRow(data);
-    if (data.GetGravity() == "center") {
-        YogaLayoutItem::setAlignment(Qt::AlignVCenter, parentIsHorizontal);
-        gravity_ = Gravity::Center;
-    } else if (data.GetGravity() == "top") {
-        YogaLayoutItem::setAlignment(Qt::AlignTop, parentIsHorizontal);
-    } else if (data.GetGravity() == "bottom") {
-        YogaLayoutItem::setAlignment(Qt::AlignBottom, parentIsHorizontal);
-        gravity_ = Gravity::Bottom;
+    if (const auto gravity = plix::FindGravity(data.GetGravity())) {
+        YogaLayoutItem::setAlignment(gravity->flag, place.isInRow);
+        shareAbove_ = gravity->shareBefore;
     }
 }
 
@@ -203,15 +192,15 @@ void PlixTextUI::InsertText(const std::string& text, const QTextCharFormat* form
     InsertRichText(NeedsEscaping(inserted) ? plix::EscapeMarkup(inserted) : inserted, true, format);
 }
 
-// In a bubble that reads from left to right, a paragraph that reads the other way
-// by its own letters starts where its reader starts, however short it is; but
-// "end" is the bubble's side, where the other values of a column end.
-void PlixTextUI::KeepSides(const PlixDataText& data)
+// In a left-to-right bubble, a paragraph of right-to-left letters starts on the
+// right, even if it is short. "end" is the right side for it, too: there the other
+// values of a column end.
+void PlixTextUI::KeepSides(const PlixDataText& data, const Place& place)
 {
-    if (data.GetAlign() == "center" || plix::IsInRightToLeftBubble(data))
+    if (data.GetAlign() == "center" || place.isRightToLeft)
         return;
     if (data.GetAlign() != "end") {
-        if (!plix::IsInRow(data) && document()->begin().textDirection() == Qt::RightToLeft)
+        if (!place.isInRow && document()->begin().textDirection() == Qt::RightToLeft)
             YogaLayoutItem::setAlignment(Qt::AlignRight, false);
         return;
     }
@@ -231,15 +220,14 @@ bool PlixTextUI::NeedsEscaping(const QString& text) const
     return manager && manager->GetDisplayParam().markupEnabled && !plix::HasMarkup(text);
 }
 
-void PlixTextUI::InitWidth(const PlixDataText& data)
+void PlixTextUI::InitWidth(const PlixDataText& data, const Place& place)
 {
     const int grow = data.GetGrow();
-    const std::shared_ptr<PlixDataBox> box = plix::ParentBox(data);
-    if (plix::IsInRow(data) && grow >= 1 && !data.IsAbsolute() && !IsShrinkWrapped(*box)) {
-        // Without a bound: where one equals the share of the row but for the
-        // rounding of floats, Yoga gives the item no width at all, for good.
+    if (place.isInRow && grow >= 1 && !data.IsAbsolute() && !IsShrinkWrapped(*place.box)) {
+        // No maximum here: if it equals the item's share of the row except for the
+        // rounding of floats, Yoga gives the item no width at all.
         setWidth(0);
-    } else if (box) {
+    } else if (place.box) {
         hasNaturalWidth_ = true;
         setWidth(NaturalWidth());
         setMaxWidthPercent(100);
@@ -455,11 +443,9 @@ void PlixTextUI::PlaceVertically(double available)
     format.setTopMargin(document()->documentMargin());
     if (!baseline_ && available > textHeight_) {
         const double free = available - format.topMargin() - textHeight_ - format.bottomMargin();
-        const double share = gravity_ == Gravity::Center ? 0.5 : 1;
         format.setHeight(available);
         format.setBorder(0);
-        if (gravity_ != Gravity::Top)
-            format.setTopMargin(format.topMargin() + free * share);
+        format.setTopMargin(format.topMargin() + free * shareAbove_);
     }
     if (format != root->frameFormat())
         root->setFrameFormat(format);

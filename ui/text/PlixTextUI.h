@@ -5,6 +5,7 @@
 
 #include <kestro_control/TextItem.h>
 
+class PlixDataBox;
 class PlixDataSpan;
 class PlixDataText;
 
@@ -54,18 +55,23 @@ private Q_SLOTS:
     void OnFontChanged();
 
 private:
-    enum class Gravity { Top, Center, Bottom };
+    // Where the text stands in its card.
+    struct Place {
+        std::shared_ptr<PlixDataBox> box; // null at the top of a zone
+        bool isInRow = false;
+        bool isRightToLeft = false;
+    };
 
     void InitWrapMode();
     void InitColor(const PlixDataText& data);
     void InitAction(const PlixDataText& data);
     void InitFont(PlixDataText& data);
-    void InitAlignment(const PlixDataText& data);
-    void InitGravity(const PlixDataText& data);
+    void InitAlignment(const PlixDataText& data, const Place& place);
+    void InitGravity(const PlixDataText& data, const Place& place);
     void InsertContent(const PlixDataText& data);
-    void InitWidth(const PlixDataText& data);
+    void InitWidth(const PlixDataText& data, const Place& place);
     void InitLines(const PlixDataText& data);
-    void KeepSides(const PlixDataText& data);
+    void KeepSides(const PlixDataText& data, const Place& place);
     // What the text takes up where nothing limits it, in whole pixels.
     double NaturalWidth();
     // Whether `text` has to be escaped to be shown as it stands.
@@ -89,7 +95,8 @@ private:
     bool wrap_ = false;
     int maxLines_ = 0;
     bool hasNaturalWidth_ = false;
-    Gravity gravity_ = Gravity::Top;
+    // The share of the free height that lies above the text.
+    double shareAbove_ = 0;
     int textHeight_ = 0;
     // How far the item stands below the top of its rectangle.
     double topOffset_ = 0;

@@ -1,4 +1,4 @@
-#include "ui/PlixRoundedPath.h"
+#include "ui/PlixPaths.h"
 
 #include <algorithm>
 

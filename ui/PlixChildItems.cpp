@@ -1,4 +1,4 @@
-#include "ui/PlixContainer.h"
+#include "ui/PlixChildItems.h"
 
 #include "layout/YogaLayoutItem.h"
 
