@@ -38,7 +38,7 @@ PlixDataMgr::Use::~Use()
 }
 
 PlixDataMgr::PlixDataMgr()
-    : self_(this, [](PlixDataMgr*) {})
+    : linkTarget_(this)
     , bubble_(std::make_shared<PlixDataBubble>())
 {
     bubble_->InitZones();
@@ -61,7 +61,7 @@ void PlixDataMgr::Free()
         return;
     }
     freeAfterUse_ = true;
-    self_.reset();
+    linkTarget_.expire();
     SetClickCallBack(nullptr, nullptr);
     SetDownloadCallBack(nullptr, nullptr);
     SetMentionHandleCallback(nullptr, nullptr);

@@ -52,7 +52,7 @@ public:
     void Free();
 
     // For objects that may outlive the controller: null once it is freed.
-    PlixLink<PlixDataMgr> Watch() const { return PlixLink<PlixDataMgr>(self_); }
+    PlixLink<PlixDataMgr> Watch() const { return linkTarget_.link(); }
 
     // The functions of the exports; Plix.h describes them.
     int InitData(const std::string& json);
@@ -107,7 +107,7 @@ private:
     void LayOut();
     PlixBubbleUI* RootBubble() const;
 
-    std::shared_ptr<PlixDataMgr> self_; // for Watch(); owns nothing
+    PlixLinkTarget<PlixDataMgr> linkTarget_;
     int uses_ = 0;
     bool freeAfterUse_ = false;
     std::string messageType_;

@@ -6,9 +6,9 @@
 #include <optional>
 #include <string_view>
 
-// Keyword tables are data: one row a word, one lookup for all tables. Words are
-// compared exactly, case and blanks included, because card authors write one
-// spelling and a near miss must be seen, not guessed at.
+// A row of a keyword table: tables hold a row for each word, and FindKeyword() is the
+// one lookup. It compares words exactly, case and blanks included: the
+// author of a card must notice a misspelt word.
 template <typename Value> struct PlixKeyword {
     std::string_view word;
     Value value;

@@ -2,23 +2,47 @@
 
 #include <memory>
 
-// A pointer to an object of another owner, null once that object is gone: what
-// QPointer is for objects that are QObjects.
+template <typename T> class PlixLinkTarget;
+
+// A pointer to an object that somebody else owns. It is null once the object is
+// gone, like QPointer, but T need not be a QObject.
 //
-// The object has a shared pointer to itself, which owns nothing and is there to
-// expire. Never hold what get() answers while other code runs: ask again.
+// Do not keep what get() returns while other code runs: call it again.
 template <typename T> class PlixLink {
 public:
     PlixLink() = default;
-    explicit PlixLink(const std::shared_ptr<T>& self)
-        : self_(self)
+
+    // A shared pointer would keep the link from expiring, but not the object from
+    // being deleted: so a plain one is returned.
+    T* get() const { return object_.lock().get(); }
+
+private:
+    friend class PlixLinkTarget<T>;
+
+    explicit PlixLink(const std::shared_ptr<T>& object)
+        : object_(object)
     {
     }
 
-    // A shared pointer that was held would keep the link from expiring, though
-    // not the object from going.
-    T* get() const { return self_.lock().get(); }
+    std::weak_ptr<T> object_;
+};
+
+// A member of the object that links point to. It is destroyed with the object, which
+// makes the links null.
+template <typename T> class PlixLinkTarget {
+public:
+    explicit PlixLinkTarget(T* object)
+        : object_(object, [](T*) {})
+    {
+    }
+
+    PlixLinkTarget(const PlixLinkTarget&) = delete;
+    PlixLinkTarget& operator=(const PlixLinkTarget&) = delete;
+
+    PlixLink<T> link() const { return PlixLink<T>(object_); }
+    // Makes the links null while the object still exists.
+    void expire() { object_.reset(); }
 
 private:
-    std::weak_ptr<T> self_;
+    std::shared_ptr<T> object_; // never deletes it
 };

@@ -38,7 +38,7 @@ constexpr int kDefaultSpacer = 8;
 constexpr float kDefaultImageSize = 100;
 constexpr int kNotGiven = -1;
 
-// The whole number left when every `unit` is taken out; 0 when none is left.
+// The whole number that `text` is without each `unit` in it; 0 if it is none.
 int NumberWithout(const QString& unit, const std::string& text)
 {
     QString number = QString::fromStdString(text);
@@ -116,8 +116,9 @@ float ToAspectRatio(const std::string& text)
     const double width = sides[0].toFloat();
     const double height = sides[1].toFloat();
     const double ratio = width / height;
-    // What a float holds, also where floats are computed with more digits; that
-    // leaves out infinity by infinity, and one side too large for the other.
+    // In the range of a float, also where the FPU computes with more digits. This
+    // also rejects infinity divided by infinity, and ratios that are too large or
+    // too small.
     using Limits = std::numeric_limits<float>;
     const bool isUsable = width > 0 && ratio >= Limits::min() && ratio <= Limits::max();
     return isUsable ? static_cast<float>(ratio) : kSquare;
@@ -129,7 +130,7 @@ QColor ToColor(const std::string& text)
     return QColor::isValidColor(name) ? QColor(name) : QColor();
 }
 
-std::string ToAlphaFirst(const std::string& color)
+std::string RgbaToArgb(const std::string& color)
 {
     constexpr std::size_t kLength = 9;
     if (color.size() != kLength)

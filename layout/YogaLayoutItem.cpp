@@ -19,9 +19,9 @@ int Silence(YGConfigConstRef, YGNodeConstRef, YGLogLevel, const char*, va_list)
     return 0;
 }
 
-// Yoga logs what it is about to throw; whoever catches that has told already.
-// Configurations of our own: the default one is shared with a host that uses
-// Yoga, too. Nodes may outlive whoever would free them.
+// Silent, because Yoga logs what it is about to throw, and the catch reports it.
+// Not Yoga's default configuration, because the host may use Yoga, too. Never
+// freed, because nodes may outlive static objects.
 YGConfigRef MakeQuietConfig(bool useWebDefaults)
 {
     YGConfigRef config = YGConfigNew();
@@ -41,11 +41,11 @@ YGNodeRef MakeNode(bool useWebDefaults)
     return node;
 }
 
-// How many boxes inside each other a pass lays out again in their places. It
-// bounds how often such a pass computes an item.
+// How many boxes inside each other are laid out again in one pass. It limits how
+// often a pass calculates an item.
 constexpr int kMaxNestedRelayouts = 4;
 
-// NaN is not.
+// False for NaN.
 bool IsPositive(float value)
 {
     return value > 0;
@@ -57,7 +57,7 @@ float AtLeastOne(double value)
     return IsPositive(narrowed) ? narrowed : 1.0F;
 }
 
-// How a node takes a width or height style of each unit.
+// Set a node's width or height in each unit.
 struct DimensionSetters {
     void (*setPoints)(YGNodeRef, float);
     void (*setPercent)(YGNodeRef, float);
@@ -69,7 +69,6 @@ constexpr DimensionSetters kWidth = {&YGNodeStyleSetWidth, &YGNodeStyleSetWidthP
 constexpr DimensionSetters kHeight = {&YGNodeStyleSetHeight, &YGNodeStyleSetHeightPercent,
                                       &YGNodeStyleSetHeightAuto};
 
-// Puts a width or height style back as it was read.
 void Restore(const DimensionSetters& dimension, YGNodeRef node, const YGValue& value)
 {
     if (value.unit == YGUnitPoint)
@@ -96,7 +95,7 @@ YogaLayoutItem::YogaLayoutItem(bool useWebDefaults)
 }
 
 YogaLayoutItem::YogaLayoutItem(YGNodeRef node)
-    : self_(this, [](YogaLayoutItem*) {})
+    : linkTarget_(this)
     , node_(node)
 {
     if (!node_)
@@ -320,31 +319,32 @@ void YogaLayoutItem::applyLayoutRecursive()
 void YogaLayoutItem::place(Round round)
 {
     const PlixLink<YogaLayoutItem> self = watch();
-    pass_.isSettled = round == Round::Second;
+    pass_.round = round;
     isPlaced_ = true;
     applyLayout();
     if (!self.get())
         return;
     if (hasChildWiderThanPending())
         relayoutInPlace();
-    pass_.placesAgain = false;
+    // No child has been placed yet, so none is out of date.
+    if (pass_.round == Round::Outdated)
+        pass_.round = Round::First;
     placeChildren(round);
-    // A child's placement has computed this subtree again, under those that
-    // had been placed before it. They follow, once. Second rounds do not nest:
-    // nested, each level of a card would double the work of the level below.
-    if (self.get() && pass_.placesAgain) {
-        pass_.isSettled = true;
+    // Second rounds do not nest: nested, each level of a card would double the work
+    // of the level below.
+    if (self.get() && pass_.round == Round::Outdated) {
+        pass_.round = Round::Second;
         placeChildren(Round::Second);
     }
     if (self.get())
-        pass_.isSettled = false;
+        pass_.round = Round::First;
 }
 
 void YogaLayoutItem::placeChildren(Round round)
 {
     std::vector<PlixLink<YogaLayoutItem>> children;
     forEachChild([&](const YogaLayoutItem& child) { children.push_back(child.watch()); });
-    // This item may go meanwhile.
+    // Placing a child may delete this item: use only `children` from here on.
     for (const PlixLink<YogaLayoutItem>& link : children) {
         if (YogaLayoutItem* child = link.get())
             child->place(round);
@@ -368,8 +368,7 @@ void YogaLayoutItem::changeWidthOnRelayout(double width)
     pass_.pendingWidth = width;
 }
 
-// Yoga measures an item in several widths before it settles on one, which is
-// rounded outwards to whole pixels.
+// Yoga rounds rectangles outwards to whole pixels, by less than 1 on each side.
 bool YogaLayoutItem::isWiderThan(double width) const
 {
     return layoutWidth() - width >= 2;
@@ -396,49 +395,51 @@ void YogaLayoutItem::applyPendingWidth()
 
 void YogaLayoutItem::setRelayoutPending()
 {
-    if (!pass_.isSettled && !pass_.wasRelaidOut)
-        pass_.relayoutPending = true;
+    if (pass_.round != Round::Second && pass_.relayout == Relayout::None)
+        pass_.relayout = Relayout::Pending;
 }
 
 int YogaLayoutItem::relayoutsAbove() const
 {
     int count = 0;
     for (const YogaLayoutItem* item = parentItem(); item; item = item->parentItem())
-        count += item->pass_.wasRelaidOut ? 1 : 0;
+        count += item->pass_.relayout == Relayout::Done ? 1 : 0;
     return count;
 }
 
 void YogaLayoutItem::relayoutInPlace()
 {
-    pass_.relayoutPending = false;
+    if (isRelayoutPending())
+        pass_.relayout = Relayout::None;
     const double width = layoutWidth();
     const double height = layoutHeight();
-    if (pass_.isSettled || !node_ || std::isnan(width) || std::isnan(height))
+    if (pass_.round == Round::Second || !node_ || std::isnan(width) || std::isnan(height))
         return;
-    pass_.wasRelaidOut = true;
+    pass_.relayout = Relayout::Done;
     if (relayoutsAbove() >= kMaxNestedRelayouts)
         return;
 
     forEachChild([](YogaLayoutItem& child) { child.applyPendingWidth(); });
-
-    // Yoga computes from a node downwards as if it were a root: fix its size
-    // so that neither its margins nor a percentage apply a second time, hand
-    // down the direction that it inherits, and keep its position, which Yoga
-    // resets. The style changes also leave the card dirty, so that its next
-    // layout puts this node back in its place.
     const QPointF position = geometry().topLeft();
+    calculateAtSize(width, height);
+    forgetKeptPositions();
+    pass_.round = Round::Outdated;
+    pass_.keptPosition = position;
+}
+
+// Yoga treats the node that it starts from as a root. So its size is fixed, because
+// its margins and percentages must not apply a second time, and it gets the direction
+// that it inherits. The style changes also leave the card dirty, so that its next
+// layout puts this node back in its place.
+void YogaLayoutItem::calculateAtSize(double width, double height)
+{
     const YGValue styleWidth = YGNodeStyleGetWidth(node_);
     const YGValue styleHeight = YGNodeStyleGetHeight(node_);
     YGNodeStyleSetWidth(node_, ToFloat(width));
     YGNodeStyleSetHeight(node_, ToFloat(height));
     calculateLayout(width, height, YGNodeLayoutGetDirection(node_));
-    forgetKeptPositions();
     Restore(kWidth, node_, styleWidth);
     Restore(kHeight, node_, styleHeight);
-    // What the children have asked for meanwhile waits for the next layout.
-    pass_.relayoutPending = false;
-    pass_.placesAgain = true;
-    pass_.keptPosition = position;
 }
 
 YogaLayoutItem* YogaLayoutItem::childAt(int index) const

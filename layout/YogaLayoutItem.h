@@ -1,9 +1,9 @@
 #pragma once
 
 #include "layout/PlixLink.h"
+#include "layout/YogaLayoutPass.h"
 
 #include <QMarginsF>
-#include <QPointF>
 #include <QRectF>
 #include <QSizeF>
 #include <QStringList>
@@ -11,20 +11,18 @@
 
 #include <yoga/Yoga.h>
 
-#include <memory>
-#include <optional>
-
 class QGraphicsLayoutItem;
 
-// Binds one Yoga node to one graphics item: takes style settings, and hands
-// the computed rectangle to the item's QGraphicsLayoutItem part.
+// Binds one Yoga node to one graphics item: sets the node's style, and hands the
+// computed rectangle to the item's QGraphicsLayoutItem part.
 //
 // Two trees meet here: the Qt item tree owns the items, each item owns its own
-// node, and the node tree owns nothing. Either end of a link may go first.
+// node, and the node tree owns nothing. Parents and children may be deleted in any
+// order.
 //
 // Lengths are logical pixels. No operation throws. An item without a node does
-// nothing and answers with the default that is stated, -1 for lengths. NaN is
-// what Yoga reports for a length that it has not computed yet.
+// nothing and returns the default that is stated, -1 for lengths. Yoga reports NaN
+// for a length that it has not computed yet.
 class YogaLayoutItem {
 public:
     explicit YogaLayoutItem(bool useWebDefaults);
@@ -33,14 +31,14 @@ public:
     YogaLayoutItem(const YogaLayoutItem&) = delete;
     YogaLayoutItem& operator=(const YogaLayoutItem&) = delete;
 
-    // How those refer to it who may outlive it.
-    PlixLink<YogaLayoutItem> watch() const { return PlixLink<YogaLayoutItem>(self_); }
+    // For code that may outlive the item.
+    PlixLink<YogaLayoutItem> watch() const { return linkTarget_.link(); }
 
     virtual void setOrientation(Qt::Orientation orientation);
     virtual Qt::Orientation orientation() const;
-    // Takes one Qt::AlignmentFlag. What it sets depends on `mainAxis`, and the
-    // horizontal flags take it the other way round than the vertical ones:
-    // callers pass "the parent is horizontal" for both and rely on it.
+    // `qtAlignment` is one Qt::AlignmentFlag. What is set depends on `mainAxis`,
+    // and the horizontal flags read it the other way round than the vertical ones:
+    // callers pass "the parent is horizontal" for both and rely on that.
     virtual void setAlignment(int qtAlignment, bool mainAxis);
     virtual void setLayoutDirection(Qt::LayoutDirection direction);
     virtual Qt::LayoutDirection layoutDirection() const;
@@ -57,8 +55,8 @@ public:
     // A negative value leaves its edge as it is.
     virtual void setPaddings(double left, double top, double right, double bottom);
     virtual void setPadding(double all);
-    // Whether a padding of its own was set, on all edges or at the bottom,
-    // that a zone's insets must not replace.
+    // Whether a padding was set in pixels, on all edges or at the bottom. A zone's
+    // insets must not replace it.
     virtual bool hasPadding() const;
     virtual void setPaddingLeftPercent(double percent);
     virtual void setPaddingRightPercent(double percent);
@@ -72,9 +70,8 @@ public:
     virtual float paddingLeft() const;
     virtual float paddingRight() const;
 
-    // A null child, one that has a parent already, or one that would close a
-    // circle is not inserted; addChild then logs why. The index is brought
-    // into range.
+    // Does not insert a null child, one that has a parent already, or an ancestor
+    // of this item; addChild then logs why. An index out of range is clamped.
     virtual void insertChild(YogaLayoutItem* child, int index);
     virtual void addChild(YogaLayoutItem* child);
 
@@ -90,12 +87,12 @@ public:
     virtual float layoutHeight() const;
     virtual void setBorder(double width);
     virtual float border() const;
-    // A negative factor counts as 0: Yoga would take it for a share of its own.
+    // A negative factor counts as 0: Yoga would give such an item a share.
     virtual void setGrowFactor(double factor);
     virtual int growFactor() const;
 
-    // What the item needs for its content, asked by Yoga once
-    // setHasMeasureFunc is on. The base takes what it is offered.
+    // The size that the item's content needs. Yoga calls this if
+    // setHasMeasureFunc is on. The base returns the size that it is offered.
     virtual QSizeF measure(double width, YGMeasureMode widthMode, double height,
                            YGMeasureMode heightMode);
     virtual float baseline(double width, double height);
@@ -112,7 +109,7 @@ public:
     virtual void setPositionEnd(double position);
     virtual void setPositionTop(double position);
     virtual void setPositionBottom(double position);
-    // Sets the left edge, in either reading direction: unlike its pixel form.
+    // Sets the left edge in either reading direction. Its pixel form does not.
     virtual void setPositionStartPercent(double percent);
     virtual void setPositionEndPercent(double percent);
     virtual void setPositionTopPercent(double percent);
@@ -126,8 +123,8 @@ public:
     // 1 when the subtree shows one of the words, else -1.
     virtual int setHighlightText(const QStringList& words);
 
-    // Whether the item has a margin of its own, which its box's spacing leaves
-    // alone.
+    // Whether the item has an explicit margin. The spacing of its box does not
+    // replace that.
     virtual void setHasMargin(bool has);
     virtual bool hasMargin() const;
 
@@ -137,58 +134,58 @@ public:
     virtual void setClickable(bool on);
     virtual void inheritCornerRadius(int radius);
 
-    // Gives an absolute item the parent's paddings for the offsets it lacks.
+    // Sets those offsets of an absolute item that are not set to the parent's
+    // paddings.
     void insetInto(const YogaLayoutItem& parent);
     void setHasMeasureFunc(bool has);
     void setHasBaselineFunc(bool has);
-    // A share of the parent's width, which bounds the width however it is set.
+    // The maximum width, as a percentage of the parent's.
     void setMaxWidthPercent(double percent);
-    // How much of the missing room this item gives up; none unless set.
+    // 0 unless set: the item does not shrink.
     void setShrinkFactor(double factor);
-    // Width divided by height; either follows from the other.
+    // Width divided by height. Yoga computes one from the other.
     void setAspectRatio(double ratio);
 
     void calculateLayout(double width, double height);
     void calculateLayout();
-    // Places this item and all below it. Who is told of it may delete any of
-    // them, or lay out again.
+    // Places this item and all items below it. This tells the host, who may
+    // delete any of them, or start another layout.
     void applyLayoutRecursive();
 
-    // A width for the rest of this layout, and the relayout mark for the parent if
-    // the item is wider than that.
-    // The next layout starts from the style's own width again: a layout that
-    // started from the widths of the one before would come to another result.
+    // Set a width for the rest of this layout pass; YogaLayoutPass tells why and
+    // how. The next pass starts from the style's own width again: columns would be
+    // shared out in another way otherwise.
     //
-    // The first form is for an item that is being placed. The second one is for
-    // an item that is being measured: Yoga loses track of a style that changes
-    // while it computes, so the width waits for the parent's relayoutInPlace.
+    // The first one is for an item that is being placed. It marks the parent for a
+    // relayout if the item is wider than `width`. The second one is for an item that
+    // is being measured: its width waits for the relayout of the parent.
     void changeWidth(double width);
     void changeWidthOnRelayout(double width);
 
-    // The relayout mark. Whoever places a child of a marked item calls
-    // relayoutInPlace.
+    // Marks the item for a relayout, unless it has had its relayout in this pass.
     void setRelayoutPending();
-    bool isRelayoutPending() const { return pass_.relayoutPending; }
-    // Clears the mark and computes this subtree again at the size it has.
+    bool isRelayoutPending() const { return pass_.relayout == Relayout::Pending; }
+    // Clears the mark and calculates the layout of this subtree again, at the size
+    // and position that the item has. Called by a child that is being placed.
     void relayoutInPlace();
 
     // Whether the style, the content or the items of this subtree have changed
-    // since the changes were forgotten.
+    // since the last call of forgetChanges().
     bool hasChanged() const;
     void forgetChanges();
-    // Lets the next layout of this subtree come to what the first layout of a
-    // new one would: nothing is placed, and everything is measured again.
+    // Makes the next layout of this subtree the same as that of a new card:
+    // nothing counts as placed, and everything is measured again.
     void startOver();
-    // Whether the item has been placed since then: what its children can know
-    // about its size is true.
+    // Whether the item was placed since it was made or startOver() was called. Only
+    // then may its children rely on its size.
     bool isPlaced() const { return isPlaced_; }
 
-    // Null, 0 and null when there is none.
+    // Null, 0 and null if there is none.
     YogaLayoutItem* childAt(int index) const;
     int childCount() const;
     YogaLayoutItem* parentItem() const;
     // The computed rectangle, relative to the parent's, and the paddings inside
-    // it: percentages are pixels here.
+    // it. Percentages are pixels here.
     QRectF geometry() const;
     QMarginsF layoutPaddings() const;
 
@@ -214,23 +211,9 @@ private:
     float padding(YGEdge edge) const;
     float margin(YGEdge edge) const;
     float position(YGEdge edge, bool isSet) const;
-    // What concerns one layout of the item, from its start to that of the next.
-    struct Pass {
-        // For an item whose width has changed: its style before.
-        std::optional<YGValue> styleWidth;
-        // For an item that waits for its parent's relayout.
-        std::optional<double> pendingWidth;
-        // For a parent.
-        bool relayoutPending = false;
-        bool wasRelaidOut = false;
-        // Whether children that were placed before that have to be placed again.
-        bool placesAgain = false;
-        // Where the item stood when it was computed again in its place.
-        std::optional<QPointF> keptPosition;
-        // Whether the item's children are being placed for the second time.
-        bool isSettled = false;
-    };
-    enum class Round { First, Second };
+
+    using Relayout = YogaLayoutPass::Relayout;
+    using Round = YogaLayoutPass::Round;
 
     // Every operation that sets a style begins with this; false without a node.
     bool startChange();
@@ -239,6 +222,7 @@ private:
     void startPass();
     void forgetKeptPositions();
     void calculateLayout(double width, double height, YGDirection direction);
+    void calculateAtSize(double width, double height);
     // By more than what rounding adds.
     bool isWiderThan(double width) const;
     bool isWiderThanPending() const;
@@ -247,7 +231,7 @@ private:
     int relayoutsAbove() const;
     template <typename Visit> void forEachChild(Visit visit) const;
 
-    std::shared_ptr<YogaLayoutItem> self_; // owns nothing
+    PlixLinkTarget<YogaLayoutItem> linkTarget_;
     YGNodeRef node_ = nullptr;
     QGraphicsLayoutItem* geometryTarget_ = nullptr;
     bool widthIsPercent_ = false;
@@ -259,5 +243,5 @@ private:
     bool bottomSet_ = false;
     bool hasChanged_ = true;
     bool isPlaced_ = false;
-    Pass pass_;
+    YogaLayoutPass pass_;
 };

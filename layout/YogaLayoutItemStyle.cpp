@@ -1,4 +1,4 @@
-// The operations of YogaLayoutItem that set and read the node's style.
+// The operations of YogaLayoutItem that set and read the style of its node.
 #include "layout/YogaLayoutItem.h"
 
 #include <algorithm>
@@ -304,7 +304,7 @@ int YogaLayoutItem::growFactor() const
     const double factor = YGNodeStyleGetFlexGrow(node_);
     if (std::isnan(factor))
         return 0;
-    // As floats, the largest integers are rounded up to one too many.
+    // A float rounds the largest int up to a value that does not fit an int.
     using Limits = std::numeric_limits<int>;
     return static_cast<int>(std::clamp<double>(factor, Limits::min(), Limits::max()));
 }

@@ -2,7 +2,7 @@
 
 YogaNodeRegistry& YogaNodeRegistry::GetInstance()
 {
-    // Never destroyed: items of a host may go after static objects.
+    // Never destroyed: the host may delete items after static objects.
     static auto* const instance = new YogaNodeRegistry;
     return *instance;
 }

@@ -14,7 +14,7 @@ public:
 
     void Add(YGNodeConstRef node, YogaLayoutItem* item);
     void Remove(YGNodeConstRef node);
-    // Null for a node that is not registered, and for no node.
+    // Null for a node that is not registered, and for a null node.
     YogaLayoutItem* Find(YGNodeConstRef node) const;
 
 private:

@@ -30,7 +30,7 @@ public:
     std::string GetBackgroundColor() const { return backgroundColor_; }
     void SetBackgroundColor(const std::string& color)
     {
-        backgroundColor_ = plix::ToAlphaFirst(color);
+        backgroundColor_ = plix::RgbaToArgb(color);
     }
 
     std::string GetCornerRadius() const { return cornerRadius_; }
@@ -45,7 +45,7 @@ public:
     void SetHeight(const std::string& height);
 
     std::string GetBorderColor() const { return borderColor_; }
-    void SetBorderColor(const std::string& color) { borderColor_ = plix::ToAlphaFirst(color); }
+    void SetBorderColor(const std::string& color) { borderColor_ = plix::RgbaToArgb(color); }
 
     std::string GetBorderWidth() const { return borderWidth_; }
     void SetBorderWidth(const std::string& width) { borderWidth_ = width; }

@@ -16,7 +16,7 @@ public:
     void SetSize(const std::string& size) { size_ = size; }
 
     std::string GetColor() const { return color_; }
-    void SetColor(const std::string& color) { color_ = plix::ToAlphaFirst(color); }
+    void SetColor(const std::string& color) { color_ = plix::RgbaToArgb(color); }
 
     std::string GetWeight() const { return weight_; }
     void SetWeight(const std::string& weight) { weight_ = weight; }

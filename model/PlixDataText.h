@@ -23,7 +23,7 @@ public:
     void SetSize(const std::string& size) { size_ = size; }
 
     std::string GetColor() const { return color_; }
-    void SetColor(const std::string& color) { color_ = plix::ToAlphaFirst(color); }
+    void SetColor(const std::string& color) { color_ = plix::RgbaToArgb(color); }
 
     std::string GetStyle() const { return style_; }
     void SetStyle(const std::string& style) { style_ = style; }

@@ -250,7 +250,7 @@ class AlphaFirst : public testing::TestWithParam<AlphaRow> { };
 
 TEST_P(AlphaFirst, MovesTheLastTwoOfEightDigits)
 {
-    EXPECT_EQ(plix::ToAlphaFirst(GetParam().text), GetParam().value);
+    EXPECT_EQ(plix::RgbaToArgb(GetParam().text), GetParam().value);
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, AlphaFirst,
