@@ -2,10 +2,10 @@
 
 #include <QByteArray>
 
-// Reads a file's bytes in their order; what lies behind the end is zero.
+// Reads a file's bytes in order. Beyond the end it reads zeros.
 class PlixByteReader {
 public:
-    // `bytes` must stay as they are meanwhile.
+    // Keeps a reference: `bytes` must outlive the reader.
     explicit PlixByteReader(const QByteArray& bytes)
         : bytes_(bytes)
     {
@@ -13,25 +13,25 @@ public:
 
     bool AtEnd() const { return at_ >= bytes_.size(); }
     void Skip(qint64 count) { at_ += count; }
-    int TakeByte()
+    int ReadByte()
     {
         const char byte = AtEnd() ? '\0' : bytes_[static_cast<int>(at_)];
         Skip(1);
         return static_cast<unsigned char>(byte);
     }
-    // As many as there are, without a copy of them.
-    QByteArray TakeBytes(int count)
+    // At most `count` bytes, which are not copied: valid as long as the file's are.
+    QByteArray ReadBytes(int count)
     {
         const int left = AtEnd() ? 0 : bytes_.size() - static_cast<int>(at_);
-        QByteArray taken =
+        QByteArray read =
             QByteArray::fromRawData(bytes_.constData() + (AtEnd() ? 0 : at_), qMin(count, left));
         Skip(count);
-        return taken;
+        return read;
     }
-    int TakeLittleEndian16()
+    int ReadLittleEndian16()
     {
-        const int low = TakeByte();
-        const int high = TakeByte();
+        const int low = ReadByte();
+        const int high = ReadByte();
         return high << 8 | low;
     }
 

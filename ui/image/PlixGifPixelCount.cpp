@@ -16,7 +16,7 @@ PlixGifPixelCount::PlixGifPixelCount(int bits)
     Clear();
 }
 
-void PlixGifPixelCount::Take(const char* bytes, int size)
+void PlixGifPixelCount::Add(const char* bytes, int size)
 {
     for (int i = 0; i < size && !isOver_; ++i) {
         unread_ |= static_cast<quint32>(static_cast<unsigned char>(bytes[i])) << unreadBits_;
@@ -25,19 +25,19 @@ void PlixGifPixelCount::Take(const char* bytes, int size)
             const int code = static_cast<int>(unread_ & ((1U << codeBits_) - 1));
             unread_ >>= codeBits_;
             unreadBits_ -= codeBits_;
-            TakeCode(code);
+            AddCode(code);
         }
     }
 }
 
-inline void PlixGifPixelCount::TakeCode(int code)
+inline void PlixGifPixelCount::AddCode(int code)
 {
     const int clearCode = 1 << pixelBits_;
     if (code == clearCode) {
         Clear();
         return;
     }
-    // The end, or a code upon one that nothing is behind: the decoder gives up.
+    // The end code, or a code after one that stands for nothing: the decoder stops.
     if (code == clearCode + 1 || previous_ >= nextCode_) {
         isOver_ = true;
         return;
@@ -47,8 +47,8 @@ inline void PlixGifPixelCount::TakeCode(int code)
         previous_ = code;
         return;
     }
-    // The new code is the previous one's pixels and one more; it may be the one
-    // that was read.
+    // The next free code stands for the previous code's pixels and one more. The
+    // code that was just read may be that one.
     const auto length = static_cast<quint16>(lengths_[static_cast<std::size_t>(previous_)] + 1);
     count_ += code < nextCode_ ? lengths_[static_cast<std::size_t>(code)] : length;
     previous_ = code;

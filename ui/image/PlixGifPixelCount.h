@@ -4,21 +4,21 @@
 
 #include <array>
 
-// Counts the pixels that a frame of a GIF file unpacks to, without unpacking
-// them: a byte can stand for thousands.
+// Counts the pixels that a frame of a GIF file unpacks to, without unpacking them:
+// one byte can stand for thousands of pixels.
 class PlixGifPixelCount {
 public:
     static constexpr int kMaximumBits = 12;
 
-    // The bits of a pixel, at most kMaximumBits.
+    // `bits`: of a pixel, at most kMaximumBits.
     explicit PlixGifPixelCount(int bits);
 
-    // The next bytes of the frame's data.
-    void Take(const char* bytes, int size);
+    // Counts the pixels of the next bytes of the frame's data.
+    void Add(const char* bytes, int size);
     qint64 Count() const { return count_; }
 
 private:
-    void TakeCode(int code);
+    void AddCode(int code);
     void Clear();
 
     const int pixelBits_;
@@ -29,5 +29,5 @@ private:
     int codeBits_ = 0;
     int nextCode_ = 0;
     int previous_ = 0;
-    std::array<quint16, 1 << kMaximumBits> lengths_; // of the pixels behind a code
+    std::array<quint16, 1 << kMaximumBits> lengths_; // how many pixels each code stands for
 };

@@ -7,7 +7,7 @@ namespace plix {
 
 namespace {
 
-// The length of a table of colours, by the byte that announces it.
+// The length of a colour table. `flags` is the byte that announces it.
 int ColorTableBytes(int flags)
 {
     constexpr int kHasTable = 0x80;
@@ -18,25 +18,25 @@ void SkipExtension(PlixByteReader& reader)
 {
     constexpr int kGraphicControl = 0xF9;
     constexpr int kApplication = 0xFF;
-    const int label = reader.TakeByte();
-    // Qt's decoder reads a first block of these whatever its length, even none.
-    // Read otherwise, another frame than the decoder's would be the first.
+    const int label = reader.ReadByte();
+    // Qt's decoder reads the first block of these extensions even if its length is 0.
+    // This must read the same, or it would find other frames than the decoder.
     if (label == kGraphicControl || label == kApplication)
-        reader.Skip(reader.TakeByte());
-    while (const int length = reader.TakeByte())
+        reader.Skip(reader.ReadByte());
+    while (const int length = reader.ReadByte())
         reader.Skip(length);
 }
 
-// Reads a frame's data. False when they cannot be decoded, or not in time.
+// False if the frame cannot be decoded, or has more than `maximumPixels`.
 bool SkipFrameData(PlixByteReader& reader, qint64 maximumPixels)
 {
-    const int bits = reader.TakeByte();
+    const int bits = reader.ReadByte();
     if (bits > PlixGifPixelCount::kMaximumBits)
         return false;
     PlixGifPixelCount pixels(bits);
-    while (const int length = reader.TakeByte()) {
-        const QByteArray block = reader.TakeBytes(length);
-        pixels.Take(block.constData(), block.size());
+    while (const int length = reader.ReadByte()) {
+        const QByteArray block = reader.ReadBytes(length);
+        pixels.Add(block.constData(), block.size());
         if (pixels.Count() > maximumPixels)
             return false;
     }
@@ -52,30 +52,30 @@ QSize ReadGifSize(const QByteArray& bytes)
     PlixByteReader reader(bytes);
     reader.Skip(6);
     QSize size;
-    size.setWidth(reader.TakeLittleEndian16());
-    size.setHeight(reader.TakeLittleEndian16());
-    const int flags = reader.TakeByte();
+    size.setWidth(reader.ReadLittleEndian16());
+    size.setHeight(reader.ReadLittleEndian16());
+    const int flags = reader.ReadByte();
     reader.Skip(2 + ColorTableBytes(flags));
     bool hasFrame = false;
     while (!reader.AtEnd()) {
-        const int block = reader.TakeByte();
+        const int block = reader.ReadByte();
         if (block == kExtension) {
             SkipExtension(reader);
             continue;
         }
         if (block != kFrame)
             break;
-        const int left = reader.TakeLittleEndian16();
-        const int top = reader.TakeLittleEndian16();
-        const int right = left + reader.TakeLittleEndian16();
-        const int bottom = top + reader.TakeLittleEndian16();
-        reader.Skip(ColorTableBytes(reader.TakeByte()));
-        // Qt takes the screen or the first frame for the picture's size, and
-        // cuts later frames to it.
+        const int left = reader.ReadLittleEndian16();
+        const int top = reader.ReadLittleEndian16();
+        const int right = left + reader.ReadLittleEndian16();
+        const int bottom = top + reader.ReadLittleEndian16();
+        reader.Skip(ColorTableBytes(reader.ReadByte()));
+        // To Qt, the picture is as large as the screen and the first frame need.
+        // Qt cuts later frames to that size.
         if (!hasFrame)
             size = size.expandedTo({right, bottom});
         hasFrame = true;
-        // Some encoders write a little more than they should.
+        // Twice the pixels: some encoders write a little more than they should.
         if (!SkipFrameData(reader, qint64 {2} * size.width() * size.height()))
             return {};
     }

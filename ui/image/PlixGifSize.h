@@ -5,9 +5,9 @@
 
 namespace plix {
 
-// The pixels that a GIF file's frames fill. Empty when it has no frame, or one
-// that unpacks to far more pixels than there are: the decoder would go through
-// all of them.
+// The size of a GIF file's picture, in pixels. Empty if the file has no frame, or a
+// frame that unpacks to far more pixels than that: the decoder would unpack all of
+// them.
 QSize ReadGifSize(const QByteArray& bytes);
 
 } // namespace plix

@@ -19,8 +19,8 @@ bool PlixIconUI::Init()
     setAcceptedMouseButtons(Qt::NoButton);
     Download(plix::ChooseText(data->GetUrls(), plix::GetCurrentLanguage(), data->GetUrl()));
     data->SetPixelSize(plix::ToTextPixels(data->GetSize()));
-    // Both lengths are given, not one and the ratio: an icon that grows in a row
-    // must not make the row higher.
+    // Width and height rather than one of them and the ratio: an icon that grows in
+    // a row must not make the row higher.
     const double ratio = plix::ToAspectRatio(data->GetAspectRatio());
     const double width = data->GetPixelSize() * ratio;
     setHeight(data->GetPixelSize());

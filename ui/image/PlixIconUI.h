@@ -2,8 +2,8 @@
 
 #include "ui/image/PlixPictureUI.h"
 
-// A small picture among texts: as high as its size word says, and never clicked
-// itself.
+// The "icon" component: a small picture, as high as its "size" says. It is never
+// clickable itself.
 class PlixIconUI : public PlixPictureUI {
     Q_OBJECT
 

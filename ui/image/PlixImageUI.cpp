@@ -52,16 +52,15 @@ void PlixImageUI::InitSize(PlixDataImage& data)
     const double width = data.GetSizePixels();
     const double ratio = plix::ToAspectRatio(data.GetAspectRatio());
     if (width > kNoFixedWidth) {
-        // The height is set, too: an image that grows in a row must not make the
-        // row higher.
+        // Width and height rather than one of them and the ratio: an image that
+        // grows in a row must not make the row higher.
         setWidth(width);
         setHeight(width / ratio);
         SetFixedWidth(width);
         return;
     }
     setAspectRatio(ratio);
-    // Columns stretch what has no width; in a row it would have none unless it
-    // grows.
+    // A column stretches it. In a row, it would have no width unless it grows.
     const bool growsInRow = data.GetGrow() > 0 && !data.IsAbsolute();
     if (plix::IsInRow(data) && !growsInRow) {
         setWidthPercent(100);

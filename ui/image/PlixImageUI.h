@@ -4,7 +4,7 @@
 
 class PlixDataImage;
 
-// An image of a card.
+// The "image" component.
 class PlixImageUI : public PlixPictureUI {
     Q_OBJECT
 

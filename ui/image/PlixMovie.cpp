@@ -4,8 +4,8 @@
 
 namespace {
 
-// The frame on show, the decoder's, what it keeps to undo a frame, and the
-// picture that Qt makes of it.
+// The current frame, the decoder's copy, the decoder's backup to undo a frame, and
+// the pixmap that Qt makes of it.
 constexpr qint64 kBuffers = 4;
 constexpr qint64 kBytesPerPixel = 4;
 
@@ -19,7 +19,7 @@ PlixMovie::PlixMovie(const PlixPictureFile& file)
     movie_.setFormat(file.format);
     movie_.setDevice(&buffer_);
     movie_.start();
-    // Only now: whoever made the movie has its first frame.
+    // After start(), so that the first frame is not announced: frame() returns it.
     connect(&movie_, &QMovie::frameChanged, this, &PlixMovie::onFrame);
 }
 
@@ -33,17 +33,17 @@ bool PlixMovie::isAnimated() const
     return movie_.frameCount() > 1;
 }
 
-void PlixMovie::seen()
+void PlixMovie::markPainted()
 {
-    isSeen_ = true;
+    isPainted_ = true;
     if (movie_.state() == QMovie::Paused)
         movie_.setPaused(false);
 }
 
 void PlixMovie::onFrame()
 {
-    if (!isSeen_)
+    if (!isPainted_)
         movie_.setPaused(true);
-    isSeen_ = false;
+    isPainted_ = false;
     Q_EMIT frameChanged();
 }

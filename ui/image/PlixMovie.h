@@ -6,8 +6,9 @@
 #include <QImage>
 #include <QMovie>
 
-// A picture that is being played. It plays the bytes that were looked at, not
-// the file: that may be another one by the time an animation starts over.
+// A picture that is decoded and, if it is animated, played. It reads the bytes that
+// were checked and not the file, which may have been replaced by the time an
+// animation starts over.
 class PlixMovie : public QObject {
     Q_OBJECT
 
@@ -16,21 +17,21 @@ public:
     explicit PlixMovie(const PlixPictureFile& file);
     ~PlixMovie() override;
 
-    // Null when the picture has none that can be decoded.
+    // The current frame. Null if no frame can be decoded.
     QImage frame() const { return movie_.currentImage(); }
     bool isAnimated() const;
-    // Whether time passes for it: neither paused nor at its end.
+    // Whether it is neither paused nor at its end.
     bool isPlaying() const { return movie_.state() == QMovie::Running; }
-    // Roughly what it takes in memory.
+    // Roughly the memory that it needs.
     qint64 bytes() const { return bytes_; }
 
-    // The frame has been painted. A movie whose frames are not painted pauses;
-    // it goes on from here.
-    void seen();
+    // Call this when the current frame is painted. A movie pauses when its frames are
+    // not painted, and continues with this call.
+    void markPainted();
 
 Q_SIGNALS:
     void frameChanged();
-    // The room is needed for movies that are being watched: delete it.
+    // Other movies need its memory: delete it.
     void evicted();
 
 private:
@@ -40,5 +41,5 @@ private:
     // A child, so that tests find it and end its frames without waiting.
     QMovie movie_ {this};
     qint64 bytes_;
-    bool isSeen_ = true;
+    bool isPainted_ = true;
 };

@@ -6,7 +6,7 @@
 
 PlixMovieBudget& PlixMovieBudget::GetInstance()
 {
-    // Never destroyed: the host's scene may go last of all.
+    // Never destroyed: the host may delete its scene after static objects.
     static auto* const instance = new PlixMovieBudget;
     return *instance;
 }

@@ -6,18 +6,19 @@
 
 class PlixMovie;
 
-// Bounds what all playing pictures of the process take in memory, together: a
-// card may name thousands of them.
+// Limits the memory of all animations of the process together: a card may name
+// thousands of them.
 class PlixMovieBudget {
 public:
     static constexpr qint64 kMaximumBytes = qint64 {256} * 1024 * 1024;
-    // An animation larger than this keeps the GUI thread from its other work.
+    // Playing a larger animation would keep the GUI thread busy.
     static constexpr qint64 kMaximumMovieBytes = qint64 {32} * 1024 * 1024;
 
     static PlixMovieBudget& GetInstance();
 
-    // Whether there is room for the movie to play. Movies that are not watched
-    // make room for it, those that joined first.
+    // Adds `movie`, which must call Leave() before it is deleted. False if there is
+    // no memory left for it. Evicts movies that are not playing to make room, the
+    // oldest first.
     bool Join(PlixMovie& movie);
     void Leave(const PlixMovie& movie);
 

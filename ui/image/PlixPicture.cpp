@@ -14,13 +14,13 @@ using Pictures = QHash<QString, std::weak_ptr<PlixPicture>>;
 
 Pictures& AllPictures()
 {
-    // Never destroyed: the host's scene may go last of all.
+    // Never destroyed: the host may delete its scene after static objects.
     static auto* const pictures = new Pictures;
     return *pictures;
 }
 
-// The largest rectangle of the proportions of `shape` in the middle of a
-// picture, outwards to whole pixels.
+// The largest rectangle in the middle of a picture that has the proportions of
+// `shape`, rounded outwards to whole pixels.
 QRect MiddlePart(const QSize& picture, const QSize& shape)
 {
     const QSizeF part = QSizeF(shape).scaled(picture, Qt::KeepAspectRatio);
@@ -29,7 +29,7 @@ QRect MiddlePart(const QSize& picture, const QSize& shape)
     return QRectF(corner, part).toAlignedRect().intersected(QRect(QPoint(), picture));
 }
 
-// QImage::copy() would copy all of a picture, too.
+// Without a copy if `part` is the whole picture: QImage::copy() would make one.
 QImage Cut(const QImage& picture, const QRect& part)
 {
     return part == picture.rect() ? picture : picture.copy(part);
@@ -43,16 +43,16 @@ qint64 PixelsOf(const QSize& size)
 QImage Scaled(const QImage& picture, const QSize& target)
 {
     const QSize expanded = picture.size().scaled(target, Qt::KeepAspectRatioByExpanding);
-    // A line of the picture is all there is of it in a long, thin item. It would
-    // grow as thick as it is long; proportions of a line are nothing to keep.
+    // In a long, thin item, only a line of the picture is left. To keep its
+    // proportions, it would have to be as thick as it is long.
     const bool isBounded = PixelsOf(expanded) <= 2 * PlixPicture::kMaximumScaledPixels;
     return picture.scaled(target,
                           isBounded ? Qt::KeepAspectRatioByExpanding : Qt::IgnoreAspectRatio,
                           Qt::SmoothTransformation);
 }
 
-// Cut before it is scaled: what a long, thin picture has more than is shown
-// would grow with it.
+// Cuts before scaling: otherwise the hidden part of a long, thin picture would be
+// scaled up, too.
 QImage ScaledMiddle(const QImage& picture, const QSize& target)
 {
     const QImage scaled = Scaled(Cut(picture, MiddlePart(picture.size(), target)), target);
@@ -113,7 +113,7 @@ QImage PlixPicture::scaled(const Fit& fit)
     if (image.isNull()) {
         if (frame.isNull())
             frame = movie_ ? movie_->frame() : open();
-        // The file may be another one now.
+        // size_ may have changed: the file may have been replaced.
         const QSize target = frame.isNull() ? QSize() : fit(size_);
         if (target.isEmpty())
             return {};
@@ -121,7 +121,7 @@ QImage PlixPicture::scaled(const Fit& fit)
         PlixScaledPictures::Insert(*this, image);
     }
     if (movie_)
-        movie_->seen();
+        movie_->markPainted();
     return image;
 }
 
@@ -129,7 +129,7 @@ QImage PlixPicture::open()
 {
     const FileVersion version = currentVersion();
     if (size_.isEmpty() && opened_ == version)
-        return {}; // it was no picture, and is the same
+        return {}; // unchanged, and it could not be read before
     opened_ = version;
     size_ = QSize();
     const auto file = plix::ReadPictureFile(fileName_);
@@ -149,8 +149,8 @@ void PlixPicture::play(std::unique_ptr<PlixMovie> movie)
     movie_->setParent(this); // where tests find it; movie_ owns it
     PlixScaledPictures::Remove(*this);
     connect(movie_.get(), &PlixMovie::frameChanged, this, &PlixPicture::onFrameChanged);
-    // One that paused has no scaled copy any more, so the next paint opens it
-    // again; one that is over stays on its last frame.
+    // A paused movie has no scaled copy any more, so the next paint opens the file
+    // again. A movie at its end keeps showing its last frame.
     connect(movie_.get(), &PlixMovie::evicted, this, &PlixPicture::stop);
 }
 

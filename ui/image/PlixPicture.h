@@ -12,38 +12,37 @@
 
 class PlixMovie;
 
-// A picture file, as items show it. Still and animated pictures take one path:
-// both are opened as a movie, of which a still one is rid of at once. Files are
-// opened when a picture is painted, not before, and again when it is painted in
-// a size that it was not painted in lately.
+// A picture file that items show. Still and animated pictures take one path: both
+// are opened as a QMovie; a still picture's is deleted once its frame is decoded. A
+// file is opened when it is first painted, and again when it is painted in a size of
+// which there is no scaled copy.
 class PlixPicture : public QObject {
     Q_OBJECT
 
 public:
-    // How many pixels a scaled picture has at most.
+    // The maximum for a scaled picture.
     static constexpr qint64 kMaximumScaledPixels = qint64 {2048} * 2048;
 
-    // The picture in this file, which need not be there yet. All who show the
-    // same file share it: a card may name one a thousand times. If the file is
-    // another one than when it was opened, it is opened again.
+    // The picture in this file, which need not exist yet. All items that show a file
+    // share its picture: a card may name one a thousand times. If the file has changed
+    // since it was opened, it is opened again.
     static std::shared_ptr<PlixPicture> Get(const QString& path);
     ~PlixPicture() override;
 
     QString fileName() const { return fileName_; }
 
-    // What size to scale a picture of this size to.
+    // Returns the size to which a picture of the size `picture` is scaled.
     using Fit = std::function<QSize(const QSize& picture)>;
-    // The middle of the frame on show, as much of it as has the proportions of
-    // the size that `fit` answers, in that size. Null when there is no picture,
-    // or nothing in it.
+    // The current frame in the size that `fit` returns. If it has other proportions,
+    // its middle is cut out. Null if there is no picture, or it cannot be decoded.
     QImage scaled(const Fit& fit);
 
 Q_SIGNALS:
-    // There is another frame to paint.
+    // Another frame is to be painted.
     void frameChanged();
 
 private:
-    // What tells one version of a file from the next.
+    // Differs between one version of a file and the next.
     struct FileVersion {
         qint64 bytes;
         QDateTime modified;
@@ -61,7 +60,7 @@ private:
     void onFrameChanged();
 
     const QString fileName_;
-    // Of the file when it was opened, or could not be.
+    // The version of the file when it was opened, or when opening it failed.
     std::optional<FileVersion> opened_;
     QSize size_; // empty while there is no picture
     std::unique_ptr<PlixMovie> movie_;

@@ -1,8 +1,8 @@
 #include "ui/image/PlixPictureFile.h"
 
-#include "ui/image/PlixJpegPixels.h"
+#include "ui/image/PlixJpegMetadata.h"
 #include "ui/image/PlixPictureHeader.h"
-#include "ui/image/PlixPngPixels.h"
+#include "ui/image/PlixPngMetadata.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -13,7 +13,7 @@ namespace {
 
 QByteArray ReadFile(const QString& path)
 {
-    // Devices and pipes would block, or never end.
+    // Reading a device or pipe could block, or never end.
     const QFileInfo info(path);
     if (!info.isFile() || info.size() > kMaximumPictureFileBytes)
         return {};
@@ -21,16 +21,15 @@ QByteArray ReadFile(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.read(info.size()) : QByteArray();
 }
 
-// What of the file is given to the decoder: nothing of one that it would be
-// busy with for too long.
-QByteArray PixelsOnly(const QByteArray& bytes, const QByteArray& format)
+// The bytes for the decoder; none if they would keep it busy for too long.
+QByteArray StripMetadata(const QByteArray& bytes, const QByteArray& format)
 {
     if (format == "png")
-        return PngPixelsOnly(bytes);
+        return StripPngMetadata(bytes);
     if (format != "jpeg")
         return bytes;
-    const PlixJpegPixels pixels = ReadJpegPixels(bytes);
-    return pixels.scans <= kMaximumJpegScans ? pixels.bytes : QByteArray();
+    const PlixStrippedJpeg jpeg = StripJpegMetadata(bytes);
+    return jpeg.scans <= kMaximumJpegScans ? jpeg.bytes : QByteArray();
 }
 
 } // namespace
@@ -42,7 +41,7 @@ std::optional<PlixPictureFile> ReadPictureFile(const QString& path)
     file.format = PictureFormat(bytes);
     if (file.format.isEmpty())
         return std::nullopt;
-    file.bytes = PixelsOnly(bytes, file.format);
+    file.bytes = StripMetadata(bytes, file.format);
     file.size = PictureSize(file.bytes, file.format);
     const qint64 pixels = qint64 {file.size.width()} * file.size.height();
     if (file.size.isEmpty() || pixels > kMaximumPicturePixels)

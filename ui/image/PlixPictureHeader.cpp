@@ -36,7 +36,7 @@ QByteArray FormatByFirstBytes(const QByteArray& bytes)
 QByteArray PictureFormat(const QByteArray& bytes)
 {
     const QByteArray format = FormatByFirstBytes(bytes);
-    // Where a plugin is missing, Qt would ask the others.
+    // If the plugin is missing, Qt would try the others.
     return QImageReader::supportedImageFormats().contains(format) ? format : QByteArray();
 }
 
@@ -48,7 +48,7 @@ QSize PictureSize(const QByteArray& bytes, const QByteArray& format)
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     const QSize size = QImageReader(&buffer, format).size();
-    // Bitmaps that begin with their upper line have a negative height.
+    // BMP files that begin with the top row have a negative height.
     const qint64 height = std::abs(qint64 {size.height()});
     return {size.width(), static_cast<int>(std::min<qint64>(height, INT_MAX))};
 }

@@ -5,12 +5,12 @@
 
 namespace plix {
 
-// Which of PNG, JPEG, GIF, WebP and BMP a file is by its first bytes, as
-// QImageReader names it. Empty for everything else, whatever Qt's plugins can
-// do: they were not written to be handed the pictures of strangers.
+// The format of a file by its first bytes, as QImageReader names it: PNG, JPEG, GIF,
+// WebP or BMP. Empty for every other format, even if Qt has a plugin for it: those
+// plugins are not made for untrusted pictures.
 QByteArray PictureFormat(const QByteArray& bytes);
 
-// What decoding such a file fills, in pixels. Empty when that cannot be told.
+// The size of the decoded picture, in pixels. Empty if it cannot be determined.
 QSize PictureSize(const QByteArray& bytes, const QByteArray& format);
 
 } // namespace plix

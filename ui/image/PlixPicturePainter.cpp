@@ -14,7 +14,7 @@ namespace {
 // How a picture lies on the painter's device.
 struct Mapping {
     QRectF area; // in logical pixels
-    bool isExact; // a device pixel for a picture's pixel
+    bool isExact; // one device pixel for each pixel of the picture
 };
 
 Mapping MapToDevice(const QPainter& painter, const QImage& image, const QRectF& area)
@@ -36,8 +36,8 @@ Mapping MapToDevice(const QPainter& painter, const QImage& image, const QRectF& 
 PlixPictureTarget::PlixPictureTarget(const QRectF& area, double dpiFactor)
     : area_(area)
 {
-    // Cards can be of any size. Beyond what anybody sees at once the painter
-    // scales what is visible of it.
+    // Cards can be of any size. Above the maximum, the picture is scaled to fewer
+    // pixels, and the painter scales these up.
     const double width = area.width() * dpiFactor;
     const double height = area.height() * dpiFactor;
     const double excess = std::sqrt(width * height / PlixPicture::kMaximumScaledPixels);
@@ -65,8 +65,8 @@ void plix::DrawPicture(QPainter& painter, const QImage& image, const QRectF& are
     onPicture.scale(mapping.area.width() / image.width(), mapping.area.height() / image.height());
     QBrush brush(image);
     brush.setTransform(onPicture);
-    // A brush goes on beside its picture. The clip has hard edges: Qt forgets how
-    // soft they are where the part that is painted leaves a rectangle of it.
+    // A brush repeats its picture outside of it, so the painter clips. The clip has
+    // hard edges: Qt loses soft ones where the painted part sees a rectangle of it.
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setClipPath(plix::RectanglePath(mapping.area), Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing);

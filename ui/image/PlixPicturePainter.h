@@ -6,16 +6,16 @@
 
 class QPainter;
 
-// Where a picture is drawn, in logical pixels, and what size in device pixels
-// it is scaled to for that.
+// Where a picture is drawn, in logical pixels, and the size in device pixels that it
+// is scaled to.
 class PlixPictureTarget {
 public:
     PlixPictureTarget() = default;
     PlixPictureTarget(const QRectF& area, double dpiFactor);
 
-    // Whole device pixels, less than the area's by a fraction of one.
+    // In whole device pixels, rounded down.
     QSize size() const { return size_; }
-    // What pictures of that size fill.
+    // The area that a picture of that size fills.
     QRectF area() const { return area_; }
 
 private:
@@ -25,8 +25,8 @@ private:
 
 namespace plix {
 
-// Fills `area` with the picture. Where that means a device pixel for a picture's
-// pixel, they are drawn as they are, on the nearest whole device pixels.
+// Fills `area` with the picture. If that needs one device pixel for each of its
+// pixels, they are not scaled, and drawn on the nearest whole device pixels.
 void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area);
 // The same, inside an outline.
 void DrawPicture(QPainter& painter, const QImage& image, const QRectF& area,

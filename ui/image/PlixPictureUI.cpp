@@ -28,7 +28,7 @@ void PlixPictureUI::SetDownloadFunc(const DownloadFunc& func)
 
 void PlixPictureUI::Download(const std::string& url)
 {
-    // The host's failure costs this picture, not the card.
+    // If the host throws, only this picture is missing and not the whole card.
     if (downloadFunc_)
         plix::CatchExceptions([&] { FileArrived(downloadFunc_(url)); }, &plix::LogFailedBuild);
 }

@@ -10,8 +10,8 @@
 class PlixDataItemCommon;
 class PlixPicture;
 
-// What images and icons have in common: a picture of the web over a background,
-// in the size that the layout gives it.
+// Base of images and icons: a picture from the web over a background, in the size
+// that the layout gives the item.
 class PlixPictureUI : public PlixWidgetUI {
     Q_OBJECT
     Q_PROPERTY(QString pictureFile READ pictureFile)
@@ -20,15 +20,15 @@ public:
     void SetDownloadFunc(const DownloadFunc& func) override;
     void inheritCornerRadius(int radius) override;
 
-    // The picture is in this file, or will be; what was shown before is not
-    // shown any more.
+    // Shows the picture in this file, which need not exist yet, instead of the one
+    // before.
     void FileArrived(const std::string& path);
     QString pictureFile() const;
 
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 public Q_SLOTS:
-    // FileArrived() for hosts, who reach it by its name.
+    // FileArrived() for hosts, which call this slot by name.
     void OnFileArrived(const QString& path);
 
 protected:
@@ -37,8 +37,8 @@ protected:
         Fit, // all of it
         Cover // its middle, filling the item
     };
-    // Where the free space around a fitting picture goes: all of it to the
-    // far side (0) or to the near one (1).
+    // The share of the free space around a fitting picture that is left of it, and
+    // above it.
     struct Placement {
         double x = 0.5;
         double y = 0.5;
@@ -46,12 +46,12 @@ protected:
 
     PlixPictureUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout);
 
-    // Asks the host for the file, if it takes questions.
+    // Gets the file from the host, if there is a download function.
     void Download(const std::string& url);
-    // What the data of images and icons says alike.
+    // The part of Init() that images and icons have in common.
     void InitCommon(const PlixDataItemCommon& data);
 
-    // The width to draw at, where the item is wider. Not positive: all of it.
+    // The width of the picture if the item is wider. 0 or less: the item's width.
     void SetFixedWidth(double width) { fixedWidth_ = width; }
     void SetAspectMode(AspectMode mode) { aspectMode_ = mode; }
     void SetPlacement(const Placement& placement) { placement_ = placement; }

@@ -13,7 +13,7 @@ using Cache = QCache<const PlixPicture*, Sizes>;
 
 Cache& Instance()
 {
-    // Never destroyed: the host's scene may go last of all.
+    // Never destroyed: the host may delete its scene after static objects.
     static auto* const instance = new Cache(PlixScaledPictures::kMaximumBytes);
     return *instance;
 }

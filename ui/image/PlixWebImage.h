@@ -2,15 +2,15 @@
 
 #include <QObject>
 
-// The rule by which pictures of the web are named on this machine.
+// Names the local files of pictures from the web.
 class PlixWebImage : public QObject {
     Q_OBJECT
 
 public:
     PlixWebImage();
 
-    // Where the picture of `url` is kept: below the application's folder, under
-    // the URL's last segment as it stands, query and all. Nothing is created,
-    // and nothing made safe: hosts that write there check the name.
+    // The local file of `url`: in a folder below the application's, with the URL's last
+    // segment, including its query, as the name. Creates nothing, and does not make
+    // the name safe: a host that writes there must check it.
     QString TempFileName(const QString& url) const;
 };

@@ -3,11 +3,11 @@
 #include "ui/image/PictureCard.h"
 #include "ui/image/PlixGifPixelCount.h"
 #include "ui/image/PlixGifSize.h"
-#include "ui/image/PlixJpegPixels.h"
+#include "ui/image/PlixJpegMetadata.h"
 #include "ui/image/PlixPicture.h"
 #include "ui/image/PlixPictureFile.h"
 #include "ui/image/PlixPictureHeader.h"
-#include "ui/image/PlixPngPixels.h"
+#include "ui/image/PlixPngMetadata.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -357,15 +357,15 @@ TEST_F(HostileFile, IsTheSamePngPictureWithoutTexts)
     const QByteArray more = pngChunk("tEXt", QByteArray("k\0v", 3));
     const int end = png.size() - 12;
     const QByteArray padded = png.left(33) + more + png.mid(33, end - 33) + more + png.mid(end);
-    EXPECT_FALSE(PngPixelsOnly(padded).contains("tEXt"));
-    EXPECT_EQ(QImage::fromData(PngPixelsOnly(padded), "png"), QImage::fromData(png, "png"));
+    EXPECT_FALSE(StripPngMetadata(padded).contains("tEXt"));
+    EXPECT_EQ(QImage::fromData(StripPngMetadata(padded), "png"), QImage::fromData(png, "png"));
 }
 
 TEST_F(HostileFile, IsTheSameJpegPictureWithoutComments)
 {
     const QByteArray jpeg = pictureBytes(noise({50, 50}), "JPG");
     const QByteArray more = jpegSegment(0xFE, "words") + jpegSegment(0xE1, "camera");
-    const PlixJpegPixels pixels = ReadJpegPixels(jpeg.left(2) + more + jpeg.mid(2));
+    const PlixStrippedJpeg pixels = StripJpegMetadata(jpeg.left(2) + more + jpeg.mid(2));
     EXPECT_EQ(pixels.scans, 1);
     EXPECT_EQ(pixels.bytes, jpeg);
 }
@@ -373,17 +373,17 @@ TEST_F(HostileFile, IsTheSameJpegPictureWithoutComments)
 TEST_F(HostileFile, HasTheScansThatTheDecoderCounts)
 {
     for (const int scans : {0, 1, 5, 64, 65, 3000})
-        EXPECT_EQ(ReadJpegPixels(jpegOfScans({16, 16}, scans)).scans, scans);
+        EXPECT_EQ(StripJpegMetadata(jpegOfScans({16, 16}, scans)).scans, scans);
     const QByteArray head = QByteArray::fromHex("ffd8");
-    EXPECT_EQ(ReadJpegPixels(head + jpegSegment(0xE0, QByteArray::fromHex("ffda"))).scans, 0)
+    EXPECT_EQ(StripJpegMetadata(head + jpegSegment(0xE0, QByteArray::fromHex("ffda"))).scans, 0)
         << "inside other data";
-    EXPECT_EQ(ReadJpegPixels(head + QByteArray::fromHex("ffffffda0002")).scans, 1)
+    EXPECT_EQ(StripJpegMetadata(head + QByteArray::fromHex("ffffffda0002")).scans, 1)
         << "after fill bytes";
-    EXPECT_EQ(ReadJpegPixels(head + QByteArray::fromHex("ff00ffd0ffda0002")).scans, 1)
+    EXPECT_EQ(StripJpegMetadata(head + QByteArray::fromHex("ff00ffd0ffda0002")).scans, 1)
         << "after coded pixels";
-    EXPECT_EQ(ReadJpegPixels(head + QByteArray::fromHex("fffe0000ffda0002")).scans, 1)
+    EXPECT_EQ(StripJpegMetadata(head + QByteArray::fromHex("fffe0000ffda0002")).scans, 1)
         << "after a comment of an impossible length";
-    EXPECT_EQ(ReadJpegPixels(head + QByteArray::fromHex("ffd9ffda0002")).scans, 0)
+    EXPECT_EQ(StripJpegMetadata(head + QByteArray::fromHex("ffd9ffda0002")).scans, 0)
         << "after the end";
 }
 
@@ -392,8 +392,8 @@ qint64 pixelCount(int bits, const QByteArray& data)
     PlixGifPixelCount count(bits);
     // In two parts, because files contain it in blocks.
     const int half = data.size() / 2;
-    count.Take(data.constData(), half);
-    count.Take(data.constData() + half, data.size() - half);
+    count.Add(data.constData(), half);
+    count.Add(data.constData() + half, data.size() - half);
     return count.Count();
 }
 

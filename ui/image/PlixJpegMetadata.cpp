@@ -1,4 +1,4 @@
-#include "ui/image/PlixJpegPixels.h"
+#include "ui/image/PlixJpegMetadata.h"
 
 #include <QtEndian>
 
@@ -10,8 +10,8 @@ namespace {
 
 constexpr int kMarkerBytes = 2;
 
-// Where the next marker is, or where the bytes end. Coded pixels and filling
-// may come before it.
+// The position of the next marker, or the end of the bytes. Coded pixels and fill
+// bytes may come before it.
 int FindMarker(const QByteArray& bytes, int from)
 {
     int at = bytes.indexOf('\xFF', from);
@@ -24,7 +24,7 @@ int FindMarker(const QByteArray& bytes, int from)
     return bytes.size();
 }
 
-// Markers of places, which nothing belongs to.
+// Whether nothing follows the marker that belongs to it.
 bool IsBare(int marker)
 {
     return marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8);
@@ -51,11 +51,11 @@ int SegmentEnd(const QByteArray& bytes, int marker)
 
 } // namespace
 
-PlixJpegPixels ReadJpegPixels(const QByteArray& bytes)
+PlixStrippedJpeg StripJpegMetadata(const QByteArray& bytes)
 {
     constexpr int kEndOfImage = 0xD9;
     constexpr int kStartOfScan = 0xDA;
-    PlixJpegPixels pixels;
+    PlixStrippedJpeg jpeg;
     int keptUpTo = 0;
     int at = FindMarker(bytes, kMarkerBytes);
     while (at < bytes.size()) {
@@ -64,15 +64,15 @@ PlixJpegPixels ReadJpegPixels(const QByteArray& bytes)
             break;
         const int end = IsBare(marker) ? at + kMarkerBytes : SegmentEnd(bytes, at);
         if (marker == kStartOfScan)
-            ++pixels.scans;
+            ++jpeg.scans;
         if (!IsNeeded(marker)) {
-            pixels.bytes.append(bytes.constData() + keptUpTo, at - keptUpTo);
+            jpeg.bytes.append(bytes.constData() + keptUpTo, at - keptUpTo);
             keptUpTo = end;
         }
         at = FindMarker(bytes, end);
     }
-    pixels.bytes.append(bytes.constData() + keptUpTo, bytes.size() - keptUpTo);
-    return pixels;
+    jpeg.bytes.append(bytes.constData() + keptUpTo, bytes.size() - keptUpTo);
+    return jpeg;
 }
 
 } // namespace plix

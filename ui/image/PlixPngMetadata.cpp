@@ -1,4 +1,4 @@
-#include "ui/image/PlixPngPixels.h"
+#include "ui/image/PlixPngMetadata.h"
 
 #include <QList>
 #include <QtEndian>
@@ -7,12 +7,12 @@
 
 namespace plix {
 
-QByteArray PngPixelsOnly(const QByteArray& bytes)
+QByteArray StripPngMetadata(const QByteArray& bytes)
 {
     constexpr int kSignature = 8;
     constexpr int kHead = 8; // length and type
     constexpr int kChecksum = 4;
-    // These may be there once.
+    // One chunk of each of these is kept.
     QList<QByteArray> wanted {"IHDR", "PLTE", "tRNS", "IEND"};
     QByteArray kept = bytes.left(kSignature);
     int at = kSignature;
