@@ -15,8 +15,8 @@
 
 namespace {
 
-// A click may end this far outside of its item: items need not lie on whole
-// pixels of the view, where the mouse is.
+// A click may end this far outside of its item: the mouse is on whole pixels of the
+// view, and the edges of items need not be.
 constexpr double kClickMargin = 1;
 
 } // namespace
@@ -85,14 +85,14 @@ void PlixBaseUI::ApplyPercentOffsets(const PlixDataItemCommon& data)
     PlixOffsets(data).ApplyPercentages(*GetYogaItem());
 }
 
-bool PlixBaseUI::TakesPresses() const
+bool PlixBaseUI::AcceptsPresses() const
 {
     return hasOwnAction_;
 }
 
 void PlixBaseUI::HandlePress(QGraphicsSceneMouseEvent& event) const
 {
-    event.setAccepted(TakesPresses() && event.button() == Qt::LeftButton);
+    event.setAccepted(AcceptsPresses() && event.button() == Qt::LeftButton);
 }
 
 void PlixBaseUI::HandleRelease(const QGraphicsSceneMouseEvent& event)

@@ -16,11 +16,11 @@ class QGraphicsLayoutItem;
 class QGraphicsSceneMouseEvent;
 class YogaLayoutItem;
 
-// What every drawn item of a card is, next to a graphics item and a layout
-// item: the link to its controller, its data and its host.
+// Base of every item of a card, next to a graphics item and a layout node: its link
+// to its controller, its data item and its host.
 //
-// An item holds no pointer to its data item. It finds it through the key that
-// its graphics item carries, so that items and data may go in any order.
+// An item holds no pointer to its data item. It finds that by the key that its
+// graphics item carries, so that both may be deleted in any order.
 class PlixBaseUI {
 public:
     using ClickFunc = std::function<void(ST_ACTION&)>;
@@ -36,12 +36,12 @@ public:
     virtual QGraphicsLayoutItem* GetLayoutItem() = 0;
     virtual YogaLayoutItem* GetYogaItem() = 0;
 
-    // The parent layout for items below this one: none, their parent item and
+    // The parent layout for the items below this one. Null: their parent item and
     // their layout node are enough.
     virtual QGraphicsLayoutItem* GetChildParentLayout();
 
-    // Applies the data item, before any child is added. False, and nothing
-    // changed, when the data is not of the kind that this item draws.
+    // Applies the data item. Called before any child is added. False, and nothing
+    // changed, if the data is not of the kind that this item draws.
     virtual bool Init();
 
     virtual void SetClickFunc(const ClickFunc& func);
@@ -51,18 +51,18 @@ public:
     // Whether a click on this item would reach the host.
     virtual bool HasAction();
 
-    // The controller that built the item, and may be freed before it.
+    // The controller that built the item. It may be freed before the item.
     void SetOwner(PlixDataController* owner);
     PlixDataController* GetOwner() const { return owner_; }
 
 protected:
-    // The data item as a `Data`; null when it is something else.
+    // The data item as a `Data`; null if it is of another type.
     template <typename Data> std::shared_ptr<Data> FindData()
     {
         return std::dynamic_pointer_cast<Data>(FindDataItem());
     }
 
-    // The owner, for as long as it is there.
+    // The owner; null once it is freed.
     PlixDataMgr* Manager() const;
 
     // Gives the node the margin, position and pixel offsets of `data`.
@@ -72,7 +72,7 @@ protected:
 
     // Whether the item accepts presses of the left button, so that nothing below
     // it is clicked. By default, it does if it has an action of its own.
-    virtual bool TakesPresses() const;
+    virtual bool AcceptsPresses() const;
 
     // The one rule for clicks. Accepts or ignores a press: Qt delivers the
     // release only to the item that accepted the press.
@@ -81,16 +81,16 @@ protected:
     // may delete this item meanwhile: return at once.
     void HandleRelease(const QGraphicsSceneMouseEvent& event);
 
-    // Gives the mouse grab back. Call it before the host learns of a mouse
-    // event: the host may run an event loop, or throw, and the scene would send
-    // every mouse event to this item until then.
+    // Gives the mouse grab back. Call it before the host learns of a mouse event:
+    // the host may run an event loop, or throw, and the scene would go on sending
+    // every mouse event to this item.
     void ReleaseMouse();
 
     bool actionSuppressed_ = false;
     bool clickable_ = false;
     ClickFunc clickFunc_;
-    // Whether a click on the item delivers its own action. A clickable item
-    // without one leaves its clicks to the box around it.
+    // Whether a click on the item delivers its own action. A text without one may
+    // be clickable, too: then the click is that of the box around it.
     bool hasOwnAction_ = false;
 
 private:

@@ -17,7 +17,7 @@
 
 namespace {
 
-// One padding given as a percentage, and how the node takes it.
+// One padding, and how the node takes it as a percentage.
 struct PercentPadding {
     PlixPadding (PlixDataBox::*padding)() const;
     void (YogaLayoutItem::*setPercent)(double);
@@ -104,8 +104,8 @@ void PlixBoxUI::InitSize(const PlixDataBox& data)
     const bool hasMainSize = horizontal_ ? width > 0 : height > 0;
     if (hasMainSize)
         setGrowFactor(0);
-    // Boxes that grow in a row share its free space from nothing, whatever
-    // they hold.
+    // With a zero basis, boxes that grow share the free space of a row without
+    // regard to their content.
     if (horizontal_ && grow_ > 0 && width <= 0 && !data.IsAbsolute())
         setWidth(0);
 }
@@ -115,7 +115,7 @@ void PlixBoxUI::InitBorder(const PlixDataBox& data)
     const int width = plix::ToBorderWidth(data.GetBorderWidth());
     if (width < 1 || data.GetBorderColor().empty())
         return;
-    // The pen runs along the edge and loses its outer half to the clip.
+    // The pen follows the edge, and the clip cuts its outer half off.
     border_.emplace(plix::ToColor(data.GetBorderColor()), width + 1.0);
     borderWidth_ = width;
 }
@@ -125,7 +125,7 @@ void PlixBoxUI::InitPaddings(const PlixDataBox& data)
     const int all = data.GetPaddingAll().px;
     if (all >= 0)
         setPadding(all);
-    // Content stays clear of the border.
+    // Paddings are inside of the border.
     const auto edge = [&](const PlixPadding& padding) -> double {
         if (padding.px >= 0)
             return static_cast<double>(padding.px) + borderWidth_;
@@ -226,7 +226,8 @@ void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
     if (!background_ && !border_)
         return;
     painter->save();
-    // By the item's own clip, a part may show a row of pixels more than the whole.
+    // With the item's own clip alone, a partial paint may show one more row of
+    // pixels than a paint of the whole.
     painter->setRenderHint(QPainter::Antialiasing, false);
     painter->setClipPath(plix::RectanglePath(rect()), Qt::IntersectClip);
     painter->setRenderHint(QPainter::Antialiasing);
@@ -242,24 +243,24 @@ void PlixBoxUI::PaintBackground(QPainter& painter, const QRectF& exposed) const
     const QPainterPath path = cornerRadius_ >= 1 ? plix::RoundedPath(rect(), cornerRadius_)
                                                  : plix::RectanglePath(exposed);
     painter.fillPath(path, *background_);
-    // With a border it is filled twice, which makes translucent ones denser.
+    // With a border, the path is filled twice: a translucent background is denser.
     if (border_)
         painter.fillPath(path, *background_);
 }
 
-// All of it, however little is exposed: the edges of a part are no border.
+// Paints the whole border, even if only a part is exposed: the edges of that part
+// have no border.
 void PlixBoxUI::PaintBorder(QPainter& painter) const
 {
-    // The item's clip takes away the outer half of the pen, but not at corners.
+    // The item's clip cuts the outer half of the pen off, except at round corners.
     if (cornerRadius_ >= 1)
         painter.fillPath(RoundedBorderPath(), border_->brush());
     else
         painter.strokePath(plix::RectanglePath(rect()), *border_);
 }
 
-// The inner half of the pen. A clip to the outline would take away the outer
-// half, too, but Qt forgets how soft the edges of a clip are where the part that
-// is painted leaves a rectangle of it.
+// The inner half of the pen. Not a clip to the outline, because Qt loses the soft
+// edges of a clip where the painted part sees a rectangle of it.
 QPainterPath PlixBoxUI::RoundedBorderPath() const
 {
     const double width = border_->widthF() / 2;

@@ -22,15 +22,15 @@ public:
 
     void addChild(YogaLayoutItem* child) override;
     int setHighlightText(const QStringList& words) override;
-    // Shows that a click anywhere in the box leads somewhere; once on, stays.
+    // True shows the pointing-hand cursor in the whole box; false changes nothing.
     void setClickable(bool on) override;
     void inheritCornerRadius(int radius) override;
 
     bool hasBackground() const { return background_.has_value(); }
     void setBackground(const QColor& color);
 
-    // A click that a child did not want: delivers the box's action, or passes
-    // the event on to the box around it.
+    // Handles a release that a child does not handle: delivers the box's own action,
+    // or passes the event on to the box around it.
     void handleRelease(QGraphicsSceneMouseEvent* event);
 
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;

@@ -9,7 +9,7 @@
 class PlixDataContainer;
 struct PlixZoneStyle;
 
-// The card itself: a column of zones on a rounded ground.
+// The card itself: a column of zones on a rounded background.
 class PlixBubbleUI : public PlixWidgetUI {
     Q_OBJECT
 
@@ -22,25 +22,25 @@ public:
     void addChild(YogaLayoutItem* child) override;
     int setHighlightText(const QStringList& words) override;
 
-    // Once the zones' items are there: gives them the grounds of the zone
-    // styles and puts separators between them.
+    // Gives the zones the backgrounds and separators of their styles. To be called
+    // when the items of the zones have been added.
     void arrangeZones();
 
-    // Until resumed. The colour rules are those of ToColor.
+    // Lasts until resumeBackgroundColor(). `color` is read by plix::ToColor().
     void setBackgroundColor(const std::string& color);
     void resumeBackgroundColor();
 
-    // Grows the body until the card is `height` pixels high, from the next
-    // layout on. 0 when done or already high enough, -1 without a body, as
-    // when the host has deleted its item.
+    // Makes the body higher, so that the card is `height` pixels high after the next
+    // layout. 0 on success, or if the card is that high already. -1 without a body:
+    // the card has none, or the host has deleted its item.
     int modifyHeight(int height);
 
     QPainterPath shape() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 private:
-    // How many items, from `index` on, belong to `zone`. Data that is not
-    // drawn has no item.
+    // How many child items belong to `zone`, counted from `index`. A data item that
+    // is not drawn has none.
     int ShownItems(const PlixDataContainer& zone, int index) const;
     void FillBackground(int index, const PlixZoneStyle& style);
     void InsertSeparator(int index, const PlixZoneStyle& style);

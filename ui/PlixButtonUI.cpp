@@ -22,12 +22,13 @@ namespace {
 constexpr int kSmallHeight = 40;
 constexpr int kHeight = 52;
 constexpr int kPlateRadius = 6;
-// Kept free around the label, both sides together.
-constexpr int kLabelRoom = 30;
-// No button shows more, and shaping it would take longer than anybody waits.
-constexpr int kLongestLabel = 1000;
+// Left and right of the label, both sides together.
+constexpr int kLabelPadding = 30;
+// In characters. No button is wide enough to show more, and shaping a very long
+// label would block the GUI thread.
+constexpr int kMaximumLabelLength = 1000;
 
-// What the card's "color" changes.
+// The part that the card's "color" changes.
 enum class Colored { Nothing, Plate, Label };
 
 struct Look {
@@ -46,7 +47,7 @@ constexpr std::array kLooks =
                                       {"secondary", {"#d8dee6", "black", Colored::Plate}},
                                       {"automatic", {"#ffffff", "#0087EE", Colored::Nothing}}});
 
-QString OnOneLine(QString text)
+QString WithoutLineBreaks(QString text)
 {
     for (QChar& character : text) {
         const bool endsLine = character == QLatin1Char('\n') || character == QLatin1Char('\r')
@@ -92,7 +93,8 @@ bool PlixButtonUI::Init()
 void PlixButtonUI::ApplyLabelWidth()
 {
     if (hasLabelWidth_)
-        setWidth(QFontMetrics(font_).horizontalAdvance(label_.left(kLongestLabel)) + kLabelRoom);
+        setWidth(QFontMetrics(font_).horizontalAdvance(label_.left(kMaximumLabelLength))
+                 + kLabelPadding);
 }
 
 void PlixButtonUI::InitLabel(const PlixDataButton& data)
@@ -110,7 +112,7 @@ void PlixButtonUI::InitLabel(const PlixDataButton& data)
             }
         }
     }
-    label_ = OnOneLine(QString::fromStdString(text));
+    label_ = WithoutLineBreaks(QString::fromStdString(text));
 }
 
 void PlixButtonUI::InitMouse()
@@ -126,9 +128,9 @@ void PlixButtonUI::InitMouse()
 void PlixButtonUI::InitLook(const PlixDataButton& data)
 {
     const Look look = plix::FindKeyword(kLooks, data.GetStyle()).value_or(kUnknown);
-    const auto color = [&](Colored part, const char* usual) {
+    const auto color = [&](Colored part, const char* fallback) {
         const bool isColored = look.colored == part && !data.GetColor().empty();
-        return isColored ? data.GetColor() : std::string(usual);
+        return isColored ? data.GetColor() : std::string(fallback);
     };
     plateColor_ = color(Colored::Plate, look.plate);
     textPen_.setColor(plix::ToColor(color(Colored::Label, look.label)));
@@ -170,9 +172,9 @@ void PlixButtonUI::FontChanged()
 
 QString PlixButtonUI::shownLabel() const
 {
-    QString label = label_.left(kLongestLabel);
+    QString label = label_.left(kMaximumLabelLength);
     const QFontMetrics metrics(font_);
-    const double available = size().width() - kLabelRoom;
+    const double available = size().width() - kLabelPadding;
     if (metrics.horizontalAdvance(label) <= available)
         return label;
     return metrics.elidedText(label, Qt::ElideRight, static_cast<int>(available));
@@ -188,7 +190,7 @@ void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWi
         painter->drawRoundedRect(rect(), kPlateRadius, kPlateRadius, Qt::AbsoluteSize);
     }
     // Labels in large letters are higher than the button. Qt clips them, too, but
-    // not everywhere to the same pixels, and with soft edges as those of the plate.
+    // not always to the same pixels, and with soft edges like those of the plate.
     painter->setRenderHint(QPainter::Antialiasing, false);
     painter->setClipPath(plix::RectanglePath(rect()), Qt::IntersectClip);
     painter->setPen(textPen_);

@@ -14,7 +14,7 @@
 
 class PlixDataButton;
 
-// A one-line label, on a rounded plate or on nothing, that is clicked.
+// A clickable label in one line, with or without a rounded plate behind it.
 class PlixButtonUI : public PlixWidgetUI, public KestroFontBindSupport {
     Q_OBJECT
     Q_PROPERTY(QString label READ label)
@@ -32,7 +32,7 @@ public:
     void FontChanged() override;
 
     QString label() const { return label_; }
-    // The label, elided where the button is too narrow for it.
+    // The label as it is drawn: elided if the button is too narrow.
     QString shownLabel() const;
     QFont labelFont() const { return font_; }
 
@@ -40,9 +40,9 @@ public:
     void setGeometry(const QRectF& rect) override;
 
 protected:
-    // Also while its action is unavailable: no click goes through a button to the
-    // box below.
-    bool TakesPresses() const override { return true; }
+    // Also if its action is unavailable: no click goes through a button to the box
+    // below.
+    bool AcceptsPresses() const override { return true; }
 
 private:
     void InitLabel(const PlixDataButton& data);
@@ -56,7 +56,7 @@ private:
     QString label_;
     QPen textPen_ {Qt::black};
     QFont font_;
-    // No plate while empty.
+    // Empty: no plate.
     std::string plateColor_;
     bool hasLabelWidth_ = false;
     bool geometryPending_ = true;

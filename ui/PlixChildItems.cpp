@@ -7,7 +7,7 @@ namespace plix {
 void StretchInColumn(YogaLayoutItem* child)
 {
     YGUnit unit = YGUnitUndefined;
-    const bool hasWidth = child->styleWidth(unit) >= 1; // not so for NaN, a width not set
+    const bool hasWidth = child->styleWidth(unit) >= 1; // false for NaN: not set
     if (!hasWidth && !child->widthIsPercent())
         child->setWidthPercent(100);
 }

@@ -5,12 +5,13 @@ class YogaLayoutItem;
 
 namespace plix {
 
-// What the bubble and its boxes do alike with their children.
+// What the bubble and boxes do with their children.
 
-// Children of a column take its full width unless they have a width.
+// Gives a child of a column the column's full width unless it has a width.
 void StretchInColumn(YogaLayoutItem* child);
 
-// Highlights `words` in every child; 1 when at least one shows one, else -1.
+// Highlights `words` in every child. 1 if at least one child shows one of them,
+// else -1.
 int HighlightChildren(const YogaLayoutItem& parent, const QStringList& words);
 
 } // namespace plix

@@ -2,7 +2,7 @@
 
 #include "ui/PlixWidgetUI.h"
 
-// Empty space that takes what is left over in its box.
+// Empty space that grows into the free space of its box.
 class PlixFillerUI : public PlixWidgetUI {
     Q_OBJECT
 

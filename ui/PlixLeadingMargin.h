@@ -4,8 +4,8 @@
 
 namespace plix {
 
-// The margin that separates an item from the one before it: above it in a
-// column, and in a row on the side where reading comes from.
+// Sets the margin between an item and the one before it: above it in a column, and
+// in a row on its left, or on its right in a right-to-left card.
 inline void SetLeadingMargin(YogaLayoutItem& item, double margin, bool inColumn, bool rightToLeft)
 {
     if (inColumn)

@@ -17,8 +17,8 @@ QPainterPath RectanglePath(const QRectF& rect)
 {
     QPainterPath path;
     path.addRect(rect);
-    // One element more than what Qt takes for a rectangle. It encloses nothing, so
-    // that the path is the rectangle to the mouse, too.
+    // With one more element, Qt does not recognize the rectangle. The element encloses
+    // nothing, so contains() is right, too.
     path.moveTo(rect.topLeft());
     return path;
 }

@@ -5,13 +5,13 @@
 
 namespace plix {
 
-// A rounded rectangle whose corners take up its whole height at most.
+// A rounded rectangle. The radius is at most half of its height.
 QPainterPath RoundedPath(const QRectF& rect, double radius);
 
-// A rectangle for a painter to clip to. Qt clips to it as to any other path: to
-// the pixels whose middle is inside. A plain rectangle it rounds outwards to whole
-// pixels, but only where nothing else is clipped to that is no rectangle: so a
-// paint of a part would show other pixels than a paint of the whole.
+// A rectangle for a painter to clip to. Qt clips to it as to any other path: to the
+// pixels whose center is inside. Qt would round a plain rectangle outwards to whole
+// pixels, but not if the clip around it is not rectangular. So a partial paint would
+// show other pixels than a paint of the whole.
 QPainterPath RectanglePath(const QRectF& rect);
 
 } // namespace plix

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-// A line of one pixel across its box, or between two zones of a bubble.
+// A line, one pixel thick, across its box or between two zones of a bubble.
 class PlixSeparatorUI : public PlixWidgetUI {
     Q_OBJECT
 

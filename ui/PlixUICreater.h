@@ -9,13 +9,13 @@ class PlixBaseUI;
 class QGraphicsItem;
 class QGraphicsLayoutItem;
 
-// Makes the item that draws a kind of data item.
+// Creates the item that draws a kind of data item.
 class PlixUICreater {
 public:
     static PlixUICreater& GetInstance();
 
-    // A new item, owned by `parentItem` or, without one, by the caller. Null
-    // for a kind that is not drawn.
+    // A new item. `parentItem` owns it or, if that is null, the caller. Null for a
+    // kind that is not drawn.
     PlixBaseUI* Create(int kind, QGraphicsItem* parentItem, QGraphicsLayoutItem* parentLayout,
                        const PlixDisplayParam& param) const;
 

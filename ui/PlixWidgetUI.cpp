@@ -9,11 +9,11 @@ PlixWidgetUI::PlixWidgetUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLay
         setParentLayoutItem(parentLayout);
 }
 
-// The host may have made an item movable or selectable that is not clicked: its
-// events are the base's.
+// An item that accepts no presses leaves its events to Qt: the host may have made it
+// movable or selectable.
 void PlixWidgetUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
-    if (TakesPresses())
+    if (AcceptsPresses())
         HandlePress(*event);
     else
         QGraphicsWidget::mousePressEvent(event);
@@ -21,7 +21,7 @@ void PlixWidgetUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
 
 void PlixWidgetUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
-    if (TakesPresses())
+    if (AcceptsPresses())
         HandleRelease(*event);
     else
         QGraphicsWidget::mouseReleaseEvent(event);

@@ -5,8 +5,8 @@
 
 #include <QGraphicsWidget>
 
-// The three faces that every drawn item but the text has in one object: a Qt
-// widget, a layout node that places it, and an item of a card.
+// Base of every item of a card except texts: a Qt widget, the layout node that
+// places it, and an item of a card, in one object.
 class PlixWidgetUI : public QGraphicsWidget, public YogaLayoutItem, public PlixBaseUI {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
     YogaLayoutItem* GetYogaItem() override { return this; }
 
 protected:
-    // `parent` owns the item; without one it is its creator's.
+    // `parent` owns the item or, if it is null, the caller.
     PlixWidgetUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout);
 
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;

@@ -6,11 +6,11 @@
 
 namespace plix {
 
-// The size table that texts, spans and icons share: "xxs" 11 ... "5xl" 74
-// pixels, 16 for no word and for any other.
+// The size in pixels for a "size" of a text, span, button or icon: "xxs" 11 ...
+// "5xl" 74, 16 for any other word and for none.
 int ToTextPixels(const std::string& size);
 
-// Sets what the words say; a word that says nothing changes nothing.
+// Sets the properties below. Any other word changes nothing.
 //   weight      "bold"
 //   decoration  "line-through" or "underline"
 //   style       "italic"

@@ -6,16 +6,16 @@ namespace plix {
 
 namespace {
 
-// Where the first `opener` ends, beyond the end of the text if there is none.
+// The position where the first `opener` ends; the end of the text if there is none.
 int EndOfFirst(const QString& opener, const QString& text)
 {
     const int start = text.indexOf(opener);
     return start < 0 ? text.size() : start + opener.size();
 }
 
-// Anything may stand between an opener and a closer, so the first of the one
-// and the last of the other decide.
-bool HasFrom(int position, const QString& closer, const QString& text)
+// Anything may stand between opener and closer. So it is enough to compare the first
+// opener with the last closer.
+bool HasCloserFrom(int position, const QString& closer, const QString& text)
 {
     return text.lastIndexOf(closer) >= position;
 }
@@ -26,9 +26,9 @@ bool HasMarkup(const QString& text)
 {
     const int emoji = EndOfFirst(QStringLiteral("<e"), text);
     const int mention = EndOfFirst(QStringLiteral("<m"), text);
-    return HasFrom(std::min(emoji, mention), QStringLiteral("/>"), text)
-        || HasFrom(emoji, QStringLiteral("</e>"), text)
-        || HasFrom(mention, QStringLiteral("</m>"), text);
+    return HasCloserFrom(std::min(emoji, mention), QStringLiteral("/>"), text)
+        || HasCloserFrom(emoji, QStringLiteral("</e>"), text)
+        || HasCloserFrom(mention, QStringLiteral("</m>"), text);
 }
 
 QString EscapeMarkup(const QString& text)
@@ -37,7 +37,7 @@ QString EscapeMarkup(const QString& text)
         QLatin1String before;
         QLatin1String after;
     };
-    // The order matters: first what was escaped is undone, then all is escaped.
+    // The order matters: entities are undone first, then everything is escaped.
     static const Replacement replacements[] = {
         {QLatin1String("&lt;"), QLatin1String("<")},  {QLatin1String("&gt;"), QLatin1String(">")},
         {QLatin1String("&amp;"), QLatin1String("&")}, {QLatin1String("&"), QLatin1String("&amp;")},

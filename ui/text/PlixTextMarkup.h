@@ -4,13 +4,13 @@
 
 namespace plix {
 
-// Whether `text` carries an element of the inline markup: what QRegExp finds
-// with "<[em].*/>|<e.*</e>|<m.*</m>", case-sensitively, but in linear time.
+// Whether `text` contains an element of the inline markup. The same answer as the
+// case-sensitive QRegExp "<[em].*/>|<e.*</e>|<m.*</m>", but in linear time.
 bool HasMarkup(const QString& text);
 
-// `text` with "&", "<" and ">" written as entities. What a sender has escaped
-// already is undone first, so that nothing is escaped twice; a text that spells
-// an escaped entity on purpose pays for that and is read as the entity.
+// `text` with "&", "<" and ">" as entities. Entities that the sender has written are
+// undone first, so that nothing is escaped twice. So a text that means to show an
+// entity literally cannot: it is read as the entity.
 QString EscapeMarkup(const QString& text);
 
 } // namespace plix

@@ -32,14 +32,14 @@ namespace {
 constexpr char kOthersColor[] = "#767676";
 constexpr char kOwnColor[] = "#0087EE";
 constexpr int kFromMyself = 1;
-// Rectangles are rounded outwards to whole pixels, by less than this on either
-// side. A text keeps the fractions that it was measured with, since in another
-// width, however little, it may break into other lines.
+// Yoga rounds rectangles outwards to whole pixels, by less than this on each side. A
+// text keeps the exact width that it was measured with: in another one, it may break
+// into other lines.
 constexpr double kRounding = 1;
 constexpr char kHighlightColor[] = "#118DFF";
 
-// A box that is as wide as its content asks for. Its texts must not wait for
-// free space to grow into, since they are all that could make some.
+// Whether the box is only as wide as its content. Then it has no free space that
+// its texts could share.
 bool IsShrinkWrapped(const PlixDataBox& box)
 {
     const std::shared_ptr<PlixDataBox> parent = plix::ParentBox(box);
@@ -177,7 +177,7 @@ void PlixTextUI::InsertSpan(const PlixDataSpan& span)
         spanFont.setPixelSize(plix::ToTextPixels(span.GetSize()));
     QTextCharFormat format;
     format.setFont(spanFont);
-    // The family is the item's, which follows the host's.
+    // Without a family of its own, a span has the item's, which follows the host's.
     format.clearProperty(QTextFormat::FontFamily);
     format.clearProperty(QTextFormat::FontFamilies);
     format.setForeground(span.GetColor().empty() ? defaultTextColor()
@@ -247,14 +247,13 @@ double PlixTextUI::NaturalWidth()
     SetMaxLineCount(0);
     double width = boundingRect().width();
     if (!wrap_ && ShownLineCount() > 1) {
-        // Of several lines the first one is shown, and its ellipsis takes room.
+        // Only the first line is shown, and it needs room for its ellipsis.
         SetMaxLineCount(1);
         width = std::max(width, boundingRect().width());
     }
     SetMaxLineCount(maxLines_);
     SetFixedItemWidth(shownWidth);
-    // Layouts are rounded to whole pixels: a fraction lost there would cost the
-    // text its last word.
+    // Yoga rounds to whole pixels: without the fraction, the last word would not fit.
     return std::ceil(width);
 }
 
@@ -374,7 +373,7 @@ bool PlixTextUI::HasStyleWidth(double width) const
 
 float PlixTextUI::baseline(double, double)
 {
-    // Of the first line: taller glyphs than the font's own push it down.
+    // Of the first line, which taller glyphs than the font's own move down.
     return static_cast<float>(std::trunc(topOffset_ + FirstLineAscent()));
 }
 
@@ -397,7 +396,7 @@ QRectF PlixTextUI::ClippedToParent(const QRectF& rect) const
 
 void PlixTextUI::setGeometry(const QRectF& rect)
 {
-    // Only a zone's own top item has paddings; everywhere else this is `rect`.
+    // Only a text at the top of a zone has paddings.
     const QRectF given =
         rect.adjusted(YogaLayoutItem::paddingLeft(), YogaLayoutItem::paddingTop(),
                       -YogaLayoutItem::paddingRight(), -YogaLayoutItem::paddingBottom());
@@ -413,8 +412,8 @@ void PlixTextUI::setGeometry(const QRectF& rect)
         if (!HasStyleWidth(clipped.width()))
             changeWidth(clipped.width());
     } else if (given.width() - shown >= 2 * kRounding) {
-        // Measured last for another width than the layout settled on, or, its
-        // size being fixed, never.
+        // The last measurement was for another width, or, if the size is fixed,
+        // there was none.
         SetFixedItemWidth(clipped.width());
     } else {
         SetFixedItemWidth(shown);
@@ -428,7 +427,7 @@ void PlixTextUI::setGeometry(const QRectF& rect)
         markDirty();
         parent->relayoutInPlace();
     }
-    // Last: who is told of it may delete the text.
+    // Last, because it tells the host, who may delete the text.
     setPos(given.left(), given.top() + topOffset_);
 }
 
@@ -438,7 +437,7 @@ void PlixTextUI::PlaceVertically(double available)
         std::max(static_cast<int>(boundingRect().height()), QFontMetrics(font()).height());
     QTextFrame* const root = document()->rootFrame();
     QTextFrameFormat format = root->frameFormat();
-    // What an earlier placement has set does not count.
+    // Undo the earlier placement.
     format.clearProperty(QTextFormat::FrameHeight);
     format.setTopMargin(document()->documentMargin());
     if (!baseline_ && available > textHeight_) {
@@ -463,7 +462,7 @@ void PlixTextUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
 
 void PlixTextUI::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
 {
-    // The second press of two quick clicks.
+    // Qt sends this instead of the second press of a double click.
     if (clickable_)
         mousePressEvent(event);
     else
@@ -478,7 +477,7 @@ void PlixTextUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
         HandleRelease(*event);
         return;
     }
-    const QPointer<PlixTextUI> self(this); // the host may do anything about a mention
+    const QPointer<PlixTextUI> self(this); // the host may delete it on a mention
     TextItem::mouseReleaseEvent(event);
     if (!self)
         return;

@@ -9,7 +9,7 @@ class PlixDataBox;
 class PlixDataSpan;
 class PlixDataText;
 
-// A text of a card, in one format or in spans.
+// The "text" component: a text in one format, or in spans.
 class PlixTextUI : public TextItem, public YogaLayoutItem, public PlixBaseUI {
     Q_OBJECT
 
@@ -25,18 +25,18 @@ public:
     void SetClickFunc(const ClickFunc& func) override;
     void SetFrom(int from) override;
 
-    // Shows that a click leads somewhere; false changes nothing.
+    // True shows the pointing-hand cursor; false changes nothing.
     void setClickable(bool on) override;
 
-    // 1 when one of the words occurs in the text, shown or not, else -1.
+    // 1 if the text contains one of the words, even where it is elided; else -1.
     int setHighlightText(const QStringList& words) override;
     int SetHighLightText(const QStringList& words) { return setHighlightText(words); }
 
-    // Follows the host's font family while font binding is on. The text is shown
-    // in it at once, in the rectangle that it has; the next layout gives it another.
+    // Follows the host's font family while font binding is on. The text is drawn in
+    // it at once, inside its rectangle; the next layout changes the rectangle.
     void FontChanged() override;
 
-    // A wrapped text that is measured at width 0 is emptied for good.
+    // A wrapped text that is measured at width 0 loses its content.
     QSizeF measure(double width, YGMeasureMode widthMode, double height,
                    YGMeasureMode heightMode) override;
     float baseline(double width, double height) override;
@@ -72,18 +72,18 @@ private:
     void InitWidth(const PlixDataText& data, const Place& place);
     void InitLines(const PlixDataText& data);
     void KeepSides(const PlixDataText& data, const Place& place);
-    // What the text takes up where nothing limits it, in whole pixels.
+    // The width of the text without any limit, in whole pixels.
     double NaturalWidth();
-    // Whether `text` has to be escaped to be shown as it stands.
+    // Whether `text` must be escaped so that it is shown literally.
     bool NeedsEscaping(const QString& text) const;
 
-    // Every insertion goes through here; null: the item's own format.
+    // Every insertion ends here. A null format: the item's own.
     void InsertText(const std::string& text, const QTextCharFormat* format = nullptr);
     void InsertSpan(const PlixDataSpan& span);
 
-    // Shows as many lines as there is room for, until the next layout.
+    // Shows only the lines that fit, until the next layout.
     void LimitLinesToRectangle();
-    // The parent's width inside its paddings, 0 while it is not known.
+    // The parent's width inside its paddings; 0 while it is not known.
     double ParentInnerWidth() const;
     QRectF ClippedToParent(const QRectF& rect) const;
     bool HasStyleWidth(double width) const;
@@ -98,6 +98,6 @@ private:
     // The share of the free height that lies above the text.
     double shareAbove_ = 0;
     int textHeight_ = 0;
-    // How far the item stands below the top of its rectangle.
+    // From the top of the item's rectangle down to the item.
     double topOffset_ = 0;
 };
