@@ -2,15 +2,17 @@
 
 #include <QTextFormat>
 
-// The library's own properties of text formats.
-namespace kestro::TextProperty {
+namespace kestro {
 
-enum {
-    MentionIsBot = QTextFormat::UserProperty + 1,
-    MentionUserNo,
-    MentionId,
-    EmojiCharacters,
-    EmojiPicture,
+// The library's own properties of text formats.
+struct TextProperty {
+    enum {
+        MentionIsBot = QTextFormat::UserProperty + 1,
+        MentionUserNo,
+        MentionId,
+        EmojiCharacters,
+        EmojiPicture,
+    };
 };
 
-} // namespace kestro::TextProperty
+} // namespace kestro

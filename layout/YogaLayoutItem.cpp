@@ -110,7 +110,7 @@ YogaLayoutItem::~YogaLayoutItem()
         return;
     if (YogaLayoutItem* parent = parentItem())
         parent->hasChanged_ = true;
-    YogaNodeRegistry::GetInstance().Remove(node_);
+    YogaNodeRegistry::GetInstance().remove(node_);
     YGNodeFree(node_);
 }
 
@@ -131,7 +131,7 @@ void YogaLayoutItem::insertNode(YogaLayoutItem* child, int index)
         throw std::invalid_argument("An item cannot be put into nothing or into itself.");
     const int place = std::clamp(index, 0, childCount());
     YGNodeInsertChild(node_, child->node_, static_cast<std::size_t>(place));
-    YogaNodeRegistry::GetInstance().Add(child->node_, child);
+    YogaNodeRegistry::GetInstance().add(child->node_, child);
     hasChanged_ = true;
 }
 
@@ -235,7 +235,7 @@ void YogaLayoutItem::setHasBaselineFunc(bool has)
 YGSize YogaLayoutItem::MeasureCallback(YGNodeConstRef node, float width, YGMeasureMode widthMode,
                                        float height, YGMeasureMode heightMode)
 {
-    YogaLayoutItem* item = YogaNodeRegistry::GetInstance().Find(node);
+    YogaLayoutItem* item = YogaNodeRegistry::GetInstance().find(node);
     if (!item)
         return {width, height};
     QSizeF size(width, height);
@@ -245,7 +245,7 @@ YGSize YogaLayoutItem::MeasureCallback(YGNodeConstRef node, float width, YGMeasu
 
 float YogaLayoutItem::BaselineCallback(YGNodeConstRef node, float width, float height)
 {
-    YogaLayoutItem* item = YogaNodeRegistry::GetInstance().Find(node);
+    YogaLayoutItem* item = YogaNodeRegistry::GetInstance().find(node);
     float baseline = height;
     if (item)
         plix::CatchExceptions([&] { baseline = item->baseline(width, height); });
@@ -446,7 +446,7 @@ YogaLayoutItem* YogaLayoutItem::childAt(int index) const
 {
     if (!node_ || index < 0)
         return nullptr;
-    return YogaNodeRegistry::GetInstance().Find(
+    return YogaNodeRegistry::GetInstance().find(
         YGNodeGetChild(node_, static_cast<std::size_t>(index)));
 }
 
@@ -457,7 +457,7 @@ int YogaLayoutItem::childCount() const
 
 YogaLayoutItem* YogaLayoutItem::parentItem() const
 {
-    return node_ ? YogaNodeRegistry::GetInstance().Find(YGNodeGetParent(node_)) : nullptr;
+    return node_ ? YogaNodeRegistry::GetInstance().find(YGNodeGetParent(node_)) : nullptr;
 }
 
 QRectF YogaLayoutItem::geometry() const

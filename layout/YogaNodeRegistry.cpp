@@ -7,17 +7,17 @@ YogaNodeRegistry& YogaNodeRegistry::GetInstance()
     return *instance;
 }
 
-void YogaNodeRegistry::Add(YGNodeConstRef node, YogaLayoutItem* item)
+void YogaNodeRegistry::add(YGNodeConstRef node, YogaLayoutItem* item)
 {
     items_[node] = item;
 }
 
-void YogaNodeRegistry::Remove(YGNodeConstRef node)
+void YogaNodeRegistry::remove(YGNodeConstRef node)
 {
     items_.erase(node);
 }
 
-YogaLayoutItem* YogaNodeRegistry::Find(YGNodeConstRef node) const
+YogaLayoutItem* YogaNodeRegistry::find(YGNodeConstRef node) const
 {
     const auto found = items_.find(node);
     return found == items_.end() ? nullptr : found->second;

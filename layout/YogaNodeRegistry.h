@@ -12,10 +12,10 @@ class YogaNodeRegistry {
 public:
     static YogaNodeRegistry& GetInstance();
 
-    void Add(YGNodeConstRef node, YogaLayoutItem* item);
-    void Remove(YGNodeConstRef node);
+    void add(YGNodeConstRef node, YogaLayoutItem* item);
+    void remove(YGNodeConstRef node);
     // Null for a node that is not registered, and for a null node.
-    YogaLayoutItem* Find(YGNodeConstRef node) const;
+    YogaLayoutItem* find(YGNodeConstRef node) const;
 
 private:
     YogaNodeRegistry() = default;

@@ -49,7 +49,7 @@ bool PlixBoxUI::Init()
     baseline_ = data->IsBaseline();
     rightToLeft_ = plix::IsInRightToLeftBubble(*data);
     if (!data->GetBackgroundColor().empty())
-        setBackground(plix::ToColor(data->GetBackgroundColor()));
+        SetBackground(plix::ToColor(data->GetBackgroundColor()));
     cornerRadius_ = plix::ToCornerRadius(data->GetCornerRadius());
     grow_ = data->GetGrow();
     setGrowFactor(grow_);
@@ -200,7 +200,7 @@ void PlixBoxUI::inheritCornerRadius(int radius)
     cornerRadius_ = std::max(cornerRadius_, radius);
 }
 
-void PlixBoxUI::setBackground(const QColor& color)
+void PlixBoxUI::SetBackground(const QColor& color)
 {
     background_.emplace(color, Qt::SolidPattern);
     update();
@@ -208,17 +208,17 @@ void PlixBoxUI::setBackground(const QColor& color)
 
 void PlixBoxUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
-    handleRelease(event);
+    HandleReleaseInside(event);
 }
 
-void PlixBoxUI::handleRelease(QGraphicsSceneMouseEvent* event)
+void PlixBoxUI::HandleReleaseInside(QGraphicsSceneMouseEvent* event)
 {
     if (clickOwnedAbove_)
         return;
     if (hasOwnAction_)
         HandleRelease(*event);
     else if (auto* box = dynamic_cast<PlixBoxUI*>(YogaLayoutItem::parentItem()))
-        box->handleRelease(event);
+        box->HandleReleaseInside(event);
 }
 
 void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*)

@@ -26,12 +26,12 @@ public:
     void setClickable(bool on) override;
     void inheritCornerRadius(int radius) override;
 
-    bool hasBackground() const { return background_.has_value(); }
-    void setBackground(const QColor& color);
+    bool HasBackground() const { return background_.has_value(); }
+    void SetBackground(const QColor& color);
 
     // Handles a release that a child does not handle: delivers the box's own action,
     // or passes the event on to the box around it.
-    void handleRelease(QGraphicsSceneMouseEvent* event);
+    void HandleReleaseInside(QGraphicsSceneMouseEvent* event);
 
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 

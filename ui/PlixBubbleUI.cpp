@@ -99,8 +99,8 @@ int PlixBubbleUI::ShownItems(const PlixDataContainer& zone, int index) const
 void PlixBubbleUI::FillBackground(int index, const PlixZoneStyle& style)
 {
     auto* const box = dynamic_cast<PlixBoxUI*>(childAt(index));
-    if (box && !box->hasBackground() && !style.backgroundColor.empty())
-        box->setBackground(plix::ToColor(style.backgroundColor));
+    if (box && !box->HasBackground() && !style.backgroundColor.empty())
+        box->SetBackground(plix::ToColor(style.backgroundColor));
 }
 
 void PlixBubbleUI::InsertSeparator(int index, const PlixZoneStyle& style)

@@ -297,11 +297,11 @@ public:
     }
     int setHighlightText(const QStringList& words) override
     {
-        words_ = words;
+        recorded = words;
         return 1;
     }
 
-    QStringList words_;
+    QStringList recorded;
 };
 
 TEST_F(PlixDataMgrTest, HighlightPassesWordsInOrderAndReturnsTheResult)
@@ -312,10 +312,10 @@ TEST_F(PlixDataMgrTest, HighlightPassesWordsInOrderAndReturnsTheResult)
     card.ui<PlixBubbleUI>({})->addChild(&recorder);
     EXPECT_EQ(Plix_SetHighLightText(card.controller(), {"two", "caf\xC3\xA9", "one"}), 1);
     EXPECT_EQ(
-        recorder.words_,
+        recorder.recorded,
         (QStringList {QStringLiteral("two"), QStringLiteral("caf\u00e9"), QStringLiteral("one")}));
     EXPECT_EQ(Plix_SetHighLightText(card.controller(), {}), 1);
-    EXPECT_TRUE(recorder.words_.isEmpty());
+    EXPECT_TRUE(recorder.recorded.isEmpty());
 }
 
 // ---- callbacks ----

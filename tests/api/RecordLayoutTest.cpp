@@ -51,20 +51,20 @@ TEST(ActionRecord, HasFixedOffsets)
     EXPECT_EQ(sizeof(PlixLanguageMap), kMap);
     EXPECT_EQ(sizeof(ST_ACTION), kAction);
 
-    constexpr std::string ST_ACTION::*strings[] = {
+    constexpr std::string ST_ACTION::*kStrings[] = {
         &ST_ACTION::type,       &ST_ACTION::label,  &ST_ACTION::text,      &ST_ACTION::displayText,
         &ST_ACTION::uri,        &ST_ACTION::pcUri,  &ST_ACTION::webUri,    &ST_ACTION::appUri,
         &ST_ACTION::androidUri, &ST_ACTION::iosUri, &ST_ACTION::pcAuthUri, &ST_ACTION::copyText,
         &ST_ACTION::data,       &ST_ACTION::mode,   &ST_ACTION::initial,   &ST_ACTION::max,
         &ST_ACTION::min};
-    constexpr PlixLanguageMap ST_ACTION::*maps[] = {&ST_ACTION::i18nLabels, &ST_ACTION::i18nTexts,
-                                                    &ST_ACTION::i18nDisplayTexts};
+    constexpr PlixLanguageMap ST_ACTION::*kMaps[] = {&ST_ACTION::i18nLabels, &ST_ACTION::i18nTexts,
+                                                     &ST_ACTION::i18nDisplayTexts};
     std::size_t expected = 0;
-    for (const auto field : strings) {
+    for (const auto field : kStrings) {
         EXPECT_EQ(offsetOf(field), expected);
         expected += kString;
     }
-    for (const auto field : maps) {
+    for (const auto field : kMaps) {
         EXPECT_EQ(offsetOf(field), expected);
         expected += kMap;
     }

@@ -12,7 +12,7 @@
 namespace plix::test {
 namespace {
 
-const QVector<QRgb> palette {qRgba(0, 0, 0, 0), qRgb(255, 0, 0), qRgb(0, 255, 0), qRgb(0, 0, 255)};
+const QVector<QRgb> kPalette {qRgba(0, 0, 0, 0), qRgb(255, 0, 0), qRgb(0, 255, 0), qRgb(0, 0, 255)};
 
 QImage filled(const QSize& size, QRgb color)
 {
@@ -41,23 +41,23 @@ private:
 
 TEST(GifWriter, WritesFramesWithTheirTimes)
 {
-    GifWriter writer({5, 3}, palette);
-    writer.addFrame(filled({5, 3}, palette[1]), 100);
-    writer.addFrame(filled({5, 3}, palette[3]), 250);
+    GifWriter writer({5, 3}, kPalette);
+    writer.addFrame(filled({5, 3}, kPalette[1]), 100);
+    writer.addFrame(filled({5, 3}, kPalette[3]), 250);
     ReadBack file(writer.finish());
     EXPECT_EQ(file.reader().imageCount(), 2);
     EXPECT_EQ(file.reader().size(), QSize(5, 3));
-    EXPECT_EQ(file.next(), filled({5, 3}, palette[1]));
+    EXPECT_EQ(file.next(), filled({5, 3}, kPalette[1]));
     EXPECT_EQ(file.reader().nextImageDelay(), 100);
-    EXPECT_EQ(file.next(), filled({5, 3}, palette[3]));
+    EXPECT_EQ(file.next(), filled({5, 3}, kPalette[3]));
     EXPECT_EQ(file.reader().nextImageDelay(), 250);
 }
 
 TEST(GifWriter, WritesTheNumberOfRepetitions)
 {
     for (const int repetitions : {GifWriter::endless, 1, 300}) {
-        GifWriter writer({1, 1}, palette, repetitions);
-        writer.addFrame(filled({1, 1}, palette[1]), 100);
+        GifWriter writer({1, 1}, kPalette, repetitions);
+        writer.addFrame(filled({1, 1}, kPalette[1]), 100);
         ReadBack file(writer.finish());
         file.next();
         const int counted = file.reader().loopCount();
@@ -67,13 +67,13 @@ TEST(GifWriter, WritesTheNumberOfRepetitions)
 
 TEST(GifWriter, KeepsTransparentPixels)
 {
-    QImage frame = filled({4, 4}, palette[2]);
+    QImage frame = filled({4, 4}, kPalette[2]);
     frame.setPixelColor(1, 2, Qt::transparent);
-    GifWriter writer({4, 4}, palette);
+    GifWriter writer({4, 4}, kPalette);
     writer.addFrame(frame, 100);
     const QImage read = ReadBack(writer.finish()).next();
     EXPECT_EQ(read.pixelColor(1, 2).alpha(), 0);
-    EXPECT_EQ(read.pixelColor(2, 1), QColor(palette[2]));
+    EXPECT_EQ(read.pixelColor(2, 1), QColor(kPalette[2]));
 }
 
 // Readers expect the end code with as many bits as the codes before it require: five
@@ -83,8 +83,8 @@ TEST(GifWriter, WritesTheEndCodeWithTheRightWidth)
     const std::vector<int> runs {0, 0, 1, 0, 2, 0, 3, 1, 1, 2, 1};
     QImage frame(static_cast<int>(runs.size()), 1, QImage::Format_ARGB32);
     for (int x = 0; x < frame.width(); ++x)
-        frame.setPixel(x, 0, palette[runs[static_cast<std::size_t>(x)]]);
-    GifWriter writer(frame.size(), palette);
+        frame.setPixel(x, 0, kPalette[runs[static_cast<std::size_t>(x)]]);
+    GifWriter writer(frame.size(), kPalette);
     writer.addFrame(frame, 100);
     // Two bits per pixel, seven bytes, the end of the blocks, the end of the file.
     EXPECT_TRUE(writer.finish().endsWith(QByteArray::fromHex("020704020213215100003b")));

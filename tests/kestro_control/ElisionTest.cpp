@@ -17,9 +17,9 @@
 
 namespace {
 
-const QString ellipsis(QChar(0x2026));
+const QString kEllipsis(QChar(0x2026));
 // Breaks a line as wrapping does, within its paragraph.
-const QString lineSeparator = QChar(QChar::LineSeparator);
+const QString kLineSeparator = QChar(QChar::LineSeparator);
 
 struct ElisionItem : TextItem {
     explicit ElisionItem(const QString& text = QString(), int pixelSize = 20)
@@ -30,7 +30,7 @@ struct ElisionItem : TextItem {
         InsertRichText(text, true);
     }
 
-    void SetTextOption(Qt::LayoutDirection direction, Qt::Alignment alignment)
+    void setTextOption(Qt::LayoutDirection direction, Qt::Alignment alignment)
     {
         QTextOption option = document()->defaultTextOption();
         option.setTextDirection(direction);
@@ -55,7 +55,7 @@ QImage pictureOf(const QString& text, qreal width)
     ElisionItem item(text);
     item.SetWrapMode(QTextOption::NoWrap);
     item.SetFixedItemWidth(width);
-    return Ink(item).Picture();
+    return Ink(item).picture();
 }
 
 qreal naturalWidth(const QString& text)
@@ -72,11 +72,11 @@ QString trimmedEnd(QString text)
 
 QString longestElided(const QStringList& characters, qreal width)
 {
-    QString best = ellipsis;
+    QString best = kEllipsis;
     QString start;
     for (const QString& character : characters) {
         start += character;
-        const QString elided = trimmedEnd(start) + ellipsis;
+        const QString elided = trimmedEnd(start) + kEllipsis;
         if (naturalWidth(elided) <= width)
             best = elided;
     }
@@ -111,11 +111,11 @@ protected:
         characters_ = characters_ + characters_ + characters_;
     }
 
-    QString Text() const { return characters_.join(QString()); }
+    QString text() const { return characters_.join(QString()); }
 
-    void Prepare(ElisionItem& item) const
+    void prepare(ElisionItem& item) const
     {
-        item.SetTextOption(GetParam().direction, GetParam().alignment);
+        item.setTextOption(GetParam().direction, GetParam().alignment);
     }
 
     QStringList characters_;
@@ -127,47 +127,47 @@ TEST_P(ElisionOfScript, ShowsAsManyWholeCharactersAsFit)
                       QTextOption::WrapAtWordBoundaryOrAnywhere}) {
         for (qreal width : {20.0, 47.0, 80.5, 128.0, 211.0}) {
             SCOPED_TRACE(testing::Message() << "width " << width << ", wrap mode " << mode);
-            ASSERT_GT(naturalWidth(Text()), width);
-            ElidedItem item(Text(), width);
-            Prepare(item);
+            ASSERT_GT(naturalWidth(text()), width);
+            ElidedItem item(text(), width);
+            prepare(item);
             item.SetWrapMode(mode);
 
             ElisionItem expected(longestElided(characters_, width));
-            Prepare(expected);
+            prepare(expected);
             expected.SetWrapMode(QTextOption::NoWrap);
             expected.SetFixedItemWidth(width);
 
             EXPECT_TRUE(item.IsElided());
             EXPECT_EQ(item.ShownLineCount(), 1);
-            EXPECT_EQ(item.toPlainText(), Text());
+            EXPECT_EQ(item.toPlainText(), text());
             EXPECT_EQ(item.boundingRect(), expected.boundingRect());
-            EXPECT_EQ(Ink(item).Picture(), Ink(expected).Picture());
+            EXPECT_EQ(Ink(item).picture(), Ink(expected).picture());
         }
     }
 }
 
 TEST_P(ElisionOfScript, HasTheEllipsisAtTheEndOfTheLine)
 {
-    ElidedItem item(Text(), 130);
-    Prepare(item);
+    ElidedItem item(text(), 130);
+    prepare(item);
     const Ink ink(item, 2);
-    QRectF end = ink.Rect();
-    const qreal dots = QFontMetricsF(item.font()).horizontalAdvance(ellipsis) * 0.6;
+    QRectF end = ink.rect();
+    const qreal dots = QFontMetricsF(item.font()).horizontalAdvance(kEllipsis) * 0.6;
     if (GetParam().isEllipsisAtLeft)
         end.setRight(end.left() + dots);
     else
         end.setLeft(end.right() - dots);
-    ASSERT_FALSE(ink.RectIn(end).isEmpty());
-    EXPECT_LT(ink.RectIn(end).height(), 4);
+    ASSERT_FALSE(ink.rectIn(end).isEmpty());
+    EXPECT_LT(ink.rectIn(end).height(), 4);
 }
 
 TEST_P(ElisionOfScript, DrawsInsideTheBoundingRect)
 {
     for (qreal width = 12; width < 200; width += 7) {
-        ElidedItem item(Text(), width, 2);
-        Prepare(item);
+        ElidedItem item(text(), width, 2);
+        prepare(item);
         // Widths need not be whole pixels.
-        EXPECT_TRUE(item.boundingRect().adjusted(0, -2, 1, 2).contains(Ink(item).Rect())) << width;
+        EXPECT_TRUE(item.boundingRect().adjusted(0, -2, 1, 2).contains(Ink(item).rect())) << width;
     }
 }
 
@@ -179,20 +179,20 @@ TEST(ElisionInsideDirectionMarks, HasTheEllipsisAtTheEndOfTheLine)
     const QString hebrew = QString::fromUtf8("םםםםםםםםםםםםםםםםםםםםםםםם");
     const QString leftToRightMarks = QStringLiteral("\u202A\u202D\u2066\u2068");
     const QString rightToLeftMarks = QStringLiteral("\u202B\u202E\u2067\u2068");
-    const qreal dots = naturalWidth(ellipsis) * 0.6;
+    const qreal dots = naturalWidth(kEllipsis) * 0.6;
     for (QChar mark : leftToRightMarks) {
         ElidedItem item(hebrew.left(3) + mark + latin, 200);
         const Ink ink(item, 2);
-        QRectF end = ink.Rect();
+        QRectF end = ink.rect();
         end.setRight(end.left() + dots);
-        EXPECT_LT(ink.RectIn(end).height(), 4) << mark.unicode();
+        EXPECT_LT(ink.rectIn(end).height(), 4) << mark.unicode();
     }
     for (QChar mark : rightToLeftMarks) {
         ElidedItem item(latin.left(3) + mark + hebrew, 200);
         const Ink ink(item, 2);
-        QRectF end = ink.Rect();
+        QRectF end = ink.rect();
         end.setLeft(end.right() - dots);
-        EXPECT_LT(ink.RectIn(end).height(), 4) << mark.unicode();
+        EXPECT_LT(ink.rectIn(end).height(), 4) << mark.unicode();
     }
 }
 
@@ -240,9 +240,9 @@ TEST(ElisionOfWrappedText, ContinuesTheLastLinePastItsBreak)
     const QStringList lastLine =
         QStringLiteral("b|e|t|a| |g|a|m|m|a|d|e|l|t|a").split(QLatin1Char('|'));
     const QString expected =
-        QStringLiteral("alpha") + lineSeparator + longestElided(lastLine, width);
+        QStringLiteral("alpha") + kLineSeparator + longestElided(lastLine, width);
     EXPECT_TRUE(expected.contains(QLatin1Char('g'))) << "the test needs a cut past the break";
-    EXPECT_EQ(Ink(item).Picture(), pictureOf(expected, width));
+    EXPECT_EQ(Ink(item).picture(), pictureOf(expected, width));
 }
 
 TEST(ElisionOfWrappedText, DoesNotHappenWhenAllLinesAreShown)
@@ -256,7 +256,7 @@ TEST(ElisionAtParagraphEnds, AppendsTheEllipsisIfItFits)
 {
     ElidedItem item(QStringLiteral("one\ntwo"), 200);
     EXPECT_TRUE(item.IsElided());
-    EXPECT_EQ(Ink(item).Picture(), pictureOf(QStringLiteral("one") + ellipsis, 200));
+    EXPECT_EQ(Ink(item).picture(), pictureOf(QStringLiteral("one") + kEllipsis, 200));
 }
 
 TEST(ElisionAtParagraphEnds, ShortensTheLineIfTheEllipsisDoesNotFit)
@@ -265,19 +265,19 @@ TEST(ElisionAtParagraphEnds, ShortensTheLineIfTheEllipsisDoesNotFit)
     ElidedItem item(QStringLiteral("alpha\ntwo"), width);
     const QString expected =
         longestElided(QStringLiteral("a|l|p|h|a").split(QLatin1Char('|')), width);
-    EXPECT_EQ(Ink(item).Picture(), pictureOf(expected, width));
+    EXPECT_EQ(Ink(item).picture(), pictureOf(expected, width));
 }
 
 TEST(ElisionAtParagraphEnds, StopsAtALineSeparator)
 {
-    ElidedItem item(QStringLiteral("one") + lineSeparator + QStringLiteral("two"), 200);
-    EXPECT_EQ(Ink(item).Picture(), pictureOf(QStringLiteral("one") + ellipsis, 200));
+    ElidedItem item(QStringLiteral("one") + kLineSeparator + QStringLiteral("two"), 200);
+    EXPECT_EQ(Ink(item).picture(), pictureOf(QStringLiteral("one") + kEllipsis, 200));
 }
 
 TEST(ElisionAtParagraphEnds, ShowsOnlyTheEllipsisInAnEmptyLine)
 {
     ElidedItem item(QStringLiteral("one\n\ntwo"), 200, 2);
-    EXPECT_EQ(Ink(item).Picture(), pictureOf(QStringLiteral("one\n") + ellipsis, 200));
+    EXPECT_EQ(Ink(item).picture(), pictureOf(QStringLiteral("one\n") + kEllipsis, 200));
 }
 
 TEST(ElisionAtParagraphEnds, DoesNotHappenWhenNothingVisibleFollows)
@@ -289,19 +289,19 @@ TEST(ElisionAtParagraphEnds, DoesNotHappenWhenNothingVisibleFollows)
 TEST(ElisionInTheNaturalWidth, AppendsTheEllipsis)
 {
     ElidedItem item(QStringLiteral("one\ntwo"));
-    const QString expected = QStringLiteral("one") + ellipsis;
+    const QString expected = QStringLiteral("one") + kEllipsis;
     EXPECT_TRUE(item.IsElided());
     EXPECT_EQ(item.boundingRect(), ElisionItem(expected).boundingRect());
-    EXPECT_EQ(Ink(item).Picture(), Ink(*std::make_unique<ElisionItem>(expected)).Picture());
+    EXPECT_EQ(Ink(item).picture(), Ink(*std::make_unique<ElisionItem>(expected)).picture());
 }
 
 TEST(ElisionInTheNaturalWidth, KeepsRightToLeftTextInItsBoundingRect)
 {
     ElidedItem item(QString::fromUtf8("שלום\nעולם"));
     EXPECT_EQ(item.boundingRect().left(), 0);
-    EXPECT_TRUE(item.boundingRect().adjusted(-2, -2, 2, 2).contains(Ink(item).Rect()));
-    EXPECT_EQ(Ink(item).Picture(),
-              Ink(*std::make_unique<ElisionItem>(QString::fromUtf8("שלום…"))).Picture());
+    EXPECT_TRUE(item.boundingRect().adjusted(-2, -2, 2, 2).contains(Ink(item).rect()));
+    EXPECT_EQ(Ink(item).picture(),
+              Ink(*std::make_unique<ElisionItem>(QString::fromUtf8("שלום…"))).picture());
 }
 
 TEST(ElisionOfWideLines, NeedsNoLineLimit)
@@ -311,7 +311,7 @@ TEST(ElisionOfWideLines, NeedsNoLineLimit)
     EXPECT_EQ(item.ShownLineCount(), 3);
     const QString a = longestElided(QStringLiteral("a|a|a|a|a|a").split(QLatin1Char('|')), 60);
     const QString c = longestElided(QStringLiteral("c|c|c|c|c|c").split(QLatin1Char('|')), 60);
-    EXPECT_EQ(Ink(item).Picture(), pictureOf(a + QStringLiteral("\nb\n") + c, 60));
+    EXPECT_EQ(Ink(item).picture(), pictureOf(a + QStringLiteral("\nb\n") + c, 60));
 }
 
 TEST(ElisionOfWideLines, DoesNotCountTrailingSpaces)
@@ -348,7 +348,7 @@ TEST(ElisionOfWideLines, RespectsTheMarginsOfTheFrame)
     item.document()->rootFrame()->setFrameFormat(format);
     const QString expected =
         longestElided(QStringLiteral("a|a|a|a|a|a|a").split(QLatin1Char('|')), 60);
-    const QRectF ink = Ink(item).Rect();
+    const QRectF ink = Ink(item).rect();
     EXPECT_NEAR(ink.width(), naturalWidth(expected), 3);
     EXPECT_NEAR(ink.left(), 15, 2);
 }
@@ -360,7 +360,7 @@ TEST(ElisionInATinyWidth, ShowsOnlyTheEllipsis)
         item.SetWrapMode(QTextOption::NoWrap);
         EXPECT_TRUE(item.IsElided());
         EXPECT_EQ(item.boundingRect().width(), width);
-        EXPECT_EQ(Ink(item).Picture(), pictureOf(ellipsis, width));
+        EXPECT_EQ(Ink(item).picture(), pictureOf(kEllipsis, width));
     }
 }
 
@@ -388,7 +388,7 @@ TEST(ElisionOfSpans, KeepsTheFormatsAndGivesTheEllipsisTheLastOne)
     const QTextCharFormat red = coloured(QColor(200, 0, 0));
     const QTextCharFormat blue = coloured(QColor(0, 0, 200));
     const QTextCharFormat green = coloured(QColor(0, 150, 0));
-    const qreal width = naturalWidth(QStringLiteral("HHHH") + ellipsis) + 1;
+    const qreal width = naturalWidth(QStringLiteral("HHHH") + kEllipsis) + 1;
     ElidedItem item(QString(), width);
     item.InsertRichText(QStringLiteral("HH"), true, &red);
     item.InsertRichText(QStringLiteral("HH"), true, &blue);
@@ -396,26 +396,26 @@ TEST(ElisionOfSpans, KeepsTheFormatsAndGivesTheEllipsisTheLastOne)
 
     ElisionItem expected;
     expected.InsertRichText(QStringLiteral("HH"), true, &red);
-    expected.InsertRichText(QStringLiteral("HH") + ellipsis, true, &blue);
+    expected.InsertRichText(QStringLiteral("HH") + kEllipsis, true, &blue);
     expected.SetFixedItemWidth(width);
-    EXPECT_EQ(Ink(item).Picture(), Ink(expected).Picture());
+    EXPECT_EQ(Ink(item).picture(), Ink(expected).picture());
 }
 
 TEST(ElisionOfSpans, FollowsTheFormatsOfLaterLines)
 {
     const QTextCharFormat red = coloured(QColor(200, 0, 0));
     const QTextCharFormat blue = coloured(QColor(0, 0, 200));
-    const qreal width = naturalWidth(QStringLiteral("HHH") + ellipsis) + 1;
+    const qreal width = naturalWidth(QStringLiteral("HHH") + kEllipsis) + 1;
     ElidedItem item(QString(), width, 2);
     item.InsertRichText(QStringLiteral("HHH HH"), true, &red);
     item.InsertRichText(QStringLiteral("HH HHHH"), true, &blue);
 
     ElisionItem expected;
-    expected.InsertRichText(QStringLiteral("HHH") + lineSeparator + QStringLiteral("HH"), true,
+    expected.InsertRichText(QStringLiteral("HHH") + kLineSeparator + QStringLiteral("HH"), true,
                             &red);
-    expected.InsertRichText(QStringLiteral("H") + ellipsis, true, &blue);
+    expected.InsertRichText(QStringLiteral("H") + kEllipsis, true, &blue);
     expected.SetFixedItemWidth(width);
-    EXPECT_EQ(Ink(item).Picture(), Ink(expected).Picture());
+    EXPECT_EQ(Ink(item).picture(), Ink(expected).picture());
 }
 
 QTextCharFormat tall(const TextItem& item)
@@ -450,7 +450,7 @@ TEST(ElisionOfSpans, AddsTheHeightOfTextFromTheNextLine)
     item.InsertRichText(QStringLiteral("iiiiiiiiiiiiii"), true, &format);
     EXPECT_TRUE(item.IsElided());
     EXPECT_GT(item.boundingRect().height(), 2 * low);
-    EXPECT_TRUE(item.boundingRect().contains(Ink(item).Rect()));
+    EXPECT_TRUE(item.boundingRect().contains(Ink(item).rect()));
 }
 
 TEST(ElisionOfLongText, FindsTheLongestStartThatFits)
@@ -460,7 +460,7 @@ TEST(ElisionOfLongText, FindsTheLongestStartThatFits)
     EXPECT_TRUE(item.IsElided());
     const QStringList start =
         QStringLiteral("w|o|r|d| |w|o|r|d| |w|o|r|d| |w|o|r|d| |w|o|r|d| ").split(QLatin1Char('|'));
-    EXPECT_EQ(Ink(item).Picture(), pictureOf(longestElided(start, 150), 150));
+    EXPECT_EQ(Ink(item).picture(), pictureOf(longestElided(start, 150), 150));
 }
 
 TEST(ElisionOfLongText, WorksWithCharactersWithoutWidth)
@@ -469,7 +469,7 @@ TEST(ElisionOfLongText, WorksWithCharactersWithoutWidth)
     ElidedItem item(marks + QStringLiteral("\nb"), 100);
     EXPECT_TRUE(item.IsElided());
     EXPECT_EQ(item.ShownLineCount(), 1);
-    EXPECT_TRUE(item.boundingRect().contains(Ink(item).Rect()));
+    EXPECT_TRUE(item.boundingRect().contains(Ink(item).rect()));
 }
 
 } // namespace

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kMaximumSide = 256;
 
-const QString smile = QStringLiteral("<e code=\"1F600\"/>");
+const QString kSmile = QStringLiteral("<e code=\"1F600\"/>");
 
 // An application with one picture for all emoji.
 class PictureSupport : public KestroControlSupport {
@@ -98,7 +98,7 @@ struct EmojiItem : TextItem {
     EmojiItem()
     {
         SetMarkupEnabled(true);
-        InsertRichText(smile + smile, true);
+        InsertRichText(kSmile + kSmile, true);
     }
 };
 
@@ -182,15 +182,15 @@ TEST(EmojiPaint, FillsItsSquareAtAnyZoom)
 
 TEST(ScaledPictures, HaveAMaximumSizeInBytes)
 {
-    constexpr int maxBytes = 100 * 100 * 4 * 5;
-    kestro::ScaledPictures pictures(maxBytes);
+    constexpr int kMaxBytes = 100 * 100 * 4 * 5;
+    kestro::ScaledPictures pictures(kMaxBytes);
     QImage picture(100, 100, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::red);
     const qint64 first = pictures.Get(picture, {90, 90}).cacheKey();
     EXPECT_EQ(pictures.Get(picture, {90, 90}).cacheKey(), first);
     for (int side = 1; side < 90; ++side) {
         EXPECT_EQ(pictures.Get(picture, {side, side}).size(), QSize(side, side));
-        EXPECT_LE(pictures.Bytes(), maxBytes);
+        EXPECT_LE(pictures.Bytes(), kMaxBytes);
     }
     EXPECT_NE(pictures.Get(picture, {90, 90}).cacheKey(), first) << "it was removed to make room";
 }

@@ -17,7 +17,7 @@
 
 namespace {
 
-const QColor highlightColor(255, 255, 0);
+const QColor kHighlightColor(255, 255, 0);
 
 using Ranges = std::vector<std::pair<int, int>>;
 
@@ -116,17 +116,17 @@ struct HighlightRow {
 
 class Highlight : public testing::TestWithParam<HighlightRow> {
 protected:
-    QStringList Spans() const { return QString::fromUtf8(GetParam().text).split(QLatin1Char('|')); }
+    QStringList spans() const { return QString::fromUtf8(GetParam().text).split(QLatin1Char('|')); }
 
-    QStringList Words() const
+    QStringList words() const
     {
         return QString::fromUtf8(GetParam().words).split(QLatin1Char('|'));
     }
 
-    void Fill(TextItem& item) const
+    void fill(TextItem& item) const
     {
         int number = 0;
-        for (const QString& span : Spans()) {
+        for (const QString& span : spans()) {
             QTextCharFormat format;
             format.setForeground(QColor(++number % 2 ? 200 : 0, 100, 0));
             item.InsertRichText(span, true, &format);
@@ -135,12 +135,12 @@ protected:
     }
 
     // Gives the words the background by their format.
-    void Mark(TextItem& item) const
+    void mark(TextItem& item) const
     {
         QTextCharFormat marked;
-        marked.setBackground(highlightColor);
+        marked.setBackground(kHighlightColor);
         QTextCursor cursor(item.document());
-        for (const auto& [start, end] : coverNaively(item.toPlainText(), Words())) {
+        for (const auto& [start, end] : coverNaively(item.toPlainText(), words())) {
             cursor.setPosition(start);
             cursor.setPosition(end, QTextCursor::KeepAnchor);
             cursor.mergeCharFormat(marked);
@@ -153,7 +153,7 @@ Ranges highlightAlong(const QImage& picture, int y)
 {
     Ranges ranges;
     for (int x = 0; x < picture.width(); ++x) {
-        if (picture.pixelColor(x, y) != highlightColor)
+        if (picture.pixelColor(x, y) != kHighlightColor)
             continue;
         if (ranges.empty() || ranges.back().second != x)
             ranges.emplace_back(x, x);
@@ -166,15 +166,15 @@ TEST_P(Highlight, IsBehindTheWords)
 {
     for (qreal scale : {1.0, 1.5, 2.0}) {
         HighlightItem item;
-        Fill(item);
-        item.HighlightText(Words(), highlightColor);
+        fill(item);
+        item.HighlightText(words(), kHighlightColor);
         HighlightItem expected;
-        Fill(expected);
-        Mark(expected);
+        fill(expected);
+        mark(expected);
 
         const qreal lineHeight = item.boundingRect().height() / item.ShownLineCount();
-        const QImage picture = Ink(item, scale).Picture();
-        const QImage expectedPicture = Ink(expected, scale).Picture();
+        const QImage picture = Ink(item, scale).picture();
+        const QImage expectedPicture = Ink(expected, scale).picture();
         int pixels = 0;
         for (int line = 0; line < item.ShownLineCount(); ++line) {
             // Close to the top of the line, above its letters.
@@ -196,14 +196,14 @@ TEST_P(Highlight, IsBehindTheWords)
 TEST_P(Highlight, ChangesOnlyTheWords)
 {
     HighlightItem item;
-    Fill(item);
-    const QImage before = Ink(item).Picture();
-    item.HighlightText(Words(), highlightColor);
-    const QImage highlighted = Ink(item).Picture();
+    fill(item);
+    const QImage before = Ink(item).picture();
+    item.HighlightText(words(), kHighlightColor);
+    const QImage highlighted = Ink(item).picture();
     ASSERT_NE(highlighted, before);
 
-    item.HighlightText(Words(), QColor(0, 255, 255));
-    const QImage withOtherColor = Ink(item).Picture();
+    item.HighlightText(words(), QColor(0, 255, 255));
+    const QImage withOtherColor = Ink(item).picture();
     for (int y = 0; y < before.height(); ++y) {
         for (int x = 0; x < before.width(); ++x) {
             // Only highlighted pixels depend on the background.
@@ -219,29 +219,29 @@ TEST_P(Highlight, IsRemovedCompletely)
 {
     for (const QStringList& none : {QStringList(), QStringList {QString(), QString()}}) {
         HighlightItem item;
-        Fill(item);
-        const QImage before = Ink(item).Picture();
-        item.HighlightText(Words(), highlightColor);
-        EXPECT_NE(Ink(item).Picture(), before);
-        item.HighlightText(none, highlightColor);
-        EXPECT_EQ(Ink(item).Picture(), before);
+        fill(item);
+        const QImage before = Ink(item).picture();
+        item.HighlightText(words(), kHighlightColor);
+        EXPECT_NE(Ink(item).picture(), before);
+        item.HighlightText(none, kHighlightColor);
+        EXPECT_EQ(Ink(item).picture(), before);
     }
 }
 
 TEST_P(Highlight, CausesNoLayout)
 {
     HighlightItem item;
-    Fill(item);
+    fill(item);
     const QRectF rect = item.boundingRect();
     int layouts = 0;
     int changes = 0;
     QObject::connect(item.document()->documentLayout(), &QAbstractTextDocumentLayout::update,
                      [&layouts] { ++layouts; });
     QObject::connect(item.document(), &QTextDocument::contentsChange, [&changes] { ++changes; });
-    item.HighlightText(Words(), highlightColor);
-    Ink(item).Rect();
-    item.HighlightText({}, highlightColor);
-    Ink(item).Rect();
+    item.HighlightText(words(), kHighlightColor);
+    Ink(item).rect();
+    item.HighlightText({}, kHighlightColor);
+    Ink(item).rect();
     EXPECT_EQ(layouts, 0);
     EXPECT_EQ(changes, 0);
     EXPECT_EQ(item.boundingRect(), rect);
@@ -276,23 +276,23 @@ TEST(HighlightOfItem, ReplacesTheEarlierOne)
     HighlightItem item(QStringLiteral("some words"));
     HighlightItem expected(QStringLiteral("some words"));
     item.HighlightText({QStringLiteral("some")}, Qt::green);
-    item.HighlightText({QStringLiteral("words")}, highlightColor);
-    expected.HighlightText({QStringLiteral("words")}, highlightColor);
-    EXPECT_EQ(Ink(item).Picture(), Ink(expected).Picture());
-    EXPECT_FALSE(Ink(item).Has(Qt::green));
+    item.HighlightText({QStringLiteral("words")}, kHighlightColor);
+    expected.HighlightText({QStringLiteral("words")}, kHighlightColor);
+    EXPECT_EQ(Ink(item).picture(), Ink(expected).picture());
+    EXPECT_FALSE(Ink(item).has(Qt::green));
 }
 
 TEST(HighlightOfItem, FollowsTheText)
 {
     HighlightItem item(QStringLiteral("some"));
-    item.HighlightText({QStringLiteral("word")}, highlightColor);
-    EXPECT_FALSE(Ink(item).Has(highlightColor));
+    item.HighlightText({QStringLiteral("word")}, kHighlightColor);
+    EXPECT_FALSE(Ink(item).has(kHighlightColor));
     item.InsertRichText(QStringLiteral(" words"), true);
-    EXPECT_TRUE(Ink(item).Has(highlightColor));
+    EXPECT_TRUE(Ink(item).has(kHighlightColor));
     item.SetFixedItemWidth(50);
-    EXPECT_TRUE(Ink(item).Has(highlightColor));
+    EXPECT_TRUE(Ink(item).has(kHighlightColor));
     item.ClearText();
-    EXPECT_FALSE(Ink(item).Has(highlightColor));
+    EXPECT_FALSE(Ink(item).has(kHighlightColor));
 }
 
 TEST(HighlightOfItem, HasReadableText)
@@ -305,7 +305,7 @@ TEST(HighlightOfItem, HasReadableText)
         item.HighlightText({QStringLiteral("HHHH")}, background);
         const Ink ink(item, 3);
         const bool isDark = background.lightness() < 60;
-        EXPECT_TRUE(ink.Has(isDark ? Qt::white : Qt::black)) << background.name().toStdString();
+        EXPECT_TRUE(ink.has(isDark ? Qt::white : Qt::black)) << background.name().toStdString();
     }
 }
 
@@ -315,18 +315,18 @@ TEST(HighlightOfItem, CoversTheBackgroundsOfSpans)
     format.setBackground(Qt::green);
     HighlightItem item;
     item.InsertRichText(QStringLiteral("word"), true, &format);
-    ASSERT_TRUE(Ink(item).Has(Qt::green));
-    item.HighlightText({QStringLiteral("word")}, highlightColor);
-    EXPECT_FALSE(Ink(item).Has(Qt::green));
-    EXPECT_TRUE(Ink(item).Has(highlightColor));
+    ASSERT_TRUE(Ink(item).has(Qt::green));
+    item.HighlightText({QStringLiteral("word")}, kHighlightColor);
+    EXPECT_FALSE(Ink(item).has(Qt::green));
+    EXPECT_TRUE(Ink(item).has(kHighlightColor));
 }
 
 TEST(HighlightOfItem, NeedsABrush)
 {
     HighlightItem item(QStringLiteral("word"));
-    const QImage before = Ink(item).Picture();
+    const QImage before = Ink(item).picture();
     item.HighlightText({QStringLiteral("word")}, Qt::NoBrush);
-    EXPECT_EQ(Ink(item).Picture(), before);
+    EXPECT_EQ(Ink(item).picture(), before);
 }
 
 TEST(HighlightOfElidedLine, IsBehindShownWords)
@@ -337,12 +337,12 @@ TEST(HighlightOfElidedLine, IsBehindShownWords)
         item.SetMaxLineCount(1);
         item.SetFixedItemWidth(150);
         ASSERT_TRUE(item.IsElided());
-        item.HighlightText({QStringLiteral("word")}, highlightColor);
-        const QImage picture = Ink(item).Picture();
+        item.HighlightText({QStringLiteral("word")}, kHighlightColor);
+        const QImage picture = Ink(item).picture();
         HighlightItem whole(QString::fromUtf8(text));
         whole.SetFixedItemWidth(1000);
-        whole.HighlightText({QStringLiteral("word")}, highlightColor);
-        const QImage wholePicture = Ink(whole).Picture();
+        whole.HighlightText({QStringLiteral("word")}, kHighlightColor);
+        const QImage wholePicture = Ink(whole).picture();
 
         const Ranges found = highlightAlong(picture, 52);
         const Ranges expectedRanges = highlightAlong(wholePicture, 52);
@@ -359,8 +359,8 @@ TEST(HighlightOfElidedLine, IsNotBehindTheEllipsis)
     item.SetElide(true);
     item.SetMaxLineCount(1);
     item.SetFixedItemWidth(150);
-    item.HighlightText({QStringLiteral("more"), QString(QChar(0x2026))}, highlightColor);
-    EXPECT_FALSE(Ink(item).Has(highlightColor));
+    item.HighlightText({QStringLiteral("more"), QString(QChar(0x2026))}, kHighlightColor);
+    EXPECT_FALSE(Ink(item).has(kHighlightColor));
 }
 
 TEST(HighlightOfElidedLine, IsBehindTheShownPartOfAWord)
@@ -369,8 +369,8 @@ TEST(HighlightOfElidedLine, IsBehindTheShownPartOfAWord)
     item.SetElide(true);
     item.SetMaxLineCount(1);
     item.SetFixedItemWidth(150);
-    item.HighlightText({item.toPlainText()}, highlightColor);
-    const Ranges found = highlightAlong(Ink(item).Picture(), 52);
+    item.HighlightText({item.toPlainText()}, kHighlightColor);
+    const Ranges found = highlightAlong(Ink(item).picture(), 52);
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].first, 50);
     EXPECT_LT(found[0].second, 200) << "the ellipsis belongs to no word";

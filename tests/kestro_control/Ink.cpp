@@ -26,12 +26,12 @@ Ink::Ink(QGraphicsItem& item, qreal scale)
     item.paint(&painter, &option, nullptr);
 }
 
-QRectF Ink::Rect() const
+QRectF Ink::rect() const
 {
-    return RectIn(QRectF(origin_, picture_.size() / scale_));
+    return rectIn(QRectF(origin_, picture_.size() / scale_));
 }
 
-QRectF Ink::RectIn(const QRectF& area) const
+QRectF Ink::rectIn(const QRectF& area) const
 {
     QRect inked;
     for (int y = 0; y < picture_.height(); ++y) {
@@ -46,7 +46,7 @@ QRectF Ink::RectIn(const QRectF& area) const
     return QRectF(QPointF(inked.topLeft()) / scale_ + origin_, QSizeF(inked.size()) / scale_);
 }
 
-bool Ink::Has(const QColor& color) const
+bool Ink::has(const QColor& color) const
 {
     for (int y = 0; y < picture_.height(); ++y) {
         for (int x = 0; x < picture_.width(); ++x) {

@@ -14,14 +14,14 @@ public:
 
     // The bounding rectangle of all pixels that are not white, in the item's
     // coordinates; empty if there are none.
-    QRectF Rect() const;
+    QRectF rect() const;
     // The same for the pixels inside `area`.
-    QRectF RectIn(const QRectF& area) const;
+    QRectF rectIn(const QRectF& area) const;
 
     // Whether any pixel has exactly this colour.
-    bool Has(const QColor& color) const;
+    bool has(const QColor& color) const;
 
-    const QImage& Picture() const { return picture_; }
+    const QImage& picture() const { return picture_; }
 
 private:
     qreal scale_;

@@ -22,7 +22,7 @@ namespace {
 using kestro::MarkupRun;
 using kestro::ReadMarkup;
 
-const QString family = QString::fromUtf8("👨‍👩‍👧");
+const QString kFamily = QString::fromUtf8("👨‍👩‍👧");
 
 QString describe(const std::vector<MarkupRun>& runs)
 {
@@ -205,7 +205,7 @@ std::vector<MarkupRun> readNaively(const QString& text)
         match = emoji.match(text.mid(at));
         const QString code = match.captured(1);
         if (match.hasMatch() && code == QLatin1String("1F468-200D-1F469-200D-1F467")) {
-            add({MarkupRun::Kind::Emoji, family, 0, code});
+            add({MarkupRun::Kind::Emoji, kFamily, 0, code});
             at += match.capturedLength();
             continue;
         }
@@ -253,7 +253,7 @@ TEST(MalformedMarkup, IsTextAtAnyLength)
 
 // ----- In an item
 
-const QString mixed =
+const QString kMixed =
     QStringLiteral("<m user=\"1\">Ada</m> &amp; <e code=\"1F468-200D-1F469-200D-1F467\"/>!");
 
 struct MarkupItem : TextItem {
@@ -275,15 +275,15 @@ struct MarkupItem : TextItem {
 TEST(TextItemMarkup, IsOffAtFirst)
 {
     TextItem item;
-    item.InsertRichText(mixed, true);
-    EXPECT_EQ(item.toPlainText(), mixed);
+    item.InsertRichText(kMixed, true);
+    EXPECT_EQ(item.toPlainText(), kMixed);
     EXPECT_FALSE(item.acceptHoverEvents());
 }
 
 TEST(TextItemMarkup, IsShownWithoutTags)
 {
-    EXPECT_EQ(MarkupItem(mixed).toPlainText(),
-              QStringLiteral("Ada & ") + family + QLatin1Char('!'));
+    EXPECT_EQ(MarkupItem(kMixed).toPlainText(),
+              QStringLiteral("Ada & ") + kFamily + QLatin1Char('!'));
 }
 
 TEST(TextItemMarkup, AppliesToInsertionsWhileItIsEnabled)
@@ -294,15 +294,15 @@ TEST(TextItemMarkup, AppliesToInsertionsWhileItIsEnabled)
     item.SetMarkupEnabled(true);
     item.InsertRichText(QStringLiteral("&lt;"), false);
     EXPECT_EQ(item.toPlainText(), QStringLiteral("<<&lt;"));
-    item.setPlainText(mixed);
-    EXPECT_EQ(item.toPlainText(), mixed);
+    item.setPlainText(kMixed);
+    EXPECT_EQ(item.toPlainText(), kMixed);
 }
 
 TEST(TextItemMarkup, KeepsItsOrderWhenInsertedAtTheStart)
 {
     MarkupItem item(QStringLiteral("end"));
-    item.InsertRichText(mixed, false);
-    EXPECT_EQ(item.toPlainText(), QStringLiteral("Ada & ") + family + QStringLiteral("!end"));
+    item.InsertRichText(kMixed, false);
+    EXPECT_EQ(item.toPlainText(), QStringLiteral("Ada & ") + kFamily + QStringLiteral("!end"));
 }
 
 TEST(TextItemMarkup, GivesMentionsTheirColour)
@@ -310,14 +310,14 @@ TEST(TextItemMarkup, GivesMentionsTheirColour)
     MarkupItem item;
     item.setDefaultTextColor(Qt::black);
     item.InsertRichText(QStringLiteral("<m user=\"1\">HHH</m>"), true);
-    EXPECT_TRUE(Ink(item, 3).Has(QColor(0x11, 0x8D, 0xFF)));
-    EXPECT_FALSE(Ink(item, 3).Has(Qt::black));
+    EXPECT_TRUE(Ink(item, 3).has(QColor(0x11, 0x8D, 0xFF)));
+    EXPECT_FALSE(Ink(item, 3).has(Qt::black));
 
     item.ClearText();
     item.SetMentionColor(Qt::red);
     EXPECT_EQ(item.MentionColor(), QColor(Qt::red));
     item.InsertRichText(QStringLiteral("<m user=\"1\">HHH</m>"), true);
-    EXPECT_TRUE(Ink(item, 3).Has(Qt::red));
+    EXPECT_TRUE(Ink(item, 3).has(Qt::red));
 }
 
 TEST(TextItemMarkup, KeepsTheFontOfTheSpanInMentions)
@@ -326,12 +326,12 @@ TEST(TextItemMarkup, KeepsTheFontOfTheSpanInMentions)
     big.setProperty(QTextFormat::FontPixelSize, 60);
     MarkupItem item;
     item.InsertRichText(QStringLiteral("<m user=\"1\">H</m>"), true, &big);
-    EXPECT_GT(Ink(item).Rect().height(), 40);
+    EXPECT_GT(Ink(item).rect().height(), 40);
 }
 
 // ----- Emoji pictures
 
-const QColor pictureColor(200, 30, 120);
+const QColor kPictureColor(200, 30, 120);
 
 class PictureSupport : public KestroControlSupport {
 public:
@@ -343,7 +343,7 @@ public:
     {
         requestedCodes.append(code);
         QImage picture(size, QImage::Format_ARGB32_Premultiplied);
-        picture.fill(pictureColor);
+        picture.fill(kPictureColor);
         return picture;
     }
 
@@ -351,16 +351,16 @@ public:
     mutable QStringList requestedCodes;
 };
 
-const QString smile = QStringLiteral("<e code=\"1f600\">:-)</e>");
-const QString smileText = QString::fromUtf8("😀");
+const QString kSmile = QStringLiteral("<e code=\"1f600\">:-)</e>");
+const QString kSmileText = QString::fromUtf8("😀");
 
 QRectF pictureRect(QGraphicsItem& item)
 {
     const Ink ink(item, 4);
     QRectF rect;
-    for (int y = 0; y < ink.Picture().height(); ++y) {
-        for (int x = 0; x < ink.Picture().width(); ++x) {
-            if (ink.Picture().pixelColor(x, y) == pictureColor)
+    for (int y = 0; y < ink.picture().height(); ++y) {
+        for (int x = 0; x < ink.picture().width(); ++x) {
+            if (ink.picture().pixelColor(x, y) == kPictureColor)
                 rect |= QRectF(QPointF(x, y) / 4 - QPointF(50, 50), QSizeF(0.25, 0.25));
         }
     }
@@ -370,7 +370,7 @@ QRectF pictureRect(QGraphicsItem& item)
 TEST(EmojiPicture, IsRequestedByItsCode)
 {
     const PictureSupport support;
-    const MarkupItem item(smile + QStringLiteral("<e code=\"1F469-200d-1F4BB\"/>"));
+    const MarkupItem item(kSmile + QStringLiteral("<e code=\"1F469-200d-1F4BB\"/>"));
     EXPECT_EQ(support.requestedCodes,
               QStringList({QStringLiteral("1F600"), QStringLiteral("1F469-200D-1F4BB")}));
 }
@@ -379,7 +379,7 @@ TEST(EmojiPicture, IsAsHighAsTheLine)
 {
     const PictureSupport support;
     const qreal lineHeight = MarkupItem(QStringLiteral("H")).boundingRect().height();
-    MarkupItem item(smile);
+    MarkupItem item(kSmile);
     EXPECT_EQ(item.boundingRect().height(), lineHeight);
     EXPECT_NEAR(item.boundingRect().width(), lineHeight, 1);
     EXPECT_NEAR(pictureRect(item).height(), lineHeight, 1);
@@ -389,7 +389,7 @@ TEST(EmojiPicture, IsAsHighAsTheLine)
 TEST(EmojiPicture, FollowsTheFont)
 {
     const PictureSupport support;
-    MarkupItem item(smile);
+    MarkupItem item(kSmile);
     const QRectF before = pictureRect(item);
     QFont font = item.font();
     font.setPixelSize(40);
@@ -401,7 +401,7 @@ TEST(EmojiPicture, KeepsItsProportions)
 {
     PictureSupport support;
     support.size = QSize(4000, 1000);
-    MarkupItem item(smile);
+    MarkupItem item(kSmile);
     const QRectF rect = pictureRect(item);
     EXPECT_NEAR(rect.width(), 4 * rect.height(), 2);
     EXPECT_NEAR(rect.width(), item.boundingRect().width(), 1);
@@ -410,10 +410,10 @@ TEST(EmojiPicture, KeepsItsProportions)
 TEST(EmojiPicture, AppearsAsItsCharactersInThePlainText)
 {
     const PictureSupport support;
-    MarkupItem item(QStringLiteral("a") + smile + smile + QStringLiteral("\nb") + smile
+    MarkupItem item(QStringLiteral("a") + kSmile + kSmile + QStringLiteral("\nb") + kSmile
                     + QChar(QChar::Nbsp) + QStringLiteral("c"));
     EXPECT_EQ(item.toPlainText(),
-              QStringLiteral("a") + smileText + smileText + QStringLiteral("\nb") + smileText
+              QStringLiteral("a") + kSmileText + kSmileText + QStringLiteral("\nb") + kSmileText
                   + QStringLiteral(" c"));
     item.ClearText();
     EXPECT_EQ(item.toPlainText(), QString());
@@ -423,15 +423,15 @@ TEST(EmojiPicture, DoesNotAffectObjectCharactersInTheText)
 {
     const PictureSupport support;
     const QString object(QChar::ObjectReplacementCharacter);
-    const MarkupItem item(object + smile + object);
-    EXPECT_EQ(item.toPlainText(), object + smileText + object);
+    const MarkupItem item(object + kSmile + object);
+    EXPECT_EQ(item.toPlainText(), object + kSmileText + object);
 }
 
 TEST(EmojiPicture, StaysInAnElidedLine)
 {
     const PictureSupport support;
     for (const char* rest : {" and more text", " ועוד טקסט"}) {
-        MarkupItem item(smile + QString::fromUtf8(rest));
+        MarkupItem item(kSmile + QString::fromUtf8(rest));
         const QRectF whole = pictureRect(item);
         item.SetElide(true);
         item.SetMaxLineCount(1);
@@ -440,7 +440,7 @@ TEST(EmojiPicture, StaysInAnElidedLine)
         const QRectF elided = pictureRect(item);
         EXPECT_NEAR(elided.width(), whole.width(), 0.6) << rest;
         EXPECT_NEAR(elided.top(), whole.top(), 0.6) << rest;
-        EXPECT_EQ(item.toPlainText(), smileText + QString::fromUtf8(rest));
+        EXPECT_EQ(item.toPlainText(), kSmileText + QString::fromUtf8(rest));
     }
 }
 
@@ -453,7 +453,7 @@ TEST(EmojiPicture, IsHighlightedWhereItIs)
             picture.fill(Qt::transparent);
             for (int y = 20; y < 40; ++y) {
                 for (int x = 20; x < 40; ++x)
-                    picture.setPixelColor(x, y, pictureColor);
+                    picture.setPixelColor(x, y, kPictureColor);
             }
             return picture;
         }
@@ -461,15 +461,15 @@ TEST(EmojiPicture, IsHighlightedWhereItIs)
     const QColor background(255, 255, 0);
     for (const char* pattern : {"%1 end", "start %1", "%1 סוף", "שלום %1 סוף", "see שלום %1 סוף"}) {
         for (qreal width : {-1.0, 400.0, 60.0}) {
-            MarkupItem item(QString::fromUtf8(pattern).arg(smile));
+            MarkupItem item(QString::fromUtf8(pattern).arg(kSmile));
             item.SetFixedItemWidth(width);
             const QRectF picture = pictureRect(item);
-            item.HighlightText({smileText}, background);
+            item.HighlightText({kSmileText}, background);
             const Ink ink(item, 4);
             QRectF backgroundRect;
-            for (int y = 0; y < ink.Picture().height(); ++y) {
-                for (int x = 0; x < ink.Picture().width(); ++x) {
-                    if (ink.Picture().pixelColor(x, y) == background)
+            for (int y = 0; y < ink.picture().height(); ++y) {
+                for (int x = 0; x < ink.picture().width(); ++x) {
+                    if (ink.picture().pixelColor(x, y) == background)
                         backgroundRect |=
                             QRectF(QPointF(x, y) / 4 - QPointF(50, 50), QSizeF(0.25, 0.25));
                 }
@@ -483,7 +483,7 @@ TEST(EmojiPicture, IsHighlightedWhereItIs)
 TEST(EmojiPicture, IsNotShownWhereItIsCutOff)
 {
     const PictureSupport support;
-    MarkupItem item(QStringLiteral("some text ") + smile + QStringLiteral(" more"));
+    MarkupItem item(QStringLiteral("some text ") + kSmile + QStringLiteral(" more"));
     item.SetElide(true);
     item.SetMaxLineCount(1);
     item.SetFixedItemWidth(70);
@@ -499,10 +499,10 @@ TEST(EmojiPicture, IsReplacedByTextIfThereIsNone)
             return KestroControlSupport::GetEmojiImage(code);
         }
     } const support;
-    MarkupItem item(smile);
+    MarkupItem item(kSmile);
     EXPECT_TRUE(pictureRect(item).isEmpty());
-    EXPECT_FALSE(Ink(item).Rect().isEmpty());
-    EXPECT_EQ(item.document()->toPlainText(), smileText);
+    EXPECT_FALSE(Ink(item).rect().isEmpty());
+    EXPECT_EQ(item.document()->toPlainText(), kSmileText);
 }
 
 } // namespace

@@ -21,8 +21,8 @@
 
 namespace {
 
-const QColor mentionColor(255, 0, 0);
-const QColor textColor(0, 0, 255);
+const QColor kMentionColor(255, 0, 0);
+const QColor kTextColor(0, 0, 255);
 
 struct Click {
     bool isBot;
@@ -55,8 +55,8 @@ public:
         QFont font(QStringLiteral("DejaVu Sans"));
         font.setPixelSize(24);
         item_->setFont(font);
-        item_->setDefaultTextColor(textColor);
-        item_->SetMentionColor(mentionColor);
+        item_->setDefaultTextColor(kTextColor);
+        item_->SetMentionColor(kMentionColor);
         item_->SetMarkupEnabled(true);
         item_->setPos(20, 30);
         QObject::connect(item_.get(), &TextItem::MentionClicked, [this](qint64 userNo) {
@@ -79,12 +79,12 @@ public:
         scene_.removeItem(&below_);
     }
 
-    TextItem& Item() { return *item_; }
-    void DeleteItem() { item_.reset(); }
-    int PressesBelow() const { return below_.presses; }
+    TextItem& item() { return *item_; }
+    void deleteItem() { item_.reset(); }
+    int pressesBelow() const { return below_.presses; }
 
     // `at` in the coordinates of the item.
-    void Send(QEvent::Type type, const QPointF& at, Qt::MouseButton button = Qt::LeftButton)
+    void send(QEvent::Type type, const QPointF& at, Qt::MouseButton button = Qt::LeftButton)
     {
         const QPoint place = view_.mapFromScene(QPointF(20, 30) + at);
         const bool isDown = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
@@ -97,24 +97,24 @@ public:
         QApplication::sendEvent(view_.viewport(), &event);
     }
 
-    void Move(const QPointF& at) { Send(QEvent::MouseMove, at); }
-    void Press(const QPointF& at) { Send(QEvent::MouseButtonPress, at); }
-    void Release(const QPointF& at) { Send(QEvent::MouseButtonRelease, at); }
+    void move(const QPointF& at) { send(QEvent::MouseMove, at); }
+    void press(const QPointF& at) { send(QEvent::MouseButtonPress, at); }
+    void release(const QPointF& at) { send(QEvent::MouseButtonRelease, at); }
 
-    void ClickAt(const QPointF& at)
+    void clickAt(const QPointF& at)
     {
-        Press(at);
-        Release(at);
+        press(at);
+        release(at);
     }
 
     // The centres of some pixels that have exactly this colour.
-    std::vector<QPointF> PixelsOf(const QColor& color)
+    std::vector<QPointF> pixelsOf(const QColor& color)
     {
         const Ink ink(*item_);
         std::vector<QPointF> pixels;
-        for (int y = 0; y < ink.Picture().height(); ++y) {
-            for (int x = y % 3; x < ink.Picture().width(); x += 3) {
-                if (ink.Picture().pixelColor(x, y) == color)
+        for (int y = 0; y < ink.picture().height(); ++y) {
+            for (int x = y % 3; x < ink.picture().width(); x += 3) {
+                if (ink.picture().pixelColor(x, y) == color)
                     pixels.push_back(QPointF(x + 0.5, y + 0.5) - QPointF(50, 50));
             }
         }
@@ -147,10 +147,10 @@ class MentionHit : public testing::TestWithParam<HitRow> {
 protected:
     void SetUp() override
     {
-        view_.Item().SetElide(true);
-        view_.Item().SetFixedItemWidth(GetParam().width);
-        view_.Item().SetMaxLineCount(GetParam().maxLines);
-        view_.Item().InsertRichText(QString::fromUtf8(GetParam().text), true);
+        view_.item().SetElide(true);
+        view_.item().SetFixedItemWidth(GetParam().width);
+        view_.item().SetMaxLineCount(GetParam().maxLines);
+        view_.item().InsertRichText(QString::fromUtf8(GetParam().text), true);
     }
 
     MentionView view_;
@@ -158,23 +158,23 @@ protected:
 
 TEST_P(MentionHit, IsOnItsGlyphsOnly)
 {
-    const std::vector<QPointF> mentioned = view_.PixelsOf(mentionColor);
+    const std::vector<QPointF> mentioned = view_.pixelsOf(kMentionColor);
     ASSERT_GT(mentioned.size(), 20U);
     for (const QPointF& at : mentioned) {
         view_.clicks.clear();
-        view_.ClickAt(at);
+        view_.clickAt(at);
         ASSERT_EQ(view_.clicks, std::vector<Click>({{false, 5}})) << at.x() << ", " << at.y();
     }
-    EXPECT_EQ(view_.PressesBelow(), 0);
+    EXPECT_EQ(view_.pressesBelow(), 0);
 
-    const std::vector<QPointF> others = view_.PixelsOf(textColor);
+    const std::vector<QPointF> others = view_.pixelsOf(kTextColor);
     ASSERT_GT(others.size(), 20U);
     view_.clicks.clear();
     for (const QPointF& at : others) {
-        view_.ClickAt(at);
+        view_.clickAt(at);
         ASSERT_TRUE(view_.clicks.empty()) << at.x() << ", " << at.y();
     }
-    EXPECT_EQ(view_.PressesBelow(), static_cast<int>(others.size()));
+    EXPECT_EQ(view_.pressesBelow(), static_cast<int>(others.size()));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -202,23 +202,23 @@ TEST(MentionHitInElidedText, ExcludesTheEllipsis)
     for (const char* text :
          {"HH <m user=\"5\">Hans Huber the Third</m>", "שם <m user=\"5\">עדה כהן לוי ברק</m>"}) {
         MentionView view;
-        view.Item().SetElide(true);
-        view.Item().SetMaxLineCount(1);
-        view.Item().SetFixedItemWidth(150);
-        view.Item().InsertRichText(QString::fromUtf8(text), true);
-        ASSERT_TRUE(view.Item().IsElided());
+        view.item().SetElide(true);
+        view.item().SetMaxLineCount(1);
+        view.item().SetFixedItemWidth(150);
+        view.item().InsertRichText(QString::fromUtf8(text), true);
+        ASSERT_TRUE(view.item().IsElided());
         const bool endsAtLeft = QString::fromUtf8(text).front().direction() == QChar::DirR;
-        const QRectF ink = Ink(view.Item()).Rect();
+        const QRectF ink = Ink(view.item()).rect();
         const qreal ellipsisWidth =
-            QFontMetricsF(view.Item().font()).horizontalAdvance(QChar(0x2026));
+            QFontMetricsF(view.item().font()).horizontalAdvance(QChar(0x2026));
         int hits = 0;
-        for (const QPointF& at : view.PixelsOf(mentionColor)) {
+        for (const QPointF& at : view.pixelsOf(kMentionColor)) {
             const qreal toEnd = endsAtLeft ? at.x() - ink.left() : ink.right() - at.x();
             // Between the ellipsis and the last letter, either may be hit.
             if (toEnd > ellipsisWidth * 0.75 && toEnd < ellipsisWidth * 1.25)
                 continue;
             view.clicks.clear();
-            view.ClickAt(at);
+            view.clickAt(at);
             EXPECT_EQ(view.clicks.empty(), toEnd < ellipsisWidth) << at.x() << " in " << text;
             hits += !view.clicks.empty();
         }
@@ -229,11 +229,11 @@ TEST(MentionHitInElidedText, ExcludesTheEllipsis)
 TEST(MentionHitInElidedText, ExcludesHiddenLines)
 {
     MentionView view;
-    view.Item().InsertRichText(QStringLiteral("HHH\n<m user=\"5\">HHH</m>"), true);
-    const std::vector<QPointF> mentioned = view.PixelsOf(mentionColor);
+    view.item().InsertRichText(QStringLiteral("HHH\n<m user=\"5\">HHH</m>"), true);
+    const std::vector<QPointF> mentioned = view.pixelsOf(kMentionColor);
     ASSERT_FALSE(mentioned.empty());
-    view.Item().SetMaxLineCount(1);
-    view.ClickAt(mentioned.front());
+    view.item().SetMaxLineCount(1);
+    view.clickAt(mentioned.front());
     EXPECT_TRUE(view.clicks.empty());
 }
 
@@ -243,19 +243,19 @@ class MentionClick : public testing::Test {
 protected:
     MentionClick()
     {
-        view_.Item().InsertRichText(QStringLiteral("HHH <m user=\"-9223372036854775808\">HHH</m> "
+        view_.item().InsertRichText(QStringLiteral("HHH <m user=\"-9223372036854775808\">HHH</m> "
                                                    "<m bot=\"77\">MMM</m><m bot=\"77\">WWW</m>"),
                                     true);
     }
 
-    QPointF MiddleOf(const char* text)
+    QPointF middleOf(const char* text)
     {
-        const QString shown = view_.Item().toPlainText();
+        const QString shown = view_.item().toPlainText();
         const int start = shown.lastIndexOf(QLatin1String(text));
-        const QFontMetricsF metrics(view_.Item().font());
+        const QFontMetricsF metrics(view_.item().font());
         return {metrics.horizontalAdvance(shown.left(start))
                     + metrics.horizontalAdvance(QLatin1String(text)) / 2,
-                view_.Item().boundingRect().center().y()};
+                view_.item().boundingRect().center().y()};
     }
 
     MentionView view_;
@@ -263,115 +263,115 @@ protected:
 
 TEST_F(MentionClick, ReportsTheNumberOfAUser)
 {
-    view_.ClickAt(MiddleOf("HHH"));
+    view_.clickAt(middleOf("HHH"));
     EXPECT_EQ(view_.clicks, std::vector<Click>({{false, std::numeric_limits<qint64>::min()}}));
 }
 
 TEST_F(MentionClick, ReportsTheNumberOfABot)
 {
-    view_.ClickAt(MiddleOf("MMM"));
+    view_.clickAt(middleOf("MMM"));
     EXPECT_EQ(view_.clicks, std::vector<Click>({{true, 77}}));
 }
 
 TEST_F(MentionClick, CreatesNoTextControl)
 {
-    view_.ClickAt(MiddleOf("MMM"));
-    for (const QObject* child : view_.Item().children())
+    view_.clickAt(middleOf("MMM"));
+    for (const QObject* child : view_.item().children())
         EXPECT_FALSE(child->inherits("QWidgetTextControl"));
 }
 
 TEST_F(MentionClick, NeedsPressAndReleaseOnTheSameMention)
 {
-    view_.Press(MiddleOf("HHH"));
-    view_.Release(MiddleOf("MMM"));
-    view_.Press(MiddleOf("MMM"));
-    view_.Release(MiddleOf("WWW"));
-    view_.Press(MiddleOf("MMM"));
-    view_.Release({5, 10});
+    view_.press(middleOf("HHH"));
+    view_.release(middleOf("MMM"));
+    view_.press(middleOf("MMM"));
+    view_.release(middleOf("WWW"));
+    view_.press(middleOf("MMM"));
+    view_.release({5, 10});
     EXPECT_TRUE(view_.clicks.empty());
-    EXPECT_EQ(view_.PressesBelow(), 0);
-    view_.Press({5, 10});
-    view_.Release(MiddleOf("MMM"));
+    EXPECT_EQ(view_.pressesBelow(), 0);
+    view_.press({5, 10});
+    view_.release(middleOf("MMM"));
     EXPECT_TRUE(view_.clicks.empty());
-    EXPECT_EQ(view_.PressesBelow(), 1);
+    EXPECT_EQ(view_.pressesBelow(), 1);
 }
 
 TEST_F(MentionClick, MayLeaveTheMentionBetweenPressAndRelease)
 {
-    view_.Press(MiddleOf("MMM"));
-    view_.Move({5, 10});
-    view_.Move(MiddleOf("MMM"));
-    view_.Release(MiddleOf("MMM"));
+    view_.press(middleOf("MMM"));
+    view_.move({5, 10});
+    view_.move(middleOf("MMM"));
+    view_.release(middleOf("MMM"));
     EXPECT_EQ(view_.clicks.size(), 1U);
 }
 
 TEST_F(MentionClick, NeedsTheLeftButton)
 {
     for (Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
-        view_.Send(QEvent::MouseButtonPress, MiddleOf("MMM"), button);
-        view_.Send(QEvent::MouseButtonRelease, MiddleOf("MMM"), button);
+        view_.send(QEvent::MouseButtonPress, middleOf("MMM"), button);
+        view_.send(QEvent::MouseButtonRelease, middleOf("MMM"), button);
     }
     EXPECT_TRUE(view_.clicks.empty());
-    EXPECT_EQ(view_.PressesBelow(), 2);
+    EXPECT_EQ(view_.pressesBelow(), 2);
 }
 
 TEST_F(MentionClick, HappensTwiceInADoubleClick)
 {
-    view_.ClickAt(MiddleOf("MMM"));
-    view_.Send(QEvent::MouseButtonDblClick, MiddleOf("MMM"));
-    view_.Release(MiddleOf("MMM"));
+    view_.clickAt(middleOf("MMM"));
+    view_.send(QEvent::MouseButtonDblClick, middleOf("MMM"));
+    view_.release(middleOf("MMM"));
     EXPECT_EQ(view_.clicks.size(), 2U);
-    EXPECT_EQ(view_.PressesBelow(), 0);
+    EXPECT_EQ(view_.pressesBelow(), 0);
 }
 
 TEST_F(MentionClick, DoesNotHappenWhenTheTextWasReplaced)
 {
     const QString again = QStringLiteral("<m user=\"1\">MMMMMMMMMMMMMMMMMM</m>");
-    view_.Press(MiddleOf("MMM"));
-    view_.Item().ClearText();
-    view_.Item().InsertRichText(again, true);
-    view_.Release({20, 10});
+    view_.press(middleOf("MMM"));
+    view_.item().ClearText();
+    view_.item().InsertRichText(again, true);
+    view_.release({20, 10});
     EXPECT_TRUE(view_.clicks.empty());
-    view_.ClickAt({20, 10});
+    view_.clickAt({20, 10});
     EXPECT_EQ(view_.clicks.size(), 1U);
 }
 
 TEST_F(MentionClick, MayDeleteTheItem)
 {
-    QObject::connect(&view_.Item(), &TextItem::BotMentionClicked, [this] { view_.DeleteItem(); });
-    view_.ClickAt(MiddleOf("MMM"));
+    QObject::connect(&view_.item(), &TextItem::BotMentionClicked, [this] { view_.deleteItem(); });
+    view_.clickAt(middleOf("MMM"));
     EXPECT_EQ(view_.clicks.size(), 1U);
 }
 
 TEST_F(MentionClick, DoesNotHappenInAnEditableItem)
 {
-    view_.Item().SetReadOnly(false);
-    view_.ClickAt(MiddleOf("MMM"));
+    view_.item().SetReadOnly(false);
+    view_.clickAt(middleOf("MMM"));
     EXPECT_TRUE(view_.clicks.empty());
-    view_.Item().SetReadOnly(true);
-    view_.ClickAt(MiddleOf("MMM"));
+    view_.item().SetReadOnly(true);
+    view_.clickAt(middleOf("MMM"));
     EXPECT_EQ(view_.clicks.size(), 1U);
 }
 
 TEST(MentionMarkup, IsNotClickableWhileMarkupIsDisabled)
 {
     MentionView view;
-    view.Item().SetMarkupEnabled(false);
-    view.Item().InsertRichText(QStringLiteral("<m user=\"5\">HHHH</m>"), true);
-    EXPECT_TRUE(view.PixelsOf(mentionColor).empty());
-    for (const QPointF& at : view.PixelsOf(textColor))
-        view.ClickAt(at);
+    view.item().SetMarkupEnabled(false);
+    view.item().InsertRichText(QStringLiteral("<m user=\"5\">HHHH</m>"), true);
+    EXPECT_TRUE(view.pixelsOf(kMentionColor).empty());
+    for (const QPointF& at : view.pixelsOf(kTextColor))
+        view.clickAt(at);
     EXPECT_TRUE(view.clicks.empty());
 }
 
 TEST(TextNextToAMention, IsNotClickable)
 {
     MentionView view;
-    view.Item().InsertRichText(QStringLiteral("<m user=\"5\">MM</m>"), true);
-    view.Item().InsertRichText(QStringLiteral("HH"), true);
-    view.Item().InsertRichText(QStringLiteral("HH"), false);
-    for (const QPointF& at : view.PixelsOf(textColor))
-        view.ClickAt(at);
+    view.item().InsertRichText(QStringLiteral("<m user=\"5\">MM</m>"), true);
+    view.item().InsertRichText(QStringLiteral("HH"), true);
+    view.item().InsertRichText(QStringLiteral("HH"), false);
+    for (const QPointF& at : view.pixelsOf(kTextColor))
+        view.clickAt(at);
     EXPECT_TRUE(view.clicks.empty());
 }
 
@@ -381,43 +381,43 @@ using MentionCursor = MentionClick;
 
 TEST_F(MentionCursor, IsAPointingHand)
 {
-    view_.Move({5, 10});
-    EXPECT_FALSE(view_.Item().hasCursor());
-    view_.Move(MiddleOf("MMM"));
-    EXPECT_EQ(view_.Item().cursor().shape(), Qt::PointingHandCursor);
-    view_.Move({5, 10});
-    EXPECT_FALSE(view_.Item().hasCursor());
-    view_.Move(MiddleOf("MMM"));
-    view_.Move({300, 300});
-    EXPECT_FALSE(view_.Item().hasCursor());
+    view_.move({5, 10});
+    EXPECT_FALSE(view_.item().hasCursor());
+    view_.move(middleOf("MMM"));
+    EXPECT_EQ(view_.item().cursor().shape(), Qt::PointingHandCursor);
+    view_.move({5, 10});
+    EXPECT_FALSE(view_.item().hasCursor());
+    view_.move(middleOf("MMM"));
+    view_.move({300, 300});
+    EXPECT_FALSE(view_.item().hasCursor());
 }
 
 TEST_F(MentionCursor, RestoresTheCursorOfTheItem)
 {
-    view_.Item().setCursor(Qt::IBeamCursor);
-    view_.Move(MiddleOf("MMM"));
-    EXPECT_EQ(view_.Item().cursor().shape(), Qt::PointingHandCursor);
-    view_.Move({5, 10});
-    EXPECT_EQ(view_.Item().cursor().shape(), Qt::IBeamCursor);
+    view_.item().setCursor(Qt::IBeamCursor);
+    view_.move(middleOf("MMM"));
+    EXPECT_EQ(view_.item().cursor().shape(), Qt::PointingHandCursor);
+    view_.move({5, 10});
+    EXPECT_EQ(view_.item().cursor().shape(), Qt::IBeamCursor);
 }
 
 TEST_F(MentionCursor, IsRemovedWithTheText)
 {
-    view_.Move(MiddleOf("MMM"));
-    view_.Item().ClearText();
-    EXPECT_FALSE(view_.Item().hasCursor());
+    view_.move(middleOf("MMM"));
+    view_.item().ClearText();
+    EXPECT_FALSE(view_.item().hasCursor());
 }
 
 TEST_F(MentionCursor, NeedsHoverEventsOnlyWhileThereIsAMention)
 {
-    EXPECT_TRUE(view_.Item().acceptHoverEvents());
-    view_.Item().SetReadOnly(false);
-    view_.Item().SetReadOnly(true);
-    EXPECT_TRUE(view_.Item().acceptHoverEvents());
-    view_.Item().ClearText();
-    EXPECT_FALSE(view_.Item().acceptHoverEvents());
-    view_.Item().InsertRichText(QStringLiteral("no mention"), true);
-    EXPECT_FALSE(view_.Item().acceptHoverEvents());
+    EXPECT_TRUE(view_.item().acceptHoverEvents());
+    view_.item().SetReadOnly(false);
+    view_.item().SetReadOnly(true);
+    EXPECT_TRUE(view_.item().acceptHoverEvents());
+    view_.item().ClearText();
+    EXPECT_FALSE(view_.item().acceptHoverEvents());
+    view_.item().InsertRichText(QStringLiteral("no mention"), true);
+    EXPECT_FALSE(view_.item().acceptHoverEvents());
 }
 
 } // namespace

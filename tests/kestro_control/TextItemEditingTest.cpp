@@ -19,7 +19,7 @@
 
 namespace {
 
-const QString text = QStringLiteral("some text\nand more");
+const QString kText = QStringLiteral("some text\nand more");
 
 bool hasTextControl(const TextItem& item)
 {
@@ -78,7 +78,7 @@ TEST(TextItemReadOnly, NeverCreatesATextControl)
     QGraphicsScene scene;
     OpenTextItem item;
     scene.addItem(&item);
-    item.InsertRichText(text, true);
+    item.InsertRichText(kText, true);
     item.SetFixedItemWidth(50);
     item.SetElide(true);
     item.SetMaxLineCount(1);
@@ -96,7 +96,7 @@ TEST(TextItemReadOnly, NeverCreatesATextControl)
     type(scene, item, 'x');
     QEvent focus(QEvent::ShortcutOverride);
     scene.sendEvent(&item, &focus);
-    item.setPlainText(text);
+    item.setPlainText(kText);
     item.ClearText();
     EXPECT_FALSE(hasTextControl(item));
 
@@ -107,7 +107,7 @@ TEST(TextItemReadOnly, NeverCreatesATextControl)
 TEST(TextItemReadOnly, AcceptsNoMouseHoverOrKeyEvent)
 {
     OpenTextItem item;
-    item.InsertRichText(text, true);
+    item.InsertRichText(kText, true);
     QGraphicsSceneMouseEvent mouse(QEvent::GraphicsSceneMousePress);
     mouse.setButton(Qt::LeftButton);
     mouse.setButtons(Qt::LeftButton);
@@ -127,7 +127,7 @@ TEST(TextItemReadOnly, AcceptsNoMouseHoverOrKeyEvent)
     EXPECT_FALSE(accepts(item, &OpenTextItem::keyReleaseEvent, key));
     EXPECT_FALSE(item.acceptDrops());
     EXPECT_FALSE(item.acceptHoverEvents());
-    EXPECT_EQ(item.toPlainText(), text);
+    EXPECT_EQ(item.toPlainText(), kText);
 }
 
 TEST(TextItemReadOnly, LeavesClicksToTheItemBelow)
@@ -136,7 +136,7 @@ TEST(TextItemReadOnly, LeavesClicksToTheItemBelow)
     PressCounter below(0, 0, 200, 200);
     scene.addItem(&below);
     TextItem item;
-    item.InsertRichText(text, true);
+    item.InsertRichText(kText, true);
     scene.addItem(&item);
 
     QGraphicsSceneMouseEvent press(QEvent::GraphicsSceneMousePress);
@@ -152,23 +152,23 @@ TEST(TextItemEditable, InsertsWhatTheUserTypes)
     QGraphicsScene scene;
     TextItem item;
     scene.addItem(&item);
-    item.InsertRichText(text, true);
+    item.InsertRichText(kText, true);
     item.SetReadOnly(false);
     EXPECT_FALSE(item.IsReadOnly());
     type(scene, item, 'X');
-    EXPECT_EQ(item.toPlainText(), QStringLiteral("X") + text);
-    EXPECT_EQ(item.property("plainText").toString(), QStringLiteral("X") + text);
+    EXPECT_EQ(item.toPlainText(), QStringLiteral("X") + kText);
+    EXPECT_EQ(item.property("plainText").toString(), QStringLiteral("X") + kText);
     EXPECT_EQ(item.textCursor().position(), 1);
 
     item.SetReadOnly(true);
     type(scene, item, 'Y');
-    EXPECT_EQ(item.toPlainText(), QStringLiteral("X") + text);
+    EXPECT_EQ(item.toPlainText(), QStringLiteral("X") + kText);
 }
 
 TEST(TextItemEditable, ShowsAllOfTheText)
 {
     TextItem item;
-    item.InsertRichText(text, true);
+    item.InsertRichText(kText, true);
     item.setDefaultTextColor(QColor(200, 0, 0));
     QFont font = item.font();
     font.setPixelSize(60);
@@ -182,18 +182,18 @@ TEST(TextItemEditable, ShowsAllOfTheText)
     EXPECT_FALSE(item.IsElided());
     EXPECT_GT(item.boundingRect().height(), 1.5 * limited.height());
     const Ink ink(item);
-    EXPECT_GT(ink.Rect().height(), 1.5 * limited.height());
-    EXPECT_TRUE(ink.Has(QColor(200, 0, 0)));
+    EXPECT_GT(ink.rect().height(), 1.5 * limited.height());
+    EXPECT_TRUE(ink.has(QColor(200, 0, 0)));
 
     item.SetReadOnly(true);
     EXPECT_EQ(item.boundingRect(), limited);
-    EXPECT_LT(Ink(item).Rect().height(), limited.height());
+    EXPECT_LT(Ink(item).rect().height(), limited.height());
 }
 
 TEST(TextItemEditable, KeepsTheDocument)
 {
     TextItem item;
-    item.InsertRichText(text, true);
+    item.InsertRichText(kText, true);
     QTextDocument* const document = item.document();
     for (int i = 0; i < 3; ++i) {
         item.SetReadOnly(false);
@@ -201,19 +201,19 @@ TEST(TextItemEditable, KeepsTheDocument)
         item.SetReadOnly(true);
         EXPECT_EQ(item.document(), document);
     }
-    EXPECT_EQ(item.toPlainText(), text);
+    EXPECT_EQ(item.toPlainText(), kText);
     item.InsertRichText(QStringLiteral("!"), true);
-    EXPECT_EQ(item.toPlainText(), text + QLatin1Char('!'));
+    EXPECT_EQ(item.toPlainText(), kText + QLatin1Char('!'));
 }
 
 TEST(TextItemBase, HasADocumentOfItsOwn)
 {
     TextItem item;
-    item.InsertRichText(text, true);
+    item.InsertRichText(kText, true);
     QGraphicsTextItem& base = item;
     EXPECT_NE(base.document(), item.document());
     EXPECT_EQ(base.toPlainText(), QString());
-    EXPECT_EQ(item.toPlainText(), text);
+    EXPECT_EQ(item.toPlainText(), kText);
     EXPECT_EQ(base.boundingRect(), item.boundingRect());
 }
 
@@ -223,7 +223,7 @@ TEST(TextItemDeletion, WorksInEveryState)
         QGraphicsScene scene;
         auto* const item = new TextItem;
         scene.addItem(item);
-        item->InsertRichText(text, true);
+        item->InsertRichText(kText, true);
         for (int i = 0; i < changes; ++i)
             item->SetReadOnly(!item->IsReadOnly());
         item->boundingRect();
@@ -238,7 +238,7 @@ TEST(TextItemDeletion, MakesTextCursorsNull)
 {
     for (bool readOnly : {true, false}) {
         auto item = std::make_unique<TextItem>();
-        item->InsertRichText(text, true);
+        item->InsertRichText(kText, true);
         item->SetReadOnly(readOnly);
         QTextCursor cursor = item->textCursor();
         item.reset();
@@ -256,7 +256,7 @@ TEST(TextItemDeletion, WorksBeforeAndAfterThatOfTheLayout)
         panel->setLayout(layout);
         auto* const item = new TextItem(panel, layout);
         layout->addItem(item);
-        item->InsertRichText(text, true);
+        item->InsertRichText(kText, true);
         if (layoutFirst)
             panel->setLayout(nullptr);
         else

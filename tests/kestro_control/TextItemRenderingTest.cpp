@@ -46,7 +46,7 @@ TEST_P(TextItemInk, IsInsideTheBoundingRect)
             useFont(item);
             item.InsertRichText(QString::fromUtf8(GetParam().text), true);
             item.SetFixedItemWidth(width);
-            const QRectF ink = Ink(item, scale).Rect();
+            const QRectF ink = Ink(item, scale).rect();
             ASSERT_FALSE(ink.isEmpty());
             // Antialiased edges of glyphs may extend beyond it by a pixel or two.
             const QRectF rect = item.boundingRect().adjusted(-2, -2, 2, 2);
@@ -72,9 +72,9 @@ TEST(TextItemRendering, DrawsOnlyTheLinesWithinTheLimit)
     TextItem item;
     useFont(item);
     item.InsertRichText(QStringLiteral("H\nH\nH"), true);
-    const QRectF all = Ink(item).Rect();
+    const QRectF all = Ink(item).rect();
     item.SetMaxLineCount(2);
-    const QRectF limited = Ink(item).Rect();
+    const QRectF limited = Ink(item).rect();
     EXPECT_EQ(limited.topLeft(), all.topLeft());
     EXPECT_LT(limited.bottom(), item.boundingRect().bottom());
     EXPECT_GT(limited.bottom(), item.boundingRect().bottom() - 10);
@@ -89,13 +89,13 @@ TEST(TextItemRendering, UsesTheDefaultColourUnlessASpanHasOne)
     item.setDefaultTextColor(QColor(0, 0, 200));
     item.InsertRichText(QStringLiteral("H"), true);
     item.InsertRichText(QStringLiteral("H"), true, &red);
-    EXPECT_TRUE(Ink(item).Has(QColor(0, 0, 200)));
-    EXPECT_TRUE(Ink(item).Has(QColor(200, 0, 0)));
+    EXPECT_TRUE(Ink(item).has(QColor(0, 0, 200)));
+    EXPECT_TRUE(Ink(item).has(QColor(200, 0, 0)));
 
     item.setDefaultTextColor(QColor(0, 150, 0));
-    EXPECT_FALSE(Ink(item).Has(QColor(0, 0, 200)));
-    EXPECT_TRUE(Ink(item).Has(QColor(0, 150, 0)));
-    EXPECT_TRUE(Ink(item).Has(QColor(200, 0, 0)));
+    EXPECT_FALSE(Ink(item).has(QColor(0, 0, 200)));
+    EXPECT_TRUE(Ink(item).has(QColor(0, 150, 0)));
+    EXPECT_TRUE(Ink(item).has(QColor(200, 0, 0)));
 }
 
 TEST(TextItemRendering, DrawsInBlackIfTheColourIsInvalid)
@@ -104,7 +104,7 @@ TEST(TextItemRendering, DrawsInBlackIfTheColourIsInvalid)
     useFont(item, 60);
     item.setDefaultTextColor(QColor());
     item.InsertRichText(QStringLiteral("H"), true);
-    EXPECT_TRUE(Ink(item).Has(Qt::black));
+    EXPECT_TRUE(Ink(item).has(Qt::black));
 }
 
 TEST(TextItemRendering, DrawsTheLinesAndBackgroundsOfSpans)
@@ -114,7 +114,7 @@ TEST(TextItemRendering, DrawsTheLinesAndBackgroundsOfSpans)
     TextItem plain;
     useFont(plain, 30);
     plain.InsertRichText(spaces, true);
-    ASSERT_TRUE(Ink(plain).Rect().isEmpty());
+    ASSERT_TRUE(Ink(plain).rect().isEmpty());
 
     QTextCharFormat underline;
     underline.setFontUnderline(true);
@@ -126,7 +126,7 @@ TEST(TextItemRendering, DrawsTheLinesAndBackgroundsOfSpans)
         TextItem item;
         useFont(item, 30);
         item.InsertRichText(spaces, true, format);
-        EXPECT_GT(Ink(item).Rect().width(), item.boundingRect().width() - 3);
+        EXPECT_GT(Ink(item).rect().width(), item.boundingRect().width() - 3);
     }
 }
 
@@ -175,7 +175,7 @@ protected:
 TEST_P(TextItemAlignment, AppliesToTheFixedWidth)
 {
     item_.SetFixedItemWidth(300);
-    const QRectF ink = Ink(item_).Rect();
+    const QRectF ink = Ink(item_).rect();
     ASSERT_FALSE(ink.isEmpty());
     EXPECT_NEAR(ink.left(), (300 - ink.width()) * GetParam().position, 3);
 }
@@ -189,7 +189,7 @@ TEST_P(TextItemAlignment, AppliesToShortLinesInTheNaturalWidth)
     item_.SetMaxLineCount(2);
     const QRectF rect = item_.boundingRect();
     const QRectF firstLine(rect.left(), rect.top(), rect.width(), rect.height() / 2);
-    const QRectF ink = Ink(item_).RectIn(firstLine);
+    const QRectF ink = Ink(item_).rectIn(firstLine);
     ASSERT_FALSE(ink.isEmpty());
     EXPECT_LT(ink.width(), rect.width() / 2);
     EXPECT_NEAR(ink.left(), (rect.width() - ink.width()) * GetParam().position, 3);
@@ -213,11 +213,11 @@ TEST(TextItemRendering, DrawsTheTextBelowTheFrameMargin)
     TextItem item;
     useFont(item);
     item.InsertRichText(QStringLiteral("H"), true);
-    const QRectF before = Ink(item).Rect();
+    const QRectF before = Ink(item).rect();
     QTextFrameFormat format = item.document()->rootFrame()->frameFormat();
     format.setTopMargin(100);
     item.document()->rootFrame()->setFrameFormat(format);
-    EXPECT_EQ(Ink(item).Rect(), before.translated(0, 100));
+    EXPECT_EQ(Ink(item).rect(), before.translated(0, 100));
 }
 
 TEST(TextItemRendering, DrawsCapitalsOnTheBaseline)
@@ -225,7 +225,7 @@ TEST(TextItemRendering, DrawsCapitalsOnTheBaseline)
     TextItem item;
     useFont(item, 60);
     item.InsertRichText(QStringLiteral("H"), true);
-    EXPECT_NEAR(Ink(item).Rect().bottom(), item.boundingRect().top() + item.FirstLineAscent(), 1.5);
+    EXPECT_NEAR(Ink(item).rect().bottom(), item.boundingRect().top() + item.FirstLineAscent(), 1.5);
 }
 
 } // namespace

@@ -37,10 +37,10 @@ struct TestItem : TextItem {
         InsertRichText(text, true);
     }
 
-    qreal LineHeight() const { return QFontMetricsF(font()).height(); }
+    qreal lineHeight() const { return QFontMetricsF(font()).height(); }
 };
 
-const QString threeWords = QStringLiteral("alpha beta gamma");
+const QString kThreeWords = QStringLiteral("alpha beta gamma");
 
 // The width of the widest word, in which every word is a line.
 qreal oneWordWidth(const TextItem& item)
@@ -66,12 +66,12 @@ TEST(TextItemBoundingRect, KeepsTheFixedWidthWithoutText)
 
 TEST(TextItemBoundingRect, HasTheNaturalWidthOfOneLine)
 {
-    const TestItem item(threeWords);
+    const TestItem item(kThreeWords);
     EXPECT_EQ(item.ShownLineCount(), 1);
     EXPECT_EQ(item.boundingRect().topLeft(), QPointF(0, 0));
     EXPECT_NEAR(item.boundingRect().width(),
-                QFontMetricsF(item.font()).horizontalAdvance(threeWords), 1);
-    EXPECT_NEAR(item.boundingRect().height(), item.LineHeight(), 1);
+                QFontMetricsF(item.font()).horizontalAdvance(kThreeWords), 1);
+    EXPECT_NEAR(item.boundingRect().height(), item.lineHeight(), 1);
 }
 
 TEST(TextItemBoundingRect, IsAsWideAsTheWidestShownLine)
@@ -85,7 +85,7 @@ TEST(TextItemBoundingRect, IsAsWideAsTheWidestShownLine)
 
 TEST(TextItemLines, WrapAtTheFixedWidth)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     const qreal lineHeight = item.boundingRect().height();
     item.SetFixedItemWidth(oneWordWidth(item));
     EXPECT_EQ(item.ShownLineCount(), 3);
@@ -134,7 +134,7 @@ class TextItemInvalidWidth : public testing::TestWithParam<qreal> { };
 
 TEST_P(TextItemInvalidWidth, RestoresTheNaturalWidth)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     const QRectF natural = item.boundingRect();
     item.SetFixedItemWidth(oneWordWidth(item));
     item.SetFixedItemWidth(GetParam());
@@ -149,28 +149,28 @@ INSTANTIATE_TEST_SUITE_P(Values, TextItemInvalidWidth,
 
 TEST(TextItemZeroWidth, KeepsTheHeightAndShowsNothing)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     const QRectF natural = item.boundingRect();
     item.SetFixedItemWidth(0);
     EXPECT_EQ(item.boundingRect(), QRectF(0, natural.top(), 0, natural.height()));
     EXPECT_EQ(item.textWidth(), 0);
-    EXPECT_TRUE(Ink(item).Rect().isEmpty());
-    EXPECT_EQ(item.toPlainText(), threeWords);
+    EXPECT_TRUE(Ink(item).rect().isEmpty());
+    EXPECT_EQ(item.toPlainText(), kThreeWords);
 }
 
 TEST(TextItemZeroWidth, EndsWithAnyOtherWidth)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     const QRectF natural = item.boundingRect();
     for (const qreal width : {-1.0, 500.0}) {
         item.SetFixedItemWidth(0);
         item.SetFixedItemWidth(width);
         EXPECT_EQ(item.boundingRect().width(), width > 0 ? width : natural.width());
-        EXPECT_FALSE(Ink(item).Rect().isEmpty());
+        EXPECT_FALSE(Ink(item).rect().isEmpty());
     }
     item.SetFixedItemWidth(0);
     item.adjustSize();
-    EXPECT_FALSE(Ink(item).Rect().isEmpty());
+    EXPECT_FALSE(Ink(item).rect().isEmpty());
 }
 
 TEST(TextItemEdges, ClipLinesThatAreTooWide)
@@ -178,7 +178,7 @@ TEST(TextItemEdges, ClipLinesThatAreTooWide)
     TestItem item(QStringLiteral("WWWWWWWW"));
     item.SetWrapMode(QTextOption::NoWrap);
     item.SetFixedItemWidth(50);
-    const QRectF ink = Ink(item).Rect();
+    const QRectF ink = Ink(item).rect();
     EXPECT_GE(ink.left(), 0);
     EXPECT_LE(ink.right(), 50);
     EXPECT_GT(ink.right(), 45);
@@ -186,7 +186,7 @@ TEST(TextItemEdges, ClipLinesThatAreTooWide)
 
 TEST(TextItemWidth, HasAMaximum)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     item.SetFixedItemWidth(1e300);
     EXPECT_EQ(item.ShownLineCount(), 1);
     EXPECT_LT(item.boundingRect().width(), 1e7);
@@ -195,7 +195,7 @@ TEST(TextItemWidth, HasAMaximum)
 
 TEST(TextItemWidth, MayBeSmallerThanAPixel)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     item.SetFixedItemWidth(0.001);
     EXPECT_GT(item.ShownLineCount(), 3);
     EXPECT_EQ(item.boundingRect().width(), 0.001);
@@ -271,7 +271,7 @@ TEST(TextItemText, IsReplacedBySetPlainText)
 
 TEST(TextItemClearText, KeepsFontWidthAndFrameFormat)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     const QFont font = item.font();
     item.SetFixedItemWidth(90);
     QTextFrameFormat format = item.document()->rootFrame()->frameFormat();
@@ -282,7 +282,7 @@ TEST(TextItemClearText, KeepsFontWidthAndFrameFormat)
     EXPECT_EQ(item.toPlainText(), QString());
     EXPECT_EQ(item.boundingRect().size(), QSizeF(90, 0));
 
-    item.InsertRichText(threeWords, true);
+    item.InsertRichText(kThreeWords, true);
     EXPECT_EQ(item.font(), font);
     EXPECT_EQ(item.boundingRect().top(), 30);
 }
@@ -339,7 +339,7 @@ TEST(TextItemFormats, OverrideTheFontOfTheItem)
 
 TEST(TextItemFont, AppliesToTextWithoutAFormat)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     const QRectF before = item.boundingRect();
     QFont font = item.font();
     font.setPixelSize(2 * kPixelSize);
@@ -349,7 +349,7 @@ TEST(TextItemFont, AppliesToTextWithoutAFormat)
 
 TEST(TextItemWrapMode, DecidesWhetherLinesWrap)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     item.SetFixedItemWidth(oneWordWidth(item));
     item.SetWrapMode(QTextOption::NoWrap);
     EXPECT_EQ(item.ShownLineCount(), 1);
@@ -359,7 +359,7 @@ TEST(TextItemWrapMode, DecidesWhetherLinesWrap)
 
 TEST(TextItemWrapMode, IgnoresUnknownValues)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     item.SetFixedItemWidth(oneWordWidth(item));
     item.SetWrapMode(static_cast<QTextOption::WrapMode>(7));
     EXPECT_EQ(item.ShownLineCount(), 3);
@@ -369,7 +369,7 @@ TEST(TextItemWrapMode, IgnoresUnknownValues)
 
 TEST(TextItemDocument, MovesTheTextDownByItsFrameMargin)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     const QRectF before = item.boundingRect();
     const qreal ascent = item.FirstLineAscent();
 
@@ -384,7 +384,7 @@ TEST(TextItemDocument, MovesTheTextDownByItsFrameMargin)
 
 TEST(TextItemDocument, IsLaidOutOncePerWidth)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     item.SetFixedItemWidth(70);
     item.boundingRect();
 
@@ -409,7 +409,7 @@ TEST(TextItemDocument, IsLaidOutOnceWhenSpansAreInsertedFirst)
 {
     TestItem item;
     for (int i = 0; i < 10; ++i)
-        item.InsertRichText(threeWords, true);
+        item.InsertRichText(kThreeWords, true);
     int layouts = 0;
     // documentLayout() creates the layout and lays out the text for the first time.
     QObject::connect(item.document()->documentLayout(), &QAbstractTextDocumentLayout::update,
@@ -438,7 +438,7 @@ TEST(TextItemProperties, ReturnWhatIsShown)
 
 TEST(TextItemLayoutItem, HintsItsHeightOnly)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     const QSizeF hint(-1, item.boundingRect().height());
     EXPECT_EQ(item.sizeHint(Qt::MinimumSize), hint);
     EXPECT_EQ(item.sizeHint(Qt::PreferredSize), hint);
@@ -456,7 +456,7 @@ TEST(TextItemLayoutItem, UpdatesItsHintWhenTheTextChanges)
 
 TEST(TextItemLayoutItem, MovesToItsGeometry)
 {
-    TestItem item(threeWords);
+    TestItem item(kThreeWords);
     const QRectF shown = item.boundingRect();
     item.setGeometry(QRectF(30, 40, 500, 60));
     EXPECT_EQ(item.pos(), QPointF(30, 40));
@@ -505,7 +505,7 @@ public:
     }
 
     // Whether anything was painted since the last call.
-    bool IsPainted()
+    bool isPainted()
     {
         for (int i = 0; i < 5; ++i)
             QApplication::processEvents();
@@ -523,19 +523,19 @@ TEST(TextItemScene, RepaintsTheItemOnlyWhenItLooksDifferent)
     scene.addItem(&item);
     QGraphicsView view(&scene);
     view.show();
-    ASSERT_TRUE(item.IsPainted());
-    EXPECT_FALSE(item.IsPainted());
+    ASSERT_TRUE(item.isPainted());
+    EXPECT_FALSE(item.isPainted());
 
     item.setPlainText(QStringLiteral("bb"));
-    EXPECT_TRUE(item.IsPainted());
+    EXPECT_TRUE(item.isPainted());
     item.setDefaultTextColor(Qt::red);
-    EXPECT_TRUE(item.IsPainted());
+    EXPECT_TRUE(item.isPainted());
     item.SetFixedItemWidth(100);
-    EXPECT_TRUE(item.IsPainted());
+    EXPECT_TRUE(item.isPainted());
     QTextOption option = item.document()->defaultTextOption();
     option.setAlignment(Qt::AlignRight);
     item.document()->setDefaultTextOption(option);
-    EXPECT_TRUE(item.IsPainted());
+    EXPECT_TRUE(item.isPainted());
 
     item.setDefaultTextColor(Qt::red);
     item.SetFixedItemWidth(100);
@@ -544,7 +544,7 @@ TEST(TextItemScene, RepaintsTheItemOnlyWhenItLooksDifferent)
     item.SetWrapMode(option.wrapMode());
     item.setFont(item.font());
     item.SetReadOnly(true);
-    EXPECT_FALSE(item.IsPainted());
+    EXPECT_FALSE(item.isPainted());
 }
 
 TEST(TextItemScene, RepaintsACachedItemWhenItsTextChanges)
@@ -555,10 +555,10 @@ TEST(TextItemScene, RepaintsACachedItemWhenItsTextChanges)
     scene.addItem(&item);
     QGraphicsView view(&scene);
     view.show();
-    ASSERT_TRUE(item.IsPainted());
+    ASSERT_TRUE(item.isPainted());
 
     item.setPlainText(QStringLiteral("ba"));
-    EXPECT_TRUE(item.IsPainted());
+    EXPECT_TRUE(item.isPainted());
 }
 
 } // namespace

@@ -232,28 +232,29 @@ TEST_P(Color, FollowsQtsSyntax)
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, Color,
-    testing::Values(
-        ColorRow {"ThreeDigits", "#1aF", QColor(0x11, 0xAA, 0xFF)},
-        ColorRow {"SixDigits", "#222222", QColor(0x22, 0x22, 0x22, 255)},
-        ColorRow {"EightDigitsAreAlphaFirst", "#1A222222", QColor(0x22, 0x22, 0x22, 26)},
-        ColorRow {"NineDigits", "#111222333", QColor(0x11, 0x22, 0x33)},
-        ColorRow {"TwelveDigits", "#111122223333", QColor(0x11, 0x22, 0x33)},
-        ColorRow {"Name", "red", QColor(255, 0, 0)}, ColorRow {"UnknownName", "reddish", QColor()},
-        ColorRow {"WithoutHash", "222222", QColor()}, ColorRow {"FiveDigits", "#22222", QColor()},
-        ColorRow {"NoHexDigit", "#22222G", QColor()}, ColorRow {"Empty", "", QColor()},
-        ColorRow {"BrokenUtf8", "#\xff\xfe", QColor()}),
+    testing::Values(ColorRow {"ThreeDigits", "#1aF", QColor(0x11, 0xAA, 0xFF)},
+                    ColorRow {"SixDigits", "#222222", QColor(0x22, 0x22, 0x22, 255)},
+                    ColorRow {"EightDigitsAreArgb", "#1A222222", QColor(0x22, 0x22, 0x22, 26)},
+                    ColorRow {"NineDigits", "#111222333", QColor(0x11, 0x22, 0x33)},
+                    ColorRow {"TwelveDigits", "#111122223333", QColor(0x11, 0x22, 0x33)},
+                    ColorRow {"Name", "red", QColor(255, 0, 0)},
+                    ColorRow {"UnknownName", "reddish", QColor()},
+                    ColorRow {"WithoutHash", "222222", QColor()},
+                    ColorRow {"FiveDigits", "#22222", QColor()},
+                    ColorRow {"NoHexDigit", "#22222G", QColor()}, ColorRow {"Empty", "", QColor()},
+                    ColorRow {"BrokenUtf8", "#\xff\xfe", QColor()}),
     rowName<ColorRow>);
 
 using AlphaRow = Row<std::string>;
 
-class AlphaFirst : public testing::TestWithParam<AlphaRow> { };
+class RgbaToArgb : public testing::TestWithParam<AlphaRow> { };
 
-TEST_P(AlphaFirst, MovesTheLastTwoOfEightDigits)
+TEST_P(RgbaToArgb, MovesTheLastTwoOfEightDigits)
 {
     EXPECT_EQ(plix::RgbaToArgb(GetParam().text), GetParam().value);
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, AlphaFirst,
+INSTANTIATE_TEST_SUITE_P(Texts, RgbaToArgb,
                          testing::Values(AlphaRow {"EightDigits", "#11223344", "#44112233"},
                                          AlphaRow {"SixDigits", "#112233", "#112233"},
                                          AlphaRow {"Name", "red", "red"},

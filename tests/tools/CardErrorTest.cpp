@@ -7,7 +7,7 @@
 namespace plix::test {
 namespace {
 
-const Arguments layOut {"layout", "card.json"};
+const Arguments kLayOut {"layout", "card.json"};
 
 struct ErrorRow {
     const char* name;
@@ -21,7 +21,7 @@ TEST_P(CardError, ReportsThePosition)
 {
     const ToolFolder folder;
     folder.write("card.json", GetParam().card);
-    const ToolResult result = folder.run(layOut);
+    const ToolResult result = folder.run(kLayOut);
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors, "card.json:" + GetParam().error + "\n");
@@ -117,7 +117,7 @@ TEST(CardFile, MayHaveCommentsAndAByteOrderMark)
                  "\xEF\xBB\xBF// first\r\n"
                      + cardOf(R"(/* a text */ {"type": "text", "text": "http://a /* b */"} // end
 )"));
-    const ToolResult result = folder.run(layOut);
+    const ToolResult result = folder.run(kLayOut);
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
     EXPECT_TRUE(contains(result.output, "\"text\": \"http://a /* b */\"")) << result.output;
@@ -125,7 +125,7 @@ TEST(CardFile, MayHaveCommentsAndAByteOrderMark)
 
 TEST(CardFile, ThatIsMissingIsAFileError)
 {
-    const ToolResult result = ToolFolder().run(layOut);
+    const ToolResult result = ToolFolder().run(kLayOut);
     EXPECT_EQ(result.exitCode, 2);
     // The text comes from the system.
     QFile missing(QStringLiteral("missing.json"));
@@ -137,7 +137,7 @@ TEST(CardFile, ThatIsAFolderIsAFileError)
 {
     const ToolFolder folder;
     folder.write("card.json/inside", "");
-    const ToolResult result = folder.run(layOut);
+    const ToolResult result = folder.run(kLayOut);
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_TRUE(result.errors.starts_with("card.json: error: "));
 }
@@ -154,7 +154,7 @@ TEST(CardWarnings, AreTheLibrarysLogLines)
 {
     const ToolFolder folder;
     folder.write("card.json", cardOf(R"({"type": "text", "text": "read", "size": 5})"));
-    const ToolResult result = folder.run(layOut);
+    const ToolResult result = folder.run(kLayOut);
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_TRUE(
         result.errors.starts_with("card.json: warning: call PlixJsonDataParse::ParseText failed. "))
@@ -167,7 +167,7 @@ TEST(CardWarnings, ReportThatACardWithoutBodyCannotGrow)
 {
     const ToolFolder folder;
     folder.write("card.json", R"({"type": "bubble"})");
-    const ToolResult result = folder.run(layOut + Arguments {"--height", "50"});
+    const ToolResult result = folder.run(kLayOut + Arguments {"--height", "50"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "card.json: warning: the card has no body that can grow\n");
 }
@@ -184,7 +184,7 @@ TEST(CardNesting, IsLaidOutAsDeepAsItIsRead)
 {
     const ToolFolder folder;
     folder.write("card.json", nestedBoxes(20));
-    const ToolResult layout = folder.run(layOut);
+    const ToolResult layout = folder.run(kLayOut);
     EXPECT_EQ(layout.exitCode, 0);
     EXPECT_EQ(layout.errors, "");
     EXPECT_EQ(countOf(layout.output, "PlixBoxUI"), 20);

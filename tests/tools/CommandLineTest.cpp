@@ -23,7 +23,7 @@ TEST_P(Help, IsPrinted)
     }
 }
 
-const Arguments cardOptions {
+const Arguments kCardOptions {
     "--output",    "--dpi",       "--images",     "--lang",      "--from",
     "--height",    "--highlight", "--background", "--markup",    "--no-mobile-check",
     "--wrap-mode", "--text",      "Examples:",    "Exit codes:",
@@ -37,11 +37,11 @@ INSTANTIATE_TEST_SUITE_P(
                  {"render", "layout", "gallery", "plix render receipt.json -o receipt.png",
                   "Exit codes:"}},
         HelpRow {"ToolShortly", {"-h"}, {"Commands:"}},
-        HelpRow {"Render", {"render", "--help"}, Arguments {"--scale", "CARD.json"} + cardOptions},
-        HelpRow {"Layout", {"layout", "--help"}, Arguments {"standard output"} + cardOptions},
+        HelpRow {"Render", {"render", "--help"}, Arguments {"--scale", "CARD.json"} + kCardOptions},
+        HelpRow {"Layout", {"layout", "--help"}, Arguments {"standard output"} + kCardOptions},
         HelpRow {"Gallery",
                  {"gallery", "-h"},
-                 Arguments {"--scale", "OUTDIR/gallery.png"} + cardOptions},
+                 Arguments {"--scale", "OUTDIR/gallery.png"} + kCardOptions},
         HelpRow {"Version", {"--version"}, {"plix " PLIX_VERSION}}),
     [](const auto& row) { return row.param.name; });
 

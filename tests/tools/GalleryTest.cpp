@@ -7,18 +7,18 @@
 namespace plix::test {
 namespace {
 
-const Arguments drawGallery {"gallery", "in", "-o", "made/out"};
+const Arguments kDrawGallery {"gallery", "in", "-o", "made/out"};
 
-const QByteArray card = R"({"type": "bubble", "size": "nano", "body": {"type": "box",
+const QByteArray kCard = R"({"type": "bubble", "size": "nano", "body": {"type": "box",
     "layout": "vertical", "height": "50px", "contents": []}})";
 
 TEST(Gallery, DrawsEveryCardAndASheet)
 {
     const ToolFolder folder;
-    folder.write("in/b.second.json", card);
-    folder.write("in/a.json", card);
+    folder.write("in/b.second.json", kCard);
+    folder.write("in/a.json", kCard);
     folder.write("in/notes.txt", "no card");
-    const ToolResult result = folder.run(drawGallery);
+    const ToolResult result = folder.run(kDrawGallery);
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(result.output,
@@ -38,9 +38,9 @@ TEST(Gallery, DrawsEveryCardAndASheet)
 TEST(Gallery, PassesTheOptionsOn)
 {
     const ToolFolder folder;
-    folder.write("in/a.json", card);
+    folder.write("in/a.json", kCard);
     const ToolResult result =
-        folder.run(drawGallery + Arguments {"--scale", "1", "--background", "lime"});
+        folder.run(kDrawGallery + Arguments {"--scale", "1", "--background", "lime"});
     EXPECT_EQ(result.exitCode, 0);
     const QImage picture(folder.path("made/out/cards/a.png"));
     EXPECT_EQ(picture.size(), QSize(120, 50));
@@ -56,9 +56,9 @@ TEST(Gallery, ContinuesAfterCardsThatFail)
 {
     const ToolFolder folder;
     folder.write("in/a.json", "[]");
-    folder.write("in/b.json", card);
+    folder.write("in/b.json", kCard);
     folder.write("in/c.json", R"({"type": "bubbles"})");
-    const ToolResult result = folder.run(drawGallery);
+    const ToolResult result = folder.run(kDrawGallery);
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_TRUE(
         result.output.starts_with("[1/3] a: failed\n[2/3] b: 240 x 100 pixels\n[3/3] c: failed\n"))
@@ -74,10 +74,10 @@ TEST(Gallery, ContinuesAfterCardsThatFail)
 TEST(Gallery, ExitsWithTwoIfACardCannotBeWritten)
 {
     const ToolFolder folder;
-    folder.write("in/a.json", card);
+    folder.write("in/a.json", kCard);
     folder.write("in/b.json", "{}");
     folder.write("made/out/cards/a.png/inside", "");
-    const ToolResult result = folder.run(drawGallery);
+    const ToolResult result = folder.run(kDrawGallery);
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_TRUE(result.output.ends_with("0 of 2 cards drawn\n"));
     EXPECT_FALSE(folder.contains("made/out/gallery.png"));
@@ -86,17 +86,17 @@ TEST(Gallery, ExitsWithTwoIfACardCannotBeWritten)
 TEST(Gallery, WritesTheSameSheetEachTime)
 {
     const ToolFolder folder;
-    folder.write("in/a.json", card);
-    folder.run(drawGallery);
+    folder.write("in/a.json", kCard);
+    folder.run(kDrawGallery);
     const QByteArray sheet = folder.read("made/out/gallery.png");
-    folder.run(drawGallery);
+    folder.run(kDrawGallery);
     EXPECT_FALSE(sheet.isEmpty());
     EXPECT_EQ(folder.read("made/out/gallery.png"), sheet);
 }
 
 TEST(Gallery, OfAMissingFolderIsAFileError)
 {
-    const ToolResult result = ToolFolder().run(drawGallery);
+    const ToolResult result = ToolFolder().run(kDrawGallery);
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_EQ(result.errors, "in: error: No such folder\n");
 }
@@ -105,7 +105,7 @@ TEST(Gallery, OfAFolderWithoutCardsIsAFileError)
 {
     const ToolFolder folder;
     folder.write("in/notes.txt", "");
-    const ToolResult result = folder.run(drawGallery);
+    const ToolResult result = folder.run(kDrawGallery);
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_EQ(result.errors, "in: error: No *.json file in this folder\n");
 }
@@ -113,9 +113,9 @@ TEST(Gallery, OfAFolderWithoutCardsIsAFileError)
 TEST(Gallery, InAFolderThatCannotBeCreatedIsAFileError)
 {
     const ToolFolder folder;
-    folder.write("in/a.json", card);
+    folder.write("in/a.json", kCard);
     folder.write("made", "a file");
-    const ToolResult result = folder.run(drawGallery);
+    const ToolResult result = folder.run(kDrawGallery);
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_EQ(result.errors, "made/out: error: Cannot create this folder\n");
 }

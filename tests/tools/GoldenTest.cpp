@@ -11,8 +11,8 @@
 namespace plix::test {
 namespace {
 
-const QString cardsFolder = QStringLiteral(PLIX_CARDS);
-const QString goldenFolder = QStringLiteral(PLIX_GOLDEN);
+const QString kCardsFolder = QStringLiteral(PLIX_CARDS);
+const QString kGoldenFolder = QStringLiteral(PLIX_GOLDEN);
 
 std::set<std::string> namesIn(const QString& folder)
 {
@@ -46,10 +46,10 @@ class Golden : public testing::TestWithParam<std::string> { };
 
 TEST_P(Golden, EqualsTheLayoutOfTheCard)
 {
-    QFile golden(fileIn(goldenFolder, GetParam()));
+    QFile golden(fileIn(kGoldenFolder, GetParam()));
     ASSERT_TRUE(golden.open(QIODevice::ReadOnly));
 
-    const QString card = fileIn(cardsFolder, GetParam());
+    const QString card = fileIn(kCardsFolder, GetParam());
     const ToolResult result =
         runTool({"layout", card.toStdString(), "--images", PLIX_IMAGES, "--markup", "--text",
                  "chat_room_check_on_mobile=See your phone"});
@@ -59,13 +59,13 @@ TEST_P(Golden, EqualsTheLayoutOfTheCard)
     EXPECT_TRUE(result.output == expected) << firstDifference(expected, result.output);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cards, Golden, testing::ValuesIn(namesIn(cardsFolder)),
+INSTANTIATE_TEST_SUITE_P(Cards, Golden, testing::ValuesIn(namesIn(kCardsFolder)),
                          [](const auto& row) { return row.param; });
 
 TEST(GoldenFiles, AreThoseOfTheExampleCards)
 {
-    const std::set<std::string> cards = namesIn(cardsFolder);
-    const std::set<std::string> goldens = namesIn(goldenFolder);
+    const std::set<std::string> cards = namesIn(kCardsFolder);
+    const std::set<std::string> goldens = namesIn(kGoldenFolder);
     EXPECT_FALSE(cards.empty());
     for (const std::string& name : cards)
         EXPECT_TRUE(goldens.count(name)) << name << " has no golden file: run rebaseline";

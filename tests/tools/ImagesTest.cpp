@@ -27,7 +27,7 @@ QByteArray cardOfImage(const QByteArray& url)
                   + R"("})");
 }
 
-const Arguments render {"render", "card.json", "-o", "out.png", "--scale", "1"};
+const Arguments kRender {"render", "card.json", "-o", "out.png", "--scale", "1"};
 
 // The colour in the middle of the image, inside the body's insets of 20.
 QColor shownColor(const ToolFolder& folder)
@@ -52,7 +52,7 @@ TEST_P(ImageUrl, IsLookedUpByItsLastSegment)
     folder.write("card.json", cardOfImage(row.url));
     folder.write(std::string("images/") + row.file, pngOf(Qt::red));
     folder.write("secret.png", pngOf(Qt::red));
-    const ToolResult result = folder.run(render + Arguments {"--images", "images"});
+    const ToolResult result = folder.run(kRender + Arguments {"--images", "images"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(shownColor(folder), row.isFound ? QColor(Qt::red) : QColor(Qt::blue));
     const std::string warning = std::string("card.json: warning: no image in images for \"")
@@ -87,7 +87,7 @@ TEST(Images, AreNotShownWithoutAFolder)
     const ToolFolder folder;
     folder.write("card.json", cardOfImage("https://example.com/pic.png"));
     folder.write("pic.png", pngOf(Qt::red));
-    const ToolResult result = folder.run(render);
+    const ToolResult result = folder.run(kRender);
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(shownColor(folder), QColor(Qt::blue));
@@ -99,7 +99,7 @@ TEST(Images, AreReportedOnceIfMissing)
     const QByteArray image = R"({"type": "image", "url": "https://example.com/no.png"})";
     folder.write("card.json", cardOf(image + ", " + image));
     folder.write("images/pic.png", pngOf(Qt::red));
-    const ToolResult result = folder.run(render + Arguments {"--images", "images"});
+    const ToolResult result = folder.run(kRender + Arguments {"--images", "images"});
     EXPECT_EQ(countOf(result.errors, "no image"), 1);
 }
 
@@ -107,7 +107,7 @@ TEST(Images, AreReportedWithoutControlCharacters)
 {
     const ToolFolder folder;
     folder.write("card.json", cardOfImage(R"(a\n\u001b[31m b\u00e9.png)"));
-    const ToolResult result = folder.run(render + Arguments {"--images", "."});
+    const ToolResult result = folder.run(kRender + Arguments {"--images", "."});
     EXPECT_EQ(result.errors, "card.json: warning: no image in . for \"a%0A%1B[31m b%C3%A9.png\"\n");
 }
 
@@ -116,7 +116,7 @@ TEST(Images, NeedAFolder)
     const ToolFolder folder;
     folder.write("card.json", cardOfImage("pic.png"));
     for (const char* name : {"nowhere", "card.json", ""}) {
-        const ToolResult result = folder.run(render + Arguments {"--images", name});
+        const ToolResult result = folder.run(kRender + Arguments {"--images", name});
         EXPECT_EQ(result.exitCode, 2);
         EXPECT_TRUE(contains(result.errors, "--images must be an existing folder")) << name;
     }

@@ -11,7 +11,7 @@
 namespace plix::test {
 namespace {
 
-const QByteArray colouredCard = cardOf(
+const QByteArray kColouredCard = cardOf(
     R"({"type": "box", "layout": "vertical", "height": "60px", "contents": [
         {"type": "text", "text": "Highlight this word"}]})");
 
@@ -52,19 +52,19 @@ std::set<std::string> chunksOf(const QByteArray& png)
 TEST(Render, DrawsTheCardAtTwiceItsSize)
 {
     // The body's insets of 20 above and below its box.
-    EXPECT_EQ(sizeOf(render(colouredCard)), "600 x 200");
+    EXPECT_EQ(sizeOf(render(kColouredCard)), "600 x 200");
 }
 
 TEST(Render, ScalesOnRequest)
 {
-    EXPECT_EQ(sizeOf(render(colouredCard, {"--scale", "1"})), "300 x 100");
-    EXPECT_EQ(sizeOf(render(colouredCard, {"--scale", "0.25"})), "75 x 25");
-    EXPECT_EQ(sizeOf(render(colouredCard, {"--scale=8"})), "2400 x 800");
+    EXPECT_EQ(sizeOf(render(kColouredCard, {"--scale", "1"})), "300 x 100");
+    EXPECT_EQ(sizeOf(render(kColouredCard, {"--scale", "0.25"})), "75 x 25");
+    EXPECT_EQ(sizeOf(render(kColouredCard, {"--scale=8"})), "2400 x 800");
 }
 
 TEST(Render, LeavesTheCornersTransparent)
 {
-    const QImage image = render(colouredCard);
+    const QImage image = render(kColouredCard);
     const QPoint right(image.width() - 1, 0);
     const QPoint bottom(0, image.height() - 1);
     for (const QPoint& corner : {QPoint(), right, bottom, right + bottom})
@@ -74,12 +74,12 @@ TEST(Render, LeavesTheCornersTransparent)
 
 TEST(Render, WritesTheSameBytesEachTime)
 {
-    EXPECT_EQ(renderToBytes(colouredCard), renderToBytes(colouredCard));
+    EXPECT_EQ(renderToBytes(kColouredCard), renderToBytes(kColouredCard));
 }
 
 TEST(Render, WritesNoTextsOrTimesIntoThePicture)
 {
-    const std::set<std::string> chunks = chunksOf(renderToBytes(colouredCard));
+    const std::set<std::string> chunks = chunksOf(renderToBytes(kColouredCard));
     EXPECT_TRUE(chunks.count("IHDR") && chunks.count("IEND"));
     for (const char* name : {"tEXt", "zTXt", "iTXt", "tIME"})
         EXPECT_FALSE(chunks.count(name)) << name;
@@ -92,21 +92,21 @@ TEST(Render, DrawsACardWithoutContent)
 
 TEST(RenderOptions, FromOneDrawsTheUsersOwnMessage)
 {
-    const QImage image = render(colouredCard, {"--from", "1"});
+    const QImage image = render(kColouredCard, {"--from", "1"});
     EXPECT_EQ(image.pixelColor(300, 2), QColor(0xC0, 0xEA, 0xFC));
 }
 
 TEST(RenderOptions, BackgroundRecoloursTheCard)
 {
-    const QImage named = render(colouredCard, {"--background", "tomato"});
+    const QImage named = render(kColouredCard, {"--background", "tomato"});
     EXPECT_EQ(named.pixelColor(300, 2), QColor(0xFF, 0x63, 0x47));
-    const QImage coded = render(colouredCard, {"--background", "#123456"});
+    const QImage coded = render(kColouredCard, {"--background", "#123456"});
     EXPECT_EQ(coded.pixelColor(300, 2), QColor(0x12, 0x34, 0x56));
 }
 
 TEST(RenderOptions, HeightMakesThePictureHigher)
 {
-    const QImage image = render(colouredCard, {"--height", "150"});
+    const QImage image = render(kColouredCard, {"--height", "150"});
     EXPECT_EQ(sizeOf(image), "600 x 300");
 }
 

@@ -24,65 +24,65 @@ std::string card()
 class CardEnd : public PlixTest {
 protected:
     CardEnd()
-        : controller(Plix_CreateController())
+        : controller_(Plix_CreateController())
     {
-        Plix_InitData(controller, card());
-        root = Plix_CreateQGraphicsItem(controller);
+        Plix_InitData(controller_, card());
+        root_ = Plix_CreateQGraphicsItem(controller_);
     }
 
-    PlixDataController* controller;
-    QGraphicsItem* root;
+    PlixDataController* controller_;
+    QGraphicsItem* root_;
 };
 
 TEST_F(CardEnd, MayDeleteTheItemFirst)
 {
-    delete root;
-    EXPECT_EQ(Plix_ModifyHeight(controller, 900), 0);
-    Plix_RefreshLayout(controller);
-    Plix_SetBubbleBkColor(controller, "#FF0000");
-    Plix_ResumeBubbleBkColor(controller);
-    EXPECT_EQ(Plix_SetHighLightText(controller, {"one"}), 0);
-    Plix_Free(controller);
+    delete root_;
+    EXPECT_EQ(Plix_ModifyHeight(controller_, 900), 0);
+    Plix_RefreshLayout(controller_);
+    Plix_SetBubbleBkColor(controller_, "#FF0000");
+    Plix_ResumeBubbleBkColor(controller_);
+    EXPECT_EQ(Plix_SetHighLightText(controller_, {"one"}), 0);
+    Plix_Free(controller_);
 }
 
 TEST_F(CardEnd, MayFreeTheControllerFirst)
 {
-    Plix_Free(controller);
-    EXPECT_EQ(root->childItems().size(), 3);
-    EXPECT_EQ(Picture(*root).at({150, 2}), QColor(0xF1, 0xF3, 0xF7));
-    delete root;
+    Plix_Free(controller_);
+    EXPECT_EQ(root_->childItems().size(), 3);
+    EXPECT_EQ(Picture(*root_).at({150, 2}), QColor(0xF1, 0xF3, 0xF7));
+    delete root_;
 }
 
 TEST_F(CardEnd, MayDeleteTheItemWithItsScene)
 {
     {
         QGraphicsScene scene;
-        scene.addItem(root);
+        scene.addItem(root_);
     }
-    EXPECT_EQ(Plix_ModifyHeight(controller, 900), 0);
-    Plix_Free(controller);
+    EXPECT_EQ(Plix_ModifyHeight(controller_, 900), 0);
+    Plix_Free(controller_);
 }
 
 TEST_F(CardEnd, MayDeletePartsOfTheCard)
 {
-    const double before = root->boundingRect().height();
-    delete root->childItems()[0]; // the header
-    EXPECT_EQ(Plix_ModifyHeight(controller, 0), 0);
-    EXPECT_LT(root->boundingRect().height(), before);
-    delete root->childItems()[0]->childItems()[1];
-    Plix_RefreshLayout(controller);
-    delete root;
-    Plix_Free(controller);
+    const double before = root_->boundingRect().height();
+    delete root_->childItems()[0]; // the header
+    EXPECT_EQ(Plix_ModifyHeight(controller_, 0), 0);
+    EXPECT_LT(root_->boundingRect().height(), before);
+    delete root_->childItems()[0]->childItems()[1];
+    Plix_RefreshLayout(controller_);
+    delete root_;
+    Plix_Free(controller_);
 }
 
 TEST_F(CardEnd, MayDeleteTheBodyThatGrows)
 {
-    delete root->childItems()[1];
-    EXPECT_EQ(Plix_ModifyHeight(controller, 900), -1);
-    Plix_RefreshLayout(controller);
-    EXPECT_EQ(Plix_ModifyHeight(controller, 0), 0);
-    delete root;
-    Plix_Free(controller);
+    delete root_->childItems()[1];
+    EXPECT_EQ(Plix_ModifyHeight(controller_, 900), -1);
+    Plix_RefreshLayout(controller_);
+    EXPECT_EQ(Plix_ModifyHeight(controller_, 0), 0);
+    delete root_;
+    Plix_Free(controller_);
 }
 
 TEST_F(CardEnd, MayFreeTheControllerOfACardThatWasNeverRead)
@@ -93,8 +93,8 @@ TEST_F(CardEnd, MayFreeTheControllerOfACardThatWasNeverRead)
     Plix_Free(empty);
     Plix_Free(unread);
     delete item;
-    delete root;
-    Plix_Free(controller);
+    delete root_;
+    Plix_Free(controller_);
 }
 
 TEST_F(CardEnd, MayDeleteTheBubbleBeforeOrAfterTheRootNode)
@@ -110,8 +110,8 @@ TEST_F(CardEnd, MayDeleteTheBubbleBeforeOrAfterTheRootNode)
     layout->addChild(&next);
     layout.reset();
     EXPECT_EQ(next.YogaLayoutItem::parentItem(), nullptr);
-    delete root;
-    Plix_Free(controller);
+    delete root_;
+    Plix_Free(controller_);
 }
 
 } // namespace

@@ -79,7 +79,7 @@ TEST_F(Click, OnABoxWithoutAnActionIsPassedOnByTheBox)
     const QPointF at = card.item({0})->sceneBoundingRect().center();
     event.setScenePos(at);
     event.setButtonDownScenePos(Qt::LeftButton, at);
-    inner->handleRelease(&event);
+    inner->HandleReleaseInside(&event);
     EXPECT_EQ(host.arrived, Arrived {"around"});
 }
 

@@ -287,36 +287,36 @@ constexpr Source kSources[] = {{"Box", 0, "box"},        {"Text", 1, "text"},
 class ClickCallback : public PlixTest {
 protected:
     ClickCallback()
-        : card(host, cardOfAll())
-        , other(host, cardOfAll())
-        , view(*card.build())
+        : card_(host_, cardOfAll())
+        , other_(host_, cardOfAll())
+        , view_(*card_.build())
     {
-        other.build()->setPos(400, 0);
-        view.add(*other.root());
+        other_.build()->setPos(400, 0);
+        view_.add(*other_.root());
     }
 
     // After the action: no item has grabbed the mouse, and the items that are left report
     // clicks as before.
     void expectClicksToWork(const Source& source, bool isControllerLeft)
     {
-        EXPECT_EQ(view.scene().mouseGrabberItem(), nullptr);
-        if (card.root()) {
-            host.arrived.clear();
-            view.click(card.centerOf(source.child));
-            EXPECT_EQ(host.arrived, isControllerLeft ? Arrived {source.arrives} : Arrived {});
+        EXPECT_EQ(view_.scene().mouseGrabberItem(), nullptr);
+        if (card_.root()) {
+            host_.arrived.clear();
+            view_.click(card_.centerOf(source.child));
+            EXPECT_EQ(host_.arrived, isControllerLeft ? Arrived {source.arrives} : Arrived {});
         }
-        if (other.root()) {
-            host.arrived.clear();
-            view.doubleClick(other.centerOf(0));
-            EXPECT_EQ(host.arrived, (Arrived {"box", "box"}));
+        if (other_.root()) {
+            host_.arrived.clear();
+            view_.doubleClick(other_.centerOf(0));
+            EXPECT_EQ(host_.arrived, (Arrived {"box", "box"}));
         }
-        EXPECT_EQ(view.scene().mouseGrabberItem(), nullptr);
+        EXPECT_EQ(view_.scene().mouseGrabberItem(), nullptr);
     }
 
-    ClickHost host;
-    HeldCard card;
-    HeldCard other;
-    CardView view;
+    ClickHost host_;
+    HeldCard card_;
+    HeldCard other_;
+    CardView view_;
 };
 
 class ClickCallbackMay : public ClickCallback,
@@ -325,17 +325,17 @@ class ClickCallbackMay : public ClickCallback,
 TEST_P(ClickCallbackMay, DoAnything)
 {
     const auto& [source, action] = GetParam();
-    HostObjects objects {host, card, other, view, card.centerOf(source.child)};
-    host.nextAction = [&, perform = action.perform] { perform(objects); };
+    HostObjects objects {host_, card_, other_, view_, card_.centerOf(source.child)};
+    host_.nextAction = [&, perform = action.perform] { perform(objects); };
 
-    view.click(objects.clicked);
+    view_.click(objects.clicked);
 
     Arrived expected {source.arrives};
     for (const std::string& also : action.arrives)
         expected.push_back(also == "again" ? source.arrives : also);
-    EXPECT_EQ(host.arrived, expected);
-    EXPECT_EQ(card.root() == nullptr, action.endsItem);
-    EXPECT_EQ(card.controller() == nullptr, action.endsController);
+    EXPECT_EQ(host_.arrived, expected);
+    EXPECT_EQ(card_.root() == nullptr, action.endsItem);
+    EXPECT_EQ(card_.controller() == nullptr, action.endsController);
     expectClicksToWork(source, !action.endsController);
 }
 
@@ -351,27 +351,27 @@ class ThrowingClickCallback : public ClickCallback, public testing::WithParamInt
 
 TEST_P(ThrowingClickCallback, PassesTheExceptionOnAndLeavesTheCardUsable)
 {
-    const QPointF place = card.centerOf(GetParam().child);
-    host.nextAction = [] { throw std::runtime_error("the host's"); };
-    EXPECT_THROW(view.click(place), std::runtime_error);
-    EXPECT_EQ(host.arrived, Arrived {GetParam().arrives});
+    const QPointF place = card_.centerOf(GetParam().child);
+    host_.nextAction = [] { throw std::runtime_error("the host's"); };
+    EXPECT_THROW(view_.click(place), std::runtime_error);
+    EXPECT_EQ(host_.arrived, Arrived {GetParam().arrives});
     expectClicksToWork(GetParam(), true);
 
-    host.arrived.clear();
-    host.nextAction = [] { throw 5; };
-    EXPECT_THROW(view.click(place), int);
-    EXPECT_EQ(host.arrived, Arrived {GetParam().arrives});
+    host_.arrived.clear();
+    host_.nextAction = [] { throw 5; };
+    EXPECT_THROW(view_.click(place), int);
+    EXPECT_EQ(host_.arrived, Arrived {GetParam().arrives});
     expectClicksToWork(GetParam(), true);
 }
 
 TEST_P(ThrowingClickCallback, MayEndTheCardFirst)
 {
-    host.nextAction = [this] {
-        card.deleteItem();
-        card.free();
+    host_.nextAction = [this] {
+        card_.deleteItem();
+        card_.free();
         throw std::runtime_error("the host's");
     };
-    EXPECT_THROW(view.click(card.centerOf(GetParam().child)), std::runtime_error);
+    EXPECT_THROW(view_.click(card_.centerOf(GetParam().child)), std::runtime_error);
     expectClicksToWork(GetParam(), false);
 }
 
@@ -380,27 +380,27 @@ INSTANTIATE_TEST_SUITE_P(Hosts, ThrowingClickCallback, testing::ValuesIn(kSource
 
 TEST_F(ClickCallback, IsNotCalledAfterTheControllerIsFreed)
 {
-    card.free();
+    card_.free();
     for (const Source& source : kSources) {
-        view.click(card.centerOf(source.child));
-        view.doubleClick(card.centerOf(source.child));
+        view_.click(card_.centerOf(source.child));
+        view_.doubleClick(card_.centerOf(source.child));
     }
-    EXPECT_EQ(host.arrived, Arrived {});
-    EXPECT_EQ(view.scene().mouseGrabberItem(), nullptr);
+    EXPECT_EQ(host_.arrived, Arrived {});
+    EXPECT_EQ(view_.scene().mouseGrabberItem(), nullptr);
 }
 
 TEST_F(ClickCallback, IsNotCalledForACardThatEndsBetweenPressAndRelease)
 {
     for (const bool frees : {false, true}) {
         for (const Source& source : kSources) {
-            HeldCard third(host, cardOfAll());
+            HeldCard third(host_, cardOfAll());
             CardView thirdView(*third.build());
             const QPointF place = third.centerOf(source.child);
             thirdView.press(place);
             EXPECT_NE(thirdView.scene().mouseGrabberItem(), nullptr);
             frees ? third.free() : third.deleteItem();
             thirdView.release(place);
-            EXPECT_EQ(host.arrived, Arrived {});
+            EXPECT_EQ(host_.arrived, Arrived {});
             EXPECT_EQ(thirdView.scene().mouseGrabberItem(), nullptr);
         }
     }
@@ -410,13 +410,13 @@ TEST_F(ClickCallback, MayReturnDuringTheNextPress)
 {
     for (const Source& source : kSources) {
         SCOPED_TRACE(source.name);
-        const QPointF place = card.centerOf(source.child);
-        host.arrived.clear();
-        host.nextAction = [&] { inEventLoop([&] { view.press(place); }); };
-        view.click(place);
-        view.release(place);
-        EXPECT_EQ(host.arrived.front(), source.arrives);
-        EXPECT_LE(host.arrived.size(), 2u);
+        const QPointF place = card_.centerOf(source.child);
+        host_.arrived.clear();
+        host_.nextAction = [&] { inEventLoop([&] { view_.press(place); }); };
+        view_.click(place);
+        view_.release(place);
+        EXPECT_EQ(host_.arrived.front(), source.arrives);
+        EXPECT_LE(host_.arrived.size(), 2u);
         expectClicksToWork(source, true);
     }
 }
@@ -631,36 +631,36 @@ const std::vector<BuildAction>& buildActions()
 class BuildCallback : public PlixTest {
 protected:
     BuildCallback()
-        : card(clicks, cardOfAllCallbacks())
-        , other(clicks, cardOfAll())
-        , view(*other.build())
+        : card_(clicks_, cardOfAllCallbacks())
+        , other_(clicks_, cardOfAll())
+        , view_(*other_.build())
     {
-        host.listenTo(card.controller());
+        host_.listenTo(card_.controller());
     }
 
     // Adds the built card to the view of the other card and clicks both.
     void expectClicksToWork()
     {
-        EXPECT_EQ(view.scene().mouseGrabberItem(), nullptr);
-        clicks.arrived.clear();
-        if (other.root())
-            view.click(other.centerOf(0));
-        EXPECT_EQ(clicks.arrived, other.root() ? Arrived {"box"} : Arrived {});
-        if (!card.root())
+        EXPECT_EQ(view_.scene().mouseGrabberItem(), nullptr);
+        clicks_.arrived.clear();
+        if (other_.root())
+            view_.click(other_.centerOf(0));
+        EXPECT_EQ(clicks_.arrived, other_.root() ? Arrived {"box"} : Arrived {});
+        if (!card_.root())
             return;
-        clicks.arrived.clear();
-        if (!card.root()->scene())
-            view.add(*card.root());
-        const QList<QGraphicsItem*> items = card.root()->childItems().at(0)->childItems();
-        click(*card.root(), items.back()->sceneBoundingRect().center());
-        EXPECT_LE(clicks.arrived.size(), card.controller() ? 1u : 0u);
+        clicks_.arrived.clear();
+        if (!card_.root()->scene())
+            view_.add(*card_.root());
+        const QList<QGraphicsItem*> items = card_.root()->childItems().at(0)->childItems();
+        click(*card_.root(), items.back()->sceneBoundingRect().center());
+        EXPECT_LE(clicks_.arrived.size(), card_.controller() ? 1u : 0u);
     }
 
-    ClickHost clicks;
-    ActingHost host;
-    HeldCard card;
-    HeldCard other;
-    CardView view;
+    ClickHost clicks_;
+    ActingHost host_;
+    HeldCard card_;
+    HeldCard other_;
+    CardView view_;
 };
 
 class BuildCallbackMay : public BuildCallback,
@@ -669,17 +669,17 @@ class BuildCallbackMay : public BuildCallback,
 TEST_P(BuildCallbackMay, DoAnything)
 {
     const auto& [call, action] = GetParam();
-    HostObjects objects {clicks, card, other, view, {}};
+    HostObjects objects {clicks_, card_, other_, view_, {}};
     // There is an item of an earlier build, which the callback may delete.
-    card.build();
-    host.actOn(call.callback, call.number, [&, perform = action.perform] { perform(objects); });
+    card_.build();
+    host_.actOn(call.callback, call.number, [&, perform = action.perform] { perform(objects); });
 
-    EXPECT_NE(card.build(), nullptr);
+    EXPECT_NE(card_.build(), nullptr);
 
-    ASSERT_TRUE(host.hasActed());
-    EXPECT_EQ(clicks.arrived, action.arrives);
-    EXPECT_EQ(card.controller() == nullptr, action.endsController);
-    EXPECT_EQ(host.lines, std::vector<std::string> {});
+    ASSERT_TRUE(host_.hasActed());
+    EXPECT_EQ(clicks_.arrived, action.arrives);
+    EXPECT_EQ(card_.controller() == nullptr, action.endsController);
+    EXPECT_EQ(host_.lines, std::vector<std::string> {});
     expectClicksToWork();
 }
 
@@ -693,11 +693,11 @@ INSTANTIATE_TEST_SUITE_P(Hosts, BuildCallbackMay,
 
 TEST_F(BuildCallback, IsNotCalledAfterTheControllerIsFreed)
 {
-    EXPECT_NE(card.build(), nullptr);
-    EXPECT_EQ(host.downloads, 2);
-    host.actOn(ActingHost::Download, 0, [this] { card.free(); });
-    EXPECT_NE(card.build(), nullptr);
-    EXPECT_EQ(host.downloads, 3) << "the second image is not downloaded";
+    EXPECT_NE(card_.build(), nullptr);
+    EXPECT_EQ(host_.downloads, 2);
+    host_.actOn(ActingHost::Download, 0, [this] { card_.free(); });
+    EXPECT_NE(card_.build(), nullptr);
+    EXPECT_EQ(host_.downloads, 3) << "the second image is not downloaded";
 }
 
 class ThrowingBuildCallback : public BuildCallback, public testing::WithParamInterface<CallRow> {
@@ -713,25 +713,25 @@ protected:
     int items() const
     {
         int count = 0;
-        forEachItem(*card.root(), [&](QGraphicsItem&) { ++count; });
+        forEachItem(*card_.root(), [&](QGraphicsItem&) { ++count; });
         return count;
     }
 
     // Builds with a host that throws once, and then with the same host again.
     void expectOneItemLost(std::function<void()> thrown, const std::string& line)
     {
-        ASSERT_NE(card.build(), nullptr);
+        ASSERT_NE(card_.build(), nullptr);
         const int whole = items();
-        host.actOn(GetParam().callback, GetParam().number, std::move(thrown));
-        ASSERT_NE(card.build(), nullptr);
-        EXPECT_TRUE(host.hasActed());
+        host_.actOn(GetParam().callback, GetParam().number, std::move(thrown));
+        ASSERT_NE(card_.build(), nullptr);
+        EXPECT_TRUE(host_.hasActed());
         EXPECT_EQ(items(), whole - lostItems());
-        EXPECT_EQ(std::exchange(host.lines, {}), std::vector<std::string> {line});
+        EXPECT_EQ(std::exchange(host_.lines, {}), std::vector<std::string> {line});
         expectClicksToWork();
 
-        ASSERT_NE(card.build(), nullptr);
+        ASSERT_NE(card_.build(), nullptr);
         EXPECT_EQ(items(), whole);
-        EXPECT_EQ(host.lines, std::vector<std::string> {});
+        EXPECT_EQ(host_.lines, std::vector<std::string> {});
         expectClicksToWork();
     }
 };
@@ -751,11 +751,11 @@ TEST_P(ThrowingBuildCallback, LosesNoMoreThanItsItemWhateverTypeIsThrown)
 
 TEST_P(ThrowingBuildCallback, MayFreeTheControllerFirst)
 {
-    host.actOn(GetParam().callback, GetParam().number, [this] {
-        card.free();
+    host_.actOn(GetParam().callback, GetParam().number, [this] {
+        card_.free();
         throw std::runtime_error("the host's");
     });
-    EXPECT_NE(card.build(), nullptr);
+    EXPECT_NE(card_.build(), nullptr);
     expectClicksToWork();
 }
 
@@ -765,11 +765,11 @@ INSTANTIATE_TEST_SUITE_P(Hosts, ThrowingBuildCallback, testing::ValuesIn(kCalls)
 // So no callback can throw while Qt paints.
 TEST_F(BuildCallback, IsNotCalledWhileACardIsPainted)
 {
-    ASSERT_NE(card.build(), nullptr);
+    ASSERT_NE(card_.build(), nullptr);
     for (const CallRow& call : kCalls) {
-        host.actOn(call.callback, 0, [] {});
-        const Picture picture(*card.root());
-        EXPECT_FALSE(host.hasActed()) << call.name;
+        host_.actOn(call.callback, 0, [] {});
+        const Picture picture(*card_.root());
+        EXPECT_FALSE(host_.hasActed()) << call.name;
     }
 }
 
@@ -790,18 +790,18 @@ protected:
 TEST_P(LogCallbackMay, DoAnythingWhileACardIsRead)
 {
     const auto& [number, action] = GetParam();
-    HostObjects objects {clicks, card, other, view, {}};
-    card.build();
-    host.actOn(ActingHost::LogLine, number, [&, perform = action.perform] { perform(objects); });
+    HostObjects objects {clicks_, card_, other_, view_, {}};
+    card_.build();
+    host_.actOn(ActingHost::LogLine, number, [&, perform = action.perform] { perform(objects); });
 
-    Plix_InitData(card.controller(), brokenCard());
+    Plix_InitData(card_.controller(), brokenCard());
 
-    ASSERT_TRUE(host.hasActed());
-    EXPECT_EQ(clicks.arrived, action.arrives);
-    EXPECT_EQ(card.controller() == nullptr, action.endsController);
+    ASSERT_TRUE(host_.hasActed());
+    EXPECT_EQ(clicks_.arrived, action.arrives);
+    EXPECT_EQ(card_.controller() == nullptr, action.endsController);
     expectClicksToWork();
-    if (card.controller()) {
-        EXPECT_NE(card.build(), nullptr);
+    if (card_.controller()) {
+        EXPECT_NE(card_.build(), nullptr);
     }
     expectClicksToWork();
 }
@@ -828,12 +828,12 @@ TEST_F(BuildCallback, OfTheLogMayDoAnything)
             },
             nullptr);
         HostObjects objects {others, mine, shown, shownIn, {}};
-        host.actOn(ActingHost::LogLine, 0, [&] { action.perform(objects); });
+        host_.actOn(ActingHost::LogLine, 0, [&] { action.perform(objects); });
         EXPECT_NE(mine.build(), nullptr);
-        EXPECT_TRUE(host.hasActed());
+        EXPECT_TRUE(host_.hasActed());
         EXPECT_EQ(others.arrived, action.arrives);
-        host.listenTo(card.controller());
-        Plix_SetKestroControlSupport(&host);
+        host_.listenTo(card_.controller());
+        Plix_SetKestroControlSupport(&host_);
     }
 }
 
@@ -860,13 +860,13 @@ TEST_F(BuildCallback, OfTheImageOfAZoneMayReadTheCardAgain)
 
 TEST_F(BuildCallback, OfTheLogMayThrow)
 {
-    host.actOn(ActingHost::LogLine, 0, [] { throw std::runtime_error("the log's"); });
-    EXPECT_EQ(Plix_InitData(card.controller(), R"({"type": "bubble", "size": 5})"), -1);
-    EXPECT_TRUE(host.hasActed());
-    host.actOn(ActingHost::LogLine, 0, [] { throw 5; });
-    EXPECT_EQ(Plix_InitData(card.controller(), R"({"type": "bubble", "size": 5})"), -1);
-    EXPECT_TRUE(host.hasActed());
-    EXPECT_NE(card.build(), nullptr);
+    host_.actOn(ActingHost::LogLine, 0, [] { throw std::runtime_error("the log's"); });
+    EXPECT_EQ(Plix_InitData(card_.controller(), R"({"type": "bubble", "size": 5})"), -1);
+    EXPECT_TRUE(host_.hasActed());
+    host_.actOn(ActingHost::LogLine, 0, [] { throw 5; });
+    EXPECT_EQ(Plix_InitData(card_.controller(), R"({"type": "bubble", "size": 5})"), -1);
+    EXPECT_TRUE(host_.hasActed());
+    EXPECT_NE(card_.build(), nullptr);
     expectClicksToWork();
 }
 

@@ -155,7 +155,7 @@ TEST_F(Zones, KeepABackbackgroundOfTheirOwn)
 TEST_F(Zones, AreTransparentWithoutABackground)
 {
     const TestCard card(bubble({zone("body")}, {style("body", R"("backgroundColor": "")")}));
-    EXPECT_FALSE(card.ui<PlixBoxUI>({0})->hasBackground());
+    EXPECT_FALSE(card.ui<PlixBoxUI>({0})->HasBackground());
     EXPECT_EQ(Picture(*card.root()).at({150, 20}), kBackground);
 }
 

@@ -20,7 +20,7 @@ PlixMovie::PlixMovie(const PlixPictureFile& file)
     movie_.setDevice(&buffer_);
     movie_.start();
     // After start(), so that the first frame is not announced: frame() returns it.
-    connect(&movie_, &QMovie::frameChanged, this, &PlixMovie::onFrame);
+    connect(&movie_, &QMovie::frameChanged, this, &PlixMovie::OnFrame);
 }
 
 PlixMovie::~PlixMovie()
@@ -28,22 +28,22 @@ PlixMovie::~PlixMovie()
     PlixMovieBudget::GetInstance().Leave(*this);
 }
 
-bool PlixMovie::isAnimated() const
+bool PlixMovie::IsAnimated() const
 {
     return movie_.frameCount() > 1;
 }
 
-void PlixMovie::markPainted()
+void PlixMovie::MarkPainted()
 {
     isPainted_ = true;
     if (movie_.state() == QMovie::Paused)
         movie_.setPaused(false);
 }
 
-void PlixMovie::onFrame()
+void PlixMovie::OnFrame()
 {
     if (!isPainted_)
         movie_.setPaused(true);
     isPainted_ = false;
-    Q_EMIT frameChanged();
+    Q_EMIT FrameChanged();
 }

@@ -18,24 +18,24 @@ public:
     ~PlixMovie() override;
 
     // The current frame. Null if no frame can be decoded.
-    QImage frame() const { return movie_.currentImage(); }
-    bool isAnimated() const;
+    QImage Frame() const { return movie_.currentImage(); }
+    bool IsAnimated() const;
     // Whether it is neither paused nor at its end.
-    bool isPlaying() const { return movie_.state() == QMovie::Running; }
+    bool IsPlaying() const { return movie_.state() == QMovie::Running; }
     // Roughly the memory that it needs.
-    qint64 bytes() const { return bytes_; }
+    qint64 Bytes() const { return bytes_; }
 
     // Call this when the current frame is painted. A movie pauses when its frames are
     // not painted, and continues with this call.
-    void markPainted();
+    void MarkPainted();
 
 Q_SIGNALS:
-    void frameChanged();
+    void FrameChanged();
     // Other movies need its memory: delete it.
-    void evicted();
+    void Evicted();
 
 private:
-    void onFrame();
+    void OnFrame();
 
     QBuffer buffer_;
     // A child, so that tests find it and end its frames without waiting.

@@ -13,10 +13,10 @@ PlixMovieBudget& PlixMovieBudget::GetInstance()
 
 bool PlixMovieBudget::Join(PlixMovie& movie)
 {
-    if (movie.bytes() > kMaximumMovieBytes || !MakeRoom(movie.bytes()))
+    if (movie.Bytes() > kMaximumMovieBytes || !MakeRoom(movie.Bytes()))
         return false;
     movies_.push_back(&movie);
-    usedBytes_ += movie.bytes();
+    usedBytes_ += movie.Bytes();
     return true;
 }
 
@@ -24,12 +24,12 @@ bool PlixMovieBudget::MakeRoom(qint64 bytes)
 {
     while (usedBytes_ + bytes > kMaximumBytes) {
         const auto idle = std::find_if(movies_.begin(), movies_.end(),
-                                       [](const PlixMovie* movie) { return !movie->isPlaying(); });
+                                       [](const PlixMovie* movie) { return !movie->IsPlaying(); });
         if (idle == movies_.end())
             return false;
         PlixMovie* const movie = *idle;
         Leave(*movie);
-        Q_EMIT movie->evicted();
+        Q_EMIT movie->Evicted();
     }
     return true;
 }
@@ -40,5 +40,5 @@ void PlixMovieBudget::Leave(const PlixMovie& movie)
     if (found == movies_.end())
         return;
     movies_.erase(found);
-    usedBytes_ -= movie.bytes();
+    usedBytes_ -= movie.Bytes();
 }

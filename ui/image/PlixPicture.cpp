@@ -67,7 +67,7 @@ std::shared_ptr<PlixPicture> PlixPicture::Get(const QString& path)
     std::weak_ptr<PlixPicture>& known = AllPictures()[path];
     std::shared_ptr<PlixPicture> picture = known.lock();
     if (picture) {
-        picture->openAgainIfChanged();
+        picture->OpenAgainIfChanged();
     } else {
         picture.reset(new PlixPicture(path));
         known = picture;
@@ -86,33 +86,33 @@ PlixPicture::~PlixPicture()
     AllPictures().remove(fileName_);
 }
 
-PlixPicture::FileVersion PlixPicture::currentVersion() const
+PlixPicture::FileVersion PlixPicture::CurrentVersion() const
 {
     const QFileInfo info(fileName_);
     return {info.size(), info.lastModified()};
 }
 
-void PlixPicture::openAgainIfChanged()
+void PlixPicture::OpenAgainIfChanged()
 {
-    if (!opened_ || *opened_ == currentVersion())
+    if (!opened_ || *opened_ == CurrentVersion())
         return;
-    stop();
+    Stop();
     opened_.reset();
     size_ = QSize();
-    onFrameChanged();
+    OnFrameChanged();
 }
 
-QImage PlixPicture::scaled(const Fit& fit)
+QImage PlixPicture::Scaled(const Fit& fit)
 {
     QImage frame;
     if (size_.isEmpty())
-        frame = open();
+        frame = Open();
     if (size_.isEmpty())
         return {};
     QImage image = PlixScaledPictures::Find(*this, fit(size_));
     if (image.isNull()) {
         if (frame.isNull())
-            frame = movie_ ? movie_->frame() : open();
+            frame = movie_ ? movie_->Frame() : Open();
         // size_ may have changed: the file may have been replaced.
         const QSize target = frame.isNull() ? QSize() : fit(size_);
         if (target.isEmpty())
@@ -121,13 +121,13 @@ QImage PlixPicture::scaled(const Fit& fit)
         PlixScaledPictures::Insert(*this, image);
     }
     if (movie_)
-        movie_->markPainted();
+        movie_->MarkPainted();
     return image;
 }
 
-QImage PlixPicture::open()
+QImage PlixPicture::Open()
 {
-    const FileVersion version = currentVersion();
+    const FileVersion version = CurrentVersion();
     if (size_.isEmpty() && opened_ == version)
         return {}; // unchanged, and it could not be read before
     opened_ = version;
@@ -136,31 +136,31 @@ QImage PlixPicture::open()
     if (!file)
         return {};
     auto movie = std::make_unique<PlixMovie>(*file);
-    QImage frame = movie->frame();
+    QImage frame = movie->Frame();
     size_ = frame.size();
-    if (movie->isAnimated() && PlixMovieBudget::GetInstance().Join(*movie))
-        play(std::move(movie));
+    if (movie->IsAnimated() && PlixMovieBudget::GetInstance().Join(*movie))
+        Play(std::move(movie));
     return frame;
 }
 
-void PlixPicture::play(std::unique_ptr<PlixMovie> movie)
+void PlixPicture::Play(std::unique_ptr<PlixMovie> movie)
 {
     movie_ = std::move(movie);
     movie_->setParent(this); // where tests find it; movie_ owns it
     PlixScaledPictures::Remove(*this);
-    connect(movie_.get(), &PlixMovie::frameChanged, this, &PlixPicture::onFrameChanged);
+    connect(movie_.get(), &PlixMovie::FrameChanged, this, &PlixPicture::OnFrameChanged);
     // A paused movie has no scaled copy any more, so the next paint opens the file
     // again. A movie at its end keeps showing its last frame.
-    connect(movie_.get(), &PlixMovie::evicted, this, &PlixPicture::stop);
+    connect(movie_.get(), &PlixMovie::Evicted, this, &PlixPicture::Stop);
 }
 
-void PlixPicture::stop()
+void PlixPicture::Stop()
 {
     movie_.reset();
 }
 
-void PlixPicture::onFrameChanged()
+void PlixPicture::OnFrameChanged()
 {
     PlixScaledPictures::Remove(*this);
-    Q_EMIT frameChanged();
+    Q_EMIT FrameChanged();
 }

@@ -29,17 +29,17 @@ public:
     static std::shared_ptr<PlixPicture> Get(const QString& path);
     ~PlixPicture() override;
 
-    QString fileName() const { return fileName_; }
+    QString FileName() const { return fileName_; }
 
     // Returns the size to which a picture of the size `picture` is scaled.
     using Fit = std::function<QSize(const QSize& picture)>;
     // The current frame in the size that `fit` returns. If it has other proportions,
     // its middle is cut out. Null if there is no picture, or it cannot be decoded.
-    QImage scaled(const Fit& fit);
+    QImage Scaled(const Fit& fit);
 
 Q_SIGNALS:
     // Another frame is to be painted.
-    void frameChanged();
+    void FrameChanged();
 
 private:
     // Differs between one version of a file and the next.
@@ -52,12 +52,12 @@ private:
 
     explicit PlixPicture(const QString& path);
 
-    FileVersion currentVersion() const;
-    void openAgainIfChanged();
-    QImage open();
-    void play(std::unique_ptr<PlixMovie> movie);
-    void stop();
-    void onFrameChanged();
+    FileVersion CurrentVersion() const;
+    void OpenAgainIfChanged();
+    QImage Open();
+    void Play(std::unique_ptr<PlixMovie> movie);
+    void Stop();
+    void OnFrameChanged();
 
     const QString fileName_;
     // The version of the file when it was opened, or when opening it failed.

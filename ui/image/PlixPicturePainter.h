@@ -14,9 +14,9 @@ public:
     PlixPictureTarget(const QRectF& area, double dpiFactor);
 
     // In whole device pixels, rounded down.
-    QSize size() const { return size_; }
+    QSize Size() const { return size_; }
     // The area that a picture of that size fills.
-    QRectF area() const { return area_; }
+    QRectF Area() const { return area_; }
 
 private:
     QRectF area_;

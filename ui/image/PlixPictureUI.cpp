@@ -44,13 +44,13 @@ void PlixPictureUI::OnFileArrived(const QString& path)
         disconnect(picture_.get(), nullptr, this, nullptr);
     picture_ = path.isEmpty() ? nullptr : PlixPicture::Get(path);
     if (picture_)
-        connect(picture_.get(), &PlixPicture::frameChanged, this, [this] { update(); });
+        connect(picture_.get(), &PlixPicture::FrameChanged, this, [this] { update(); });
     update();
 }
 
 QString PlixPictureUI::pictureFile() const
 {
-    return picture_ ? picture_->fileName() : QString();
+    return picture_ ? picture_->FileName() : QString();
 }
 
 void PlixPictureUI::InitCommon(const PlixDataItemCommon& data)
@@ -120,14 +120,14 @@ void PlixPictureUI::PaintPicture(QPainter& painter)
     if (!picture_)
         return;
     PlixPictureTarget target;
-    const QImage image = picture_->scaled([&](const QSize& size) {
+    const QImage image = picture_->Scaled([&](const QSize& size) {
         target = PlixPictureTarget(DrawingArea(size), DpiFactor());
-        return target.size();
+        return target.Size();
     });
     if (image.isNull())
         return;
     if (cornerRadius_ < 1)
-        plix::DrawPicture(painter, image, target.area());
+        plix::DrawPicture(painter, image, target.Area());
     else
-        plix::DrawPicture(painter, image, target.area(), plix::RoundedPath(rect(), cornerRadius_));
+        plix::DrawPicture(painter, image, target.Area(), plix::RoundedPath(rect(), cornerRadius_));
 }

@@ -482,5 +482,5 @@ void PlixTextUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
     if (!self)
         return;
     if (auto* box = dynamic_cast<PlixBoxUI*>(YogaLayoutItem::parentItem()))
-        box->handleRelease(event);
+        box->HandleReleaseInside(event);
 }

@@ -54,13 +54,13 @@ TEST_F(AnimationBudget, HasNoRoomWhileAllAnimationsPlay)
 TEST_F(AnimationBudget, EvictsAnimationsThatAreNotPainted)
 {
     fill();
-    const SignalCount playing(animations_[2].get(), &PlixMovie::evicted);
-    const SignalCount paused(animations_[3].get(), &PlixMovie::evicted);
+    const SignalCount playing(animations_[2].get(), &PlixMovie::Evicted);
+    const SignalCount paused(animations_[3].get(), &PlixMovie::Evicted);
     // The first frame counts as painted. The second one is not, so the animation pauses.
     endFrame(*animations_[3]);
-    ASSERT_TRUE(animations_[3]->isPlaying());
+    ASSERT_TRUE(animations_[3]->IsPlaying());
     endFrame(*animations_[3]);
-    ASSERT_FALSE(animations_[3]->isPlaying());
+    ASSERT_FALSE(animations_[3]->IsPlaying());
     const auto late = animationOf(25);
     EXPECT_TRUE(budget_.Join(*late));
     EXPECT_EQ(paused.count(), 1);

@@ -22,7 +22,7 @@ void endFrame(const QObject& owner)
 
 AnimationFrames::AnimationFrames(const std::string& path)
     : picture_(sharedPicture(path))
-    , frames_(picture_.get(), &PlixPicture::frameChanged)
+    , frames_(picture_.get(), &PlixPicture::FrameChanged)
 {
 }
 

@@ -123,7 +123,7 @@ TEST_F(AnimationInView, PausesWhileItIsHidden)
     }
 }
 
-// The number of receivers of the picture's frameChanged().
+// The number of receivers of the picture's FrameChanged().
 int receiversOf(const std::string& path)
 {
     struct Open : QObject {
@@ -131,7 +131,7 @@ int receiversOf(const std::string& path)
     };
     const std::shared_ptr<PlixPicture> picture = sharedPicture(path);
     int (QObject::*const receivers)(const char*) const = &Open::receivers;
-    return (picture.get()->*receivers)(SIGNAL(frameChanged()));
+    return (picture.get()->*receivers)(SIGNAL(FrameChanged()));
 }
 
 TEST_F(AnimationInView, ConnectsItsItemOnceHoweverOftenItIsPainted)

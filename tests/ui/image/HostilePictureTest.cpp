@@ -318,7 +318,7 @@ TEST_F(HostileFile, IsNotEnlargedBeyondAThinItem)
     painter.end();
     EXPECT_EQ(canvas.pixelColor(25, 5), QColor(Qt::red));
     EXPECT_EQ(PlixPicture::Get(QString::fromStdString(path))
-                  ->scaled([](const QSize&) { return QSize(100'000, 10); })
+                  ->Scaled([](const QSize&) { return QSize(100'000, 10); })
                   .size(),
               QSize(100'000, 10));
 }

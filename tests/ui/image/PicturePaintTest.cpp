@@ -346,8 +346,8 @@ class PictureTarget : public testing::TestWithParam<TargetRow> { };
 TEST_P(PictureTarget, HasTheWholePixelsThatFitIntoTheArea)
 {
     const PlixPictureTarget target({QPointF(3, 4), GetParam().area}, GetParam().dpi);
-    EXPECT_EQ(target.size(), GetParam().pixels);
-    EXPECT_EQ(target.area(), QRectF(QPointF(3, 4), QSizeF(GetParam().pixels) / GetParam().dpi));
+    EXPECT_EQ(target.Size(), GetParam().pixels);
+    EXPECT_EQ(target.Area(), QRectF(QPointF(3, 4), QSizeF(GetParam().pixels) / GetParam().dpi));
 }
 
 INSTANTIATE_TEST_SUITE_P(Areas, PictureTarget,

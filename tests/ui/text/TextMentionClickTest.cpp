@@ -30,21 +30,21 @@ protected:
                 controller,
                 [](std::int64_t user, void* self) {
                     auto* host = static_cast<MentionClick*>(self);
-                    host->users.push_back(user);
-                    if (host->onMention)
-                        host->onMention();
+                    host->users_.push_back(user);
+                    if (host->onMention_)
+                        host->onMention_();
                 },
                 this);
             Plix_SetBotMentionHandleCallback(
                 controller,
                 [](std::int64_t bot, void* self) {
-                    static_cast<MentionClick*>(self)->bots.push_back(bot);
+                    static_cast<MentionClick*>(self)->bots_.push_back(bot);
                 },
                 this);
             Plix_SetClickCallBack(
                 controller,
                 [](PlixDataController*, ST_ACTION& action, void* self) {
-                    static_cast<MentionClick*>(self)->uris.push_back(action.uri);
+                    static_cast<MentionClick*>(self)->uris_.push_back(action.uri);
                 },
                 this);
         };
@@ -58,10 +58,10 @@ protected:
         return item.mapToScene(x, item.boundingRect().center().y());
     }
 
-    std::vector<std::int64_t> users;
-    std::vector<std::int64_t> bots;
-    std::vector<std::string> uris;
-    std::function<void()> onMention;
+    std::vector<std::int64_t> users_;
+    std::vector<std::int64_t> bots_;
+    std::vector<std::string> uris_;
+    std::function<void()> onMention_;
 };
 
 using Numbers = std::vector<std::int64_t>;
@@ -71,11 +71,11 @@ TEST_F(MentionClick, IsReportedOnceWithItsNumber)
     const TestCard shown(card(), setUp());
     auto* item = shown.ui<PlixTextUI>({0, 0});
     click(*shown.root(), after("Hi ", *item));
-    EXPECT_EQ(users, Numbers {-7});
-    EXPECT_EQ(bots, Numbers {});
+    EXPECT_EQ(users_, Numbers {-7});
+    EXPECT_EQ(bots_, Numbers {});
     click(*shown.root(), after("Hi @Ann Lee and ", *item));
-    EXPECT_EQ(users, Numbers {-7});
-    EXPECT_EQ(bots, Numbers {9});
+    EXPECT_EQ(users_, Numbers {-7});
+    EXPECT_EQ(bots_, Numbers {9});
 }
 
 TEST_F(MentionClick, BesideAMentionIsNotReported)
@@ -85,16 +85,16 @@ TEST_F(MentionClick, BesideAMentionIsNotReported)
     click(*shown.root(), after("", *item));
     click(*shown.root(), after("Hi @Ann Lee ", *item));
     click(*shown.root(), after("Hi ", *item), Qt::RightButton);
-    EXPECT_EQ(users, Numbers {});
-    EXPECT_EQ(bots, Numbers {});
+    EXPECT_EQ(users_, Numbers {});
+    EXPECT_EQ(bots_, Numbers {});
 }
 
 TEST_F(MentionClick, InABoxWithAnActionIsAClickOnTheBox)
 {
     const TestCard shown(card(R"("action": {"type": "uri", "uri": "here"},)"), setUp());
     click(*shown.root(), after("Hi ", *shown.ui<PlixTextUI>({0, 0})));
-    EXPECT_EQ(users, Numbers {});
-    EXPECT_EQ(uris, std::vector<std::string> {"here"});
+    EXPECT_EQ(users_, Numbers {});
+    EXPECT_EQ(uris_, std::vector<std::string> {"here"});
 }
 
 TEST_F(MentionClick, MayEndTheCard)
@@ -107,7 +107,7 @@ TEST_F(MentionClick, MayEndTheCard)
     ASSERT_NE(item, nullptr);
     const QPointF place = after("Hi ", *item);
     bool isGone = false;
-    onMention = [&] {
+    onMention_ = [&] {
         delete item;
         isGone = true;
     };

@@ -335,9 +335,9 @@ std::string wording(const char* key)
 
 TEST_F(Text, WithAnActionForAppsShowsTheHostsWording)
 {
-    constexpr char action[] = R"("action": {"type": "uri", "appUri": "app://a"},)";
+    constexpr char kAction[] = R"("action": {"type": "uri", "appUri": "app://a"},)";
     for (const std::string& component :
-         {text("words", action), spans(span("a") + "," + span("b"), action)}) {
+         {text("words", kAction), spans(span("a") + "," + span("b"), kAction)}) {
         const OneText without(component);
         EXPECT_EQ(without.item().toPlainText(), QString());
 
