@@ -1,22 +1,22 @@
 #include "MentionAreas.h"
 
+#include "LaidOutText.h"
 #include "ShownLines.h"
-
-#include <QTextBlock>
-#include <QTextDocument>
 
 #include <algorithm>
 
 namespace kestro {
 
-MentionAreas::MentionAreas(const QTextDocument& document, const ShownLines& shown)
+MentionAreas::MentionAreas(const LaidOutText& text, const ShownLines& shown)
 {
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        for (const QTextLayout::FormatRange& range : block.textFormats()) {
+    const int count = text.ParagraphCount();
+    for (int i = 0; i < count; ++i) {
+        const LaidOutParagraph paragraph = text.Paragraph(i);
+        for (const QTextLayout::FormatRange& range : paragraph.formats) {
             const std::optional<Mention> mention = Mention::ReadFrom(range.format);
             if (!mention)
                 continue;
-            const int start = block.position() + range.start;
+            const int start = paragraph.position + range.start;
             for (const QRectF& rect : shown.GlyphRects(start, start + range.length))
                 areas_.push_back({rect, *mention});
         }

@@ -8,18 +8,18 @@
 #include <vector>
 
 class QPointF;
-class QTextDocument;
 
 namespace kestro {
 
+class LaidOutText;
 class ShownLines;
 
-// Where the mentions of a document are shown. Like ShownLines, it must not be used
-// after the document has changed.
+// Where the mentions of a text are shown. Like ShownLines, it must not be used after
+// the text's layout has changed.
 class MentionAreas {
 public:
     MentionAreas() = default;
-    MentionAreas(const QTextDocument& document, const ShownLines& shown);
+    MentionAreas(const LaidOutText& text, const ShownLines& shown);
 
     std::optional<Mention> At(const QPointF& point) const;
 

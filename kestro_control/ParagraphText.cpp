@@ -6,31 +6,32 @@
 #include <QTextDocument>
 
 #include <algorithm>
-#include <numeric>
+#include <utility>
 
 namespace kestro {
 
-ParagraphText::ParagraphText(const QTextBlock& block)
-    : characters_(block.text())
-    , start_(block.position())
+ParagraphText::ParagraphText(QString text, const QVector<QTextLayout::FormatRange>& formats,
+                             int start)
+    : characters_(std::move(text))
+    , start_(start)
 {
     if (!characters_.contains(QChar::ObjectReplacementCharacter))
         return;
-    const QString text = std::exchange(characters_, QString());
-    for (const QTextLayout::FormatRange& range : block.textFormats()) {
+    const QString withObjects = std::exchange(characters_, QString());
+    for (const QTextLayout::FormatRange& range : formats) {
         const bool isEmoji = range.format.hasProperty(TextProperty::EmojiCharacters);
         for (int at = range.start; at < range.start + range.length; ++at) {
             const QString shown = isEmoji
                 ? range.format.stringProperty(TextProperty::EmojiCharacters)
-                : QString(text.at(at));
+                : QString(withObjects.at(at));
             characters_ += shown;
             positions_.insert(positions_.end(), static_cast<std::size_t>(shown.size()), at);
         }
     }
-    positions_.push_back(text.size());
+    positions_.push_back(withObjects.size());
 }
 
-int ParagraphText::DocumentPosition(int index) const
+int ParagraphText::Position(int index) const
 {
     return start_ + (positions_.empty() ? index : positions_[static_cast<std::size_t>(index)]);
 }
@@ -63,7 +64,7 @@ QString PlainTextOf(const QTextDocument& document)
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         if (block != document.begin())
             text += QLatin1Char('\n');
-        text += ParagraphText(block).Characters();
+        text += ParagraphText(block.text(), block.textFormats(), block.position()).Characters();
     }
     return AsPlainText(text);
 }

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QString>
+#include <QTextLayout>
+#include <QVector>
 
 #include <vector>
 
-class QTextBlock;
 class QTextDocument;
 
 namespace kestro {
@@ -13,19 +14,19 @@ namespace kestro {
 // characters that it stands for.
 class ParagraphText {
 public:
-    explicit ParagraphText(const QTextBlock& block);
+    // `start`: the position in the whole text of the paragraph.
+    ParagraphText(QString text, const QVector<QTextLayout::FormatRange>& formats, int start);
 
     const QString& Characters() const { return characters_; }
 
-    // The document's position of the character at `index`, which may be one past
-    // the last.
-    int DocumentPosition(int index) const;
+    // The position in the whole text of the character at `index`, which may be one
+    // past the last.
+    int Position(int index) const;
 
 private:
     QString characters_;
-    // The document's position of the paragraph.
     int start_;
-    // The position in the block of each character, and of the end. Empty if it is
+    // The position in the paragraph of each character, and of the end. Empty if it is
     // the character's index.
     std::vector<int> positions_;
 };

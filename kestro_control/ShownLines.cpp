@@ -4,14 +4,12 @@
 #include "ElidedLine.h"
 #include "EmojiPicture.h"
 #include "HighlightWords.h"
+#include "LaidOutText.h"
 #include "ParagraphText.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QGlyphRun>
 #include <QPainter>
 #include <QRawFont>
-#include <QTextBlock>
-#include <QTextDocument>
 
 #include <algorithm>
 #include <cmath>
@@ -20,18 +18,6 @@
 namespace kestro {
 
 namespace {
-
-// A copy of the text and the formats of a paragraph, made once for all its lines.
-struct Paragraph {
-    explicit Paragraph(const QTextBlock& block)
-        : text(block.text())
-        , formats(block.textFormats())
-    {
-    }
-
-    QString text;
-    QVector<QTextLayout::FormatRange> formats;
-};
 
 QVector<QTextLayout::FormatRange> FormatsBetween(const QVector<QTextLayout::FormatRange>& formats,
                                                  int start, int end)
@@ -48,14 +34,22 @@ QVector<QTextLayout::FormatRange> FormatsBetween(const QVector<QTextLayout::Form
     return result;
 }
 
+bool HasVisibleTextFrom(const QString& text, int position)
+{
+    return std::any_of(text.begin() + position, text.end(),
+                       [](QChar character) { return !character.isSpace(); });
+}
+
 // Whether anything visible follows. There is no ellipsis for spaces and line ends,
 // because readers do not miss them.
-bool HasVisibleTextFrom(const QTextDocument& document, int position)
+bool HasVisibleTextFrom(const LaidOutText& text, int paragraph, int position)
 {
-    const int end = document.characterCount();
-    while (position < end && document.characterAt(position).isSpace())
-        ++position;
-    return position < end;
+    const int count = text.ParagraphCount();
+    for (; paragraph < count; ++paragraph, position = 0) {
+        if (HasVisibleTextFrom(text.Paragraph(paragraph).text, position))
+            return true;
+    }
+    return false;
 }
 
 // The end of the line that starts at `start` if it does not wrap.
@@ -67,13 +61,11 @@ int ForcedLineEnd(const QString& text, int start)
 
 // The natural width of a line that did not wrap includes the spaces at its end.
 // They are next to each other at one of its edges, whatever their direction.
-qreal TrailingSpaceWidth(const QTextBlock& block, const QTextLine& line)
+qreal TrailingSpaceWidth(const QString& text, const QTextLine& line)
 {
-    const QTextDocument& document = *block.document();
     const int end = line.textStart() + line.textLength();
     int textEnd = end;
-    while (textEnd > line.textStart()
-           && document.characterAt(block.position() + textEnd - 1).isSpace())
+    while (textEnd > line.textStart() && text.at(textEnd - 1).isSpace())
         --textEnd;
     // cursorToX() is slow on long lines, and most have no trailing space.
     if (textEnd == end)
@@ -122,12 +114,13 @@ QTextLayout::FormatRange HighlightFormat(const QBrush& background, const QTextLi
 
 } // namespace
 
-// Makes the lines of a document, up to the line limit.
+// Makes the lines of a text, up to the line limit.
 class ShownLines::Builder {
 public:
-    Builder(const QTextDocument& document, int maxCount, bool elide, bool hasMoreText,
+    Builder(const LaidOutText& text, int maxCount, bool elide, bool hasMoreText,
             std::vector<Line>& lines)
-        : document_(document)
+        : text_(text)
+        , hasWidth_(text.Width() >= 0)
         , maxCount_(maxCount)
         , elide_(elide)
         , hasMoreText_(hasMoreText)
@@ -137,75 +130,66 @@ public:
 
     void AddLines()
     {
-        for (QTextBlock block = document_.begin(); block.isValid() && !IsFull();
-             block = block.next())
-            AddLinesOf(block);
+        const int count = text_.ParagraphCount();
+        for (paragraphIndex_ = 0; paragraphIndex_ < count && !IsFull(); ++paragraphIndex_)
+            AddLinesOf(text_.Paragraph(paragraphIndex_));
     }
 
 private:
     bool IsFull() const { return maxCount_ > 0 && static_cast<int>(lines_.size()) >= maxCount_; }
 
-    void AddLinesOf(const QTextBlock& block)
+    void AddLinesOf(const LaidOutParagraph& paragraph)
     {
-        const QPointF origin = document_.documentLayout()->blockBoundingRect(block).topLeft();
-        QTextLayout& layout = *block.layout();
-        // Shown lines are drawn and measured many times.
-        layout.setCacheEnabled(true);
-        std::optional<Paragraph> paragraph;
-        for (int i = 0; i < layout.lineCount() && !IsFull(); ++i) {
-            AddLine(layout.lineAt(i), block, origin);
+        const int count = paragraph.layout->lineCount();
+        for (int i = 0; i < count && !IsFull(); ++i) {
+            AddLine(paragraph.layout->lineAt(i), paragraph);
             if (elide_)
-                ElideIfNeeded(block, paragraph);
+                ElideIfNeeded(paragraph);
         }
     }
 
-    void AddLine(const QTextLine& line, const QTextBlock& block, const QPointF& blockOrigin)
+    void AddLine(const QTextLine& line, const LaidOutParagraph& paragraph)
     {
         Line shown;
         shown.line = line;
-        shown.origin = blockOrigin + QPointF(0, shiftDown_);
+        shown.origin = paragraph.origin + QPointF(0, shiftDown_);
         shown.rect = TextRect(line, shown.origin);
-        shown.alignment = block.layout()->textOption().alignment();
-        shown.layoutStart = block.position();
+        shown.alignment = paragraph.layout->textOption().alignment();
+        shown.layoutStart = paragraph.position;
         lines_.push_back(std::move(shown));
     }
 
-    // Elides the line that was added last. The first call that needs `paragraph`
-    // creates it.
-    void ElideIfNeeded(const QTextBlock& block, std::optional<Paragraph>& paragraph)
+    // Elides the line that was added last.
+    void ElideIfNeeded(const LaidOutParagraph& paragraph)
     {
         const QTextLine& line = lines_.back().line;
-        const int end = line.textStart() + line.textLength();
-        const bool isCut = IsCutAt(block.position() + end);
-        if (!isCut && !IsTooWide(block, line))
-            return;
-        if (!paragraph)
-            paragraph.emplace(block);
-        Elide(block, *paragraph, isCut);
+        const bool isCut = IsCutAt(paragraph, line.textStart() + line.textLength());
+        if (isCut || IsTooWide(paragraph, line))
+            Elide(paragraph, isCut);
     }
 
-    bool IsCutAt(int position) const
+    bool IsCutAt(const LaidOutParagraph& paragraph, int position) const
     {
-        const bool isLast = position == document_.characterCount() - 1;
-        return (IsFull() && HasVisibleTextFrom(document_, position))
+        const bool isLast = paragraph.isLast && position == paragraph.text.size();
+        return (IsFull() && HasVisibleTextFrom(text_, paragraphIndex_, position))
             || (hasMoreText_ && (IsFull() || isLast));
     }
 
     // Elides the line that was added last. `isCut`: text that follows the line is
     // not shown. Otherwise the line is too wide.
-    void Elide(const QTextBlock& block, const Paragraph& paragraph, bool isCut)
+    void Elide(const LaidOutParagraph& paragraph, bool isCut)
     {
         Line& shown = lines_.back();
         const QTextLine line = shown.line;
         const int start = line.textStart();
         const int end = isCut ? ForcedLineEnd(paragraph.text, start) : start + line.textLength();
-        const std::optional<qreal> width = AvailableWidth(block, line);
+        const std::optional<qreal> width = AvailableWidth(paragraph, line);
 
         ElisionSource source;
         source.text = paragraph.text.mid(start, end - start);
         source.formats = FormatsBetween(paragraph.formats, start, end);
-        source.font = document_.defaultFont();
-        source.option = block.layout()->textOption();
+        source.font = text_.Font();
+        source.option = paragraph.layout->textOption();
         if (width)
             source.expectedLength = ExpectedLength(line, *width);
         source.isTooWide = !isCut;
@@ -218,24 +202,22 @@ private:
         shiftDown_ += shown.line.height() - line.height();
     }
 
-    bool IsTooWide(const QTextBlock& block, const QTextLine& line) const
+    bool IsTooWide(const LaidOutParagraph& paragraph, const QTextLine& line) const
     {
-        const std::optional<qreal> width = AvailableWidth(block, line);
+        const std::optional<qreal> width = AvailableWidth(paragraph, line);
         return width && line.naturalTextWidth() > *width
-            && line.naturalTextWidth() - TrailingSpaceWidth(block, line) > *width;
+            && line.naturalTextWidth() - TrailingSpaceWidth(paragraph.text, line) > *width;
     }
 
-    // The width of the document without margins. QTextLine::width() may be larger,
-    // because it grows with a text that is too wide.
-    std::optional<qreal> AvailableWidth(const QTextBlock& block, const QTextLine& line) const
+    // QTextLine::width() may be larger, because it grows with a text that is too
+    // wide.
+    std::optional<qreal> AvailableWidth(const LaidOutParagraph& paragraph,
+                                        const QTextLine& line) const
     {
-        if (document_.textWidth() < 0)
+        if (!hasWidth_)
             return std::nullopt;
-        const QTextFrameFormat frame = document_.rootFrame()->frameFormat();
-        const qreal left = block.layout()->position().x() + line.x();
-        const qreal right = document_.textWidth() - frame.rightMargin() - frame.border()
-            - frame.padding() - block.blockFormat().rightMargin();
-        return std::max(0.0, right - left);
+        const qreal left = paragraph.layout->position().x() + line.x();
+        return std::max(0.0, paragraph.right - left);
     }
 
     static QRectF TextRect(const QTextLine& line, const QPointF& origin)
@@ -243,13 +225,15 @@ private:
         return line.naturalTextRect().translated(origin);
     }
 
-    const QTextDocument& document_;
+    const LaidOutText& text_;
+    const bool hasWidth_;
     const int maxCount_;
     const bool elide_;
     const bool hasMoreText_;
     std::vector<Line>& lines_;
-    // How much lower the next line is than in the document. Elided lines can be
-    // higher or lower than the document's: an ellipsis can remove tall text from
+    int paragraphIndex_ = 0;
+    // How much lower the next line is than in the text's own layout. Elided lines can
+    // be higher or lower than the lines there: an ellipsis can remove tall text from
     // its line or bring some in.
     qreal shiftDown_ = 0;
 };
@@ -259,13 +243,13 @@ ShownLines::~ShownLines() = default;
 ShownLines::ShownLines(ShownLines&&) noexcept = default;
 ShownLines& ShownLines::operator=(ShownLines&&) noexcept = default;
 
-ShownLines::ShownLines(const QTextDocument& document, int maxCount, bool elide, bool hasMoreText)
+ShownLines::ShownLines(const LaidOutText& text, int maxCount, bool elide, bool hasMoreText)
 {
-    if (!document.isEmpty())
-        Builder(document, maxCount, elide, hasMoreText, lines_).AddLines();
+    if (!text.IsEmpty())
+        Builder(text, maxCount, elide, hasMoreText, lines_).AddLines();
 
-    const bool hasWidth = document.textWidth() >= 0;
-    const qreal width = hasWidth ? document.textWidth() : WidestLine();
+    const bool hasWidth = text.Width() >= 0;
+    const qreal width = hasWidth ? text.Width() : WidestLine();
     if (!hasWidth)
         AlignLinesIn(width);
     const qreal top = lines_.empty() ? 0 : lines_.front().rect.top();
@@ -281,7 +265,7 @@ qreal ShownLines::WidestLine() const
     return width;
 }
 
-// A document without a width does not align its lines.
+// A text without a width does not align its lines.
 void ShownLines::AlignLinesIn(qreal width)
 {
     for (Line& line : lines_) {
@@ -353,19 +337,22 @@ std::size_t ShownLines::FirstLineEndingAfter(int position) const
     return static_cast<std::size_t>(first - lines_.begin());
 }
 
-void ShownLines::Highlight(const QTextDocument& document, const HighlightWords& words)
+void ShownLines::Highlight(const LaidOutText& text, const HighlightWords& words)
 {
     for (Line& line : lines_)
         line.highlighted.clear();
     if (words.IsEmpty() || lines_.empty())
         return;
     const int shownEnd = lines_.back().End();
-    for (QTextBlock block = document.begin(); block.isValid() && block.position() < shownEnd;
-         block = block.next()) {
-        const ParagraphText text(block);
-        const auto pictures = EmojiPicture::PicturesIn(block.textFormats());
-        for (const auto& [start, end] : words.CoveredRanges(text.Characters()))
-            HighlightRange(text.DocumentPosition(start), text.DocumentPosition(end), pictures);
+    const int count = text.ParagraphCount();
+    for (int i = 0; i < count; ++i) {
+        const LaidOutParagraph paragraph = text.Paragraph(i);
+        if (paragraph.position >= shownEnd)
+            break;
+        const ParagraphText searched(paragraph.text, paragraph.formats, paragraph.position);
+        const auto pictures = EmojiPicture::PicturesIn(paragraph.formats);
+        for (const auto& [start, end] : words.CoveredRanges(searched.Characters()))
+            HighlightRange(searched.Position(start), searched.Position(end), pictures);
     }
     for (Line& line : lines_)
         line.MergeHighlights();

@@ -11,23 +11,23 @@
 #include <vector>
 
 class QPainter;
-class QTextDocument;
 
 namespace kestro {
 
 class ElidedLine;
 class HighlightWords;
+class LaidOutText;
 
-// The shown lines of a document that has a line limit: their positions, ellipses
-// and highlights. Refers to the document's layout, so it must not be used after the
-// document has changed.
+// The shown lines of a text that has a line limit: their positions, ellipses and
+// highlights. Refers to the text's layout, so it must not be used after that has
+// changed.
 class ShownLines {
 public:
     // No line.
     ShownLines();
-    // `maxCount` 0: no limit. `hasMoreText`: the text continues after the end of
-    // the document.
-    ShownLines(const QTextDocument& document, int maxCount, bool elide, bool hasMoreText);
+    // `maxCount` 0: no limit. `hasMoreText`: there is more text after the end of
+    // `text`.
+    ShownLines(const LaidOutText& text, int maxCount, bool elide, bool hasMoreText);
     ~ShownLines();
     ShownLines(ShownLines&&) noexcept;
     ShownLines& operator=(ShownLines&&) noexcept;
@@ -40,12 +40,12 @@ public:
     // line.
     qreal FirstAscent() const;
 
-    // The rectangles of the shown glyphs between two positions of the document,
-    // each as high as the ascent and descent of its font.
+    // The rectangles of the shown glyphs between two positions in the text, each as high as the
+    // ascent and descent of its font.
     std::vector<QRectF> GlyphRects(int start, int end) const;
 
     // Replaces the earlier highlight.
-    void Highlight(const QTextDocument& document, const HighlightWords& words);
+    void Highlight(const LaidOutText& text, const HighlightWords& words);
 
     // Whether glyphs have ink (the pixels that they paint) left of 0 or right of
     // `width`. This happens with slanted glyphs and with lines that are too wide.
@@ -69,12 +69,12 @@ private:
         Qt::Alignment alignment;
         // The owner of `line` if it ends in an ellipsis; null otherwise.
         std::unique_ptr<ElidedLine> elided;
-        // The document's position of the first character of the line's layout.
+        // The position in the text of the first character of the line's layout.
         int layoutStart = 0;
         // Without overlaps, in ascending order.
         std::vector<Interval> highlighted;
 
-        // The document's positions of the shown text.
+        // The positions in the text of what is shown.
         int Start() const;
         int End() const;
 

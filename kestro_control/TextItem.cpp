@@ -2,6 +2,7 @@
 
 #include "ClipPath.h"
 #include "DisplayBudget.h"
+#include "DocumentText.h"
 #include "EmojiPicture.h"
 #include "HighlightWords.h"
 #include "MarkupReader.h"
@@ -32,6 +33,7 @@
 #include <utility>
 
 using kestro::DisplayBudget;
+using kestro::DocumentText;
 using kestro::EmojiPicture;
 using kestro::HighlightWords;
 using kestro::MarkupRun;
@@ -290,8 +292,9 @@ const ShownLines& TextItem::Private::Shown()
 {
     if (!isShownValid_) {
         WatchLayout();
-        shown_ = readOnly ? ShownLines(document, maxLineCount, elide, !hiddenText_.isEmpty())
-                          : ShownLines(document, 0, false, false);
+        const DocumentText text(document);
+        shown_ = readOnly ? ShownLines(text, maxLineCount, elide, !hiddenText_.isEmpty())
+                          : ShownLines(text, 0, false, false);
         isShownValid_ = true;
         isHighlightValid = highlightWords.IsEmpty();
     }
@@ -302,7 +305,7 @@ const ShownLines& TextItem::Private::ShownHighlighted()
 {
     Shown();
     if (!isHighlightValid) {
-        shown_.Highlight(document, highlightWords);
+        shown_.Highlight(DocumentText(document), highlightWords);
         isHighlightValid = true;
     }
     return shown_;
@@ -322,7 +325,7 @@ std::optional<Mention> TextItem::Private::MentionAt(const QPointF& point)
         return std::nullopt;
     const ShownLines& shown = Shown();
     if (!mentions_)
-        mentions_.emplace(document, shown);
+        mentions_.emplace(DocumentText(document), shown);
     return mentions_->At(point);
 }
 
