@@ -2,9 +2,9 @@
 
 #include "ClipPath.h"
 #include "DisplayBudget.h"
-#include "DocumentText.h"
 #include "EmojiPicture.h"
 #include "HighlightWords.h"
+#include "ItemText.h"
 #include "MarkupReader.h"
 #include "MentionAreas.h"
 #include "ParagraphText.h"
@@ -23,7 +23,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
-#include <QPointer>
 #include <QStyleOptionGraphicsItem>
 #include <QTextDocument>
 
@@ -33,9 +32,9 @@
 #include <utility>
 
 using kestro::DisplayBudget;
-using kestro::DocumentText;
 using kestro::EmojiPicture;
 using kestro::HighlightWords;
+using kestro::ItemText;
 using kestro::MarkupRun;
 using kestro::Mention;
 using kestro::MentionAreas;
@@ -93,25 +92,25 @@ bool IsWrapMode(QTextOption::WrapMode mode)
 
 } // namespace
 
-// Owns the document and computes what is shown of it: ShownLines has the lines,
+// Owns the text and computes what is shown of it: ShownLines has the lines,
 // MentionAreas the places that can be clicked. Both are made when they are needed
 // and dropped by Invalidate().
 class TextItem::Private {
 public:
     explicit Private(TextItem& textItem);
-    ~Private();
 
-    // Inserts at `cursor` what the display limit allows, and keeps the rest as
-    // hidden text.
-    void Insert(QTextCursor& cursor, const MarkupRun& run, const QTextCharFormat& format);
+    // Inserts what the display limit allows, and keeps the rest as hidden text.
+    void Insert(const MarkupRun& run, const QTextCharFormat& format);
 
-    // `text` has no format.
-    void ReplaceText(const QString& text);
+    // `newText` has no format.
+    void ReplaceText(const QString& newText);
 
-    QString PlainText() const;
+    QString PlainText();
 
-    // Whether all of `text` can be inserted without exceeding the display limit.
-    bool IsWithinDisplayLimit(const QString& text) const;
+    QTextDocument& Document();
+
+    // Whether all of `inserted` can be inserted without exceeding the display limit.
+    bool IsWithinDisplayLimit(const QString& inserted) const;
 
     void UseApplicationFontFamily();
 
@@ -134,9 +133,12 @@ public:
     // To be called before a change of what is shown, or after one in the document.
     void Invalidate();
 
+private:
     // Destroyed after the document, which keeps a pointer to it.
-    EmojiPicture emojiPictures;
-    QTextDocument document;
+    std::unique_ptr<EmojiPicture> emojiPictures_;
+
+public:
+    ItemText text;
     QColor textColor = QGuiApplication::palette().color(QPalette::Text);
     QColor mentionColor = kDefaultMentionColor;
     int maxLineCount = 0;
@@ -152,18 +154,17 @@ public:
     std::optional<int> pressedMentionId;
 
 private:
-    void WatchLayout();
-    void InsertText(QTextCursor& cursor, const QString& text, const QTextCharFormat& format);
-    void InsertMention(QTextCursor& cursor, const MarkupRun& run, QTextCharFormat format);
-    void InsertEmoji(QTextCursor& cursor, const MarkupRun& run, const QTextCharFormat& format);
-    void AddHiddenText(const QString& text);
+    void InsertText(const QString& inserted, const QTextCharFormat& format);
+    void InsertMention(const MarkupRun& run, QTextCharFormat format);
+    void InsertEmoji(const MarkupRun& run, const QTextCharFormat& format);
+    void InsertPicture(const MarkupRun& run, const QTextCharFormat& format, const QImage& picture);
+    void AddHiddenText(const QString& hidden);
 
     TextItem& item_;
     ShownLines shown_;
     bool isShownValid_ = false;
     std::optional<bool> needsSideClip_;
     std::optional<MentionAreas> mentions_;
-    QPointer<QAbstractTextDocumentLayout> watchedLayout_;
 
     DisplayBudget budget_;
     // The text beyond the display limit.
@@ -176,84 +177,80 @@ private:
 };
 
 TextItem::Private::Private(TextItem& textItem)
-    : item_(textItem)
+    : text(textItem, [this] { Invalidate(); })
+    , item_(textItem)
 {
-    document.setDocumentMargin(0);
-    document.setUndoRedoEnabled(false);
-    connect(&document, &QTextDocument::contentsChanged, &item_, [this] { Invalidate(); });
 }
 
-TextItem::Private::~Private()
-{
-    document.disconnect(&item_);
-    if (watchedLayout_)
-        watchedLayout_->disconnect(&item_);
-}
-
-void TextItem::Private::Insert(QTextCursor& cursor, const MarkupRun& run,
-                               const QTextCharFormat& format)
+void TextItem::Private::Insert(const MarkupRun& run, const QTextCharFormat& format)
 {
     switch (run.kind) {
     case MarkupRun::Kind::Text:
-        InsertText(cursor, run.text, format);
+        InsertText(run.text, format);
         break;
     case MarkupRun::Kind::UserMention:
     case MarkupRun::Kind::BotMention:
-        InsertMention(cursor, run, format);
+        InsertMention(run, format);
         break;
     case MarkupRun::Kind::Emoji:
-        InsertEmoji(cursor, run, format);
+        InsertEmoji(run, format);
         break;
     }
 }
 
-void TextItem::Private::InsertText(QTextCursor& cursor, const QString& text,
-                                   const QTextCharFormat& format)
+void TextItem::Private::InsertText(const QString& inserted, const QTextCharFormat& format)
 {
-    if (text.isEmpty())
+    if (inserted.isEmpty())
         return;
-    const int shown = hiddenText_.isEmpty() ? budget_.Spend(text) : 0;
+    const int shown = hiddenText_.isEmpty() ? budget_.Spend(inserted) : 0;
     if (shown > 0)
-        cursor.insertText(text.left(shown), format);
-    if (shown < text.size())
-        AddHiddenText(text.mid(shown));
+        text.Insert(inserted.left(shown), format);
+    if (shown < inserted.size())
+        AddHiddenText(inserted.mid(shown));
 }
 
-void TextItem::Private::InsertMention(QTextCursor& cursor, const MarkupRun& run,
-                                      QTextCharFormat format)
+void TextItem::Private::InsertMention(const MarkupRun& run, QTextCharFormat format)
 {
     const bool isBot = run.kind == MarkupRun::Kind::BotMention;
     Mention {isBot, run.number, ++lastMentionId_}.WriteTo(format);
     format.setForeground(mentionColor);
-    InsertText(cursor, run.text, format);
+    InsertText(run.text, format);
     hasMentions = true;
     item_.setAcceptHoverEvents(true);
 }
 
-void TextItem::Private::InsertEmoji(QTextCursor& cursor, const MarkupRun& run,
-                                    const QTextCharFormat& format)
+void TextItem::Private::InsertEmoji(const MarkupRun& run, const QTextCharFormat& format)
 {
     const KestroControlSupport* support =
         KestroControlManager::GetInstance()->GetKestroControlSupport();
     const QImage picture = support ? support->GetEmojiImage(run.emojiCode) : QImage();
     const QString object(QChar::ObjectReplacementCharacter);
-    if (picture.isNull()) {
-        InsertText(cursor, run.text, format);
-    } else if (!hiddenText_.isEmpty() || budget_.Spend(object) == 0) {
+    if (picture.isNull())
+        InsertText(run.text, format);
+    else if (!hiddenText_.isEmpty() || budget_.Spend(object) == 0)
         AddHiddenText(run.text);
-    } else {
-        document.documentLayout()->registerHandler(EmojiPicture::kObjectType, &emojiPictures);
-        EmojiPicture::Insert(cursor, format, run.text, picture);
-        hasPictures_ = true;
-    }
+    else
+        InsertPicture(run, format, picture);
 }
 
-void TextItem::Private::AddHiddenText(const QString& text)
+void TextItem::Private::InsertPicture(const MarkupRun& run, const QTextCharFormat& format,
+                                      const QImage& picture)
 {
-    hiddenText_ += kestro::AsPlainText(text);
+    if (!emojiPictures_)
+        emojiPictures_ = std::make_unique<EmojiPicture>();
+    QTextCursor& cursor = text.InsertionCursor();
+    cursor.document()->documentLayout()->registerHandler(EmojiPicture::kObjectType,
+                                                         emojiPictures_.get());
+    EmojiPicture::Insert(cursor, format, run.text, picture);
+    hasPictures_ = true;
 }
 
-void TextItem::Private::ReplaceText(const QString& text)
+void TextItem::Private::AddHiddenText(const QString& hidden)
+{
+    hiddenText_ += kestro::AsPlainText(hidden);
+}
+
+void TextItem::Private::ReplaceText(const QString& newText)
 {
     budget_ = DisplayBudget();
     hiddenText_.clear();
@@ -261,24 +258,34 @@ void TextItem::Private::ReplaceText(const QString& text)
     hasMentions = false;
     item_.setAcceptHoverEvents(!readOnly);
 
-    QTextCursor cursor(&document);
-    cursor.beginEditBlock();
-    cursor.select(QTextCursor::Document);
-    cursor.removeSelectedText();
-    cursor.setBlockFormat(QTextBlockFormat());
-    cursor.setBlockCharFormat(QTextCharFormat());
-    InsertText(cursor, text, QTextCharFormat());
-    cursor.endEditBlock();
+    text.BeginInsertion(true);
+    text.Clear();
+    InsertText(newText, QTextCharFormat());
+    text.EndInsertion();
 }
 
-QString TextItem::Private::PlainText() const
+QString TextItem::Private::PlainText()
 {
-    return (hasPictures_ ? kestro::PlainTextOf(document) : document.toPlainText()) + hiddenText_;
+    return (hasPictures_ ? kestro::PlainTextOf(text.Document()) : text.PlainText()) + hiddenText_;
 }
 
-bool TextItem::Private::IsWithinDisplayLimit(const QString& text) const
+QTextDocument& TextItem::Private::Document()
 {
-    return hiddenText_.isEmpty() && DisplayBudget(budget_).Spend(text) == text.size();
+    const bool isNew = !text.HasDocument();
+    QTextDocument& document = text.Document();
+    if (isNew && isShownValid_) {
+        // The same lines, from their new place. If they were not valid any more, the
+        // next change would not be announced.
+        isShownValid_ = false;
+        mentions_.reset();
+        Shown();
+    }
+    return document;
+}
+
+bool TextItem::Private::IsWithinDisplayLimit(const QString& inserted) const
+{
+    return hiddenText_.isEmpty() && DisplayBudget(budget_).Spend(inserted) == inserted.size();
 }
 
 void TextItem::Private::UseApplicationFontFamily()
@@ -291,10 +298,9 @@ void TextItem::Private::UseApplicationFontFamily()
 const ShownLines& TextItem::Private::Shown()
 {
     if (!isShownValid_) {
-        WatchLayout();
-        const DocumentText text(document);
-        shown_ = readOnly ? ShownLines(text, maxLineCount, elide, !hiddenText_.isEmpty())
-                          : ShownLines(text, 0, false, false);
+        const kestro::LaidOutText& laidOut = text.LaidOut();
+        shown_ = readOnly ? ShownLines(laidOut, maxLineCount, elide, !hiddenText_.isEmpty())
+                          : ShownLines(laidOut, 0, false, false);
         isShownValid_ = true;
         isHighlightValid = highlightWords.IsEmpty();
     }
@@ -305,7 +311,7 @@ const ShownLines& TextItem::Private::ShownHighlighted()
 {
     Shown();
     if (!isHighlightValid) {
-        shown_.Highlight(DocumentText(document), highlightWords);
+        shown_.Highlight(text.LaidOut(), highlightWords);
         isHighlightValid = true;
     }
     return shown_;
@@ -325,7 +331,7 @@ std::optional<Mention> TextItem::Private::MentionAt(const QPointF& point)
         return std::nullopt;
     const ShownLines& shown = Shown();
     if (!mentions_)
-        mentions_.emplace(DocumentText(document), shown);
+        mentions_.emplace(text.LaidOut(), shown);
     return mentions_->At(point);
 }
 
@@ -377,17 +383,6 @@ void TextItem::Private::ShowPointingHand(bool shown)
         item_.unsetCursor();
 }
 
-// The layout reports changes that the document does not: of its width, its font and
-// its default text option.
-void TextItem::Private::WatchLayout()
-{
-    QAbstractTextDocumentLayout* const layout = document.documentLayout();
-    if (watchedLayout_ == layout)
-        return;
-    watchedLayout_ = layout;
-    connect(layout, &QAbstractTextDocumentLayout::update, &item_, [this] { Invalidate(); });
-}
-
 void TextItem::Private::Invalidate()
 {
     // Already invalid; nothing to announce.
@@ -431,19 +426,16 @@ void TextItem::InsertRichText(const QString& text, bool append, const QTextCharF
         ClearText();
     }
     const QTextCharFormat runFormat = format ? *format : QTextCharFormat();
-    QTextCursor cursor(document());
-    if (append)
-        cursor.movePosition(QTextCursor::End);
-    cursor.beginEditBlock();
+    private_->text.BeginInsertion(append);
     if (private_->markupEnabled) {
         for (const MarkupRun& run : kestro::ReadMarkup(text))
-            private_->Insert(cursor, run, runFormat);
+            private_->Insert(run, runFormat);
     } else {
-        private_->Insert(cursor, {MarkupRun::Kind::Text, text, 0, {}}, runFormat);
+        private_->Insert({MarkupRun::Kind::Text, text, 0, {}}, runFormat);
     }
     if (!earlierText.isEmpty())
-        private_->Insert(cursor, {MarkupRun::Kind::Text, earlierText, 0, {}}, QTextCharFormat());
-    cursor.endEditBlock();
+        private_->Insert({MarkupRun::Kind::Text, earlierText, 0, {}}, QTextCharFormat());
+    private_->text.EndInsertion();
 }
 
 void TextItem::SetMarkupEnabled(bool enabled)
@@ -468,7 +460,7 @@ QString TextItem::toPlainText() const
 
 QTextDocument* TextItem::document() const
 {
-    return &private_->document;
+    return &private_->Document();
 }
 
 QTextCursor TextItem::textCursor() const
@@ -478,15 +470,14 @@ QTextCursor TextItem::textCursor() const
 
 QFont TextItem::font() const
 {
-    return private_->document.defaultFont();
+    return private_->text.Font();
 }
 
 void TextItem::setFont(const QFont& font)
 {
     if (font == this->font())
         return;
-    private_->Invalidate();
-    private_->document.setDefaultFont(font);
+    private_->text.SetFont(font);
 }
 
 QColor TextItem::defaultTextColor() const
@@ -527,12 +518,39 @@ void TextItem::HighlightText(const QStringList& words, const QBrush& brush)
 
 void TextItem::SetWrapMode(QTextOption::WrapMode mode)
 {
-    QTextOption option = private_->document.defaultTextOption();
+    QTextOption option = private_->text.Option();
     if (mode == option.wrapMode() || !IsWrapMode(mode))
         return;
     option.setWrapMode(mode);
-    private_->Invalidate();
-    private_->document.setDefaultTextOption(option);
+    private_->text.SetOption(option);
+}
+
+Qt::Alignment TextItem::TextAlignment() const
+{
+    return private_->text.Option().alignment();
+}
+
+void TextItem::SetTextAlignment(Qt::Alignment alignment)
+{
+    QTextOption option = private_->text.Option();
+    if (alignment == option.alignment())
+        return;
+    option.setAlignment(alignment);
+    private_->text.SetOption(option);
+}
+
+void TextItem::SetTextDirection(Qt::LayoutDirection direction)
+{
+    QTextOption option = private_->text.Option();
+    if (direction == option.textDirection())
+        return;
+    option.setTextDirection(direction);
+    private_->text.SetOption(option);
+}
+
+QVector<Qt::LayoutDirection> TextItem::ParagraphDirections() const
+{
+    return private_->text.Directions();
 }
 
 void TextItem::SetFixedItemWidth(qreal width)
@@ -542,8 +560,8 @@ void TextItem::SetFixedItemWidth(qreal width)
         return;
     private_->Invalidate();
     private_->hasZeroWidth = newWidth == 0;
-    if (DocumentWidth(newWidth) != private_->document.textWidth())
-        private_->document.setTextWidth(DocumentWidth(newWidth));
+    if (DocumentWidth(newWidth) != private_->text.Width())
+        private_->text.SetWidth(DocumentWidth(newWidth));
 }
 
 void TextItem::setTextWidth(qreal width)
@@ -553,14 +571,19 @@ void TextItem::setTextWidth(qreal width)
 
 qreal TextItem::textWidth() const
 {
-    return private_->hasZeroWidth ? 0 : private_->document.textWidth();
+    return private_->hasZeroWidth ? 0 : private_->text.Width();
 }
 
 void TextItem::adjustSize()
 {
     if (private_->hasZeroWidth)
         SetFixedItemWidth(kNaturalWidth);
-    private_->document.adjustSize();
+    document()->adjustSize();
+}
+
+void TextItem::SetFrame(qreal height, qreal topMargin)
+{
+    private_->text.SetFrame(height, topMargin);
 }
 
 void TextItem::SetMaxLineCount(int count)

@@ -12,13 +12,14 @@
 //
 // Read-only (as created) and editable items
 //
-//   A read-only item lays out and draws its document itself. It does not create
-//   the text control of QGraphicsTextItem, because that takes several times as
-//   long as the layout of a short text. For this reason, some functions below
-//   hide functions of QGraphicsTextItem with the same name: call them on a
-//   TextItem. Called through a QGraphicsTextItem pointer, the non-virtual
-//   functions act on the base's own, empty document, and create it. The virtual
-//   ones, such as boundingRect() and paint(), act on the text.
+//   A read-only item lays out and draws its text itself. It does not create the
+//   text control of QGraphicsTextItem, because that takes several times as long as
+//   the layout of a short text. It creates a document only for document(),
+//   textCursor(), adjustSize(), pictures of emoji and a few rare formats. For this
+//   reason, some functions below, such as document() and toPlainText(), hide functions of
+//   QGraphicsTextItem with the same name: call them on a TextItem. Called through a
+//   QGraphicsTextItem pointer, the non-virtual functions act on the base's own, empty document, and
+//   create it. The virtual ones, such as boundingRect() and paint(), act on the text.
 //
 //   SetReadOnly(false) gives the document to the base's control, which then
 //   draws and edits it, without line limit, elision, highlight and clicks on
@@ -78,6 +79,7 @@
 #include <QStringList>
 #include <QTextCursor>
 #include <QTextOption>
+#include <QVector>
 
 #include <memory>
 
@@ -124,11 +126,12 @@ public:
     // spaces, as in QTextDocument.
     QString toPlainText() const;
 
-    // The document of the text, up to the display limit. The item owns it and
-    // never replaces it. It may be changed: for example, the format of its root
-    // frame (a top margin moves the text down) or its default text option
-    // (alignment, direction). The item then shows the change. It has no document
-    // margin.
+    // The document of the text, up to the display limit. The first call makes it.
+    // The item owns it and never replaces it. It may be changed: for example, the
+    // format of its root frame (a top margin moves the text down) or its default
+    // text option (alignment, direction). The item then shows the change. It has no
+    // document margin. An item with a document needs more than twice the memory and
+    // the time, so use the functions of TextItem where they do.
     QTextDocument* document() const;
 
     // For a read-only item, a cursor at the start of the text; for an editable
@@ -155,6 +158,21 @@ public:
     // line and paragraph separators only. Values outside of the enumeration are
     // ignored.
     void SetWrapMode(QTextOption::WrapMode mode);
+
+    // The alignment of the lines in a fixed width, or in the natural one. Left and
+    // right change places in paragraphs that read from right to left, except with
+    // Qt::AlignAbsolute.
+    Qt::Alignment TextAlignment() const;
+    void SetTextAlignment(Qt::Alignment alignment);
+
+    // The direction in which the paragraphs read. With Qt::LayoutDirectionAuto, as at
+    // first, the first letter of each paragraph that has a direction decides.
+    void SetTextDirection(Qt::LayoutDirection direction);
+    QVector<Qt::LayoutDirection> ParagraphDirections() const;
+
+    // Sets the height of the document's root frame, 0 for that of the text, and the
+    // top margin, which moves the text down, in whole pixels.
+    void SetFrame(qreal height, qreal topMargin);
 
     // Lays the text out in this width. Negative widths, infinity and NaN restore
     // the natural width, which is that of the widest shown line. With a width of

@@ -1,0 +1,121 @@
+#include "ParagraphLayout.h"
+
+#include "TextRuns.h"
+#include "TextWork.h"
+
+#include <QStyle>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kestro {
+
+namespace {
+
+QTextOption ParagraphOption(QTextOption option, const QString& text)
+{
+    const Qt::LayoutDirection direction = ParagraphLayout::DirectionOf(text, option);
+    option.setTextDirection(direction);
+    option.setAlignment(QStyle::visualAlignment(direction, option.alignment()));
+    return option;
+}
+
+uint CodePointAt(const QString& text, int at)
+{
+    if (text.at(at).isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate())
+        return QChar::surrogateToUcs4(text.at(at), text.at(at + 1));
+    return text.at(at).unicode();
+}
+
+} // namespace
+
+ParagraphLayout::ParagraphLayout(const ParagraphSource& source, const QFont& font,
+                                 const QTextOption& option)
+    : layout_(std::make_unique<QTextLayout>(source.text))
+    , wrapMode_(option.wrapMode())
+{
+    const bool isEmpty = source.text.isEmpty();
+    layout_->setFont(isEmpty ? source.formatBefore.font().resolve(font) : font);
+    layout_->setTextOption(ParagraphOption(option, source.text));
+    if (!source.formats.isEmpty())
+        layout_->setFormats(source.formats);
+    // Shown lines are broken, drawn and measured many times.
+    layout_->setCacheEnabled(true);
+}
+
+Qt::LayoutDirection ParagraphLayout::DirectionOf(const QString& text, const QTextOption& option)
+{
+    if (option.textDirection() != Qt::LayoutDirectionAuto)
+        return option.textDirection();
+    for (int at = 0; at < text.size(); ++at) {
+        const uint character = CodePointAt(text, at);
+        if (QChar::requiresSurrogates(character))
+            ++at;
+        switch (QChar::direction(character)) {
+        case QChar::DirL:
+            return Qt::LeftToRight;
+        case QChar::DirR:
+        case QChar::DirAL:
+            return Qt::RightToLeft;
+        default:
+            break;
+        }
+    }
+    return Qt::LeftToRight;
+}
+
+// The text engine's session, which beginLayout() starts, stays open. So lines can be
+// broken again without shaping the text again. Everything else here, up to the
+// rounding, is what QTextDocumentLayout does.
+qreal ParagraphLayout::BreakLines(qreal width)
+{
+    ++WorkSoFar().lineBreakings;
+    Shape();
+    layout_->clearLayout();
+    SetWrapMode(width < 0 ? QTextOption::ManualWrap : wrapMode_);
+    qreal height = 0;
+    qreal bottom = 0;
+    for (QTextLine line = layout_->createLine(); line.isValid(); line = layout_->createLine()) {
+        line.setLeadingIncluded(true);
+        FitLine(line, std::max(0.0, width));
+        line.setPosition(QPointF(0, height));
+        bottom = height + line.height();
+        height += std::ceil(line.ascent() + line.descent() + line.leading());
+    }
+    return std::max(height, bottom);
+}
+
+void ParagraphLayout::Shape()
+{
+    if (isShaped_)
+        return;
+    isShaped_ = true;
+    ++WorkSoFar().shapings;
+    layout_->beginLayout();
+}
+
+// A line that does not fit breaks anywhere. The lines after it break at words only.
+void ParagraphLayout::FitLine(QTextLine& line, qreal width)
+{
+    line.setLineWidth(width);
+    if (line.naturalTextWidth() <= width)
+        return;
+    const bool breaksAnywhere = wrapMode_ == QTextOption::WrapAtWordBoundaryOrAnywhere
+        && layout_->textOption().wrapMode() != QTextOption::ManualWrap;
+    if (breaksAnywhere)
+        SetWrapMode(QTextOption::WrapAnywhere);
+    line.setLineWidth(std::max(line.naturalTextWidth(), width));
+    if (breaksAnywhere)
+        SetWrapMode(QTextOption::WordWrap);
+}
+
+void ParagraphLayout::SetWrapMode(QTextOption::WrapMode mode)
+{
+    QTextOption option = layout_->textOption();
+    if (option.wrapMode() == mode)
+        return;
+    option.setWrapMode(mode);
+    layout_->setTextOption(option);
+}
+
+} // namespace kestro

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QTextLayout>
+
+#include <memory>
+
+class QFont;
+class QTextOption;
+
+namespace kestro {
+
+struct ParagraphSource;
+
+// A paragraph that is laid out exactly as a document would do it. Its text is shaped
+// once; breaking it into lines again, in another width, only takes a small part of
+// that time.
+class ParagraphLayout {
+public:
+    // `font`: that of text without a format. `option`: alignment, direction and wrap
+    // mode of the whole text.
+    ParagraphLayout(const ParagraphSource& source, const QFont& font, const QTextOption& option);
+
+    // Returns the height of the lines. A negative width: lines break at separators
+    // only.
+    qreal BreakLines(qreal width);
+
+    // The direction in which the paragraph reads: that of the option or, if it has
+    // none, of the first letter that has one.
+    static Qt::LayoutDirection DirectionOf(const QString& text, const QTextOption& option);
+
+    // The layout has the lines.
+    QTextLayout* Layout() const { return layout_.get(); }
+
+private:
+    void Shape();
+    void FitLine(QTextLine& line, qreal width);
+    void SetWrapMode(QTextOption::WrapMode mode);
+
+    std::unique_ptr<QTextLayout> layout_;
+    QTextOption::WrapMode wrapMode_;
+    bool isShaped_ = false;
+};
+
+} // namespace kestro

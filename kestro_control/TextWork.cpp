@@ -1,0 +1,11 @@
+#include "TextWork.h"
+
+namespace kestro {
+
+TextWork& WorkSoFar()
+{
+    static TextWork work;
+    return work;
+}
+
+} // namespace kestro

@@ -1,0 +1,189 @@
+// The lines of a text that has no document, against those of a document.
+#include "RandomTexts.h"
+
+#include "DocumentText.h"
+#include "TextParagraphs.h"
+#include "TextWork.h"
+
+#include <gtest/gtest.h>
+
+#include <QTextCursor>
+#include <QTextDocument>
+
+using kestro::DocumentText;
+using kestro::LaidOutParagraph;
+using kestro::LaidOutText;
+using kestro::TextParagraphs;
+using kestro::TextRuns;
+using kestro::WorkSoFar;
+
+namespace {
+
+// The same text with and without a document.
+struct Twins {
+    Twins() { document.setDocumentMargin(0); }
+
+    void Append(const QString& text, const QTextCharFormat& format = {})
+    {
+        if (!paragraphs.Runs().CanAppend(text, format))
+            return;
+        paragraphs.Append(text, format);
+        QTextCursor cursor(&document);
+        cursor.movePosition(QTextCursor::End);
+        cursor.insertText(text, format);
+    }
+
+    void SetFont(const QFont& font)
+    {
+        if (!TextRuns::CanHave(font))
+            return;
+        paragraphs.SetFont(font);
+        document.setDefaultFont(font);
+    }
+
+    void SetOption(QTextOption option)
+    {
+        option.setTabStopDistance(paragraphs.Option().tabStopDistance());
+        if (option.alignment() == Qt::AlignJustify)
+            option.setAlignment(Qt::AlignLeft);
+        paragraphs.SetOption(option);
+        document.setDefaultTextOption(option);
+    }
+
+    void SetWidth(qreal width)
+    {
+        paragraphs.SetWidth(width == 0 ? 1 : width);
+        document.setTextWidth(width == 0 ? 1 : width);
+    }
+
+    TextParagraphs paragraphs;
+    QTextDocument document;
+};
+
+void expectSameLine(const QTextLine& line, const QTextLine& expected)
+{
+    EXPECT_EQ(line.textStart(), expected.textStart());
+    EXPECT_EQ(line.textLength(), expected.textLength());
+    EXPECT_EQ(line.position(), expected.position());
+    EXPECT_EQ(line.width(), expected.width());
+    EXPECT_EQ(line.naturalTextRect(), expected.naturalTextRect());
+    EXPECT_EQ(line.horizontalAdvance(), expected.horizontalAdvance());
+    EXPECT_EQ(line.ascent(), expected.ascent());
+    EXPECT_EQ(line.descent(), expected.descent());
+    EXPECT_EQ(line.leading(), expected.leading());
+    for (int at = line.textStart(); at < line.textStart() + line.textLength(); ++at)
+        EXPECT_EQ(line.cursorToX(at), expected.cursorToX(at)) << "character " << at;
+}
+
+void expectSameParagraph(const LaidOutParagraph& paragraph, const LaidOutParagraph& expected)
+{
+    EXPECT_EQ(paragraph.text, expected.text);
+    EXPECT_EQ(paragraph.position, expected.position);
+    EXPECT_EQ(paragraph.isLast, expected.isLast);
+    EXPECT_EQ(paragraph.origin, expected.origin);
+    EXPECT_EQ(paragraph.right, expected.right);
+    const QTextOption option = paragraph.layout->textOption();
+    EXPECT_EQ(option.alignment(), expected.layout->textOption().alignment());
+    EXPECT_EQ(option.textDirection(), expected.layout->textOption().textDirection());
+    if (!paragraph.formats.isEmpty()) {
+        EXPECT_EQ(paragraph.formats, expected.formats);
+    }
+    ASSERT_EQ(paragraph.layout->lineCount(), expected.layout->lineCount());
+    for (int i = 0; i < paragraph.layout->lineCount(); ++i) {
+        SCOPED_TRACE("line " + std::to_string(i));
+        expectSameLine(paragraph.layout->lineAt(i), expected.layout->lineAt(i));
+    }
+}
+
+void expectSameLines(Twins& twins)
+{
+    twins.paragraphs.LayOut();
+    const DocumentText document(twins.document);
+    const LaidOutText& paragraphs = twins.paragraphs;
+    EXPECT_EQ(paragraphs.IsEmpty(), document.IsEmpty());
+    EXPECT_EQ(paragraphs.Width(), document.Width());
+    EXPECT_EQ(paragraphs.Font(), document.Font());
+    EXPECT_EQ(twins.paragraphs.Runs().PlainText(), twins.document.toPlainText());
+    ASSERT_EQ(paragraphs.ParagraphCount(), document.ParagraphCount());
+    for (int i = 0; i < document.ParagraphCount(); ++i) {
+        SCOPED_TRACE("paragraph " + std::to_string(i));
+        expectSameParagraph(paragraphs.Paragraph(i), document.Paragraph(i));
+    }
+}
+
+QTextOption randomOption(RandomTexts& random)
+{
+    QTextOption option;
+    option.setWrapMode(random.WrapMode());
+    option.setAlignment(random.Alignment());
+    option.setTextDirection(random.Direction());
+    return option;
+}
+
+void changeAnything(Twins& twins, RandomTexts& random)
+{
+    switch (random.Number(8)) {
+    case 0:
+        twins.SetFont(random.Font());
+        break;
+    case 1:
+        twins.SetOption(randomOption(random));
+        break;
+    case 2:
+        twins.Append(random.Text(), random.Format());
+        break;
+    case 3:
+        twins.Append(random.Text());
+        break;
+    default:
+        twins.SetWidth(random.Width());
+        break;
+    }
+}
+
+class TextParagraphsLikeDocument : public testing::TestWithParam<int> { };
+
+TEST_P(TextParagraphsLikeDocument, HaveTheSameLinesAfterAnyChanges)
+{
+    RandomTexts random(static_cast<unsigned>(GetParam()));
+    for (int text = 0; text < 40 && !HasFailure(); ++text) {
+        SCOPED_TRACE("text " + std::to_string(text));
+        Twins twins;
+        twins.SetFont(random.Font());
+        twins.Append(random.Text(), random.OneIn(2) ? random.Format() : QTextCharFormat());
+        for (int step = 0; step < 8 && !HasFailure(); ++step) {
+            SCOPED_TRACE("step " + std::to_string(step) + " of "
+                         + twins.document.toPlainText().toStdString());
+            expectSameLines(twins);
+            changeAnything(twins, random);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, TextParagraphsLikeDocument, testing::Range(1, 9));
+
+TEST(TextParagraphs, AreShapedOnceForAllWidths)
+{
+    TextParagraphs paragraphs;
+    paragraphs.Append(QStringLiteral("one two three\nfour five six"), {});
+    const int before = WorkSoFar().shapings;
+    for (const qreal width : {-1.0, 50.0, 20.0, 1e6}) {
+        paragraphs.SetWidth(width);
+        paragraphs.LayOut();
+    }
+    EXPECT_EQ(WorkSoFar().shapings - before, 2);
+}
+
+TEST(TextParagraphs, AreNotLaidOutAgainWithoutAChange)
+{
+    TextParagraphs paragraphs;
+    paragraphs.Append(QStringLiteral("one two three"), {});
+    paragraphs.LayOut();
+    const int before = WorkSoFar().lineBreakings;
+    paragraphs.LayOut();
+    paragraphs.SetTop(10);
+    paragraphs.LayOut();
+    EXPECT_EQ(WorkSoFar().lineBreakings, before);
+}
+
+} // namespace

@@ -1,0 +1,372 @@
+// Items that have never been asked for their document, against items that have one.
+#include "RandomTexts.h"
+
+#include "TextWork.h"
+
+#include <kestro_control/TextItem.h>
+
+#include <gtest/gtest.h>
+
+#include <QGraphicsScene>
+#include <QGraphicsSceneHoverEvent>
+#include <QImage>
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFrame>
+
+#include <functional>
+#include <string>
+
+using kestro::WorkSoFar;
+
+namespace {
+
+const QString sentence = QStringLiteral("Dinner is ready at seven, please bring some juice.");
+
+QFont sans()
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(16);
+    return font;
+}
+
+class Item : public TextItem {
+public:
+    bool ShowsHandAt(const QPointF& point)
+    {
+        QGraphicsSceneHoverEvent event(QEvent::GraphicsSceneHoverMove);
+        event.setPos(point);
+        hoverMoveEvent(&event);
+        return hasCursor();
+    }
+};
+
+constexpr QRectF kPictureArea(-20, -20, 460, 560);
+
+QImage pictureOf(TextItem& item, const QRectF& exposed)
+{
+    QImage picture(kPictureArea.size().toSize(), QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.translate(-kPictureArea.topLeft());
+    QStyleOptionGraphicsItem option;
+    option.exposedRect = exposed;
+    item.paint(&painter, &option, nullptr);
+    return picture;
+}
+
+void expectSameMentions(Item& item, Item& expected)
+{
+    for (int y = 4; y < 120; y += 9) {
+        for (int x = 2; x < 400; x += 13)
+            ASSERT_EQ(item.ShowsHandAt(QPointF(x, y)), expected.ShowsHandAt(QPointF(x, y)));
+    }
+}
+
+void expectSame(Item& item, Item& expected)
+{
+    EXPECT_EQ(item.toPlainText(), expected.toPlainText());
+    EXPECT_EQ(item.textWidth(), expected.textWidth());
+    EXPECT_EQ(item.font(), expected.font());
+    EXPECT_EQ(item.TextAlignment(), expected.TextAlignment());
+    EXPECT_EQ(item.ParagraphDirections(), expected.ParagraphDirections());
+    EXPECT_EQ(item.ShownLineCount(), expected.ShownLineCount());
+    EXPECT_EQ(item.IsElided(), expected.IsElided());
+    EXPECT_EQ(item.FirstLineAscent(), expected.FirstLineAscent());
+    EXPECT_EQ(item.boundingRect(), expected.boundingRect());
+    EXPECT_EQ(item.sizeHint(Qt::PreferredSize), expected.sizeHint(Qt::PreferredSize));
+    EXPECT_EQ(pictureOf(item, kPictureArea), pictureOf(expected, kPictureArea));
+    const QRectF part(30, 25, 60, 20);
+    EXPECT_EQ(pictureOf(item, part), pictureOf(expected, part));
+}
+
+// Two items to which the same is done.
+struct Twins {
+    Twins()
+    {
+        expected.document();
+        scene.addItem(&item);
+        scene.addItem(&expected);
+        ForBoth([](TextItem& both) {
+            both.setFont(sans());
+            both.SetMarkupEnabled(true);
+        });
+    }
+
+    void ForBoth(const std::function<void(TextItem&)>& change)
+    {
+        change(item);
+        change(expected);
+    }
+
+    // The items leave the scene before it ends.
+    QGraphicsScene scene;
+    Item item;
+    Item expected;
+};
+
+// The text of a bubble: a sentence, a mention, letters from another script.
+QString markup(RandomTexts& random)
+{
+    const QString text = random.Text();
+    return random.OneIn(2) ? text
+                           : text + QStringLiteral("<m user=\"7\">Ann Lee</m> ") + random.Text();
+}
+
+void appendFormatted(Twins& twins, RandomTexts& random)
+{
+    const QString text = markup(random);
+    const QTextCharFormat format = random.Format();
+    const bool append = !random.OneIn(6);
+    twins.ForBoth([&](TextItem& item) { item.InsertRichText(text, append, &format); });
+}
+
+void append(Twins& twins, RandomTexts& random)
+{
+    const QString text = markup(random);
+    twins.ForBoth([&](TextItem& item) { item.InsertRichText(text, true); });
+}
+
+void setWidth(Twins& twins, RandomTexts& random)
+{
+    const qreal width = random.Width();
+    twins.ForBoth([=](TextItem& item) { item.SetFixedItemWidth(width); });
+}
+
+void setFont(Twins& twins, RandomTexts& random)
+{
+    const QFont font = random.Font();
+    twins.ForBoth([&](TextItem& item) { item.setFont(font); });
+}
+
+void setLook(Twins& twins, RandomTexts& random)
+{
+    const QColor color = QColor::fromHsv(random.Number(360), 255, 150);
+    const auto wrapMode = random.WrapMode();
+    const auto alignment = random.Alignment();
+    const auto direction = random.Direction();
+    twins.ForBoth([&](TextItem& item) {
+        item.setDefaultTextColor(color);
+        item.SetWrapMode(wrapMode);
+        item.SetTextAlignment(alignment);
+        item.SetTextDirection(direction);
+    });
+}
+
+void limitLines(Twins& twins, RandomTexts& random)
+{
+    const int count = random.Number(5);
+    const bool elide = random.OneIn(2);
+    twins.ForBoth([=](TextItem& item) {
+        item.SetMaxLineCount(count);
+        item.SetElide(elide);
+    });
+}
+
+void highlight(Twins& twins, RandomTexts& random)
+{
+    const QStringList words = random.OneIn(3)
+        ? QStringList()
+        : QStringList {QStringLiteral("e"), QStringLiteral("is re"), QStringLiteral("日"),
+                       QStringLiteral("ל")};
+    const QColor color = random.OneIn(2) ? Qt::yellow : Qt::darkBlue;
+    twins.ForBoth([&](TextItem& item) { item.HighlightText(words, color); });
+}
+
+void setFrame(Twins& twins, RandomTexts& random)
+{
+    const qreal top = random.Number(200) / 7.0;
+    twins.ForBoth([=](TextItem& item) { item.SetFrame(top > 0 ? top + 100 : 0, top); });
+}
+
+void replaceText(Twins& twins, RandomTexts& random)
+{
+    const QString text = random.OneIn(3) ? QString() : random.Text();
+    twins.ForBoth([&](TextItem& item) { item.setPlainText(text); });
+}
+
+void askForDocument(Twins& twins, RandomTexts& random)
+{
+    if (random.OneIn(2)) {
+        twins.item.document();
+    } else if (random.OneIn(2)) {
+        twins.ForBoth([](TextItem& item) { item.adjustSize(); });
+    } else {
+        twins.ForBoth([](TextItem& item) {
+            item.SetReadOnly(false);
+            item.SetReadOnly(true);
+        });
+    }
+}
+
+using Change = void (*)(Twins&, RandomTexts&);
+constexpr Change kChanges[] = {appendFormatted, append,      setWidth,      setWidth,   setWidth,
+                               setFont,         setLook,     limitLines,    limitLines, highlight,
+                               setFrame,        replaceText, askForDocument};
+
+class TextWithoutDocument : public testing::TestWithParam<int> { };
+
+TEST_P(TextWithoutDocument, IsShownLikeInADocumentAfterAnyChanges)
+{
+    RandomTexts random(static_cast<unsigned>(GetParam()));
+    for (int text = 0; text < 10 && !HasFailure(); ++text) {
+        Twins twins;
+        append(twins, random);
+        for (int step = 0; step < 12 && !HasFailure(); ++step) {
+            SCOPED_TRACE("text " + std::to_string(text) + ", step " + std::to_string(step) + ": "
+                         + twins.expected.toPlainText().toStdString());
+            if (!random.OneIn(4))
+                expectSame(twins.item, twins.expected);
+            kChanges[random.Number(static_cast<int>(std::size(kChanges)))](twins, random);
+        }
+        expectSameMentions(twins.item, twins.expected);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, TextWithoutDocument, testing::Range(1, 13));
+
+// How often something was done in `steps`.
+kestro::TextWork workIn(const std::function<void()>& steps)
+{
+    const kestro::TextWork before = WorkSoFar();
+    steps();
+    const kestro::TextWork after = WorkSoFar();
+    return {after.documents - before.documents, after.shapings - before.shapings,
+            after.lineBreakings - before.lineBreakings};
+}
+
+TEST(TextItemDocument, IsNotMadeForATextThatIsOnlyShown)
+{
+    const auto work = workIn([] {
+        Item item;
+        item.setFont(sans());
+        item.SetMarkupEnabled(true);
+        item.SetElide(true);
+        QTextCharFormat bold;
+        bold.setFontWeight(QFont::Bold);
+        item.InsertRichText(QStringLiteral("Hello <m user=\"1\">Ann</m>\n"), true);
+        item.InsertRichText(sentence, true, &bold);
+        item.SetTextAlignment(Qt::AlignRight);
+        item.SetTextDirection(Qt::RightToLeft);
+        item.SetFrame(200, 20);
+        item.SetFixedItemWidth(100);
+        item.SetMaxLineCount(3);
+        item.HighlightText({QStringLiteral("ready")}, Qt::yellow);
+        pictureOf(item, kPictureArea);
+        item.ShowsHandAt(QPointF(60, 30));
+        EXPECT_FALSE(item.toPlainText().isEmpty());
+        item.setPlainText(sentence);
+        item.ClearText();
+    });
+    EXPECT_EQ(work.documents, 0);
+}
+
+TEST(TextItemDocument, IsMadeOnceWhenAskedForAndStaysTheSame)
+{
+    Item item;
+    item.InsertRichText(sentence, true);
+    const auto work = workIn([&] {
+        QTextDocument* const document = item.document();
+        EXPECT_EQ(document->toPlainText(), sentence);
+        item.InsertRichText(sentence, true);
+        item.setPlainText(sentence);
+        EXPECT_EQ(item.document(), document);
+        item.SetReadOnly(false);
+        item.SetReadOnly(true);
+        EXPECT_EQ(item.document(), document);
+    });
+    EXPECT_EQ(work.documents, 1);
+}
+
+TEST(TextItemDocument, HasWhatWasSetBeforeItWasMade)
+{
+    Item item;
+    QTextCharFormat bold;
+    bold.setFontWeight(QFont::Bold);
+    item.InsertRichText(QStringLiteral("a\nb"), true);
+    item.InsertRichText(QStringLiteral("c"), true, &bold);
+    item.setFont(sans());
+    item.SetWrapMode(QTextOption::WrapAnywhere);
+    item.SetTextAlignment(Qt::AlignHCenter);
+    item.SetTextDirection(Qt::RightToLeft);
+    item.SetFixedItemWidth(70.5);
+    item.SetFrame(90, 12.5);
+
+    const QTextDocument& document = *item.document();
+    EXPECT_EQ(document.blockCount(), 2);
+    EXPECT_EQ(document.lastBlock().textFormats().last().format, bold);
+    EXPECT_EQ(document.defaultFont(), sans());
+    EXPECT_EQ(document.defaultTextOption().wrapMode(), QTextOption::WrapAnywhere);
+    EXPECT_EQ(document.defaultTextOption().alignment(), Qt::AlignHCenter);
+    EXPECT_EQ(document.defaultTextOption().textDirection(), Qt::RightToLeft);
+    EXPECT_EQ(document.textWidth(), 70.5);
+    EXPECT_EQ(document.documentMargin(), 0);
+    EXPECT_EQ(document.rootFrame()->frameFormat().topMargin(), 12.5);
+    EXPECT_EQ(document.rootFrame()->frameFormat().height().rawValue(), 90);
+}
+
+TEST(TextItemDocument, AnnouncesChangesThatItShowsAfterItWasMade)
+{
+    QGraphicsScene scene;
+    auto* const item = new Item;
+    scene.addItem(item);
+    item->InsertRichText(QStringLiteral("a"), true);
+    ASSERT_TRUE(scene.items(QPointF(2, 60)).isEmpty());
+    QTextDocument* const document = item->document();
+    QTextCursor(document).insertText(QStringLiteral("a\nb\nc\nd\ne\nf\ng\nh\n"));
+    EXPECT_FALSE(scene.items(QPointF(2, 60)).isEmpty());
+}
+
+TEST(TextItemShaping, HappensOnceForAllWidthsLimitsAndLooks)
+{
+    Item item;
+    item.setFont(sans());
+    item.InsertRichText(sentence, true);
+    const auto work = workIn([&] {
+        for (const qreal width : {-1.0, 180.0, 90.0, -1.0, 0.0, 300.0}) {
+            item.SetFixedItemWidth(width);
+            EXPECT_GT(item.boundingRect().height(), 0);
+        }
+        item.setDefaultTextColor(Qt::red);
+        item.SetMaxLineCount(1);
+        item.HighlightText({QStringLiteral("ready")}, Qt::yellow);
+        item.SetFrame(200, 20);
+        pictureOf(item, kPictureArea);
+        pictureOf(item, kPictureArea);
+    });
+    EXPECT_EQ(work.shapings, 1);
+}
+
+TEST(TextItemLineBreaking, IsNotRepeatedForTheSameWidthNorForColoursHighlightsAndMargins)
+{
+    Item item;
+    item.InsertRichText(sentence, true);
+    item.SetFixedItemWidth(180);
+    EXPECT_GT(item.ShownLineCount(), 0);
+    const auto work = workIn([&] {
+        item.SetFixedItemWidth(180);
+        item.setDefaultTextColor(Qt::red);
+        item.HighlightText({QStringLiteral("ready")}, Qt::yellow);
+        item.SetMaxLineCount(1);
+        item.SetFrame(200, 20);
+        pictureOf(item, kPictureArea);
+    });
+    EXPECT_EQ(work.lineBreakings, 0);
+}
+
+TEST(TextItemShaping, HappensAgainForAnotherFont)
+{
+    Item item;
+    item.setFont(sans());
+    item.InsertRichText(sentence, true);
+    EXPECT_EQ(item.ShownLineCount(), 1);
+    const qreal height = item.boundingRect().height();
+    QFont large = sans();
+    large.setPixelSize(40);
+    item.setFont(large);
+    EXPECT_GT(item.boundingRect().height(), 2 * height);
+}
+
+} // namespace
