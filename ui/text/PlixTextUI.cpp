@@ -19,10 +19,8 @@
 #include <QFontMetrics>
 #include <QGraphicsSceneMouseEvent>
 #include <QPointer>
-#include <QTextBlock>
 #include <QTextCharFormat>
-#include <QTextDocument>
-#include <QTextFrame>
+#include <QVector>
 
 #include <algorithm>
 #include <cmath>
@@ -77,7 +75,6 @@ bool PlixTextUI::Init()
         return false;
     InitWrapMode();
     SetElide(true);
-    document()->setDocumentMargin(0);
     InitColor(*data);
     InitAction(*data);
     InitFont(*data);
@@ -139,11 +136,9 @@ void PlixTextUI::InitAlignment(const PlixDataText& data, const Place& place)
     const PlixAlignment align = plix::FindAlign(data.GetAlign()).value_or(PlixAlignment());
     if (align.flag != Qt::AlignLeft)
         YogaLayoutItem::setAlignment(align.flag, place.isInRow);
-    QTextOption option = document()->defaultTextOption();
-    option.setAlignment(align.flag);
+    SetTextAlignment(align.flag);
     if (place.isRightToLeft)
-        option.setTextDirection(Qt::RightToLeft);
-    document()->setDefaultTextOption(option);
+        SetTextDirection(Qt::RightToLeft);
 }
 
 void PlixTextUI::InitGravity(const PlixDataText& data, const Place& place)
@@ -199,19 +194,13 @@ void PlixTextUI::KeepSides(const PlixDataText& data, const Place& place)
 {
     if (data.GetAlign() == "center" || place.isRightToLeft)
         return;
+    const QVector<Qt::LayoutDirection> directions = ParagraphDirections();
     if (data.GetAlign() != "end") {
-        if (!place.isInRow && document()->begin().textDirection() == Qt::RightToLeft)
+        if (!place.isInRow && directions.first() == Qt::RightToLeft)
             YogaLayoutItem::setAlignment(Qt::AlignRight, false);
-        return;
+    } else if (directions.contains(Qt::RightToLeft)) {
+        SetTextAlignment(TextAlignment() | Qt::AlignAbsolute);
     }
-    bool readsRightToLeft = false;
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
-        readsRightToLeft = readsRightToLeft || block.textDirection() == Qt::RightToLeft;
-    if (!readsRightToLeft)
-        return;
-    QTextOption option = document()->defaultTextOption();
-    option.setAlignment(option.alignment() | Qt::AlignAbsolute);
-    document()->setDefaultTextOption(option);
 }
 
 bool PlixTextUI::NeedsEscaping(const QString& text) const
@@ -435,19 +424,11 @@ void PlixTextUI::PlaceVertically(double available)
 {
     textHeight_ =
         std::max(static_cast<int>(boundingRect().height()), QFontMetrics(font()).height());
-    QTextFrame* const root = document()->rootFrame();
-    QTextFrameFormat format = root->frameFormat();
-    // Undo the earlier placement.
-    format.clearProperty(QTextFormat::FrameHeight);
-    format.setTopMargin(document()->documentMargin());
-    if (!baseline_ && available > textHeight_) {
-        const double free = available - format.topMargin() - textHeight_ - format.bottomMargin();
-        format.setHeight(available);
-        format.setBorder(0);
-        format.setTopMargin(format.topMargin() + free * shareAbove_);
+    if (baseline_ || available <= textHeight_) {
+        SetFrame(0, 0);
+        return;
     }
-    if (format != root->frameFormat())
-        root->setFrameFormat(format);
+    SetFrame(available, (available - textHeight_) * shareAbove_);
 }
 
 void PlixTextUI::mousePressEvent(QGraphicsSceneMouseEvent* event)
