@@ -77,6 +77,8 @@ void expectSame(Item& item, Item& expected)
     EXPECT_EQ(item.FirstLineAscent(), expected.FirstLineAscent());
     EXPECT_EQ(item.boundingRect(), expected.boundingRect());
     EXPECT_EQ(item.sizeHint(Qt::PreferredSize), expected.sizeHint(Qt::PreferredSize));
+    // Qt can draw a glyph of a document differently when it draws it first.
+    pictureOf(expected, kPictureArea);
     EXPECT_EQ(pictureOf(item, kPictureArea), pictureOf(expected, kPictureArea));
     const QRectF part(30, 25, 60, 20);
     EXPECT_EQ(pictureOf(item, part), pictureOf(expected, part));
