@@ -3,9 +3,11 @@
 #include "ScaledPictures.h"
 #include "TextProperty.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextCursor>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <iterator>
@@ -48,6 +50,14 @@ ScaledPictures& SharedScaledPictures()
     return *pictures;
 }
 
+// Lets the document show pictures.
+void RegisterHandler(const QTextDocument& document)
+{
+    QAbstractTextDocumentLayout* const layout = document.documentLayout();
+    if (!layout->handlerForObject(EmojiPicture::kObjectType))
+        layout->registerHandler(EmojiPicture::kObjectType, new EmojiPicture(layout));
+}
+
 QImage LimitedInSize(const QImage& picture)
 {
     if (picture.width() <= kMaximumSide && picture.height() <= kMaximumSide)
@@ -73,6 +83,7 @@ QTextCharFormat PlaceholderFormat(QTextCharFormat format)
 void EmojiPicture::Insert(QTextCursor& cursor, const QTextCharFormat& format,
                           const QString& characters, const QImage& picture)
 {
+    RegisterHandler(*cursor.document());
     QTextCharFormat object = format;
     object.setObjectType(kObjectType);
     object.setProperty(TextProperty::EmojiCharacters, characters);

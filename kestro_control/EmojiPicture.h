@@ -20,6 +20,8 @@ class EmojiPicture : public QObject, public QTextObjectInterface {
 public:
     static constexpr int kObjectType = QTextFormat::UserObject + 1;
 
+    using QObject::QObject;
+
     // `format` is that of the text around it.
     static void Insert(QTextCursor& cursor, const QTextCharFormat& format,
                        const QString& characters, const QImage& picture);

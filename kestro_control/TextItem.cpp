@@ -13,7 +13,6 @@
 #include "kestro_control/KestroControlManager.h"
 #include "kestro_control/KestroControlSupport.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QCursor>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneHoverEvent>
@@ -133,11 +132,6 @@ public:
     // To be called before a change of what is shown, or after one in the document.
     void Invalidate();
 
-private:
-    // Destroyed after the document, which keeps a pointer to it.
-    std::unique_ptr<EmojiPicture> emojiPictures_;
-
-public:
     ItemText text;
     QColor textColor = QGuiApplication::palette().color(QPalette::Text);
     QColor mentionColor = kDefaultMentionColor;
@@ -236,12 +230,7 @@ void TextItem::Private::InsertEmoji(const MarkupRun& run, const QTextCharFormat&
 void TextItem::Private::InsertPicture(const MarkupRun& run, const QTextCharFormat& format,
                                       const QImage& picture)
 {
-    if (!emojiPictures_)
-        emojiPictures_ = std::make_unique<EmojiPicture>();
-    QTextCursor& cursor = text.InsertionCursor();
-    cursor.document()->documentLayout()->registerHandler(EmojiPicture::kObjectType,
-                                                         emojiPictures_.get());
-    EmojiPicture::Insert(cursor, format, run.text, picture);
+    EmojiPicture::Insert(text.InsertionCursor(), format, run.text, picture);
     hasPictures_ = true;
 }
 
