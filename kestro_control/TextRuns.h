@@ -15,7 +15,7 @@ namespace kestro {
 // A paragraph as it was inserted.
 struct ParagraphSource {
     QString text;
-    // Empty if the whole text has no format.
+    // Empty if the paragraph has no format.
     QVector<QTextLayout::FormatRange> formats;
     // The format of the character that ends the paragraph before it. Lines without
     // text are as high as its font.

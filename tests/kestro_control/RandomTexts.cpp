@@ -7,7 +7,7 @@
 
 namespace {
 
-const QStringList pieces {
+const QStringList kPieces {
     QStringLiteral("Dinner is ready at seven"),
     QStringLiteral("bring some juice, please."),
     QStringLiteral("AVAVA To. fi ffi"),
@@ -38,7 +38,7 @@ const QStringList pieces {
     QStringLiteral("\u0001\uFFFE"),
 };
 
-const QStringList joints {
+const QStringList kJoints {
     QStringLiteral(" "),      QStringLiteral(" "),  QStringLiteral(" "),   QStringLiteral(" "),
     QStringLiteral("  "),     QStringLiteral(""),   QStringLiteral("\n"),  QStringLiteral("\n\n"),
     QStringLiteral("\u2028"), QStringLiteral("\r"), QStringLiteral(" \n"), QStringLiteral("\u2029"),
@@ -47,82 +47,82 @@ const QStringList joints {
 
 } // namespace
 
-int RandomTexts::Number(int count)
+int RandomTexts::number(int count)
 {
     return static_cast<int>(engine_() % static_cast<unsigned>(count));
 }
 
-QString RandomTexts::Text()
+QString RandomTexts::text()
 {
     QString text;
-    for (int i = Number(6); i >= 0; --i)
-        text += pieces.at(Number(pieces.size())) + joints.at(Number(joints.size()));
+    for (int i = number(6); i >= 0; --i)
+        text += kPieces.at(number(kPieces.size())) + kJoints.at(number(kJoints.size()));
     return text;
 }
 
-QTextCharFormat RandomTexts::Format()
+QTextCharFormat RandomTexts::format()
 {
     QTextCharFormat format;
-    if (OneIn(3))
+    if (oneIn(3))
         return format;
-    if (OneIn(3))
-        format.setFont(Font());
-    if (OneIn(2))
+    if (oneIn(3))
+        format.setFont(font());
+    if (oneIn(2))
         format.clearProperty(QTextFormat::FontFamily);
-    if (OneIn(2))
-        format.setForeground(QColor::fromHsv(Number(360), 255, 200));
-    if (OneIn(4))
-        format.setBackground(QColor::fromHsv(Number(360), 90, 250));
-    if (OneIn(4))
+    if (oneIn(2))
+        format.setForeground(QColor::fromHsv(number(360), 255, 200));
+    if (oneIn(4))
+        format.setBackground(QColor::fromHsv(number(360), 90, 250));
+    if (oneIn(4))
         format.setFontWeight(QFont::Bold);
-    if (OneIn(4))
+    if (oneIn(4))
         format.setFontItalic(true);
-    if (OneIn(4))
+    if (oneIn(4))
         format.setFontUnderline(true);
-    if (OneIn(6))
+    if (oneIn(6))
         format.setFontStrikeOut(true);
-    if (OneIn(6))
-        format.setProperty(QTextFormat::FontPixelSize, 8 + Number(40));
-    if (OneIn(8))
+    if (oneIn(6))
+        format.setProperty(QTextFormat::FontPixelSize, 8 + number(40));
+    if (oneIn(8))
         format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
-    if (OneIn(10))
+    if (oneIn(10))
         format.setProperty(QTextFormat::FontSizeAdjustment, 2);
-    if (OneIn(12))
+    if (oneIn(12))
         format.setFontCapitalization(QFont::SmallCaps);
-    if (OneIn(12))
+    if (oneIn(12))
         format.setFontLetterSpacing(130);
     return format;
 }
 
-QFont RandomTexts::Font()
+QFont RandomTexts::font()
 {
     static const std::array families {QStringLiteral("DejaVu Sans"), QStringLiteral("DejaVu Serif"),
                                       QStringLiteral("Noto Sans CJK SC")};
-    QFont font(families[static_cast<std::size_t>(Number(families.size()))]);
-    font.setPixelSize(9 + Number(30));
-    font.setBold(OneIn(4));
-    font.setItalic(OneIn(4));
-    font.setUnderline(OneIn(6));
-    font.setStrikeOut(OneIn(8));
-    if (OneIn(12))
+    QFont font(families[static_cast<std::size_t>(number(families.size()))]);
+    font.setPixelSize(9 + number(30));
+    font.setBold(oneIn(4));
+    font.setItalic(oneIn(4));
+    font.setUnderline(oneIn(6));
+    font.setStrikeOut(oneIn(8));
+    if (oneIn(12))
         font.setCapitalization(QFont::AllUppercase);
     return font;
 }
 
-qreal RandomTexts::Width()
+qreal RandomTexts::width()
 {
     static const std::array usual {-1.0, 0.0, 0.3, 5.0, 1e6};
-    if (OneIn(3))
-        return usual[static_cast<std::size_t>(Number(usual.size()))];
-    return Number(400 * 16) / 16.0 + Number(7) / 7.0;
+    if (oneIn(3))
+        return usual[static_cast<std::size_t>(number(usual.size()))];
+    return number(400 * 16) / 16.0 + number(7) / 7.0;
 }
 
-QTextOption::WrapMode RandomTexts::WrapMode()
+QTextOption::WrapMode RandomTexts::wrapMode()
 {
-    return static_cast<QTextOption::WrapMode>(Number(5));
+    return static_cast<QTextOption::WrapMode>(number(5));
 }
 
-Qt::Alignment RandomTexts::Alignment()
+Qt::Alignment RandomTexts::alignment()
 {
     static const std::array alignments {Qt::Alignment(Qt::AlignLeft),
                                         Qt::Alignment(Qt::AlignRight),
@@ -131,10 +131,10 @@ Qt::Alignment RandomTexts::Alignment()
                                         Qt::Alignment(Qt::AlignLeft | Qt::AlignAbsolute),
                                         Qt::Alignment(Qt::AlignJustify),
                                         Qt::Alignment()};
-    return alignments[static_cast<std::size_t>(Number(alignments.size()))];
+    return alignments[static_cast<std::size_t>(number(alignments.size()))];
 }
 
-Qt::LayoutDirection RandomTexts::Direction()
+Qt::LayoutDirection RandomTexts::direction()
 {
-    return static_cast<Qt::LayoutDirection>(Number(3));
+    return static_cast<Qt::LayoutDirection>(number(3));
 }

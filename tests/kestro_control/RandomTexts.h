@@ -16,18 +16,18 @@ public:
     }
 
     // From 0 to `count` - 1.
-    int Number(int count);
-    bool OneIn(int count) { return Number(count) == 0; }
+    int number(int count);
+    bool oneIn(int count) { return number(count) == 0; }
 
-    QString Text();
+    QString text();
     // Often without any property.
-    QTextCharFormat Format();
-    QFont Font();
+    QTextCharFormat format();
+    QFont font();
     // Negative, zero, too small for a letter, usual, or more than any text needs.
-    qreal Width();
-    QTextOption::WrapMode WrapMode();
-    Qt::Alignment Alignment();
-    Qt::LayoutDirection Direction();
+    qreal width();
+    QTextOption::WrapMode wrapMode();
+    Qt::Alignment alignment();
+    Qt::LayoutDirection direction();
 
 private:
     std::mt19937 engine_;

@@ -23,7 +23,7 @@ namespace {
 struct Twins {
     Twins() { document.setDocumentMargin(0); }
 
-    void Append(const QString& text, const QTextCharFormat& format = {})
+    void append(const QString& text, const QTextCharFormat& format = {})
     {
         if (!paragraphs.Runs().CanAppend(text, format))
             return;
@@ -33,7 +33,7 @@ struct Twins {
         cursor.insertText(text, format);
     }
 
-    void SetFont(const QFont& font)
+    void setFont(const QFont& font)
     {
         if (!TextRuns::CanHave(font))
             return;
@@ -41,7 +41,7 @@ struct Twins {
         document.setDefaultFont(font);
     }
 
-    void SetOption(QTextOption option)
+    void setOption(QTextOption option)
     {
         option.setTabStopDistance(paragraphs.Option().tabStopDistance());
         if (option.alignment() == Qt::AlignJustify)
@@ -50,7 +50,7 @@ struct Twins {
         document.setDefaultTextOption(option);
     }
 
-    void SetWidth(qreal width)
+    void setWidth(qreal width)
     {
         paragraphs.SetWidth(width == 0 ? 1 : width);
         document.setTextWidth(width == 0 ? 1 : width);
@@ -114,29 +114,29 @@ void expectSameLines(Twins& twins)
 QTextOption randomOption(RandomTexts& random)
 {
     QTextOption option;
-    option.setWrapMode(random.WrapMode());
-    option.setAlignment(random.Alignment());
-    option.setTextDirection(random.Direction());
+    option.setWrapMode(random.wrapMode());
+    option.setAlignment(random.alignment());
+    option.setTextDirection(random.direction());
     return option;
 }
 
 void changeAnything(Twins& twins, RandomTexts& random)
 {
-    switch (random.Number(8)) {
+    switch (random.number(8)) {
     case 0:
-        twins.SetFont(random.Font());
+        twins.setFont(random.font());
         break;
     case 1:
-        twins.SetOption(randomOption(random));
+        twins.setOption(randomOption(random));
         break;
     case 2:
-        twins.Append(random.Text(), random.Format());
+        twins.append(random.text(), random.format());
         break;
     case 3:
-        twins.Append(random.Text());
+        twins.append(random.text());
         break;
     default:
-        twins.SetWidth(random.Width());
+        twins.setWidth(random.width());
         break;
     }
 }
@@ -149,8 +149,8 @@ TEST_P(TextParagraphsLikeDocument, HaveTheSameLinesAfterAnyChanges)
     for (int text = 0; text < 40 && !HasFailure(); ++text) {
         SCOPED_TRACE("text " + std::to_string(text));
         Twins twins;
-        twins.SetFont(random.Font());
-        twins.Append(random.Text(), random.OneIn(2) ? random.Format() : QTextCharFormat());
+        twins.setFont(random.font());
+        twins.append(random.text(), random.oneIn(2) ? random.format() : QTextCharFormat());
         for (int step = 0; step < 8 && !HasFailure(); ++step) {
             SCOPED_TRACE("step " + std::to_string(step) + " of "
                          + twins.document.toPlainText().toStdString());

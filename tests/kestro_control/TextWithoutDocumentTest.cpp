@@ -23,7 +23,7 @@ using kestro::WorkSoFar;
 
 namespace {
 
-const QString sentence = QStringLiteral("Dinner is ready at seven, please bring some juice.");
+const QString kSentence = QStringLiteral("Dinner is ready at seven, please bring some juice.");
 
 QFont sans()
 {
@@ -34,7 +34,7 @@ QFont sans()
 
 class Item : public TextItem {
 public:
-    bool ShowsHandAt(const QPointF& point)
+    bool showsHandAt(const QPointF& point)
     {
         QGraphicsSceneHoverEvent event(QEvent::GraphicsSceneHoverMove);
         event.setPos(point);
@@ -61,7 +61,7 @@ void expectSameMentions(Item& item, Item& expected)
 {
     for (int y = 4; y < 120; y += 9) {
         for (int x = 2; x < 400; x += 13)
-            ASSERT_EQ(item.ShowsHandAt(QPointF(x, y)), expected.ShowsHandAt(QPointF(x, y)));
+            ASSERT_EQ(item.showsHandAt(QPointF(x, y)), expected.showsHandAt(QPointF(x, y)));
     }
 }
 
@@ -91,13 +91,13 @@ struct Twins {
         expected.document();
         scene.addItem(&item);
         scene.addItem(&expected);
-        ForBoth([](TextItem& both) {
+        forBoth([](TextItem& both) {
             both.setFont(sans());
             both.SetMarkupEnabled(true);
         });
     }
 
-    void ForBoth(const std::function<void(TextItem&)>& change)
+    void forBoth(const std::function<void(TextItem&)>& change)
     {
         change(item);
         change(expected);
@@ -109,47 +109,47 @@ struct Twins {
     Item expected;
 };
 
-// The text of a bubble: a sentence, a mention, letters from another script.
+// The text of a bubble: a kSentence, a mention, letters from another script.
 QString markup(RandomTexts& random)
 {
-    const QString text = random.Text();
-    return random.OneIn(2) ? text
-                           : text + QStringLiteral("<m user=\"7\">Ann Lee</m> ") + random.Text();
+    const QString text = random.text();
+    return random.oneIn(2) ? text
+                           : text + QStringLiteral("<m user=\"7\">Ann Lee</m> ") + random.text();
 }
 
 void appendFormatted(Twins& twins, RandomTexts& random)
 {
     const QString text = markup(random);
-    const QTextCharFormat format = random.Format();
-    const bool append = !random.OneIn(6);
-    twins.ForBoth([&](TextItem& item) { item.InsertRichText(text, append, &format); });
+    const QTextCharFormat format = random.format();
+    const bool append = !random.oneIn(6);
+    twins.forBoth([&](TextItem& item) { item.InsertRichText(text, append, &format); });
 }
 
 void append(Twins& twins, RandomTexts& random)
 {
     const QString text = markup(random);
-    twins.ForBoth([&](TextItem& item) { item.InsertRichText(text, true); });
+    twins.forBoth([&](TextItem& item) { item.InsertRichText(text, true); });
 }
 
 void setWidth(Twins& twins, RandomTexts& random)
 {
-    const qreal width = random.Width();
-    twins.ForBoth([=](TextItem& item) { item.SetFixedItemWidth(width); });
+    const qreal width = random.width();
+    twins.forBoth([=](TextItem& item) { item.SetFixedItemWidth(width); });
 }
 
 void setFont(Twins& twins, RandomTexts& random)
 {
-    const QFont font = random.Font();
-    twins.ForBoth([&](TextItem& item) { item.setFont(font); });
+    const QFont font = random.font();
+    twins.forBoth([&](TextItem& item) { item.setFont(font); });
 }
 
 void setLook(Twins& twins, RandomTexts& random)
 {
-    const QColor color = QColor::fromHsv(random.Number(360), 255, 150);
-    const auto wrapMode = random.WrapMode();
-    const auto alignment = random.Alignment();
-    const auto direction = random.Direction();
-    twins.ForBoth([&](TextItem& item) {
+    const QColor color = QColor::fromHsv(random.number(360), 255, 150);
+    const auto wrapMode = random.wrapMode();
+    const auto alignment = random.alignment();
+    const auto direction = random.direction();
+    twins.forBoth([&](TextItem& item) {
         item.setDefaultTextColor(color);
         item.SetWrapMode(wrapMode);
         item.SetTextAlignment(alignment);
@@ -159,9 +159,9 @@ void setLook(Twins& twins, RandomTexts& random)
 
 void limitLines(Twins& twins, RandomTexts& random)
 {
-    const int count = random.Number(5);
-    const bool elide = random.OneIn(2);
-    twins.ForBoth([=](TextItem& item) {
+    const int count = random.number(5);
+    const bool elide = random.oneIn(2);
+    twins.forBoth([=](TextItem& item) {
         item.SetMaxLineCount(count);
         item.SetElide(elide);
     });
@@ -169,34 +169,34 @@ void limitLines(Twins& twins, RandomTexts& random)
 
 void highlight(Twins& twins, RandomTexts& random)
 {
-    const QStringList words = random.OneIn(3)
+    const QStringList words = random.oneIn(3)
         ? QStringList()
         : QStringList {QStringLiteral("e"), QStringLiteral("is re"), QStringLiteral("日"),
                        QStringLiteral("ל")};
-    const QColor color = random.OneIn(2) ? Qt::yellow : Qt::darkBlue;
-    twins.ForBoth([&](TextItem& item) { item.HighlightText(words, color); });
+    const QColor color = random.oneIn(2) ? Qt::yellow : Qt::darkBlue;
+    twins.forBoth([&](TextItem& item) { item.HighlightText(words, color); });
 }
 
 void setFrame(Twins& twins, RandomTexts& random)
 {
-    const qreal top = random.Number(200) / 7.0;
-    twins.ForBoth([=](TextItem& item) { item.SetFrame(top > 0 ? top + 100 : 0, top); });
+    const qreal top = random.number(200) / 7.0;
+    twins.forBoth([=](TextItem& item) { item.SetFrame(top > 0 ? top + 100 : 0, top); });
 }
 
 void replaceText(Twins& twins, RandomTexts& random)
 {
-    const QString text = random.OneIn(3) ? QString() : random.Text();
-    twins.ForBoth([&](TextItem& item) { item.setPlainText(text); });
+    const QString text = random.oneIn(3) ? QString() : random.text();
+    twins.forBoth([&](TextItem& item) { item.setPlainText(text); });
 }
 
 void askForDocument(Twins& twins, RandomTexts& random)
 {
-    if (random.OneIn(2)) {
+    if (random.oneIn(2)) {
         twins.item.document();
-    } else if (random.OneIn(2)) {
-        twins.ForBoth([](TextItem& item) { item.adjustSize(); });
+    } else if (random.oneIn(2)) {
+        twins.forBoth([](TextItem& item) { item.adjustSize(); });
     } else {
-        twins.ForBoth([](TextItem& item) {
+        twins.forBoth([](TextItem& item) {
             item.SetReadOnly(false);
             item.SetReadOnly(true);
         });
@@ -219,9 +219,9 @@ TEST_P(TextWithoutDocument, IsShownLikeInADocumentAfterAnyChanges)
         for (int step = 0; step < 12 && !HasFailure(); ++step) {
             SCOPED_TRACE("text " + std::to_string(text) + ", step " + std::to_string(step) + ": "
                          + twins.expected.toPlainText().toStdString());
-            if (!random.OneIn(4))
+            if (!random.oneIn(4))
                 expectSame(twins.item, twins.expected);
-            kChanges[random.Number(static_cast<int>(std::size(kChanges)))](twins, random);
+            kChanges[random.number(static_cast<int>(std::size(kChanges)))](twins, random);
         }
         expectSameMentions(twins.item, twins.expected);
     }
@@ -249,7 +249,7 @@ TEST(TextItemDocument, IsNotMadeForATextThatIsOnlyShown)
         QTextCharFormat bold;
         bold.setFontWeight(QFont::Bold);
         item.InsertRichText(QStringLiteral("Hello <m user=\"1\">Ann</m>\n"), true);
-        item.InsertRichText(sentence, true, &bold);
+        item.InsertRichText(kSentence, true, &bold);
         item.SetTextAlignment(Qt::AlignRight);
         item.SetTextDirection(Qt::RightToLeft);
         item.SetFrame(200, 20);
@@ -257,9 +257,9 @@ TEST(TextItemDocument, IsNotMadeForATextThatIsOnlyShown)
         item.SetMaxLineCount(3);
         item.HighlightText({QStringLiteral("ready")}, Qt::yellow);
         pictureOf(item, kPictureArea);
-        item.ShowsHandAt(QPointF(60, 30));
+        item.showsHandAt(QPointF(60, 30));
         EXPECT_FALSE(item.toPlainText().isEmpty());
-        item.setPlainText(sentence);
+        item.setPlainText(kSentence);
         item.ClearText();
     });
     EXPECT_EQ(work.documents, 0);
@@ -268,12 +268,12 @@ TEST(TextItemDocument, IsNotMadeForATextThatIsOnlyShown)
 TEST(TextItemDocument, IsMadeOnceWhenAskedForAndStaysTheSame)
 {
     Item item;
-    item.InsertRichText(sentence, true);
+    item.InsertRichText(kSentence, true);
     const auto work = workIn([&] {
         QTextDocument* const document = item.document();
-        EXPECT_EQ(document->toPlainText(), sentence);
-        item.InsertRichText(sentence, true);
-        item.setPlainText(sentence);
+        EXPECT_EQ(document->toPlainText(), kSentence);
+        item.InsertRichText(kSentence, true);
+        item.setPlainText(kSentence);
         EXPECT_EQ(item.document(), document);
         item.SetReadOnly(false);
         item.SetReadOnly(true);
@@ -325,7 +325,7 @@ TEST(TextItemShaping, HappensOnceForAllWidthsLimitsAndLooks)
 {
     Item item;
     item.setFont(sans());
-    item.InsertRichText(sentence, true);
+    item.InsertRichText(kSentence, true);
     const auto work = workIn([&] {
         for (const qreal width : {-1.0, 180.0, 90.0, -1.0, 0.0, 300.0}) {
             item.SetFixedItemWidth(width);
@@ -344,7 +344,7 @@ TEST(TextItemShaping, HappensOnceForAllWidthsLimitsAndLooks)
 TEST(TextItemLineBreaking, IsNotRepeatedForTheSameWidthNorForColoursHighlightsAndMargins)
 {
     Item item;
-    item.InsertRichText(sentence, true);
+    item.InsertRichText(kSentence, true);
     item.SetFixedItemWidth(180);
     EXPECT_GT(item.ShownLineCount(), 0);
     const auto work = workIn([&] {
@@ -362,7 +362,7 @@ TEST(TextItemShaping, HappensAgainForAnotherFont)
 {
     Item item;
     item.setFont(sans());
-    item.InsertRichText(sentence, true);
+    item.InsertRichText(kSentence, true);
     EXPECT_EQ(item.ShownLineCount(), 1);
     const qreal height = item.boundingRect().height();
     QFont large = sans();

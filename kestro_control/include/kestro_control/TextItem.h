@@ -15,11 +15,12 @@
 //   A read-only item lays out and draws its text itself. It does not create the
 //   text control of QGraphicsTextItem, because that takes several times as long as
 //   the layout of a short text. It creates a document only for document(),
-//   textCursor(), adjustSize(), pictures of emoji and a few rare formats. For this
-//   reason, some functions below, such as document() and toPlainText(), hide functions of
-//   QGraphicsTextItem with the same name: call them on a TextItem. Called through a
-//   QGraphicsTextItem pointer, the non-virtual functions act on the base's own, empty document, and
-//   create it. The virtual ones, such as boundingRect() and paint(), act on the text.
+//   textCursor(), adjustSize(), pictures of emoji, tabs, soft hyphens, justified
+//   text and a few rare formats. For this reason, some functions below, such as
+//   document() and toPlainText(), hide functions of QGraphicsTextItem with the same
+//   name: call them on a TextItem. Called through a QGraphicsTextItem pointer, the
+//   non-virtual functions act on the base's own, empty document, and create it. The
+//   virtual ones, such as boundingRect() and paint(), act on the text.
 //
 //   SetReadOnly(false) gives the document to the base's control, which then
 //   draws and edits it, without line limit, elision, highlight and clicks on
@@ -131,7 +132,7 @@ public:
     // format of its root frame (a top margin moves the text down) or its default
     // text option (alignment, direction). The item then shows the change. It has no
     // document margin. An item with a document needs more than twice the memory and
-    // the time, so use the functions of TextItem where they do.
+    // the time, so prefer the functions of TextItem.
     QTextDocument* document() const;
 
     // For a read-only item, a cursor at the start of the text; for an editable
@@ -168,10 +169,13 @@ public:
     // The direction in which the paragraphs read. With Qt::LayoutDirectionAuto, as at
     // first, the first letter of each paragraph that has a direction decides.
     void SetTextDirection(Qt::LayoutDirection direction);
+
+    // The directions of all paragraphs, in their order. There is at least one.
     QVector<Qt::LayoutDirection> ParagraphDirections() const;
 
-    // Sets the height of the document's root frame, 0 for that of the text, and the
-    // top margin, which moves the text down, in whole pixels.
+    // Sets the top margin and the height of the root frame that document() has. The
+    // margin moves the text down; it is rounded to whole pixels. With the height 0,
+    // the frame is as high as the text.
     void SetFrame(qreal height, qreal topMargin);
 
     // Lays the text out in this width. Negative widths, infinity and NaN restore
