@@ -243,9 +243,9 @@ PLIX_API int PLIX_CALL Plix_InitSetFrom(PlixDataController* controller, int from
 PLIX_API int PLIX_CALL Plix_ModifyHeight(PlixDataController* controller, int height);
 
 // Lays the card out again, for example after a change of the font family. The
-// card then looks like a new one and may have another height. If the host has
-// resized the root item, the card is laid out in that size. Does nothing if
-// nothing has changed, before the card is built, and for a bad handle.
+// card then looks like a new one and may have another height. Its width is the one
+// that its author has chosen, also if the host has resized the root item. Does
+// nothing if nothing has changed, before the card is built, and for a bad handle.
 PLIX_API void PLIX_CALL Plix_RefreshLayout(PlixDataController* controller);
 
 // Removes the colour of Plix_SetBubbleBkColor: the bubble has its own background
