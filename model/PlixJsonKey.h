@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 class PlixJsonDataParse;
 
@@ -16,7 +17,7 @@ enum class PlixJsonType { String, Integer, Boolean, Object, Array };
 // One row of a component's table: a key, the type of its value, and a function
 // that stores the value in the component.
 template <typename Target> struct PlixJsonKey {
-    const char* name;
+    std::string_view name;
     PlixJsonType type;
     void (*read)(PlixJsonDataParse& parse, const PlixJsonMember& member, Target& target);
 };
@@ -25,7 +26,8 @@ namespace plix {
 
 // Rows for plain values. `Setter` stores the value.
 
-template <typename Target, auto Setter> constexpr PlixJsonKey<Target> StringKey(const char* name)
+template <typename Target, auto Setter>
+constexpr PlixJsonKey<Target> StringKey(std::string_view name)
 {
     return {name, PlixJsonType::String,
             [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
@@ -33,7 +35,8 @@ template <typename Target, auto Setter> constexpr PlixJsonKey<Target> StringKey(
             }};
 }
 
-template <typename Target, auto Setter> constexpr PlixJsonKey<Target> IntegerKey(const char* name)
+template <typename Target, auto Setter>
+constexpr PlixJsonKey<Target> IntegerKey(std::string_view name)
 {
     return {name, PlixJsonType::Integer,
             [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
@@ -41,7 +44,8 @@ template <typename Target, auto Setter> constexpr PlixJsonKey<Target> IntegerKey
             }};
 }
 
-template <typename Target, auto Setter> constexpr PlixJsonKey<Target> BooleanKey(const char* name)
+template <typename Target, auto Setter>
+constexpr PlixJsonKey<Target> BooleanKey(std::string_view name)
 {
     return {name, PlixJsonType::Boolean,
             [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
@@ -50,14 +54,24 @@ template <typename Target, auto Setter> constexpr PlixJsonKey<Target> BooleanKey
 }
 
 // Reads the keys of `object` in the order of the table. Ignores keys that are not
-// in the table.
+// in the table. An object has few of the keys that its table knows, so its members
+// are looked up in the table and not the other way round.
 template <typename Target, std::size_t Size>
 void ReadKeys(const std::array<PlixJsonKey<Target>, Size>& keys, PlixJsonDataParse& parse,
               const Json::Value& object, Target& target)
 {
-    for (const PlixJsonKey<Target>& key : keys) {
-        if (object.isMember(key.name))
-            key.read(parse, {key.name, object[key.name]}, target);
+    RequireObject({"a component", object});
+    std::array<const Json::Value*, Size> values {};
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        const std::string_view name = MemberName(member);
+        for (std::size_t i = 0; i < Size; ++i) {
+            if (keys[i].name == name)
+                values[i] = &*member;
+        }
+    }
+    for (std::size_t i = 0; i < Size; ++i) {
+        if (values[i])
+            keys[i].read(parse, {keys[i].name, *values[i]}, target);
     }
 }
 

@@ -64,7 +64,7 @@ template <typename Item> constexpr PlixJsonKey<Item> UrlsKey()
             }};
 }
 
-template <auto Field> constexpr PlixJsonKey<ST_ACTION> ActionTextKey(const char* name)
+template <auto Field> constexpr PlixJsonKey<ST_ACTION> ActionTextKey(std::string_view name)
 {
     return {name, PlixJsonType::String,
             [](PlixJsonDataParse&, const PlixJsonMember& member, ST_ACTION& action) {
@@ -72,7 +72,7 @@ template <auto Field> constexpr PlixJsonKey<ST_ACTION> ActionTextKey(const char*
             }};
 }
 
-template <auto Field> constexpr PlixJsonKey<ST_ACTION> ActionTextsKey(const char* name)
+template <auto Field> constexpr PlixJsonKey<ST_ACTION> ActionTextsKey(std::string_view name)
 {
     return {name, PlixJsonType::Object,
             [](PlixJsonDataParse& parse, const PlixJsonMember& member, ST_ACTION& action) {
@@ -80,7 +80,7 @@ template <auto Field> constexpr PlixJsonKey<ST_ACTION> ActionTextsKey(const char
             }};
 }
 
-template <auto Zone> constexpr PlixJsonKey<PlixDataBubble> ZoneKey(const char* name)
+template <auto Zone> constexpr PlixJsonKey<PlixDataBubble> ZoneKey(std::string_view name)
 {
     return {name, PlixJsonType::Object,
             [](PlixJsonDataParse& parse, const PlixJsonMember& member, PlixDataBubble& bubble) {
@@ -109,7 +109,7 @@ inline constexpr auto kZoneStyleKeys = std::to_array<PlixJsonKey<PlixZoneStyle>>
     StringKey<PlixZoneStyle, &PlixZoneStyle::SetSeparatorColor>("separatorColor"),
 });
 
-template <auto Style> constexpr PlixJsonKey<PlixDataBubble> ZoneStyleKey(const char* name)
+template <auto Style> constexpr PlixJsonKey<PlixDataBubble> ZoneStyleKey(std::string_view name)
 {
     return {name, PlixJsonType::Object,
             [](PlixJsonDataParse& parse, const PlixJsonMember& member, PlixDataBubble& bubble) {

@@ -101,6 +101,13 @@ const Json::Value& plix::RequireArray(const PlixJsonMember& member)
     return member.value;
 }
 
+std::string_view plix::MemberName(const Json::ValueConstIterator& member)
+{
+    const char* end = nullptr;
+    const char* const start = member.memberName(&end);
+    return {start, static_cast<std::size_t>(end - start)};
+}
+
 std::string plix::TypeWord(const Json::Value& node)
 {
     if (!node.isObject() || !node["type"].isString())

@@ -40,6 +40,10 @@ bool ToBoolean(const PlixJsonMember& member);
 const Json::Value& RequireObject(const PlixJsonMember& member);
 const Json::Value& RequireArray(const PlixJsonMember& member);
 
+// The name of the member of an object that an iterator is at. Valid as long as the
+// object.
+std::string_view MemberName(const Json::ValueConstIterator& member);
+
 // The "type" word of a component. Empty if `node` is not an object or its "type" is
 // not a string.
 std::string TypeWord(const Json::Value& node);
