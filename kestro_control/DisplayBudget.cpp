@@ -1,5 +1,7 @@
 #include "DisplayBudget.h"
 
+#include "CodePoint.h"
+
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -23,14 +25,6 @@ constexpr uint kZeroWidthJoiner = 0x200D;
 
 // Texts up to this length are fast to lay out, whatever their characters are.
 constexpr int kHarmlessLength = kMaximumWordCost / (kCharacterCost + kExtraCost);
-
-uint CodePointAt(const QString& text, int at)
-{
-    const QChar character = text.at(at);
-    if (character.isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate())
-        return QChar::surrogateToUcs4(character, text.at(at + 1));
-    return character.unicode();
-}
 
 bool EndsLine(uint character)
 {

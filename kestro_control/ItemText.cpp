@@ -166,15 +166,11 @@ void ItemText::SetFrame(qreal height, qreal topMargin)
     }
 }
 
-QVector<Qt::LayoutDirection> ItemText::Directions() const
+QVector<Qt::LayoutDirection> ItemText::Directions()
 {
+    if (paragraphs_)
+        return paragraphs_->Directions();
     QVector<Qt::LayoutDirection> directions;
-    if (paragraphs_) {
-        for (const ParagraphSource& paragraph : paragraphs_->Runs().Paragraphs())
-            directions.push_back(
-                ParagraphLayout::DirectionOf(paragraph.text, paragraphs_->Option()));
-        return directions;
-    }
     for (QTextBlock block = document_->begin(); block.isValid(); block = block.next())
         directions.push_back(block.textDirection());
     return directions;

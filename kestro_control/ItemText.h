@@ -57,7 +57,7 @@ public:
     void SetFrame(qreal height, qreal topMargin);
 
     // The directions in which the paragraphs read.
-    QVector<Qt::LayoutDirection> Directions() const;
+    QVector<Qt::LayoutDirection> Directions();
 
     // Lays the text out if that has not been done since the last change.
     const LaidOutText& LaidOut();

@@ -1,5 +1,6 @@
 #include "ParagraphLayout.h"
 
+#include "CodePoint.h"
 #include "TextRuns.h"
 #include "TextWork.h"
 
@@ -12,38 +13,8 @@ namespace kestro {
 
 namespace {
 
-QTextOption ParagraphOption(QTextOption option, const QString& text)
-{
-    const Qt::LayoutDirection direction = ParagraphLayout::DirectionOf(text, option);
-    option.setTextDirection(direction);
-    option.setAlignment(QStyle::visualAlignment(direction, option.alignment()));
-    return option;
-}
-
-uint CodePointAt(const QString& text, int at)
-{
-    if (text.at(at).isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate())
-        return QChar::surrogateToUcs4(text.at(at), text.at(at + 1));
-    return text.at(at).unicode();
-}
-
-} // namespace
-
-ParagraphLayout::ParagraphLayout(const ParagraphSource& source, const QFont& font,
-                                 const QTextOption& option)
-    : layout_(std::make_unique<QTextLayout>(source.text))
-    , wrapMode_(option.wrapMode())
-{
-    const bool isEmpty = source.text.isEmpty();
-    layout_->setFont(isEmpty ? source.formatBefore.font().resolve(font) : font);
-    layout_->setTextOption(ParagraphOption(option, source.text));
-    if (!source.formats.isEmpty())
-        layout_->setFormats(source.formats);
-    // Shown lines are broken, drawn and measured many times.
-    layout_->setCacheEnabled(true);
-}
-
-Qt::LayoutDirection ParagraphLayout::DirectionOf(const QString& text, const QTextOption& option)
+// The direction of the option or, if it has none, of the first letter that has one.
+Qt::LayoutDirection DirectionOf(const QString& text, const QTextOption& option)
 {
     if (option.textDirection() != Qt::LayoutDirectionAuto)
         return option.textDirection();
@@ -62,6 +33,35 @@ Qt::LayoutDirection ParagraphLayout::DirectionOf(const QString& text, const QTex
         }
     }
     return Qt::LeftToRight;
+}
+
+QTextOption ParagraphOption(QTextOption option, const QString& text)
+{
+    const Qt::LayoutDirection direction = DirectionOf(text, option);
+    option.setTextDirection(direction);
+    option.setAlignment(QStyle::visualAlignment(direction, option.alignment()));
+    return option;
+}
+
+} // namespace
+
+ParagraphLayout::ParagraphLayout(const ParagraphSource& source, const QFont& font,
+                                 const QTextOption& option)
+    : layout_(std::make_unique<QTextLayout>(source.text))
+    , wrapMode_(option.wrapMode())
+{
+    const bool isEmpty = source.text.isEmpty();
+    layout_->setFont(isEmpty ? source.formatBefore.font().resolve(font) : font);
+    layout_->setTextOption(ParagraphOption(option, source.text));
+    if (!source.formats.isEmpty())
+        layout_->setFormats(source.formats);
+    // Shown lines are broken, drawn and measured many times.
+    layout_->setCacheEnabled(true);
+}
+
+Qt::LayoutDirection ParagraphLayout::Direction() const
+{
+    return layout_->textOption().textDirection();
 }
 
 // The text engine's session, which beginLayout() starts, stays open. So lines can be

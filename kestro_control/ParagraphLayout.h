@@ -24,9 +24,8 @@ public:
     // only.
     qreal BreakLines(qreal width);
 
-    // The direction in which the paragraph reads: that of the option or, if it has
-    // none, of the first letter that has one.
-    static Qt::LayoutDirection DirectionOf(const QString& text, const QTextOption& option);
+    // The direction in which the paragraph reads.
+    Qt::LayoutDirection Direction() const;
 
     // The layout has the lines.
     QTextLayout* Layout() const { return layout_.get(); }

@@ -36,24 +36,28 @@ int ParagraphText::Position(int index) const
     return start_ + (positions_.empty() ? index : positions_[static_cast<std::size_t>(index)]);
 }
 
+bool EndsParagraph(QChar character)
+{
+    switch (character.unicode()) {
+    case '\n':
+    case '\r':
+    case 0xFDD0: // QTextDocument's start of a frame
+    case 0xFDD1: // and its end.
+    case QChar::ParagraphSeparator:
+        return true;
+    default:
+        return false;
+    }
+}
+
 QString AsPlainText(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     for (QChar& character : text) {
-        switch (character.unicode()) {
-        case '\r':
-        case 0xFDD0: // QTextDocument's start of a frame
-        case 0xFDD1: // and its end.
-        case QChar::ParagraphSeparator:
-        case QChar::LineSeparator:
+        if (EndsParagraph(character) || character == QChar::LineSeparator)
             character = QLatin1Char('\n');
-            break;
-        case QChar::Nbsp:
+        else if (character == QChar::Nbsp)
             character = QLatin1Char(' ');
-            break;
-        default:
-            break;
-        }
     }
     return text;
 }

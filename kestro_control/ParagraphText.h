@@ -31,6 +31,9 @@ private:
     std::vector<int> positions_;
 };
 
+// Whether a document that has `character` inserted starts a new paragraph there.
+bool EndsParagraph(QChar character);
+
 // `text` as QTextDocument::toPlainText() would return it.
 QString AsPlainText(QString text);
 

@@ -80,9 +80,6 @@ int ExpectedLength(const QTextLine& line, qreal width)
     return static_cast<int>(line.textLength() * share);
 }
 
-// In pixels; the ink of a line never reaches farther out of it.
-constexpr qreal kMaximumOverhang = 4096;
-
 // The relative luminance of a colour, from 0 for black to 1 for white.
 qreal Luminance(const QColor& color)
 {

@@ -23,6 +23,9 @@ class LaidOutText;
 // changed.
 class ShownLines {
 public:
+    // In pixels; the ink of a line never reaches farther out of it.
+    static constexpr qreal kMaximumOverhang = 4096;
+
     // No line.
     ShownLines();
     // `maxCount` 0: no limit. `hasMoreText`: there is more text after the end of

@@ -47,9 +47,6 @@ constexpr qreal kMaximumWidth = 1 << 20;
 
 constexpr qreal kNaturalWidth = -1;
 
-// In pixels; the ink of a text never reaches farther above or below it.
-constexpr qreal kMaximumOverhang = 4096;
-
 const QColor kDefaultMentionColor(0x11, 0x8D, 0xFF);
 
 qreal FixedWidth(qreal width)
@@ -71,8 +68,9 @@ QPainterPath SideClip(const QRectF& rect)
 {
     QPainterPath path;
     kestro::AddClipRectangle(path,
-                             QRectF(0, rect.top() - kMaximumOverhang, std::ceil(rect.width()),
-                                    rect.height() + 2 * kMaximumOverhang));
+                             QRectF(0, rect.top() - ShownLines::kMaximumOverhang,
+                                    std::ceil(rect.width()),
+                                    rect.height() + 2 * ShownLines::kMaximumOverhang));
     return path;
 }
 

@@ -52,12 +52,20 @@ void TextParagraphs::SetWidth(qreal width)
     isLaidOut_ = false;
 }
 
+QVector<Qt::LayoutDirection> TextParagraphs::Directions()
+{
+    MakeParagraphs();
+    QVector<Qt::LayoutDirection> directions;
+    for (const Placed& paragraph : paragraphs_)
+        directions.push_back(paragraph.layout.Direction());
+    return directions;
+}
+
 void TextParagraphs::LayOut()
 {
     if (isLaidOut_)
         return;
-    if (paragraphs_.empty())
-        MakeParagraphs();
+    MakeParagraphs();
     qreal top = 0;
     for (Placed& paragraph : paragraphs_) {
         paragraph.top = top;
@@ -87,6 +95,8 @@ LaidOutParagraph TextParagraphs::Paragraph(int index) const
 
 void TextParagraphs::MakeParagraphs()
 {
+    if (!paragraphs_.empty())
+        return;
     int position = 0;
     for (const ParagraphSource& source : runs_.Paragraphs()) {
         paragraphs_.push_back({ParagraphLayout(source, font_, option_), position, 0});

@@ -5,6 +5,7 @@
 #include "TextRuns.h"
 
 #include <QTextOption>
+#include <QVector>
 
 #include <vector>
 
@@ -29,6 +30,9 @@ public:
     void SetTop(qreal top) { top_ = top; }
     qreal Top() const { return top_; }
 
+    // The directions in which the paragraphs read. Lays nothing out.
+    QVector<Qt::LayoutDirection> Directions();
+
     // Does nothing if nothing has changed. To be called before Paragraph().
     void LayOut();
 
@@ -46,6 +50,7 @@ private:
         qreal top;
     };
 
+    // Does nothing if they are there.
     void MakeParagraphs();
     // To be called when the text has to be shaped again.
     void DropParagraphs();

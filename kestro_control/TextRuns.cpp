@@ -14,21 +14,6 @@ namespace {
 // The text engine splits longer texts in other places if they have formats.
 constexpr int kMaximumFormattedLength = 4096;
 
-// The characters at which a document starts a new paragraph.
-bool EndsParagraph(QChar character)
-{
-    switch (character.unicode()) {
-    case '\n':
-    case '\r':
-    case 0xFDD0: // QTextDocument's start of a frame
-    case 0xFDD1: // and its end.
-    case QChar::ParagraphSeparator:
-        return true;
-    default:
-        return false;
-    }
-}
-
 // Outside of a document, the text engine has no objects, and takes the width of tabs
 // from the font's resolution. It also remembers which soft hyphens were drawn, so that
 // lines could not be broken again without shaping.

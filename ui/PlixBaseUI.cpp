@@ -67,7 +67,7 @@ std::shared_ptr<PlixDataItem> PlixBaseUI::FindDataItem()
     return PlixItemRegistry::GetInstance().Find(key);
 }
 
-void PlixBaseUI::ApplyPlacement(const PlixDataItemCommon& data, bool parentIsVertical)
+PlixOffsets PlixBaseUI::ApplyPlacement(const PlixDataItemCommon& data, bool parentIsVertical)
 {
     YogaLayoutItem& node = *GetYogaItem();
     if (!data.GetMargin().empty() && data.GetIndex() > 0) {
@@ -77,12 +77,9 @@ void PlixBaseUI::ApplyPlacement(const PlixDataItemCommon& data, bool parentIsVer
     }
     if (data.GetPosition() == "absolute")
         node.setAbsolute(true);
-    PlixOffsets(data).ApplyPixels(node);
-}
-
-void PlixBaseUI::ApplyPercentOffsets(const PlixDataItemCommon& data)
-{
-    PlixOffsets(data).ApplyPercentages(*GetYogaItem());
+    const PlixOffsets offsets(data);
+    offsets.ApplyPixels(node);
+    return offsets;
 }
 
 bool PlixBaseUI::AcceptsPresses() const

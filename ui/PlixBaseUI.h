@@ -11,6 +11,7 @@
 
 class PlixDataItemCommon;
 class PlixDataMgr;
+class PlixOffsets;
 class QGraphicsItem;
 class QGraphicsLayoutItem;
 class QGraphicsSceneMouseEvent;
@@ -65,10 +66,9 @@ protected:
     // The owner; null once it is freed.
     PlixDataMgr* Manager() const;
 
-    // Gives the node the margin, position and pixel offsets of `data`.
-    void ApplyPlacement(const PlixDataItemCommon& data, bool parentIsVertical);
-    // Gives the node the percentage offsets of `data`, for the layout to resolve.
-    void ApplyPercentOffsets(const PlixDataItemCommon& data);
+    // Gives the node the margin, position and pixel offsets of `data`. Returns the
+    // offsets: who resolves percentages, and when, differs between the items.
+    PlixOffsets ApplyPlacement(const PlixDataItemCommon& data, bool parentIsVertical);
 
     // Whether the item accepts presses of the left button, so that nothing below
     // it is clicked. By default, it does if it has an action of its own.

@@ -5,6 +5,7 @@
 #include "model/PlixDataBox.h"
 #include "ui/PlixChildItems.h"
 #include "ui/PlixLeadingMargin.h"
+#include "ui/PlixOffsets.h"
 #include "ui/PlixPaths.h"
 
 #include <QCursor>
@@ -58,8 +59,7 @@ bool PlixBoxUI::Init()
     InitBorder(*data);
     InitPaddings(*data);
     spacing_ = plix::ToSpacingPixels(data->GetSpacing());
-    ApplyPlacement(*data, plix::IsInVerticalBox(*data));
-    ApplyPercentOffsets(*data);
+    ApplyPlacement(*data, plix::IsInVerticalBox(*data)).ApplyPercentages(*this);
     InitPercentSize(*data);
     setFlags(flags() | ItemClipsChildrenToShape | ItemClipsToShape);
     return true;

@@ -81,8 +81,7 @@ bool PlixButtonUI::Init()
     InitFont(*data);
     const bool isInRow = plix::IsInRow(*data);
     InitSize(*data, isInRow);
-    ApplyPlacement(*data, !isInRow);
-    offsets_ = PlixOffsets(*data);
+    offsets_ = ApplyPlacement(*data, !isInRow);
     const bool isAbsolute = data->GetPosition() == "absolute";
     // A button that does not grow in a row would have no width otherwise.
     hasLabelWidth_ = isAbsolute || (isInRow && data->GetGrow() <= 0);

@@ -109,7 +109,7 @@ struct Twins {
     Item expected;
 };
 
-// The text of a bubble: a kSentence, a mention, letters from another script.
+// The text of a bubble: a sentence, a mention, letters from another script.
 QString markup(RandomTexts& random)
 {
     const QString text = random.text();

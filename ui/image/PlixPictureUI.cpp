@@ -6,6 +6,7 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataItemCommon.h"
+#include "ui/PlixOffsets.h"
 #include "ui/PlixPaths.h"
 #include "ui/image/PlixPicture.h"
 #include "ui/image/PlixPicturePainter.h"
@@ -56,8 +57,7 @@ QString PlixPictureUI::pictureFile() const
 void PlixPictureUI::InitCommon(const PlixDataItemCommon& data)
 {
     setGrowFactor(data.GetGrow());
-    ApplyPlacement(data, plix::IsInVerticalBox(data));
-    ApplyPercentOffsets(data);
+    ApplyPlacement(data, plix::IsInVerticalBox(data)).ApplyPercentages(*this);
 }
 
 void PlixPictureUI::SetBackground(const std::string& color)

@@ -12,6 +12,7 @@
 #include "model/PlixLanguageText.h"
 #include "ui/PlixAlignmentWords.h"
 #include "ui/PlixBoxUI.h"
+#include "ui/PlixOffsets.h"
 #include "ui/text/PlixTextFont.h"
 #include "ui/text/PlixTextMarkup.h"
 
@@ -89,8 +90,7 @@ bool PlixTextUI::Init()
     InitWidth(*data, place);
     if (data->GetPosition() == "absolute")
         shareAbove_ = 0;
-    ApplyPlacement(*data, place.box && place.box->IsVertical());
-    ApplyPercentOffsets(*data);
+    ApplyPlacement(*data, place.box && place.box->IsVertical()).ApplyPercentages(*this);
     setHasBaselineFunc(baseline_);
     InitLines(*data);
     return true;
