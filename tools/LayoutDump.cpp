@@ -69,7 +69,7 @@ void LayoutWriter::write(const QGraphicsObject& item, int depth)
     text_ += QByteArray(2 * depth, ' ')
         + "{\"type\": " + quoted(QString::fromLatin1(item.metaObject()->className()));
     writeRectangle(item);
-    if (item.property("plainText").isValid())
+    if (item.property("shownLineCount").isValid())
         writeText(item);
     if (item.property("label").isValid())
         writeLabel(item);

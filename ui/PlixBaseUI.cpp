@@ -11,6 +11,7 @@
 #include <QGraphicsItem>
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>
+#include <QString>
 #include <QVariant>
 
 namespace {
@@ -38,6 +39,11 @@ void PlixBaseUI::SetClickFunc(const ClickFunc&) { }
 void PlixBaseUI::SetDownloadFunc(const DownloadFunc&) { }
 
 void PlixBaseUI::SetFrom(int) { }
+
+QString PlixBaseUI::PlainText() const
+{
+    return {};
+}
 
 void PlixBaseUI::SetOwner(PlixDataController* owner)
 {

@@ -15,6 +15,7 @@ class PlixOffsets;
 class QGraphicsItem;
 class QGraphicsLayoutItem;
 class QGraphicsSceneMouseEvent;
+class QString;
 class YogaLayoutItem;
 
 // Base of every item of a card, next to a graphics item and a layout node: its link
@@ -48,6 +49,10 @@ public:
     virtual void SetClickFunc(const ClickFunc& func);
     virtual void SetDownloadFunc(const DownloadFunc& func);
     virtual void SetFrom(int from);
+
+    // What the item says, for notifications and search: all of its text, also where
+    // it is elided, with a line for each row. Empty for items without text.
+    virtual QString PlainText() const;
 
     // Whether a click on this item would reach the host.
     virtual bool HasAction();

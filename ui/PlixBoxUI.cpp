@@ -184,6 +184,14 @@ int PlixBoxUI::setHighlightText(const QStringList& words)
     return plix::HighlightChildren(*this, words);
 }
 
+QString PlixBoxUI::PlainText() const
+{
+    const QLatin1Char lineEnd('\n');
+    const QLatin1Char space(' ');
+    const QStringList texts = plix::ChildTexts(*this);
+    return horizontal_ ? texts.join(space).replace(lineEnd, space) : texts.join(lineEnd);
+}
+
 void PlixBoxUI::setClickable(bool on)
 {
     if (!on)

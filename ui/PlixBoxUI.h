@@ -22,6 +22,7 @@ public:
 
     void addChild(YogaLayoutItem* child) override;
     int setHighlightText(const QStringList& words) override;
+    QString PlainText() const override;
     // True shows the pointing-hand cursor in the whole box; false changes nothing.
     void setClickable(bool on) override;
     void inheritCornerRadius(int radius) override;

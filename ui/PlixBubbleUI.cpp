@@ -59,6 +59,11 @@ int PlixBubbleUI::setHighlightText(const QStringList& words)
     return plix::HighlightChildren(*this, words);
 }
 
+QString PlixBubbleUI::PlainText() const
+{
+    return plix::ChildTexts(*this).join(QLatin1Char('\n'));
+}
+
 void PlixBubbleUI::arrangeZones()
 {
     const auto data = FindData<PlixDataBubble>();

@@ -12,6 +12,7 @@ struct PlixZoneStyle;
 // The card itself: a column of zones on a rounded background.
 class PlixBubbleUI : public PlixWidgetUI {
     Q_OBJECT
+    Q_PROPERTY(QString plainText READ PlainText)
 
 public:
     explicit PlixBubbleUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout = nullptr);
@@ -21,6 +22,7 @@ public:
     void setFrom(int mode) { SetFrom(mode); }
     void addChild(YogaLayoutItem* child) override;
     int setHighlightText(const QStringList& words) override;
+    QString PlainText() const override;
 
     // Gives the zones the backgrounds and separators of their styles. To be called
     // when the items of the zones have been added.

@@ -28,6 +28,8 @@ public:
     void SetClickFunc(const ClickFunc& func) override;
     void SetFrom(int from) override;
 
+    QString PlainText() const override { return label_; }
+
     // Follows the host's font family while font binding is on.
     void FontChanged() override;
 

@@ -1,6 +1,7 @@
 #include "ui/PlixChildItems.h"
 
 #include "layout/YogaLayoutItem.h"
+#include "ui/PlixBaseUI.h"
 
 namespace plix {
 
@@ -21,6 +22,18 @@ int HighlightChildren(const YogaLayoutItem& parent, const QStringList& words)
             found = 1;
     }
     return found;
+}
+
+QStringList ChildTexts(const YogaLayoutItem& parent)
+{
+    QStringList texts;
+    for (int i = 0; i < parent.childCount(); ++i) {
+        const auto* const child = dynamic_cast<const PlixBaseUI*>(parent.childAt(i));
+        const QString text = child ? child->PlainText() : QString();
+        if (!text.trimmed().isEmpty())
+            texts.append(text);
+    }
+    return texts;
 }
 
 } // namespace plix

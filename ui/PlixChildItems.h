@@ -1,6 +1,7 @@
 #pragma once
 
-class QStringList;
+#include <QStringList>
+
 class YogaLayoutItem;
 
 namespace plix {
@@ -13,5 +14,8 @@ void StretchInColumn(YogaLayoutItem* child);
 // Highlights `words` in every child. 1 if at least one child shows one of them,
 // else -1.
 int HighlightChildren(const YogaLayoutItem& parent, const QStringList& words);
+
+// What the children say, in their order, without those that say nothing.
+QStringList ChildTexts(const YogaLayoutItem& parent);
 
 } // namespace plix

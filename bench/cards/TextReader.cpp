@@ -98,18 +98,19 @@ std::vector<Span> spansOf(const Text& text, const std::vector<PaintedRun>& runs)
 
 // Items that show a text, by the properties that tell of it.
 struct TextProperties {
+    const char* own; // that no other kind of item has
     const char* text;
     const char* font;
     bool isLabel;
 };
 
-constexpr TextProperties kinds[] = {{"plainText", "font", false},
-                                    {"shownLabel", "labelFont", true}};
+constexpr TextProperties kinds[] = {{"shownLineCount", "plainText", "font", false},
+                                    {"shownLabel", "shownLabel", "labelFont", true}};
 
 const TextProperties* kindOf(const QGraphicsObject& item)
 {
     const auto has = [&item](const TextProperties& kind) {
-        return item.property(kind.text).isValid();
+        return item.property(kind.own).isValid();
     };
     const auto* const kind = std::find_if(std::begin(kinds), std::end(kinds), has);
     return kind == std::end(kinds) ? nullptr : kind;

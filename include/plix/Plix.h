@@ -204,6 +204,12 @@ PLIX_API PlixDataController* PLIX_CALL Plix_CreateController();
 // laid out and follows Plix_ModifyHeight and Plix_RefreshLayout, so call this
 // once for each controller.
 //
+// The property "plainText" of the returned item has the whole card as text, for
+// notifications, for a search, or to copy the message: all texts and the labels of
+// buttons in reading order, one line per row, elided ones in full.
+//
+//     const QString text = item->toGraphicsObject()->property("plainText").toString();
+//
 // Returns null if not even an empty bubble can be built (logged), and for a bad
 // handle. A component that cannot be built is logged and left out.
 PLIX_API QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller);

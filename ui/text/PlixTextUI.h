@@ -24,6 +24,7 @@ public:
     bool Init() override;
     void SetClickFunc(const ClickFunc& func) override;
     void SetFrom(int from) override;
+    QString PlainText() const override { return toPlainText(); }
 
     // True shows the pointing-hand cursor; false changes nothing.
     void setClickable(bool on) override;
