@@ -4,6 +4,7 @@
 #include "ShownLines.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kestro {
 
@@ -17,18 +18,30 @@ MentionAreas::MentionAreas(const LaidOutText& text, const ShownLines& shown)
             if (!mention)
                 continue;
             const int start = paragraph.position + range.start;
-            for (const QRectF& rect : shown.GlyphRects(start, start + range.length))
-                areas_.push_back({rect, *mention});
+            Add(*mention, shown.GlyphRects(start, start + range.length));
         }
     }
 }
 
+// A mention with several formats comes in several parts.
+void MentionAreas::Add(const Mention& mention, std::vector<QRectF> rects)
+{
+    if (mentions_.empty() || mentions_.back().mention.id != mention.id) {
+        mentions_.push_back({mention, std::move(rects)});
+        return;
+    }
+    std::vector<QRectF>& all = mentions_.back().rects;
+    all.insert(all.end(), rects.begin(), rects.end());
+}
+
 std::optional<Mention> MentionAreas::At(const QPointF& point) const
 {
-    const auto area = std::find_if(areas_.begin(), areas_.end(), [&point](const Area& candidate) {
-        return candidate.rect.contains(point);
-    });
-    return area == areas_.end() ? std::nullopt : std::optional(area->mention);
+    const auto isAt = [&point](const ShownMention& shown) {
+        return std::any_of(shown.rects.begin(), shown.rects.end(),
+                           [&point](const QRectF& rect) { return rect.contains(point); });
+    };
+    const auto found = std::find_if(mentions_.begin(), mentions_.end(), isAt);
+    return found == mentions_.end() ? std::nullopt : std::optional(found->mention);
 }
 
 } // namespace kestro

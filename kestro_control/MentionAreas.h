@@ -14,22 +14,27 @@ namespace kestro {
 class LaidOutText;
 class ShownLines;
 
-// Where the mentions of a text are shown. Like ShownLines, it must not be used after
+// A mention, and where it is shown. It has no rectangles where it is cut off.
+struct ShownMention {
+    Mention mention;
+    std::vector<QRectF> rects;
+};
+
+// The mentions of a text, in its order. Like ShownLines, it must not be used after
 // the text's layout has changed.
 class MentionAreas {
 public:
     MentionAreas() = default;
     MentionAreas(const LaidOutText& text, const ShownLines& shown);
 
+    const std::vector<ShownMention>& All() const { return mentions_; }
+
     std::optional<Mention> At(const QPointF& point) const;
 
 private:
-    struct Area {
-        QRectF rect;
-        Mention mention;
-    };
+    void Add(const Mention& mention, std::vector<QRectF> rects);
 
-    std::vector<Area> areas_;
+    std::vector<ShownMention> mentions_;
 };
 
 } // namespace kestro

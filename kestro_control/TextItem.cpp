@@ -38,6 +38,7 @@ using kestro::MarkupRun;
 using kestro::Mention;
 using kestro::MentionAreas;
 using kestro::ShownLines;
+using kestro::ShownMention;
 
 namespace {
 
@@ -120,7 +121,11 @@ public:
     // Whether text would be drawn outside of the left and right edges.
     bool NeedsSideClip();
 
+    // Null for another index.
+    const ShownMention* MentionNumber(int index);
     std::optional<Mention> MentionAt(const QPointF& point);
+    // Slots may delete the item, and `mention` with it.
+    void Click(const Mention& mention);
 
     void Press(QGraphicsSceneMouseEvent* event);
     void Release(QGraphicsSceneMouseEvent* event);
@@ -138,7 +143,7 @@ public:
     bool hasZeroWidth = false;
     bool readOnly = true;
     bool markupEnabled = false;
-    bool hasMentions = false;
+    int mentionCount = 0;
     HighlightWords highlightWords;
     QBrush highlightBrush;
     bool isHighlightValid = true;
@@ -156,6 +161,8 @@ private:
     ShownLines shown_;
     bool isShownValid_ = false;
     std::optional<bool> needsSideClip_;
+    const MentionAreas& Areas();
+
     std::optional<MentionAreas> mentions_;
 
     DisplayBudget budget_;
@@ -207,7 +214,7 @@ void TextItem::Private::InsertMention(const MarkupRun& run, QTextCharFormat form
     Mention {isBot, run.number, ++lastMentionId_}.WriteTo(format);
     format.setForeground(mentionColor);
     InsertText(run.text, format);
-    hasMentions = true;
+    ++mentionCount;
     item_.setAcceptHoverEvents(true);
 }
 
@@ -242,7 +249,7 @@ void TextItem::Private::ReplaceText(const QString& newText)
     budget_ = DisplayBudget();
     hiddenText_.clear();
     hasPictures_ = false;
-    hasMentions = false;
+    mentionCount = 0;
     item_.setAcceptHoverEvents(!readOnly);
 
     text.BeginInsertion(true);
@@ -312,14 +319,25 @@ bool TextItem::Private::NeedsSideClip()
     return *needsSideClip_;
 }
 
-std::optional<Mention> TextItem::Private::MentionAt(const QPointF& point)
+const MentionAreas& TextItem::Private::Areas()
 {
-    if (!hasMentions || !readOnly)
-        return std::nullopt;
     const ShownLines& shown = Shown();
     if (!mentions_)
-        mentions_.emplace(text.LaidOut(), shown);
-    return mentions_->At(point);
+        mentions_.emplace(mentionCount > 0 && readOnly ? MentionAreas(text.LaidOut(), shown)
+                                                       : MentionAreas());
+    return *mentions_;
+}
+
+const ShownMention* TextItem::Private::MentionNumber(int index)
+{
+    const std::vector<ShownMention>& all = Areas().All();
+    const auto place = static_cast<std::size_t>(index);
+    return index >= 0 && place < all.size() ? &all[place] : nullptr;
+}
+
+std::optional<Mention> TextItem::Private::MentionAt(const QPointF& point)
+{
+    return Areas().At(point);
 }
 
 void TextItem::Private::Press(QGraphicsSceneMouseEvent* event)
@@ -339,13 +357,17 @@ void TextItem::Private::Release(QGraphicsSceneMouseEvent* event)
     }
     const int pressed = *std::exchange(pressedMentionId, std::nullopt);
     const std::optional<Mention> mention = MentionAt(event->pos());
-    if (!mention || mention->id != pressed)
-        return;
-    // Slots may delete the item.
-    if (mention->isBot)
-        Q_EMIT item_.BotMentionClicked(mention->userNo);
+    if (mention && mention->id == pressed)
+        Click(*mention);
+}
+
+void TextItem::Private::Click(const Mention& mention)
+{
+    const qint64 userNo = mention.userNo;
+    if (mention.isBot)
+        Q_EMIT item_.BotMentionClicked(userNo);
     else
-        Q_EMIT item_.MentionClicked(mention->userNo);
+        Q_EMIT item_.MentionClicked(userNo);
 }
 
 void TextItem::Private::Hover(QGraphicsSceneHoverEvent* event)
@@ -590,6 +612,27 @@ void TextItem::SetElide(bool elide)
     private_->elide = elide;
 }
 
+int TextItem::MentionCount() const
+{
+    return private_->mentionCount;
+}
+
+QRectF TextItem::MentionRect(int index) const
+{
+    QRectF all;
+    if (const ShownMention* mention = private_->MentionNumber(index)) {
+        for (const QRectF& rect : mention->rects)
+            all |= rect;
+    }
+    return all;
+}
+
+void TextItem::ClickMention(int index)
+{
+    if (const ShownMention* mention = private_->MentionNumber(index))
+        private_->Click(mention->mention);
+}
+
 int TextItem::ShownLineCount() const
 {
     return private_->Shown().Count();
@@ -620,7 +663,7 @@ void TextItem::SetReadOnly(bool readOnly)
     QGraphicsTextItem::setDefaultTextColor(defaultTextColor());
     document()->setUndoRedoEnabled(!readOnly);
     setAcceptDrops(!readOnly);
-    setAcceptHoverEvents(!readOnly || private_->hasMentions);
+    setAcceptHoverEvents(!readOnly || private_->mentionCount > 0);
     update();
 }
 

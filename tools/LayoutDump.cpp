@@ -36,11 +36,13 @@ QByteArray rounded(double value)
     return digits;
 }
 
+// Without the stops of the Tab key on texts, which show nothing of the card.
 QVector<const QGraphicsObject*> childObjects(const QGraphicsItem& item)
 {
     QVector<const QGraphicsObject*> objects;
     for (const QGraphicsItem* child : item.childItems()) {
-        if (const QGraphicsObject* object = child->toGraphicsObject())
+        const QGraphicsObject* object = child->toGraphicsObject();
+        if (object && !object->inherits("PlixFocusStop"))
             objects.append(object);
     }
     return objects;

@@ -85,6 +85,8 @@ protected:
     // Hands the item's own action to the host if `event` ends a click. The host
     // may delete this item meanwhile: return at once.
     void HandleRelease(const QGraphicsSceneMouseEvent& event);
+    // Hands the item's own action to the host. The same holds as for HandleRelease().
+    void DeliverClick();
 
     // Gives the mouse grab back. Call it before the host learns of a mouse event:
     // the host may run an event loop, or throw, and the scene would go on sending
@@ -103,7 +105,6 @@ private:
     // Whether the release of a mouse button ends a click on this item: one of
     // the left button that did not leave the item.
     bool IsClick(const QGraphicsSceneMouseEvent& event);
-    void DeliverClick();
 
     PlixDataController* owner_ = nullptr;
     PlixLink<PlixDataMgr> manager_;

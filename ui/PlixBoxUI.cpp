@@ -78,6 +78,7 @@ void PlixBoxUI::InitMouse(const PlixDataBox& data)
     hasOwnAction_ = true;
     clickable_ = true;
     setCursor(Qt::PointingHandCursor);
+    InitFocus();
 }
 
 void PlixBoxUI::InitDirection(const PlixDataBox& data)

@@ -37,6 +37,7 @@ public:
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 protected:
+    double CornerRadius() const override { return cornerRadius_; }
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
 
 private:

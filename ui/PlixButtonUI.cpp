@@ -77,6 +77,7 @@ bool PlixButtonUI::Init()
     hasOwnAction_ = !actionUnavailable_ && data->GetAction();
     InitLabel(*data);
     InitMouse();
+    InitFocus();
     InitLook(*data);
     InitFont(*data);
     const bool isInRow = plix::IsInRow(*data);
@@ -177,6 +178,11 @@ QString PlixButtonUI::shownLabel() const
     if (metrics.horizontalAdvance(label) <= available)
         return label;
     return metrics.elidedText(label, Qt::ElideRight, static_cast<int>(available));
+}
+
+double PlixButtonUI::CornerRadius() const
+{
+    return kPlateRadius;
 }
 
 void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)

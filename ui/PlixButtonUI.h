@@ -42,6 +42,7 @@ public:
     void setGeometry(const QRectF& rect) override;
 
 protected:
+    double CornerRadius() const override;
     // Also if its action is unavailable: no click goes through a button to the box
     // below.
     bool AcceptsPresses() const override { return true; }

@@ -1,5 +1,10 @@
 #include "ui/PlixWidgetUI.h"
 
+#include "ui/PlixFocusRing.h"
+#include "ui/PlixFocusStop.h"
+
+#include <QKeyEvent>
+
 PlixWidgetUI::PlixWidgetUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
     : QGraphicsWidget(parent)
     , YogaLayoutItem(false)
@@ -7,6 +12,12 @@ PlixWidgetUI::PlixWidgetUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLay
     setGeometryTarget(this);
     if (parentLayout)
         setParentLayoutItem(parentLayout);
+}
+
+void PlixWidgetUI::InitFocus()
+{
+    if (hasOwnAction_)
+        setFocusPolicy(Qt::TabFocus);
 }
 
 // An item that accepts no presses leaves its events to Qt: the host may have made it
@@ -25,4 +36,24 @@ void PlixWidgetUI::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
         HandleRelease(*event);
     else
         QGraphicsWidget::mouseReleaseEvent(event);
+}
+
+void PlixWidgetUI::focusInEvent(QFocusEvent*)
+{
+    PlixFocusRing::Show(*this, CornerRadius());
+}
+
+void PlixWidgetUI::focusOutEvent(QFocusEvent*)
+{
+    PlixFocusRing::Hide(*this);
+}
+
+void PlixWidgetUI::keyPressEvent(QKeyEvent* event)
+{
+    if (!hasOwnAction_ || !PlixFocusStop::IsClick(*event)) {
+        QGraphicsWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    DeliverClick(); // the host may delete the item
 }

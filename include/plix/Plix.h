@@ -37,6 +37,12 @@
 //             or the item that read its font or an emoji from the control
 //             support object. The library calls no function of the host while
 //             it paints a card.
+//  Keyboard   Tab and Shift+Tab walk through everything in a card that can be
+//             clicked, in reading order, as QGraphicsScene does: give the view the
+//             focus policy Qt::TabFocus or more. Enter and Space click. A mouse click
+//             never moves the keyboard focus into a card. To keep the focus in sight,
+//             connect QGraphicsScene::focusItemChanged() to
+//             QGraphicsView::ensureVisible().
 //  Locale     The library neither uses nor changes the process's locale:
 //             numbers are read and written the same way in every C and C++
 //             locale.

@@ -353,6 +353,49 @@ TEST_F(MentionClick, DoesNotHappenInAnEditableItem)
     EXPECT_EQ(view_.clicks.size(), 1U);
 }
 
+TEST(MentionByNumber, CountsInTheOrderOfTheText)
+{
+    MentionView view;
+    TextItem& item = view.item();
+    EXPECT_EQ(item.MentionCount(), 0);
+    item.InsertRichText(QStringLiteral("by <m bot=\"2\">Bob</m>"), true);
+    item.InsertRichText(QStringLiteral("<m user=\"1\">Ann</m> "), false);
+    ASSERT_EQ(item.MentionCount(), 2);
+    EXPECT_LT(item.MentionRect(0).right(), item.MentionRect(1).left());
+    for (const int number : {1, 0, -1, 2})
+        item.ClickMention(number);
+    EXPECT_EQ(view.clicks, (std::vector<Click> {{true, 2}, {false, 1}}));
+}
+
+TEST(MentionByNumber, HasTheRectangleOfItsGlyphs)
+{
+    MentionView view;
+    TextItem& item = view.item();
+    item.InsertRichText(QStringLiteral("ab <m user=\"1\">Ann and Bob</m> cd"), true);
+    item.SetFixedItemWidth(90);
+    const QRectF rect = item.MentionRect(0);
+    EXPECT_GT(rect.height(), 40) << "of two lines";
+    for (const QPointF& pixel : view.pixelsOf(kMentionColor))
+        EXPECT_TRUE(rect.contains(pixel));
+    EXPECT_EQ(item.MentionRect(1), QRectF());
+    EXPECT_EQ(item.MentionRect(-1), QRectF());
+}
+
+TEST(MentionByNumber, HasNoRectangleWhereItIsNotShown)
+{
+    MentionView view;
+    TextItem& item = view.item();
+    item.InsertRichText(QStringLiteral("a\n<m user=\"1\">Ann</m>"), true);
+    item.SetMaxLineCount(1);
+    EXPECT_EQ(item.MentionCount(), 1);
+    EXPECT_TRUE(item.MentionRect(0).isEmpty());
+    item.SetMaxLineCount(2);
+    EXPECT_FALSE(item.MentionRect(0).isEmpty());
+    item.ClearText();
+    EXPECT_EQ(item.MentionCount(), 0);
+    EXPECT_TRUE(item.MentionRect(0).isEmpty());
+}
+
 TEST(MentionMarkup, IsNotClickableWhileMarkupIsDisabled)
 {
     MentionView view;

@@ -1,5 +1,7 @@
 #include "support/LiveView.h"
 
+#include "support/Keyboard.h"
+
 #include <QApplication>
 #include <QGraphicsItem>
 #include <QScreen>
@@ -42,6 +44,11 @@ LiveView::~LiveView()
 {
     if (root_ && root_->scene() == &scene_)
         scene_.removeItem(root_);
+}
+
+void LiveView::pressKey(Qt::Key key)
+{
+    test::pressKey(view_, key);
 }
 
 void LiveView::paintAgain(const QRegion& part)

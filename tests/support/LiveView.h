@@ -22,6 +22,8 @@ public:
     LiveView(const LiveView&) = delete;
     LiveView& operator=(const LiveView&) = delete;
 
+    void pressKey(Qt::Key key);
+
     // Paints a part of the window again. The part is in pixels of the window.
     void paintAgain(const QRegion& part);
     void paintAllAgain();

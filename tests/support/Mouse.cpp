@@ -1,5 +1,7 @@
 #include "support/Mouse.h"
 
+#include "support/Keyboard.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 
@@ -80,6 +82,11 @@ void CardView::doubleClick(const QPointF& at, Qt::MouseButton button)
     click(at, button);
     press(QEvent::MouseButtonDblClick, at, button);
     release(at, button);
+}
+
+void CardView::pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    test::pressKey(view_, key, modifiers);
 }
 
 void CardView::send(QEvent::Type type, Qt::MouseButton button)

@@ -10,9 +10,8 @@
 
 namespace plix::test {
 
-// Cards in a host's view, and the user's mouse. As from the platform, mouse events go to
-// the viewport, at whole pixels, with moves between them. Positions are in scene
-// coordinates.
+// Cards in a host's view, and the user's mouse and keyboard. As from the platform, mouse events go
+// to the viewport, at whole pixels, with moves between them. Positions are in scene coordinates.
 class CardView {
 public:
     // Shows a card with some free space around it.
@@ -33,10 +32,13 @@ public:
     // Two clicks; the second press is a double click event, as on all platforms.
     void doubleClick(const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
 
+    void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
     // The cursor at the position of the mouse.
     Qt::CursorShape cursor() const { return view_.viewport()->cursor().shape(); }
 
     QGraphicsScene& scene() { return scene_; }
+    QGraphicsView& view() { return view_; }
 
     // A position in the scene where there is no card.
     QPointF nowhere() const { return scene_.sceneRect().topLeft() + QPointF(5, 5); }

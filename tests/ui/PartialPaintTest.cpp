@@ -83,6 +83,8 @@ void expectPartsOfCard(const std::string& json, double scale, unsigned seed)
     const QImage highlighted = view.shown();
     expectSamePixelsInParts(view, seed + 1, "highlighted");
     expectSamePixels(highlighted, view.shown(), "after the repaint of the highlight");
+    view.pressKey(Qt::Key_Tab);
+    expectSamePixelsInParts(view, seed + 2, "with the keyboard focus");
 }
 
 using PartialPaint = PlixTest;

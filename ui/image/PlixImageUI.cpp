@@ -41,6 +41,7 @@ void PlixImageUI::InitAction(const PlixDataImage& data)
 {
     hasOwnAction_ = !data.IsAppOnlyAction() && plix::HasKnownAction(data);
     clickable_ = hasOwnAction_;
+    InitFocus();
     if (clickable_)
         setCursor(Qt::PointingHandCursor);
     else

@@ -46,6 +46,8 @@ protected:
 
     PlixPictureUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout);
 
+    double CornerRadius() const override { return cornerRadius_; }
+
     // Gets the file from the host, if there is a download function.
     void Download(const std::string& url);
     // The part of Init() that images and icons have in common.

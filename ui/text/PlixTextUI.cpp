@@ -12,6 +12,7 @@
 #include "model/PlixLanguageText.h"
 #include "ui/PlixAlignmentWords.h"
 #include "ui/PlixBoxUI.h"
+#include "ui/PlixFocusStop.h"
 #include "ui/PlixOffsets.h"
 #include "ui/text/PlixTextFont.h"
 #include "ui/text/PlixTextMarkup.h"
@@ -69,6 +70,12 @@ PlixTextUI::PlixTextUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout,
     connect(this, &TextItem::BotMentionClicked, this, &PlixTextUI::OnBotMentionClicked);
 }
 
+PlixTextUI::~PlixTextUI()
+{
+    for (const QPointer<PlixFocusStop>& stop : focusStops_)
+        delete stop;
+}
+
 bool PlixTextUI::Init()
 {
     const auto data = FindData<PlixDataText>();
@@ -93,6 +100,7 @@ bool PlixTextUI::Init()
     ApplyPlacement(*data, place.box && place.box->IsVertical()).ApplyPercentages(*this);
     setHasBaselineFunc(baseline_);
     InitLines(*data);
+    InitFocus();
     return true;
 }
 
@@ -253,6 +261,17 @@ void PlixTextUI::InitLines(const PlixDataText& data)
     if (!wrap_)
         maxLines_ = 1;
     SetMaxLineCount(maxLines_);
+}
+
+void PlixTextUI::InitFocus()
+{
+    if (hasOwnAction_)
+        focusStops_.emplace_back(
+            new PlixFocusStop(QGraphicsItem::parentItem(), [this] { DeliverClick(); }));
+    const int mentions = clickable_ || unsupported_ ? 0 : MentionCount();
+    for (int i = 0; i < mentions; ++i)
+        focusStops_.emplace_back(
+            new PlixFocusStop(QGraphicsItem::parentItem(), [this, i] { ClickMention(i); }));
 }
 
 void PlixTextUI::SetClickFunc(const ClickFunc& func)
@@ -416,8 +435,29 @@ void PlixTextUI::setGeometry(const QRectF& rect)
         markDirty();
         parent->relayoutInPlace();
     }
-    // Last, because it tells the host, who may delete the text.
-    setPos(given.left(), given.top() + topOffset_);
+    // Last, because these tell the host, who may delete the text.
+    const QPointF position(given.left(), given.top() + topOffset_);
+    const PlixLink<YogaLayoutItem> self = watch();
+    PlaceFocusStops(position);
+    if (self.get())
+        setPos(position);
+}
+
+void PlixTextUI::PlaceFocusStops(const QPointF& position)
+{
+    std::vector<std::pair<QPointer<PlixFocusStop>, QRectF>> places;
+    for (std::size_t i = 0; i < focusStops_.size(); ++i) {
+        QRectF rect;
+        if (hasOwnAction_)
+            rect = boundingRect();
+        else if (!clickable_) // by the box around it
+            rect = MentionRect(static_cast<int>(i));
+        places.emplace_back(focusStops_[i], rect.translated(position));
+    }
+    for (const auto& [stop, rect] : places) {
+        if (stop)
+            stop->Place(rect);
+    }
 }
 
 void PlixTextUI::PlaceVertically(double available)

@@ -5,9 +5,14 @@
 
 #include <kestro_control/TextItem.h>
 
+#include <QPointer>
+
+#include <vector>
+
 class PlixDataBox;
 class PlixDataSpan;
 class PlixDataText;
+class PlixFocusStop;
 
 // The "text" component: a text in one format, or in spans.
 class PlixTextUI : public TextItem, public YogaLayoutItem, public PlixBaseUI {
@@ -16,6 +21,7 @@ class PlixTextUI : public TextItem, public YogaLayoutItem, public PlixBaseUI {
 public:
     PlixTextUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout,
                const PlixDisplayParam& param);
+    ~PlixTextUI() override;
 
     QGraphicsItem* GetGraphicsItem() override { return this; }
     QGraphicsLayoutItem* GetLayoutItem() override { return this; }
@@ -72,6 +78,7 @@ private:
     void InsertContent(const PlixDataText& data);
     void InitWidth(const PlixDataText& data, const Place& place);
     void InitLines(const PlixDataText& data);
+    void InitFocus();
     void KeepSides(const PlixDataText& data, const Place& place);
     // The width of the text without any limit, in whole pixels.
     double NaturalWidth();
@@ -89,6 +96,8 @@ private:
     QRectF ClippedToParent(const QRectF& rect) const;
     bool HasStyleWidth(double width) const;
     void PlaceVertically(double available);
+    // For an item at `position`. Slots of the host may delete the text.
+    void PlaceFocusStops(const QPointF& position);
 
     bool unsupported_ = false;
     int colorMode_ = 0;
@@ -101,4 +110,6 @@ private:
     int textHeight_ = 0;
     // From the top of the item's rectangle down to the item.
     double topOffset_ = 0;
+    // One for the text if it has an action, else one for each mention.
+    std::vector<QPointer<PlixFocusStop>> focusStops_;
 };

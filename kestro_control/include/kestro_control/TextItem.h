@@ -214,6 +214,19 @@ public:
     // first 1,000 words count.
     void HighlightText(const QStringList& words, const QBrush& brush);
 
+    // ----- Mentions
+
+    // The number of mentions that were inserted, shown or not.
+    int MentionCount() const;
+
+    // The rectangle around the shown glyphs of a mention; empty if none is shown.
+    // `index` counts the mentions from 0, in the order of the text.
+    QRectF MentionRect(int index) const;
+
+    // Emits the signal that a click on the mention emits. Does nothing for another
+    // index.
+    void ClickMention(int index);
+
     // ----- What is shown
 
     // The number of shown lines; 0 for an empty document.

@@ -1,0 +1,66 @@
+#include "ui/PlixFocusStop.h"
+
+#include "ui/PlixFocusRing.h"
+
+#include <QKeyEvent>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+constexpr std::array kClickKeys = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Select};
+
+} // namespace
+
+PlixFocusStop::PlixFocusStop(QGraphicsItem* parent, ClickFunc click)
+    : QGraphicsWidget(parent)
+    , click_(std::move(click))
+{
+    setAcceptedMouseButtons(Qt::NoButton);
+    setFlag(ItemHasNoContents);
+    setZValue(1); // in front of the text
+    setFocusPolicy(Qt::TabFocus);
+    hide();
+}
+
+bool PlixFocusStop::IsClick(const QKeyEvent& event)
+{
+    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    return modifiers == Qt::NoModifier && !event.isAutoRepeat()
+        && std::count(kClickKeys.begin(), kClickKeys.end(), event.key()) > 0;
+}
+
+void PlixFocusStop::Place(const QRectF& rect)
+{
+    setVisible(!rect.isEmpty());
+    setGeometry(rect);
+}
+
+QPainterPath PlixFocusStop::shape() const
+{
+    return {};
+}
+
+void PlixFocusStop::focusInEvent(QFocusEvent*)
+{
+    PlixFocusRing::Show(*this, 0);
+}
+
+void PlixFocusStop::focusOutEvent(QFocusEvent*)
+{
+    PlixFocusRing::Hide(*this);
+}
+
+void PlixFocusStop::keyPressEvent(QKeyEvent* event)
+{
+    if (!IsClick(*event)) {
+        QGraphicsWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    const ClickFunc click = click_;
+    click();
+}

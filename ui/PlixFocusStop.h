@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QGraphicsWidget>
+
+#include <functional>
+
+class QKeyEvent;
+
+// A stop of the Tab key on a clickable text, or on a mention in a text: Qt walks
+// widgets only, and a text is none. Draws nothing but the focus ring, and leaves
+// the mouse to the text.
+class PlixFocusStop : public QGraphicsWidget {
+    Q_OBJECT
+
+public:
+    using ClickFunc = std::function<void()>;
+
+    // `parent` is that of the text, and owns the stop. The Tab key walks in the order
+    // in which items are made. `click` may delete the stop.
+    PlixFocusStop(QGraphicsItem* parent, ClickFunc click);
+
+    // Whether this key clicks what has the focus, as on any button: Enter or Space,
+    // but not while it repeats.
+    static bool IsClick(const QKeyEvent& event);
+
+    // In the coordinates of the parent. With an empty rectangle, the stop is skipped.
+    void Place(const QRectF& rect);
+
+    QPainterPath shape() const override;
+    // Where a parent clips, Qt calls this instead of shape().
+    bool contains(const QPointF&) const override { return false; }
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    ClickFunc click_;
+};
