@@ -62,6 +62,9 @@ QPainterPath PlixFocusRing::shape() const
 void PlixFocusRing::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
 {
     painter->save();
+    // Between pixels, a partial paint would show other pixels of the edges.
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setClipPath(plix::RectanglePath(rect_), Qt::IntersectClip);
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(Qt::NoBrush);
     const QColor color = QApplication::palette().color(QPalette::Highlight);
