@@ -11,6 +11,9 @@
 
 namespace {
 
+// So that the ring does not cover the edges of letters.
+constexpr double kMargin = 2;
+
 constexpr std::array kClickKeys = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Select};
 
 } // namespace
@@ -33,10 +36,10 @@ bool PlixFocusStop::IsClick(const QKeyEvent& event)
         && std::count(kClickKeys.begin(), kClickKeys.end(), event.key()) > 0;
 }
 
-void PlixFocusStop::Place(const QRectF& rect)
+void PlixFocusStop::Place(const QRectF& glyphs)
 {
-    setVisible(!rect.isEmpty());
-    setGeometry(rect);
+    setVisible(!glyphs.isEmpty());
+    setGeometry(glyphs.adjusted(-kMargin, -kMargin, kMargin, kMargin));
 }
 
 QPainterPath PlixFocusStop::shape() const

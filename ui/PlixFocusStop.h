@@ -23,8 +23,9 @@ public:
     // but not while it repeats.
     static bool IsClick(const QKeyEvent& event);
 
-    // In the coordinates of the parent. With an empty rectangle, the stop is skipped.
-    void Place(const QRectF& rect);
+    // Puts the ring around `glyphs`, which are in the coordinates of the parent. Without
+    // any, the stop is skipped.
+    void Place(const QRectF& glyphs);
 
     QPainterPath shape() const override;
     // Where a parent clips, Qt calls this instead of shape().

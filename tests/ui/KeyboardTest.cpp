@@ -107,10 +107,13 @@ protected:
         return rects;
     }
 
-    QRectF rectOfMention(int index) const
+    // The ring does not cover the edges of letters.
+    static QRectF ringAround(const QRectF& glyphs) { return glyphs.adjusted(-2, -2, 2, 2); }
+
+    QRectF ringOfMention(int index) const
     {
         const auto* const text = card_.ui<PlixTextUI>({0, 3});
-        return text->mapRectToScene(text->MentionRect(index));
+        return ringAround(text->mapRectToScene(text->MentionRect(index)));
     }
 
     ClickHost host_;
@@ -174,11 +177,11 @@ TEST_F(Keyboard, HasARingAroundTheItemWithTheFocus)
 {
     EXPECT_EQ(ringRects(), Rects {});
     walkTo("text");
-    EXPECT_EQ(ringRects(), Rects {card_.item({0, 2, 1})->sceneBoundingRect()});
+    EXPECT_EQ(ringRects(), Rects {ringAround(card_.item({0, 2, 1})->sceneBoundingRect())});
     walkTo("image");
     EXPECT_EQ(ringRects(), Rects {card_.item({0, 2, 2})->sceneBoundingRect()});
     walkTo("bot 8");
-    EXPECT_EQ(ringRects(), Rects {rectOfMention(1)});
+    EXPECT_EQ(ringRects(), Rects {ringOfMention(1)});
     walk(Qt::Key_Tab);
     EXPECT_EQ(ringRects(), Rects {});
 }
@@ -189,7 +192,7 @@ TEST_F(Keyboard, MovesTheRingWithTheText)
     const Rects before = ringRects();
     card_.ui<PlixTextUI>({0, 0})->setHeight(90);
     Plix_RefreshLayout(card_.controller());
-    EXPECT_EQ(ringRects(), Rects {rectOfMention(1)});
+    EXPECT_EQ(ringRects(), Rects {ringOfMention(1)});
     EXPECT_NE(ringRects(), before);
 }
 
@@ -209,7 +212,7 @@ TEST_F(Keyboard, TellsTheViewWhereTheFocusIs)
         &view_.scene(), &QGraphicsScene::focusItemChanged, &context,
         [&](const QGraphicsItem* item) { focused = item ? item->sceneBoundingRect() : QRectF(); });
     walkTo("user 7");
-    EXPECT_EQ(focused, rectOfMention(0));
+    EXPECT_EQ(focused, ringOfMention(0));
 }
 
 TEST_F(Keyboard, MayDeleteTheItemsOfTheCard)
