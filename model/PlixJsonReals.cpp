@@ -29,28 +29,22 @@ std::size_t SkipDigits(std::string_view text, std::size_t at)
     return at;
 }
 
-// The position after the first of `characters` at or after `at`. The end of the
-// text if there is none.
-std::size_t SkipPast(std::string_view text, std::size_t at, std::string_view characters)
-{
-    const std::size_t found = text.find_first_of(characters, at);
-    return found == std::string_view::npos ? text.size() : found + 1;
-}
-
 // ----- The end of the token that begins at `begin`, by the rules of the parser
 
 std::size_t EndOfString(std::string_view text, std::size_t begin)
 {
-    std::size_t at = SkipPast(text, begin + 1, "\\\"");
-    while (text[at - 1] == '\\' && at < text.size())
-        at = SkipPast(text, at + 1, "\\\"");
-    return at;
+    std::size_t at = begin + 1;
+    while (at < text.size() && text[at] != '"')
+        at += text[at] == '\\' ? 2U : 1U;
+    return std::min(at + 1, text.size());
 }
 
 std::size_t EndOfComment(std::string_view text, std::size_t begin)
 {
-    if (IsAnyAt(text, begin + 1, "/"))
-        return SkipPast(text, begin, "\n\r");
+    if (IsAnyAt(text, begin + 1, "/")) {
+        const std::size_t lineEnd = text.find_first_of("\n\r", begin);
+        return lineEnd == std::string_view::npos ? text.size() : lineEnd + 1;
+    }
     if (!IsAnyAt(text, begin + 1, "*"))
         return begin + 1;
     const std::size_t closing = text.find("*/", begin + 2);
@@ -115,7 +109,43 @@ std::string WithoutPoint(std::string_view number)
     return result + std::to_string(power - static_cast<std::int64_t>(fraction.size()));
 }
 
+// ----- Numbers in a text
+
+bool HasPointInNumber(std::string_view json)
+{
+    for (std::size_t at = json.find('.', 1); at != json.npos; at = json.find('.', at + 1)) {
+        if (BeginsNumber(json[at - 1]))
+            return true;
+    }
+    return false;
+}
+
+bool HasPointOutsideOfStrings(std::string_view json)
+{
+    for (std::size_t at = 0; at < json.size();) {
+        switch (json[at]) {
+        case '"':
+            at = EndOfString(json, at);
+            break;
+        case '/':
+            at = EndOfComment(json, at);
+            break;
+        case '.':
+            return true;
+        default:
+            ++at;
+        }
+    }
+    return false;
+}
+
 } // namespace
+
+bool MayHaveReals(std::string_view json)
+{
+    // The first is much faster, and few cards have a number with a point in a string.
+    return HasPointInNumber(json) && HasPointOutsideOfStrings(json);
+}
 
 std::string WithoutDecimalPoints(const std::string& json)
 {

@@ -35,8 +35,19 @@ TEST(PlixJsonReals, HaveNoDecimalPoint)
         {"// 1.5\n1.5", "// 1.5\n15e-1"},
         {"// 1.5\r1.5", "// 1.5\r15e-1"},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
+        EXPECT_TRUE(plix::MayHaveReals(row.json)) << row.json;
         EXPECT_EQ(plix::WithoutDecimalPoints(row.json), row.rewritten) << row.json;
+    }
+}
+
+TEST(PlixJsonReals, AreNotInStringsAndComments)
+{
+    for (const char* json : {"", "12", "-12e5", R"("1.5")", R"("\"1.5")", R"("\\1.5")", R"("1.5)",
+                             "/*1.5*/", "/*1.5", "//1.5", R"({"1.5": [1, "2.5"]} // 1.5)"}) {
+        EXPECT_FALSE(plix::MayHaveReals(json)) << json;
+        EXPECT_EQ(plix::WithoutDecimalPoints(json), json);
+    }
 }
 
 TEST(PlixJsonReals, EverythingElseStaysAsItIs)
@@ -59,7 +70,9 @@ std::string understood(const std::string& json)
 
 void expectSameMeaning(const std::string& json)
 {
-    EXPECT_EQ(understood(plix::WithoutDecimalPoints(json)), understood(json)) << json;
+    const std::string rewritten = plix::WithoutDecimalPoints(json);
+    EXPECT_TRUE(rewritten == json || plix::MayHaveReals(json)) << json;
+    EXPECT_EQ(understood(rewritten), understood(json)) << json;
 }
 
 TEST(PlixJsonReals, BadNumbersStayBadAtTheSamePlace)
