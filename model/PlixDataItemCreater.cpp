@@ -9,6 +9,8 @@
 #include "model/PlixDataSpacer.h"
 #include "model/PlixDataText.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
@@ -27,22 +29,27 @@ std::shared_ptr<PlixDataItem> CreateBox()
     return box;
 }
 
-} // namespace
+struct Creator {
+    int kind;
+    std::shared_ptr<PlixDataItem> (*create)();
+};
 
-PlixDataItemCreater::PlixDataItemCreater()
-    : creators_ {{PlixKindBox, &CreateBox},
-                 {PlixKindText, &CreateItem<PlixDataText>},
-                 {PlixKindImage, &CreateItem<PlixDataImage>},
-                 {PlixKindIcon, &CreateItem<PlixDataIcon>},
-                 {PlixKindButton, &CreateItem<PlixDataButton>},
-                 {PlixKindSpacer, &CreateItem<PlixDataSpacer>},
-                 {PlixKindFiller, &CreateItem<PlixDataFiller>},
-                 {PlixKindSeparator, &CreateItem<PlixDataSeparator>}}
-{
-}
+constexpr std::array kCreators =
+    std::to_array<Creator>({{PlixKindBox, &CreateBox},
+                            {PlixKindText, &CreateItem<PlixDataText>},
+                            {PlixKindImage, &CreateItem<PlixDataImage>},
+                            {PlixKindIcon, &CreateItem<PlixDataIcon>},
+                            {PlixKindButton, &CreateItem<PlixDataButton>},
+                            {PlixKindSpacer, &CreateItem<PlixDataSpacer>},
+                            {PlixKindFiller, &CreateItem<PlixDataFiller>},
+                            {PlixKindSeparator, &CreateItem<PlixDataSeparator>}});
+
+} // namespace
 
 std::shared_ptr<PlixDataItem> PlixDataItemCreater::Create(int kind) const
 {
-    const auto creator = creators_.find(kind);
-    return creator == creators_.end() ? nullptr : creator->second();
+    const auto* const creator =
+        std::find_if(kCreators.begin(), kCreators.end(),
+                     [kind](const Creator& row) { return row.kind == kind; });
+    return creator == kCreators.end() ? nullptr : creator->create();
 }

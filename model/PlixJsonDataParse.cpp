@@ -6,9 +6,11 @@
 #include "model/PlixJsonTables.h"
 #include "model/PlixJsonText.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -50,17 +52,20 @@ private:
 
 } // namespace
 
-PlixJsonDataParse::PlixJsonDataParse()
-    : parseTable_ {{PlixKindImage, &PlixJsonDataParse::ParseImage},
-                   {PlixKindBox, &PlixJsonDataParse::ParseBox},
-                   {PlixKindText, &PlixJsonDataParse::ParseText},
-                   {PlixKindIcon, &PlixJsonDataParse::ParseIcon},
-                   {PlixKindButton, &PlixJsonDataParse::ParseButton},
-                   {PlixKindSpacer, &PlixJsonDataParse::ParseSpacer},
-                   {PlixKindFiller, &PlixJsonDataParse::ParseFiller},
-                   {PlixKindSeparator, &PlixJsonDataParse::ParseSeparator}}
-    , creater_(std::make_shared<PlixDataItemCreater>())
+PlixJsonDataParse::ParseOperation PlixJsonDataParse::FindOperation(int kind)
 {
+    static constexpr std::array kOperations = std::to_array<std::pair<int, ParseOperation>>(
+        {{PlixKindImage, &PlixJsonDataParse::ParseImage},
+         {PlixKindBox, &PlixJsonDataParse::ParseBox},
+         {PlixKindText, &PlixJsonDataParse::ParseText},
+         {PlixKindIcon, &PlixJsonDataParse::ParseIcon},
+         {PlixKindButton, &PlixJsonDataParse::ParseButton},
+         {PlixKindSpacer, &PlixJsonDataParse::ParseSpacer},
+         {PlixKindFiller, &PlixJsonDataParse::ParseFiller},
+         {PlixKindSeparator, &PlixJsonDataParse::ParseSeparator}});
+    const auto* const found = std::find_if(kOperations.begin(), kOperations.end(),
+                                           [kind](const auto& row) { return row.first == kind; });
+    return found == kOperations.end() ? nullptr : found->second;
 }
 
 int PlixJsonDataParse::Parse(const std::string& text, PlixDataMgr& root)
@@ -96,11 +101,11 @@ void PlixJsonDataParse::AddComponent(const Json::Value& node, int index,
                                      PlixDataContainer& container)
 {
     const int kind = plix::ToItemKind(plix::TypeWord(node));
-    const std::shared_ptr<PlixDataItem> item = creater_->Create(kind);
-    const auto operation = parseTable_.find(kind);
-    if (!item || operation == parseTable_.end())
+    const std::shared_ptr<PlixDataItem> item = creater_.Create(kind);
+    const ParseOperation operation = FindOperation(kind);
+    if (!item || !operation)
         return;
-    (this->*operation->second)(node, item);
+    (this->*operation)(node, item);
     item->SetIndex(index);
     container.AddChild(item);
 }
@@ -169,7 +174,9 @@ int PlixJsonDataParse::ParseMultiLang(const PlixJsonMember& member, PlixLanguage
 {
     return RunOperation("ParseMultiLang", [&] {
         const Json::Value& variants = plix::RequireObject(member);
-        for (const std::string& code : variants.getMemberNames())
-            texts.texts[code] = plix::ToString({code, variants[code]});
+        for (auto variant = variants.begin(); variant != variants.end(); ++variant) {
+            const std::string_view code = plix::MemberName(variant);
+            texts.texts[std::string(code)] = plix::ToString({code, *variant});
+        }
     });
 }

@@ -7,7 +7,6 @@
 
 #include <json/value.h>
 
-#include <map>
 #include <memory>
 #include <string>
 
@@ -26,8 +25,6 @@ public:
     // The maximum depth of nested boxes in a zone. The time for a layout grows with
     // the depth, and real cards have fewer than ten levels.
     static constexpr int kMaxNestedBoxes = 24;
-
-    PlixJsonDataParse();
 
     // Reads `text` into the bubble of `root`. Returns 0 without reading anything if
     // `text` is not the JSON of a bubble.
@@ -55,8 +52,10 @@ private:
     using ParseOperation = int (PlixJsonDataParse::*)(const Json::Value& node,
                                                       const std::shared_ptr<PlixDataItem>& item);
 
+    // The operation that reads items of a kind; null if there is none.
+    static ParseOperation FindOperation(int kind);
+
     // The number of boxes that are being read, each inside the one before.
     int nestedBoxes_ = 0;
-    std::map<int, ParseOperation> parseTable_;
-    std::shared_ptr<PlixDataItemCreater> creater_;
+    PlixDataItemCreater creater_;
 };

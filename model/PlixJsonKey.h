@@ -62,12 +62,13 @@ void ReadKeys(const std::array<PlixJsonKey<Target>, Size>& keys, PlixJsonDataPar
 {
     RequireObject({"a component", object});
     std::array<const Json::Value*, Size> values {};
-    for (auto member = object.begin(); member != object.end(); ++member) {
+    const auto end = object.end();
+    for (auto member = object.begin(); member != end; ++member) {
         const std::string_view name = MemberName(member);
-        for (std::size_t i = 0; i < Size; ++i) {
-            if (keys[i].name == name)
-                values[i] = &*member;
-        }
+        const auto key = std::find_if(keys.begin(), keys.end(),
+                                      [name](const auto& row) { return row.name == name; });
+        if (key != keys.end())
+            values[static_cast<std::size_t>(key - keys.begin())] = &*member;
     }
     for (std::size_t i = 0; i < Size; ++i) {
         if (values[i])
