@@ -130,12 +130,12 @@ QColor ToColor(const std::string& text)
     return QColor::isValidColor(name) ? QColor(name) : QColor();
 }
 
-std::string RgbaToArgb(const std::string& color)
+std::string RgbaToArgb(std::string_view color)
 {
     constexpr std::size_t kLength = 9;
     if (color.size() != kLength)
-        return color;
-    return std::string().append(1, '#').append(color, 7, 2).append(color, 1, 6);
+        return std::string(color);
+    return std::string("#").append(color, 7, 2).append(color, 1, 6);
 }
 
 } // namespace plix

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 // Turns the words of a card into logical pixels. Each property has its own table
 // and its own fallback; they differ on purpose.
@@ -55,6 +56,6 @@ QColor ToColor(const std::string& text);
 
 // "#RRGGBBAA", which card authors write, as "#AARRGGBB", which Qt reads. A text
 // that is not nine characters long is returned unchanged.
-std::string RgbaToArgb(const std::string& color);
+std::string RgbaToArgb(std::string_view color);
 
 } // namespace plix

@@ -4,8 +4,9 @@
 
 namespace {
 
-void ReadPadding(const std::string& text, PlixPadding& padding)
+void ReadPadding(std::string_view word, PlixPadding& padding)
 {
+    const std::string text(word);
     if (text.empty()) {
         padding.px = -1;
         return;
@@ -15,13 +16,6 @@ void ReadPadding(const std::string& text, PlixPadding& padding)
         padding.percent = plix::ToPercent(text);
 }
 
-// An empty text leaves the length as it is.
-void ReadSize(const std::string& text, PlixLength& length)
-{
-    if (!text.empty())
-        plix::ParseLength(text, length);
-}
-
 } // namespace
 
 PlixDataBox::PlixDataBox()
@@ -29,41 +23,45 @@ PlixDataBox::PlixDataBox()
 {
 }
 
-void PlixDataBox::SetWidth(const std::string& width)
+// An empty size leaves the length as it is.
+void PlixDataBox::SetWidth(std::string_view width)
 {
-    width_ = width;
-    ReadSize(width, widthLength_);
+    fields_.Set(PlixField::Width, width);
+    if (!width.empty())
+        plix::ParseLength(std::string(width), lengths_.Make().width);
 }
 
-void PlixDataBox::SetHeight(const std::string& height)
+void PlixDataBox::SetHeight(std::string_view height)
 {
-    height_ = height;
-    ReadSize(height, heightLength_);
+    fields_.Set(PlixField::Height, height);
+    if (!height.empty())
+        plix::ParseLength(std::string(height), lengths_.Make().height);
 }
 
-void PlixDataBox::SetPaddingAll(const std::string& padding)
+void PlixDataBox::SetPaddingAll(std::string_view padding)
 {
-    ReadPadding(padding, paddingAll_);
+    ReadPadding(padding, lengths_.Make().paddingAll);
 }
 
-void PlixDataBox::SetPaddingTop(const std::string& padding)
+void PlixDataBox::SetPaddingTop(std::string_view padding)
 {
-    ReadPadding(padding, paddingTop_);
+    ReadPadding(padding, lengths_.Make().paddingTop);
 }
 
-void PlixDataBox::SetPaddingBottom(const std::string& padding)
+void PlixDataBox::SetPaddingBottom(std::string_view padding)
 {
-    ReadPadding(padding, paddingBottom_);
+    ReadPadding(padding, lengths_.Make().paddingBottom);
 }
 
-void PlixDataBox::SetPaddingStart(const std::string& padding)
+void PlixDataBox::SetPaddingStart(std::string_view padding)
 {
-    ReadPadding(padding, paddingStart_);
+    ReadPadding(padding, lengths_.Make().paddingStart);
 }
 
-void PlixDataBox::SetPaddingEnd(const std::string& padding)
+void PlixDataBox::SetPaddingEnd(std::string_view padding)
 {
-    ReadPadding(padding, padding.empty() ? paddingStart_ : paddingEnd_);
+    PlixPadding& edge = padding.empty() ? lengths_.Make().paddingStart : lengths_.Make().paddingEnd;
+    ReadPadding(padding, edge);
 }
 
 void PlixDataBox::SetContainer(std::shared_ptr<PlixDataContainer> container)

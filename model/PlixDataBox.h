@@ -3,9 +3,11 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataContainer.h"
 #include "model/PlixDataItemCommon.h"
+#include "model/PlixRareValue.h"
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 // A padding in pixels and in percent; -1 means "not given". A padding that was
 // given in percent has 0 pixels.
@@ -18,70 +20,71 @@ class PlixDataBox : public PlixDataItemCommon {
 public:
     PlixDataBox();
 
-    std::string GetLayout() const { return layout_; }
-    void SetLayout(const std::string& layout) { layout_ = layout; }
-    bool IsVertical() const { return layout_ == "vertical"; }
-    bool IsHorizontal() const { return layout_ == "horizontal"; }
-    bool IsBaseline() const { return layout_ == "baseline"; }
+    std::string GetLayout() const { return fields_.Get(PlixField::Layout); }
+    void SetLayout(std::string_view layout) { fields_.Set(PlixField::Layout, layout); }
+    bool IsVertical() const { return HasLayout("vertical"); }
+    bool IsHorizontal() const { return HasLayout("horizontal"); }
+    bool IsBaseline() const { return HasLayout("baseline"); }
 
-    std::string GetSpacing() const { return spacing_; }
-    void SetSpacing(const std::string& spacing) { spacing_ = spacing; }
+    std::string GetSpacing() const { return fields_.Get(PlixField::Spacing); }
+    void SetSpacing(std::string_view spacing) { fields_.Set(PlixField::Spacing, spacing); }
 
-    std::string GetBackgroundColor() const { return backgroundColor_; }
-    void SetBackgroundColor(const std::string& color)
+    std::string GetBackgroundColor() const { return fields_.Get(PlixField::BackgroundColor); }
+    void SetBackgroundColor(std::string_view color)
     {
-        backgroundColor_ = plix::RgbaToArgb(color);
+        fields_.Set(PlixField::BackgroundColor, plix::RgbaToArgb(color));
     }
 
-    std::string GetCornerRadius() const { return cornerRadius_; }
-    void SetCornerRadius(const std::string& radius) { cornerRadius_ = radius; }
+    std::string GetCornerRadius() const { return fields_.Get(PlixField::CornerRadius); }
+    void SetCornerRadius(std::string_view radius) { fields_.Set(PlixField::CornerRadius, radius); }
 
-    std::string GetWidth() const { return width_; }
-    PlixLength GetWidthLength() const { return widthLength_; }
-    void SetWidth(const std::string& width);
+    std::string GetWidth() const { return fields_.Get(PlixField::Width); }
+    PlixLength GetWidthLength() const { return lengths_.Get().width; }
+    void SetWidth(std::string_view width);
 
-    std::string GetHeight() const { return height_; }
-    PlixLength GetHeightLength() const { return heightLength_; }
-    void SetHeight(const std::string& height);
+    std::string GetHeight() const { return fields_.Get(PlixField::Height); }
+    PlixLength GetHeightLength() const { return lengths_.Get().height; }
+    void SetHeight(std::string_view height);
 
-    std::string GetBorderColor() const { return borderColor_; }
-    void SetBorderColor(const std::string& color) { borderColor_ = plix::RgbaToArgb(color); }
+    std::string GetBorderColor() const { return fields_.Get(PlixField::BorderColor); }
+    void SetBorderColor(std::string_view color)
+    {
+        fields_.Set(PlixField::BorderColor, plix::RgbaToArgb(color));
+    }
 
-    std::string GetBorderWidth() const { return borderWidth_; }
-    void SetBorderWidth(const std::string& width) { borderWidth_ = width; }
+    std::string GetBorderWidth() const { return fields_.Get(PlixField::BorderWidth); }
+    void SetBorderWidth(std::string_view width) { fields_.Set(PlixField::BorderWidth, width); }
 
-    PlixPadding GetPaddingAll() const { return paddingAll_; }
-    void SetPaddingAll(const std::string& padding);
-    PlixPadding GetPaddingTop() const { return paddingTop_; }
-    void SetPaddingTop(const std::string& padding);
-    PlixPadding GetPaddingBottom() const { return paddingBottom_; }
-    void SetPaddingBottom(const std::string& padding);
-    PlixPadding GetPaddingStart() const { return paddingStart_; }
-    void SetPaddingStart(const std::string& padding);
-    PlixPadding GetPaddingEnd() const { return paddingEnd_; }
+    PlixPadding GetPaddingAll() const { return lengths_.Get().paddingAll; }
+    void SetPaddingAll(std::string_view padding);
+    PlixPadding GetPaddingTop() const { return lengths_.Get().paddingTop; }
+    void SetPaddingTop(std::string_view padding);
+    PlixPadding GetPaddingBottom() const { return lengths_.Get().paddingBottom; }
+    void SetPaddingBottom(std::string_view padding);
+    PlixPadding GetPaddingStart() const { return lengths_.Get().paddingStart; }
+    void SetPaddingStart(std::string_view padding);
+    PlixPadding GetPaddingEnd() const { return lengths_.Get().paddingEnd; }
     // An empty text resets the start padding instead of the end padding: existing
     // cards rely on this.
-    void SetPaddingEnd(const std::string& padding);
+    void SetPaddingEnd(std::string_view padding);
 
     // The children. Null until PlixDataItemCreater sets it.
     std::shared_ptr<PlixDataContainer> GetContainer() const { return container_; }
     void SetContainer(std::shared_ptr<PlixDataContainer> container);
 
 private:
-    std::string layout_;
-    std::string spacing_;
-    std::string backgroundColor_;
-    std::string cornerRadius_;
-    std::string width_;
-    PlixLength widthLength_;
-    std::string height_;
-    PlixLength heightLength_;
-    std::string borderColor_;
-    std::string borderWidth_;
-    PlixPadding paddingAll_;
-    PlixPadding paddingTop_;
-    PlixPadding paddingBottom_;
-    PlixPadding paddingStart_;
-    PlixPadding paddingEnd_;
+    struct Lengths {
+        PlixLength width;
+        PlixLength height;
+        PlixPadding paddingAll;
+        PlixPadding paddingTop;
+        PlixPadding paddingBottom;
+        PlixPadding paddingStart;
+        PlixPadding paddingEnd;
+    };
+
+    bool HasLayout(std::string_view word) const { return fields_.View(PlixField::Layout) == word; }
+
+    PlixRareValue<Lengths> lengths_;
     std::shared_ptr<PlixDataContainer> container_;
 };

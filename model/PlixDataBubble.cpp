@@ -61,18 +61,18 @@ std::array<PlixDataBubble::Zone, 4> PlixDataBubble::GetZones() const
 float PlixDataBubble::GetWidth()
 {
     if (width_ == kDefaultWidth)
-        width_ = plix::FindKeyword(kWidths, size_).value_or(kDefaultWidth);
+        width_ = plix::FindKeyword(kWidths, GetSize()).value_or(kDefaultWidth);
     return width_;
 }
 
 float PlixDataBubble::GetSizeSpacing() const
 {
-    return plix::FindKeyword(kSizeSpacings, size_).value_or(kDefaultSpacing);
+    return plix::FindKeyword(kSizeSpacings, GetSize()).value_or(kDefaultSpacing);
 }
 
 float PlixDataBubble::GetFooterSpacing() const
 {
     const bool hasFooter = footer_ && footer_->GetChildCount() > 0;
-    const auto spacing = hasFooter ? plix::FindKeyword(kFooterSpacings, size_) : std::nullopt;
+    const auto spacing = hasFooter ? plix::FindKeyword(kFooterSpacings, GetSize()) : std::nullopt;
     return spacing.value_or(GetSizeSpacing());
 }

@@ -7,6 +7,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <string_view>
 
 // The root of a card message.
 class PlixDataBubble : public PlixDataItem {
@@ -28,12 +29,12 @@ public:
     // std::bad_weak_ptr if no shared pointer owns the bubble yet.
     void InitZones();
 
-    std::string GetDirection() const { return direction_; }
-    void SetDirection(const std::string& direction) { direction_ = direction; }
-    bool IsRightToLeft() const { return direction_ == "rtl"; }
+    std::string GetDirection() const { return fields_.Get(PlixField::Direction); }
+    void SetDirection(std::string_view direction) { fields_.Set(PlixField::Direction, direction); }
+    bool IsRightToLeft() const { return fields_.View(PlixField::Direction) == "rtl"; }
 
-    std::string GetSize() const { return size_; }
-    void SetSize(const std::string& size) { size_ = size; }
+    std::string GetSize() const { return fields_.Get(PlixField::Size); }
+    void SetSize(std::string_view size) { fields_.Set(PlixField::Size, size); }
 
     std::shared_ptr<PlixDataHeader> GetHeader() const { return header_; }
     std::shared_ptr<PlixDataHero> GetHero() const { return hero_; }
@@ -56,8 +57,6 @@ public:
     float GetFooterSpacing() const;
 
 private:
-    std::string direction_;
-    std::string size_;
     float width_;
     std::shared_ptr<PlixDataHeader> header_;
     std::shared_ptr<PlixDataHero> hero_;

@@ -3,35 +3,31 @@
 #include "model/PlixDataItemCommon.h"
 
 #include <string>
+#include <string_view>
 
 class PlixDataButton : public PlixDataItemCommon {
 public:
     PlixDataButton();
 
-    std::string GetColor() const { return color_; }
-    void SetColor(const std::string& color) { color_ = color; }
+    std::string GetColor() const { return fields_.Get(PlixField::Color); }
+    void SetColor(std::string_view color) { fields_.Set(PlixField::Color, color); }
 
-    std::string GetStyle() const { return style_; }
-    void SetStyle(const std::string& style) { style_ = style; }
+    std::string GetStyle() const { return fields_.Get(PlixField::Style); }
+    void SetStyle(std::string_view style) { fields_.Set(PlixField::Style, style); }
 
-    std::string GetHeight() const { return height_; }
-    void SetHeight(const std::string& height) { height_ = height; }
+    std::string GetHeight() const { return fields_.Get(PlixField::Height, "50"); }
+    void SetHeight(std::string_view height) { fields_.Set(PlixField::Height, height); }
 
-    std::string GetGravity() const { return gravity_; }
-    void SetGravity(const std::string& gravity) { gravity_ = gravity; }
+    std::string GetGravity() const { return fields_.Get(PlixField::Gravity); }
+    void SetGravity(std::string_view gravity) { fields_.Set(PlixField::Gravity, gravity); }
 
-    std::string GetSize() const { return size_; }
-    void SetSize(const std::string& size) { size_ = size; }
+    std::string GetSize() const { return fields_.Get(PlixField::Size, "md"); }
+    void SetSize(std::string_view size) { fields_.Set(PlixField::Size, size); }
 
     // The label's font size in pixels, set when the button is built.
     int GetPixelSize() const { return pixelSize_; }
     void SetPixelSize(int size) { pixelSize_ = size; }
 
 private:
-    std::string color_;
-    std::string style_;
-    std::string height_ = "50";
-    std::string gravity_;
-    std::string size_ = "md";
     int pixelSize_ = 16;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -18,6 +19,9 @@ public:
     // its ownership; Clear() breaks the cycle.
     void SetOwner(std::shared_ptr<PlixDataItem> owner);
 
+    // Make room for that many children, and free what is left of it.
+    void Reserve(std::size_t count) { children_.reserve(count); }
+    void ShrinkToFit() { children_.shrink_to_fit(); }
     void AddChild(const std::shared_ptr<PlixDataItem>& child);
     int GetChildCount() const;
     // Null if there is no such child.

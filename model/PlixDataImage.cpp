@@ -17,6 +17,6 @@ PlixDataImage::PlixDataImage()
 float PlixDataImage::GetSizePixels()
 {
     if (sizePixels_ == kDefaultSize)
-        sizePixels_ = plix::ToImageSize(size_);
+        sizePixels_ = plix::ToImageSize(GetSize());
     return sizePixels_;
 }

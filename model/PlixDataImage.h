@@ -1,51 +1,49 @@
 #pragma once
 
 #include "model/PlixDataItemCommon.h"
+#include "model/PlixRareValue.h"
 
 #include <plix/Plix.h>
 
 #include <string>
+#include <string_view>
 
 class PlixDataImage : public PlixDataItemCommon {
 public:
     PlixDataImage();
 
-    std::string GetUrl() const { return url_; }
-    void SetUrl(const std::string& url) { url_ = url; }
+    std::string GetUrl() const { return fields_.Get(PlixField::Url); }
+    void SetUrl(std::string_view url) { fields_.Set(PlixField::Url, url); }
 
-    std::string GetSize() const { return size_; }
-    void SetSize(const std::string& size) { size_ = size; }
+    std::string GetSize() const { return fields_.Get(PlixField::Size); }
+    void SetSize(std::string_view size) { fields_.Set(PlixField::Size, size); }
 
-    std::string GetAspectRatio() const { return aspectRatio_; }
-    void SetAspectRatio(const std::string& ratio) { aspectRatio_ = ratio; }
+    std::string GetAspectRatio() const { return fields_.Get(PlixField::AspectRatio, "1:1"); }
+    void SetAspectRatio(std::string_view ratio) { fields_.Set(PlixField::AspectRatio, ratio); }
 
-    std::string GetAspectMode() const { return aspectMode_; }
-    void SetAspectMode(const std::string& mode) { aspectMode_ = mode; }
+    std::string GetAspectMode() const { return fields_.Get(PlixField::AspectMode, "fit"); }
+    void SetAspectMode(std::string_view mode) { fields_.Set(PlixField::AspectMode, mode); }
 
-    std::string GetAlign() const { return align_; }
-    void SetAlign(const std::string& align) { align_ = align; }
+    std::string GetAlign() const { return fields_.Get(PlixField::Align); }
+    void SetAlign(std::string_view align) { fields_.Set(PlixField::Align, align); }
 
-    std::string GetGravity() const { return gravity_; }
-    void SetGravity(const std::string& gravity) { gravity_ = gravity; }
+    std::string GetGravity() const { return fields_.Get(PlixField::Gravity); }
+    void SetGravity(std::string_view gravity) { fields_.Set(PlixField::Gravity, gravity); }
 
-    std::string GetBackgroundColor() const { return backgroundColor_; }
-    void SetBackgroundColor(const std::string& color) { backgroundColor_ = color; }
+    std::string GetBackgroundColor() const { return fields_.Get(PlixField::BackgroundColor); }
+    void SetBackgroundColor(std::string_view color)
+    {
+        fields_.Set(PlixField::BackgroundColor, color);
+    }
 
-    const PlixLanguageMap& GetUrls() const { return urls_; }
-    PlixLanguageMap& MutableUrls() { return urls_; }
+    const PlixLanguageMap& GetUrls() const { return urls_.Get(); }
+    PlixLanguageMap& MutableUrls() { return urls_.Make(); }
 
     // The image's width in pixels, by its size word. Looked up once, except for
     // the default width, which also means "not looked up yet".
     float GetSizePixels();
 
 private:
-    std::string url_;
-    std::string size_;
-    std::string aspectRatio_ = "1:1";
-    std::string aspectMode_ = "fit";
-    std::string align_;
-    std::string gravity_;
-    std::string backgroundColor_;
-    PlixLanguageMap urls_;
+    PlixRareValue<PlixLanguageMap> urls_;
     float sizePixels_;
 };

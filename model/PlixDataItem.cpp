@@ -2,20 +2,6 @@
 
 #include <utility>
 
-namespace {
-
-bool OpensDesktop(const ST_ACTION& action)
-{
-    return !action.uri.empty() || !action.pcUri.empty() || !action.webUri.empty();
-}
-
-bool OpensMobileApp(const ST_ACTION& action)
-{
-    return !action.appUri.empty() || !action.androidUri.empty() || !action.iosUri.empty();
-}
-
-} // namespace
-
 PlixDataItem::PlixDataItem(PlixItemKind kind)
     : kind_(kind)
 {
@@ -45,25 +31,24 @@ void PlixDataItem::SetParent(std::shared_ptr<PlixDataItem> parent)
 
 std::shared_ptr<ST_ACTION> PlixDataItem::GetAction() const
 {
-    return action_;
+    return action_ ? action_->GetRecord() : nullptr;
 }
 
-void PlixDataItem::SetAction(std::shared_ptr<ST_ACTION> action)
+void PlixDataItem::SetAction(const std::shared_ptr<ST_ACTION>& action)
 {
-    action_ = std::move(action);
+    action_ = action ? std::make_unique<const PlixStoredAction>(action) : nullptr;
 }
 
 bool PlixDataItem::IsAppOnlyAction() const
 {
     for (const PlixDataItem* item = this; item; item = item->parent_.get()) {
-        if (!item->displayParam_.mobileOnlyCheck)
+        if (!item->mobileOnlyCheck_)
             return false;
-        const std::shared_ptr<ST_ACTION> action = item->GetAction();
-        if (!action)
+        if (!item->action_)
             continue;
-        if (OpensDesktop(*action))
+        if (item->action_->OpensDesktop())
             return false;
-        if (OpensMobileApp(*action))
+        if (item->action_->OpensMobileApp())
             return true;
     }
     return false;

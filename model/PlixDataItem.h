@@ -1,6 +1,8 @@
 #pragma once
 
+#include "model/PlixFieldTexts.h"
 #include "model/PlixItemKind.h"
+#include "model/PlixStoredAction.h"
 
 #include <plix/Plix.h>
 
@@ -25,14 +27,16 @@ public:
     // The index in the JSON array, which counts skipped elements, too.
     virtual int GetIndex() const;
     virtual void SetParent(std::shared_ptr<PlixDataItem> parent);
-    // Null if the JSON has no action.
+    // Null if the JSON has no action. Later calls return the same record only as
+    // long as somebody holds it.
     virtual std::shared_ptr<ST_ACTION> GetAction() const;
 
     std::shared_ptr<PlixDataItem> GetParent() const { return parent_; }
-    void SetAction(std::shared_ptr<ST_ACTION> action);
+    void SetAction(const std::shared_ptr<ST_ACTION>& action);
 
-    // The host's settings that apply to this item.
-    void SetAttributes(const PlixDisplayParam& param) { displayParam_ = param; }
+    // The host's settings. An item needs one of them; the graphics items read the
+    // others from the controller.
+    void SetAttributes(const PlixDisplayParam& param) { mobileOnlyCheck_ = param.mobileOnlyCheck; }
 
     // Whether the nearest action with a link, the item's own or an ancestor's,
     // opens mobile apps only. False if the host has turned this check off.
@@ -41,10 +45,12 @@ public:
 protected:
     explicit PlixDataItem(PlixItemKind kind);
 
+    PlixFieldTexts fields_;
+
 private:
-    int kind_;
     std::shared_ptr<PlixDataItem> parent_;
+    std::unique_ptr<const PlixStoredAction> action_;
     int index_ = 0;
-    std::shared_ptr<ST_ACTION> action_;
-    PlixDisplayParam displayParam_;
+    int kind_;
+    bool mobileOnlyCheck_ = true;
 };

@@ -23,7 +23,7 @@ bool PlixDataItemCommon::IsAbsolute() const
     std::shared_ptr<PlixDataItem> parent;
     for (const PlixDataItemCommon* item = this; item;
          item = dynamic_cast<const PlixDataItemCommon*>(parent.get())) {
-        if (item->position_ == "absolute")
+        if (item->fields_.View(PlixField::Position) == "absolute")
             return true;
         parent = item->GetParent();
     }

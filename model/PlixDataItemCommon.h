@@ -3,6 +3,7 @@
 #include "model/PlixDataItem.h"
 
 #include <string>
+#include <string_view>
 
 // The layout properties that box, text, image, icon and button share. Values are
 // stored as in the JSON, and converted to pixels when the card is built.
@@ -19,23 +20,23 @@ public:
     // Whether the item or one of the boxes around it has an absolute position.
     bool IsAbsolute() const;
 
-    std::string GetMargin() const { return margin_; }
-    void SetMargin(const std::string& margin) { margin_ = margin; }
+    std::string GetMargin() const { return fields_.Get(PlixField::Margin); }
+    void SetMargin(std::string_view margin) { fields_.Set(PlixField::Margin, margin); }
 
-    std::string GetPosition() const { return position_; }
-    void SetPosition(const std::string& position) { position_ = position; }
+    std::string GetPosition() const { return fields_.Get(PlixField::Position, "relative"); }
+    void SetPosition(std::string_view position) { fields_.Set(PlixField::Position, position); }
 
-    std::string GetOffsetTop() const { return offsetTop_; }
-    void SetOffsetTop(const std::string& offset) { offsetTop_ = offset; }
+    std::string GetOffsetTop() const { return fields_.Get(PlixField::OffsetTop); }
+    void SetOffsetTop(std::string_view offset) { fields_.Set(PlixField::OffsetTop, offset); }
 
-    std::string GetOffsetBottom() const { return offsetBottom_; }
-    void SetOffsetBottom(const std::string& offset) { offsetBottom_ = offset; }
+    std::string GetOffsetBottom() const { return fields_.Get(PlixField::OffsetBottom); }
+    void SetOffsetBottom(std::string_view offset) { fields_.Set(PlixField::OffsetBottom, offset); }
 
-    std::string GetOffsetStart() const { return offsetStart_; }
-    void SetOffsetStart(const std::string& offset) { offsetStart_ = offset; }
+    std::string GetOffsetStart() const { return fields_.Get(PlixField::OffsetStart); }
+    void SetOffsetStart(std::string_view offset) { fields_.Set(PlixField::OffsetStart, offset); }
 
-    std::string GetOffsetEnd() const { return offsetEnd_; }
-    void SetOffsetEnd(const std::string& offset) { offsetEnd_ = offset; }
+    std::string GetOffsetEnd() const { return fields_.Get(PlixField::OffsetEnd); }
+    void SetOffsetEnd(std::string_view offset) { fields_.Set(PlixField::OffsetEnd, offset); }
 
 protected:
     using PlixDataItem::PlixDataItem;
@@ -43,10 +44,4 @@ protected:
 private:
     int grow_ = 1;
     bool growIsDefault_ = true;
-    std::string margin_;
-    std::string position_ = "relative";
-    std::string offsetTop_;
-    std::string offsetBottom_;
-    std::string offsetStart_;
-    std::string offsetEnd_;
 };

@@ -3,6 +3,7 @@
 #include "model/PlixDataItem.h"
 
 #include <string>
+#include <string_view>
 
 class PlixDataSeparator : public PlixDataItem {
 public:
@@ -10,13 +11,11 @@ public:
 
     int GetGrow() const override { return 0; }
 
-    std::string GetMargin() const { return margin_; }
-    void SetMargin(const std::string& margin) { margin_ = margin; }
+    std::string GetMargin() const { return fields_.Get(PlixField::Margin); }
+    void SetMargin(std::string_view margin) { fields_.Set(PlixField::Margin, margin); }
 
-    std::string GetColor() const { return color_; }
-    void SetColor(const std::string& color) { color_ = color; }
+    std::string GetColor() const { return fields_.Get(PlixField::Color); }
+    void SetColor(std::string_view color) { fields_.Set(PlixField::Color, color); }
 
 private:
-    std::string margin_;
-    std::string color_;
 };

@@ -9,5 +9,5 @@ PlixDataSpacer::PlixDataSpacer()
 
 float PlixDataSpacer::GetSizePixels() const
 {
-    return static_cast<float>(plix::ToSpacerPixels(size_));
+    return static_cast<float>(plix::ToSpacerPixels(GetSize()));
 }

@@ -3,6 +3,7 @@
 #include "model/PlixDataItem.h"
 
 #include <string>
+#include <string_view>
 
 // Empty space of a fixed size.
 class PlixDataSpacer : public PlixDataItem {
@@ -13,9 +14,8 @@ public:
     // The size in pixels, by its size word.
     virtual float GetSizePixels() const;
 
-    std::string GetSize() const { return size_; }
-    void SetSize(const std::string& size) { size_ = size; }
+    std::string GetSize() const { return fields_.Get(PlixField::Size); }
+    void SetSize(std::string_view size) { fields_.Set(PlixField::Size, size); }
 
 private:
-    std::string size_;
 };

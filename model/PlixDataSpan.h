@@ -1,41 +1,48 @@
 #pragma once
 
 #include "layout/PlixStyleValues.h"
+#include "model/PlixFieldTexts.h"
+#include "model/PlixRareValue.h"
 
 #include <plix/Plix.h>
 
 #include <string>
+#include <string_view>
 
 // A part of a text with its own style.
 class PlixDataSpan {
 public:
-    std::string GetText() const { return text_; }
-    void SetText(const std::string& text) { text_ = text; }
+    std::string GetText() const { return fields_.Get(PlixField::Text); }
+    void SetText(std::string_view text) { fields_.Set(PlixField::Text, text); }
 
-    std::string GetSize() const { return size_; }
-    void SetSize(const std::string& size) { size_ = size; }
+    std::string GetSize() const { return fields_.Get(PlixField::Size); }
+    void SetSize(std::string_view size) { fields_.Set(PlixField::Size, size); }
 
-    std::string GetColor() const { return color_; }
-    void SetColor(const std::string& color) { color_ = plix::RgbaToArgb(color); }
+    std::string GetColor() const { return fields_.Get(PlixField::Color); }
+    void SetColor(std::string_view color)
+    {
+        fields_.Set(PlixField::Color, plix::RgbaToArgb(color));
+    }
 
-    std::string GetWeight() const { return weight_; }
-    void SetWeight(const std::string& weight) { weight_ = weight; }
+    std::string GetWeight() const { return fields_.Get(PlixField::Weight); }
+    void SetWeight(std::string_view weight) { fields_.Set(PlixField::Weight, weight); }
 
-    std::string GetStyle() const { return style_; }
-    void SetStyle(const std::string& style) { style_ = style; }
+    std::string GetStyle() const { return fields_.Get(PlixField::Style); }
+    void SetStyle(std::string_view style) { fields_.Set(PlixField::Style, style); }
 
-    std::string GetDecoration() const { return decoration_; }
-    void SetDecoration(const std::string& decoration) { decoration_ = decoration; }
+    std::string GetDecoration() const { return fields_.Get(PlixField::Decoration); }
+    void SetDecoration(std::string_view decoration)
+    {
+        fields_.Set(PlixField::Decoration, decoration);
+    }
 
-    const PlixLanguageMap& GetTexts() const { return texts_; }
-    void SetText(const std::string& code, const std::string& text) { texts_.texts[code] = text; }
+    const PlixLanguageMap& GetTexts() const { return texts_.Get(); }
+    void SetText(const std::string& code, std::string_view text)
+    {
+        texts_.Make().texts[code] = text;
+    }
 
 private:
-    std::string text_;
-    std::string size_;
-    std::string color_;
-    std::string weight_;
-    std::string style_;
-    std::string decoration_;
-    PlixLanguageMap texts_;
+    PlixFieldTexts fields_;
+    PlixRareValue<PlixLanguageMap> texts_;
 };

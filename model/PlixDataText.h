@@ -3,39 +3,47 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataItemCommon.h"
 #include "model/PlixDataSpan.h"
+#include "model/PlixRareValue.h"
 
 #include <plix/Plix.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 class PlixDataText : public PlixDataItemCommon {
 public:
     PlixDataText();
 
-    std::string GetText() const { return text_; }
-    void SetText(const std::string& text) { text_ = text; }
+    std::string GetText() const { return fields_.Get(PlixField::Text); }
+    void SetText(std::string_view text) { fields_.Set(PlixField::Text, text); }
 
-    std::string GetWeight() const { return weight_; }
-    void SetWeight(const std::string& weight) { weight_ = weight; }
+    std::string GetWeight() const { return fields_.Get(PlixField::Weight); }
+    void SetWeight(std::string_view weight) { fields_.Set(PlixField::Weight, weight); }
 
-    std::string GetSize() const { return size_; }
-    void SetSize(const std::string& size) { size_ = size; }
+    std::string GetSize() const { return fields_.Get(PlixField::Size); }
+    void SetSize(std::string_view size) { fields_.Set(PlixField::Size, size); }
 
-    std::string GetColor() const { return color_; }
-    void SetColor(const std::string& color) { color_ = plix::RgbaToArgb(color); }
+    std::string GetColor() const { return fields_.Get(PlixField::Color); }
+    void SetColor(std::string_view color)
+    {
+        fields_.Set(PlixField::Color, plix::RgbaToArgb(color));
+    }
 
-    std::string GetStyle() const { return style_; }
-    void SetStyle(const std::string& style) { style_ = style; }
+    std::string GetStyle() const { return fields_.Get(PlixField::Style); }
+    void SetStyle(std::string_view style) { fields_.Set(PlixField::Style, style); }
 
-    std::string GetDecoration() const { return decoration_; }
-    void SetDecoration(const std::string& decoration) { decoration_ = decoration; }
+    std::string GetDecoration() const { return fields_.Get(PlixField::Decoration); }
+    void SetDecoration(std::string_view decoration)
+    {
+        fields_.Set(PlixField::Decoration, decoration);
+    }
 
-    std::string GetAlign() const { return align_; }
-    void SetAlign(const std::string& align) { align_ = align; }
+    std::string GetAlign() const { return fields_.Get(PlixField::Align); }
+    void SetAlign(std::string_view align) { fields_.Set(PlixField::Align, align); }
 
-    std::string GetGravity() const { return gravity_; }
-    void SetGravity(const std::string& gravity) { gravity_ = gravity; }
+    std::string GetGravity() const { return fields_.Get(PlixField::Gravity); }
+    void SetGravity(std::string_view gravity) { fields_.Set(PlixField::Gravity, gravity); }
 
     bool GetWrap() const { return wrap_; }
     void SetWrap(bool wrap) { wrap_ = wrap; }
@@ -43,29 +51,26 @@ public:
     int GetMaxLines() const { return maxLines_; }
     void SetMaxLines(int lines) { maxLines_ = lines; }
 
-    const PlixLanguageMap& GetTexts() const { return texts_; }
-    void SetText(const std::string& code, const std::string& text) { texts_.texts[code] = text; }
+    const PlixLanguageMap& GetTexts() const { return texts_.Get(); }
+    void SetText(const std::string& code, std::string_view text)
+    {
+        texts_.Make().texts[code] = text;
+    }
 
-    const std::vector<PlixDataSpan>& GetSpans() const { return spans_; }
+    const std::vector<PlixDataSpan>& GetSpans() const { return spans_.Get(); }
     // Appends an empty span. The reference is valid until the next call.
-    PlixDataSpan& AddSpan() { return spans_.emplace_back(); }
+    PlixDataSpan& AddSpan() { return spans_.Make().emplace_back(); }
+    // Frees what the list has reserved for more spans.
+    void EndSpans() { spans_.Make().shrink_to_fit(); }
 
     // The font size in pixels, set when the text is built.
     int GetPixelSize() const { return pixelSize_; }
     void SetPixelSize(int size) { pixelSize_ = size; }
 
 private:
-    std::string text_;
-    std::string weight_;
-    std::string size_;
-    std::string color_;
-    std::string style_;
-    std::string decoration_;
-    std::string align_;
-    std::string gravity_;
     bool wrap_ = false;
     int maxLines_ = 0;
-    PlixLanguageMap texts_;
-    std::vector<PlixDataSpan> spans_;
+    PlixRareValue<PlixLanguageMap> texts_;
+    PlixRareValue<std::vector<PlixDataSpan>> spans_;
     int pixelSize_ = 16;
 };

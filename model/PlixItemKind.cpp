@@ -21,7 +21,7 @@ constexpr std::array kTypeWords =
 
 } // namespace
 
-PlixItemKind ToItemKind(const std::string& word)
+PlixItemKind ToItemKind(std::string_view word)
 {
     return FindKeyword(kTypeWords, word).value_or(PlixKindNone);
 }

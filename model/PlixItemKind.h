@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include <string_view>
 
 // The kinds of data items. The factories and the reader use these numbers as keys.
 enum PlixItemKind : int {
@@ -19,6 +19,6 @@ enum PlixItemKind : int {
 namespace plix {
 
 // The kind that a "type" word names, PlixKindNone for any other word.
-PlixItemKind ToItemKind(const std::string& word);
+PlixItemKind ToItemKind(std::string_view word);
 
 } // namespace plix

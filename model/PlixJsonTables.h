@@ -37,9 +37,10 @@ template <typename Item> constexpr PlixJsonKey<Item> ActionKey()
             [](PlixJsonDataParse& parse, const PlixJsonMember& member, Item& item) {
                 if (member.value.isNull())
                     return;
-                auto action = std::make_shared<ST_ACTION>();
+                // Not make_shared(), see PlixStoredAction::GetRecord().
+                const std::shared_ptr<ST_ACTION> action = std::make_unique<ST_ACTION>();
                 parse.ParseAction(member, *action);
-                item.SetAction(std::move(action));
+                item.SetAction(action);
             }};
 }
 
@@ -50,8 +51,8 @@ template <typename Target> constexpr PlixJsonKey<Target> TextsKey()
             [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
                 const Json::Value& texts = RequireObject(member);
                 for (const char* code : {"ko", "ja", "en", "zh-CN", "zh-TW", "default"}) {
-                    if (texts.isMember(code))
-                        target.SetText(code, ToString({code, texts[code]}));
+                    if (const Json::Value* text = FindMember(texts, code))
+                        target.SetText(code, ToString({code, *text}));
                 }
             }};
 }
@@ -164,14 +165,18 @@ inline constexpr auto kBoxContentsKeys = std::to_array<PlixJsonKey<PlixDataBox>>
     {"contents", PlixJsonType::Array,
      [](PlixJsonDataParse& parse, const PlixJsonMember& member, PlixDataBox& box) {
          const Json::Value& contents = RequireArray(member);
-         for (Json::ArrayIndex i = 0; i < contents.size(); ++i)
-             parse.AddComponent(contents[i], static_cast<int>(i), *box.GetContainer());
+         PlixDataContainer& children = *box.GetContainer();
+         children.Reserve(contents.size());
+         int index = 0;
+         for (const Json::Value& node : contents)
+             parse.AddComponent(node, index++, children);
+         children.ShrinkToFit();
      }},
 });
 
 inline constexpr auto kSpanKeys = std::to_array<PlixJsonKey<PlixDataSpan>>({
     StringKey<PlixDataSpan,
-              static_cast<void (PlixDataSpan::*)(const std::string&)>(&PlixDataSpan::SetText)>(
+              static_cast<void (PlixDataSpan::*)(std::string_view)>(&PlixDataSpan::SetText)>(
         "text"),
     StringKey<PlixDataSpan, &PlixDataSpan::SetSize>("size"),
     StringKey<PlixDataSpan, &PlixDataSpan::SetColor>("color"),
@@ -184,7 +189,7 @@ inline constexpr auto kSpanKeys = std::to_array<PlixJsonKey<PlixDataSpan>>({
 inline constexpr auto kTextKeys = JoinKeys(
     std::to_array<PlixJsonKey<PlixDataText>>({
         StringKey<PlixDataText,
-                  static_cast<void (PlixDataText::*)(const std::string&)>(&PlixDataText::SetText)>(
+                  static_cast<void (PlixDataText::*)(std::string_view)>(&PlixDataText::SetText)>(
             "text"),
         StringKey<PlixDataText, &PlixDataText::SetWeight>("weight"),
         StringKey<PlixDataText, &PlixDataText::SetSize>("size"),
@@ -206,6 +211,7 @@ inline constexpr auto kTextKeys = JoinKeys(
                      continue;
                  ReadKeys(kSpanKeys, parse, node, text.AddSpan());
              }
+             text.EndSpans();
          }},
         ActionKey<PlixDataText>(),
     }));

@@ -7,6 +7,14 @@
 
 namespace {
 
+std::string_view TextOf(const Json::Value& string)
+{
+    const char* begin = nullptr;
+    const char* end = nullptr;
+    string.getString(&begin, &end);
+    return {begin, static_cast<std::size_t>(end - begin)};
+}
+
 // Escaped here already: the text of an exception would end at a zero byte.
 std::string Quoted(std::string_view text)
 {
@@ -34,7 +42,7 @@ std::string Describe(const Json::Value& value)
     case Json::realValue:
         return "the number " + ToDigits(value.asDouble());
     case Json::stringValue:
-        return "the string " + Quoted(value.asString());
+        return "the string " + Quoted(TextOf(value));
     case Json::arrayValue:
         return "an array";
     case Json::objectValue:
@@ -51,7 +59,7 @@ PlixJsonTypeError::PlixJsonTypeError(const PlixJsonMember& member, const char* n
 {
 }
 
-std::string plix::ToString(const PlixJsonMember& member)
+std::string_view plix::ToString(const PlixJsonMember& member)
 {
     switch (member.value.type()) {
     case Json::nullValue:
@@ -59,7 +67,7 @@ std::string plix::ToString(const PlixJsonMember& member)
     case Json::booleanValue:
         return member.value.asBool() ? "true" : "false";
     case Json::stringValue:
-        return member.value.asString();
+        return TextOf(member.value);
     default:
         throw PlixJsonTypeError(member, "a string");
     }
@@ -81,7 +89,7 @@ int plix::ToInteger(const PlixJsonMember& member)
 bool plix::ToBoolean(const PlixJsonMember& member)
 {
     if (member.value.isString())
-        return !member.value.asString().empty();
+        return !TextOf(member.value).empty();
     if (member.value.isArray() || member.value.isObject())
         return !member.value.empty();
     return member.value.asBool();
@@ -108,9 +116,13 @@ std::string_view plix::MemberName(const Json::ValueConstIterator& member)
     return {start, static_cast<std::size_t>(end - start)};
 }
 
-std::string plix::TypeWord(const Json::Value& node)
+const Json::Value* plix::FindMember(const Json::Value& object, std::string_view name)
 {
-    if (!node.isObject() || !node["type"].isString())
-        return {};
-    return node["type"].asString();
+    return object.find(name.data(), name.data() + name.size());
+}
+
+std::string_view plix::TypeWord(const Json::Value& node)
+{
+    const Json::Value* const type = node.isObject() ? FindMember(node, "type") : nullptr;
+    return type && type->isString() ? TextOf(*type) : std::string_view();
 }

@@ -3,7 +3,6 @@
 #include <json/value.h>
 
 #include <stdexcept>
-#include <string>
 #include <string_view>
 
 // A member of a JSON object, with its name for error messages. It owns neither.
@@ -25,8 +24,9 @@ namespace plix {
 // not a string, and every value is a boolean. null counts as not given. They throw
 // PlixJsonTypeError for a value that they cannot convert.
 
-// A string; "true" or "false" for a boolean; empty for null.
-std::string ToString(const PlixJsonMember& member);
+// A string; "true" or "false" for a boolean; empty for null. Valid as long as the
+// value.
+std::string_view ToString(const PlixJsonMember& member);
 
 // A number without its fraction, if it is in the range of int; 0 or 1 for a
 // boolean; 0 for null.
@@ -40,12 +40,15 @@ bool ToBoolean(const PlixJsonMember& member);
 const Json::Value& RequireObject(const PlixJsonMember& member);
 const Json::Value& RequireArray(const PlixJsonMember& member);
 
+// The member of an object; null if there is none.
+const Json::Value* FindMember(const Json::Value& object, std::string_view name);
+
 // The name of the member of an object that an iterator is at. Valid as long as the
 // object.
 std::string_view MemberName(const Json::ValueConstIterator& member);
 
 // The "type" word of a component. Empty if `node` is not an object or its "type" is
-// not a string.
-std::string TypeWord(const Json::Value& node);
+// not a string. Valid as long as `node`.
+std::string_view TypeWord(const Json::Value& node);
 
 } // namespace plix

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 // The style of a zone, from the key "styles".
 struct PlixZoneStyle {
@@ -8,7 +9,7 @@ struct PlixZoneStyle {
     bool separator = false;
     std::string separatorColor;
 
-    void SetBackgroundColor(const std::string& color) { backgroundColor = color; }
+    void SetBackgroundColor(std::string_view color) { backgroundColor = color; }
     void SetSeparator(bool on) { separator = on; }
-    void SetSeparatorColor(const std::string& color) { separatorColor = color; }
+    void SetSeparatorColor(std::string_view color) { separatorColor = color; }
 };

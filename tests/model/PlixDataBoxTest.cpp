@@ -20,7 +20,7 @@ TEST(PlixDataBox, PaddingsAreWordsPixelsOrPercent)
     };
     const struct {
         const char* name;
-        void (PlixDataBox::*set)(const std::string&);
+        void (PlixDataBox::*set)(std::string_view);
         PlixPadding (PlixDataBox::*get)() const;
     } edges[] = {
         {"all", &PlixDataBox::SetPaddingAll, &PlixDataBox::GetPaddingAll},
