@@ -59,22 +59,19 @@ private:
     QColor color_;
 };
 
-void setCallbacks(PlixDataController* card, ChatWindow& chat)
+void PLIX_CALL onClick(PlixDataController*, ST_ACTION& action, void* chat)
 {
-    const auto click = [](PlixDataController*, ST_ACTION& action, void* userData) {
-        static_cast<ChatWindow*>(userData)->act(action);
-    };
-    const auto mention = [](std::int64_t number, void* userData) {
-        static_cast<ChatWindow*>(userData)->showStatus(QStringLiteral("User %1").arg(number));
-    };
-    const auto download = [](PlixDataController*, const std::string& url, void* userData) {
-        auto& window = *static_cast<ChatWindow*>(userData);
-        return window.download(QString::fromStdString(url)).toStdString();
-    };
-    Plix_SetClickCallBack(card, click, &chat);
-    Plix_SetMentionHandleCallback(card, mention, &chat);
-    Plix_SetBotMentionHandleCallback(card, mention, &chat);
-    Plix_SetDownloadCallBack(card, download, &chat);
+    static_cast<ChatWindow*>(chat)->act(action);
+}
+
+void PLIX_CALL onMention(std::int64_t number, void* chat)
+{
+    static_cast<ChatWindow*>(chat)->showStatus(QStringLiteral("User %1").arg(number));
+}
+
+std::string PLIX_CALL onDownload(PlixDataController*, const std::string& url, void* chat)
+{
+    return static_cast<ChatWindow*>(chat)->download(QString::fromStdString(url)).toStdString();
 }
 
 } // namespace
@@ -163,7 +160,10 @@ private:
         display.markupEnabled = true;
         Plix_SetDisplayParam(card_, display);
         Plix_InitSetFrom(card_, message.isOwn ? 1 : 0);
-        setCallbacks(card_, chat);
+        Plix_SetClickCallBack(card_, &onClick, &chat);
+        Plix_SetMentionHandleCallback(card_, &onMention, &chat);
+        Plix_SetBotMentionHandleCallback(card_, &onMention, &chat);
+        Plix_SetDownloadCallBack(card_, &onDownload, &chat);
         Plix_InitData(card_, message.content.toStdString());
         bubble = Plix_CreateQGraphicsItem(card_);
     }
@@ -196,17 +196,14 @@ ChatWindow::ChatWindow(const QUrl& pictureServer)
             followsEnd_ = value == scrollBar_->maximum();
         arrange();
     });
+    setWindowTitle(QStringLiteral("Chat"));
     setCentralWidget(view_);
     addControls();
     addShortcuts();
     resize(480, 800);
 }
 
-ChatWindow::~ChatWindow()
-{
-    Plix_SetWiteLogCallback(nullptr);
-    Plix_SetMultiLangGetCallback(nullptr);
-}
+ChatWindow::~ChatWindow() = default;
 
 void ChatWindow::addControls()
 {
@@ -215,14 +212,16 @@ void ChatWindow::addControls()
     auto* const language = new QComboBox;
     language->addItems({QStringLiteral("en"), QStringLiteral("ko"), QStringLiteral("ja")});
     auto* const dark = new QCheckBox(QStringLiteral("&Dark"));
-    auto* const top = new QToolBar;
-    top->addWidget(search_);
-    top->addWidget(language);
-    top->addWidget(dark);
-    auto* const bottom = new QToolBar;
-    bottom->addWidget(input_);
-    addToolBar(Qt::TopToolBarArea, top);
-    addToolBar(Qt::BottomToolBarArea, bottom);
+    const auto addBar = [this](Qt::ToolBarArea area, const QList<QWidget*>& widgets) {
+        auto* const bar = new QToolBar;
+        bar->setMovable(false);
+        for (QWidget* widget : widgets)
+            bar->addWidget(widget);
+        addToolBar(area, bar);
+    };
+    addBar(Qt::TopToolBarArea, {search_, language, dark});
+    addBar(Qt::BottomToolBarArea, {input_});
+    statusBar()->setSizeGripEnabled(false);
     connect(search_, &QLineEdit::textChanged, this, &ChatWindow::highlight);
     connect(search_, &QLineEdit::returnPressed, this, &ChatWindow::findOlder);
     connect(language, &QComboBox::currentTextChanged, this, &ChatWindow::setLanguage);
@@ -242,8 +241,8 @@ void ChatWindow::addShortcuts()
     };
     add(QKeySequence::Find, [this] { search_->setFocus(); });
     add(Qt::Key_Escape, [this] { search_->clear(), input_->setFocus(); });
-    add(QKeySequence::ZoomIn, [this] { setZoom(zoom_ * 1.25); });
-    add(QKeySequence::ZoomOut, [this] { setZoom(zoom_ / 1.25); });
+    add(QKeySequence::ZoomIn, [this] { zoom_ = std::min(zoom_ * 1.25, 3.0), arrange(); });
+    add(QKeySequence::ZoomOut, [this] { zoom_ = std::max(zoom_ / 1.25, 0.5), arrange(); });
     add(Qt::Key_PageUp, [this] { scrollBar_->triggerAction(QScrollBar::SliderPageStepSub); });
     add(Qt::Key_PageDown, [this] { scrollBar_->triggerAction(QScrollBar::SliderPageStepAdd); });
 }
@@ -320,6 +319,7 @@ void ChatWindow::showMenu(const QPoint& place)
         return;
     const Row* const row = &rowAt(view_->mapToScene(place).y());
     auto* const menu = new QMenu(this);
+    menu->setPalette(palette());
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(QStringLiteral("&Copy message"),
                     [text = row->text()] { QApplication::clipboard()->setText(text); });
@@ -337,12 +337,6 @@ void ChatWindow::setLanguage(const QString& code)
     Plix_SetCurrentLanguage(code.toStdString());
     for (const auto& row : rows_)
         row->release();
-    arrange();
-}
-
-void ChatWindow::setZoom(double zoom)
-{
-    zoom_ = std::clamp(zoom, 0.5, 3.0);
     arrange();
 }
 

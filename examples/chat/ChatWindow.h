@@ -56,7 +56,6 @@ private:
     void say(const QString& text);
     void showMenu(const QPoint& place);
     void setLanguage(const QString& code);
-    void setZoom(double zoom);
     void highlight(const QString& words);
     void findOlder();
     // Builds the rows that are near the visible part, and places all rows.

@@ -18,6 +18,7 @@ public:
     explicit PictureServer(const QString& folder);
 
     QUrl url() const;
+    void setFolder(const QString& folder) { folder_.setPath(folder); }
     // Replies come up to this time after their requests, each after another time.
     void setSlowness(int milliseconds) { slowness_ = milliseconds; }
     // Holds all replies back, or sends them.

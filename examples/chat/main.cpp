@@ -4,12 +4,7 @@
 #include "ChatWindow.h"
 #include "PictureServer.h"
 
-#include <QApplication>
-#include <QCommandLineParser>
-#include <QDesktopServices>
-#include <QDir>
-#include <QFile>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <cstdlib>
 #include <iostream>
@@ -18,10 +13,10 @@ namespace {
 
 // The last messages of the conversation. Earlier ones are all the cards, over and over.
 const std::vector<std::pair<const char*, const char*>> kLastMessages = {
-    {"Tamsin", "Lunch tomorrow? The place at the old cinema is open again."},
+    {"Release Bot", "mentions.json"},
+    {"Tamsin", "Thanks! Lunch tomorrow? The place behind the cinema is open again."},
     {"Food Bot", "coffee_shop.json"},
     {nullptr, "See you there at one!"},
-    {"Release Bot", "mentions.json"},
 };
 
 QString readFile(const QString& path)
@@ -51,15 +46,33 @@ std::vector<ChatMessage> conversation(const QDir& cards, int length)
     return messages;
 }
 
-// Saves a picture of the window, with all its pictures, and ends the program.
+// The window as it is, and beside it a dark one that has found a word.
+QImage pictureOf(ChatWindow& window)
+{
+    const QPixmap light = window.grab();
+    window.findChild<QCheckBox*>()->setChecked(true);
+    auto* const search = window.findChild<QLineEdit*>();
+    search->setText(QStringLiteral("release"));
+    Q_EMIT search->returnPressed();
+    const QPixmap dark = window.grab();
+    constexpr int kGap = 24;
+    QImage picture(2 * light.width() + kGap, light.height(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.drawPixmap(0, 0, light);
+    painter.drawPixmap(light.width() + kGap, 0, dark);
+    return picture;
+}
+
+// Saves a picture of the window when its pictures have arrived, and ends the program.
 void takeScreenshot(ChatWindow& window, const QString& path)
 {
     auto* const timer = new QTimer(&window);
     QObject::connect(timer, &QTimer::timeout, &window, [&window, path] {
         if (!window.isLoadingPictures())
-            QCoreApplication::exit(window.grab().save(path) ? EXIT_SUCCESS : EXIT_FAILURE);
+            QCoreApplication::exit(pictureOf(window).save(path) ? EXIT_SUCCESS : EXIT_FAILURE);
     });
-    timer->start(200);
+    timer->start(100);
 }
 
 } // namespace

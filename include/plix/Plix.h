@@ -1,7 +1,8 @@
 // Plix - structured card messages for desktop chat clients.
 //
 // This is all a host needs: include it, link the `plix` shared library, and
-// you get one QGraphicsItem per card message.
+// you get one QGraphicsItem per card message. docs/host.md answers the questions
+// that hosts have, and examples/chat is a small chat window.
 //
 //     PlixDataController* card = Plix_CreateController();
 //     Plix_SetClickCallBack(card, &onClick, this);
@@ -32,11 +33,14 @@
 //             may slots that are connected to geometryChanged() of a card's
 //             items. An exception of a click or mention callback, of any type,
 //             propagates through the Qt event that caused it and is not
-//             logged. An exception while a card is built is logged, and costs
-//             only what was requested: the picture of a download, the wording,
-//             or the item that read its font or an emoji from the control
-//             support object. The library calls no function of the host while
-//             it paints a card.
+//             logged. An exception while a card is built is logged, with its
+//             what() if it is a std::exception. It costs only what was
+//             requested: the picture of a download, the wording, or the item
+//             that read its font or an emoji from the control support object.
+//             During other calls, exceptions of slots and of the control
+//             support object are ignored and not logged, and so is always what
+//             the log callback throws. The library calls no function of the
+//             host while it paints a card.
 //  Keyboard   Tab and Shift+Tab walk through everything in a card that can be
 //             clicked, in reading order, as QGraphicsScene does: give the view the
 //             focus policy Qt::TabFocus or more. Enter and Space click. A mouse click
@@ -159,7 +163,9 @@ using PlixClickCallback = void(PLIX_CALL*)(PlixDataController* controller, ST_AC
 // The file is read when the picture is painted, and again when it is painted in
 // another size, so it must stay while the card exists. Until the file exists, the
 // item shows its background. The item looks for the file each time it is painted.
-// When a download ends later, call update() on the item, or pass it the path:
+// When a download ends later, call update() on the card's root item. No size changes
+// when a picture arrives, so no new layout is needed. If the path was not known while
+// the card was built, pass it to the item now:
 //
 //     QMetaObject::invokeMethod(item->toGraphicsObject(), "OnFileArrived",
 //                               Q_ARG(QString, path));
@@ -210,6 +216,14 @@ PLIX_API PlixDataController* PLIX_CALL Plix_CreateController();
 // laid out and follows Plix_ModifyHeight and Plix_RefreshLayout, so call this
 // once for each controller.
 //
+// What was read for the card stays in memory until the process ends, also after the
+// item is deleted and the controller is freed: some hundred bytes for each element of
+// the card. So do not build cards again without need.
+//
+// The author of the card chooses its width. For a narrower window call setScale() on
+// the item, and Plix_SetDpi with the scale in it; clicks follow. A card without
+// anything to show has the height 0.
+//
 // The property "plainText" of the returned item has the whole card as text, for
 // notifications, for a search, or to copy the message: all texts and the labels of
 // buttons in reading order, one line per row, elided ones in full.
@@ -226,17 +240,21 @@ PLIX_API QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* c
 PLIX_API void PLIX_CALL Plix_Free(PlixDataController* controller);
 
 // Whether a click on `item`, which may be any item of a card, calls the click
-// callback. False for null and for items that do not belong to a card.
+// callback. False for null and for items that do not belong to a card. The result does
+// not depend on whether a callback is set, or on Plix_Free: an item that outlives its
+// controller still returns true, although clicks call nothing any more.
 PLIX_API bool PLIX_CALL Plix_HasAction(QGraphicsItem* item);
 
 // Reads a card message. A second call does not start again: it adds to what was
 // read before. For another message, create another controller.
 //
-// Returns 0 if the message was read. Returns 0, too, if it is not a bubble: then
-// nothing is read and nothing is logged. Returns -1 if reading the bubble failed,
+// Returns 0 if the message was read. Returns 0, too, if it is not a bubble, or not
+// JSON: then nothing is read and nothing is logged. Of a JSON text that breaks off or
+// has an error, what precedes the error is read, and 0 is returned. Returns -1 if
+// reading the bubble failed (a bad value of its own, or JSON of more than 1000 levels),
 // which is logged; what was read before the failure stays. A component that
 // cannot be read is logged and keeps what was read of it; the rest of the card is
-// read. Bad handle: 0.
+// read. To tell whether there is a card, look at the height of its item. Bad handle: 0.
 PLIX_API int PLIX_CALL Plix_InitData(PlixDataController* controller, const std::string& json);
 
 // Sets the sender of the message: 1 selects the colours of the user's own
@@ -295,8 +313,10 @@ PLIX_API int PLIX_CALL Plix_SetDisplayParam(PlixDataController* controller,
 PLIX_API void PLIX_CALL Plix_SetDownloadCallBack(PlixDataController* controller,
                                                  PlixDownloadCallback callback, void* userData);
 
-// Sets the number of device pixels per logical pixel; the default is 1.0. Images
-// and icons are scaled for it; the layout stays in logical pixels. Returns 0.
+// Sets the number of device pixels per logical pixel; the default is 1.0. If the item
+// is scaled, that is the device pixel ratio of the window times the scale. Images and
+// icons are scaled for it when they are painted next, so call update() on the root item;
+// the layout stays in logical pixels. Returns 0.
 PLIX_API int PLIX_CALL Plix_SetDpi(PlixDataController* controller, float dpi);
 
 // Highlights every occurrence of the words in the card's texts, ignoring case.

@@ -339,15 +339,45 @@ TEST_F(Chat, StaysAtTheEndWhenTheWindowChanges)
     }
 }
 
-TEST_F(Chat, ShowsPicturesSharpInEveryZoom)
+// How much the blue of neighbours differs, in the mean, from 0 to 255.
+double contrast(const QImage& image)
 {
-    show({card("coffee_shop.json")});
+    double sum = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 1; x < image.width(); ++x)
+            sum += std::abs(qBlue(image.pixel(x, y)) - qBlue(image.pixel(x - 1, y)));
+    }
+    return sum / (image.width() * image.height());
+}
+
+// A picture whose pixels are blue and black in turn.
+void writeFinePattern(const QString& path)
+{
+    QImage pattern(900, 600, QImage::Format_RGB32);
+    for (int y = 0; y < pattern.height(); ++y) {
+        for (int x = 0; x < pattern.width(); ++x)
+            pattern.setPixel(x, y, qRgb(0, 0, (x + y) % 2 * 255));
+    }
+    EXPECT_TRUE(pattern.save(path));
+}
+
+TEST_F(Chat, ShowsSharpPicturesWhenItIsZoomed)
+{
+    const QTemporaryDir folder;
+    writeFinePattern(folder.filePath(QStringLiteral("pattern.png")));
+    server.setFolder(folder.path());
+    show({{QStringLiteral("Bot"),
+           QStringLiteral(R"({"type": "bubble", "hero": {"type": "image", "size": "full",
+               "aspectRatio": "3:2", "url": "https://example.com/pattern.png"}})"),
+           true}});
     ASSERT_TRUE(waitForPictures());
-    const double width = itemOf(QStringLiteral("See the menu"))->sceneBoundingRect().width();
-    press(Qt::Key_Plus);
-    EXPECT_EQ(itemOf(QStringLiteral("See the menu"))->sceneBoundingRect().width(), 1.25 * width);
-    press(Qt::Key_Minus);
-    EXPECT_EQ(itemOf(QStringLiteral("See the menu"))->sceneBoundingRect().width(), width);
+    window.resize(1000, 800);
+    for (int i = 0; i < 8; ++i)
+        press(Qt::Key_Plus);
+    const QGraphicsItem& card = *view().items().last()->topLevelItem();
+    const QRect area = view().mapFromScene(card.sceneBoundingRect()).boundingRect();
+    EXPECT_NEAR(area.width(), 900, 1);
+    EXPECT_GT(contrast(shown().copy(area.adjusted(50, 50, -50, -50))), 200);
 }
 
 TEST_F(Chat, ChangesTheLanguageOfAllCards)

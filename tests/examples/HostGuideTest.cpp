@@ -138,6 +138,8 @@ TEST_F(HostGuide, ItemsOfAFreedCardKeepTheirActionsButCallNothing)
     view.click(place);
     EXPECT_EQ(clicks, 1);
     EXPECT_TRUE(Plix_HasAction(&leaf(*item)));
+    const HostCard withoutCallback(bubble(kClickable));
+    EXPECT_TRUE(Plix_HasAction(&leaf(*withoutCallback.item())));
     EXPECT_EQ(view.cursor(), Qt::PointingHandCursor);
     item->setEnabled(false);
     view.click(place);
@@ -177,6 +179,35 @@ TEST_F(HostGuide, AnExceptionOfAClickLeavesThroughTheMouseEvent)
         Plix_SetClickCallBack(controller, fail, nullptr);
     });
     EXPECT_THROW(click(*card.item(), centerOf(card)), std::runtime_error);
+}
+
+// An application that has lost its fonts.
+class NoFonts : public KestroControlSupport {
+public:
+    QString GetFontFamily() const override { throw std::runtime_error("no fonts"); }
+};
+
+TEST_F(HostGuide, AnExceptionOfTheFontObjectCostsAnItemOfABuildAndNothingElse)
+{
+    const HostCard before(bubble(text("a")));
+    NoFonts fonts;
+    EXPECT_EQ(Plix_SetKestroControlSupport(&fonts), 0);
+    EXPECT_EQ(pendingLogLines(), 0);
+    const HostCard card(bubble(text("a") + "," + kImage));
+    EXPECT_EQ(textOf(card), QString());
+    EXPECT_TRUE(hasContent(card));
+    EXPECT_NE(takeLogLine().find("no fonts"), std::string::npos);
+    EXPECT_EQ(pendingLogLines(), 0);
+    Plix_RefreshLayout(before.controller());
+    EXPECT_EQ(textOf(before), QStringLiteral("a"));
+}
+
+TEST_F(HostGuide, AnExceptionOfASlotIsIgnored)
+{
+    const HostCard card(bubble(text("a")));
+    followGeometry(card, [] { throw std::runtime_error("no room"); });
+    EXPECT_EQ(Plix_ModifyHeight(card.controller(), 300), 0);
+    EXPECT_EQ(Plix_ModifyHeight(card.controller(), 400), 0);
 }
 
 // ----- Pictures
