@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int kMaximumPictureBytes = 32 * 1024 * 1024;
+constexpr int kDownloadMilliseconds = 30'000;
 constexpr double kMargin = 12;
 constexpr double kNameHeight = 18;
 constexpr double kMaximumTextWidth = 320;
@@ -273,13 +274,15 @@ QString ChatWindow::download(const QString& url)
 {
     // A hash is a plain file name, whatever the URL contains.
     const QByteArray hash = QCryptographicHash::hash(url.toUtf8(), QCryptographicHash::Sha256);
-    const QString path = pictures_.filePath(QString::fromLatin1(hash.toHex()));
+    QString path = pictures_.filePath(QString::fromLatin1(hash.toHex()));
     if (QFile::exists(path) || loading_.contains(path))
         return path;
     loading_.insert(path);
     QUrl address = pictureServer_;
     address.setQuery(QStringLiteral("url=") + QString::fromLatin1(QUrl::toPercentEncoding(url)));
-    QNetworkReply* const reply = network_.get(QNetworkRequest(address));
+    QNetworkRequest request(address);
+    request.setTransferTimeout(kDownloadMilliseconds);
+    QNetworkReply* const reply = network_.get(request);
     connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 bytes) {
         if (bytes > kMaximumPictureBytes)
             reply->abort();

@@ -53,7 +53,8 @@ void PictureServer::release()
 void PictureServer::answer(QTcpSocket& socket)
 {
     // A request has no body: an empty line ends it.
-    if (!socket.peek(64 * 1024).endsWith("\r\n\r\n"))
+    constexpr qint64 kMaximumRequest = 65'536;
+    if (!socket.peek(kMaximumRequest).endsWith("\r\n\r\n"))
         return;
     const QString name = requestedName(socket.readAll());
     const auto reply = [this, name, client = QPointer<QTcpSocket>(&socket)] {

@@ -7,7 +7,8 @@
 #include <QtWidgets>
 
 #include <cstdlib>
-#include <iostream>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -31,7 +32,7 @@ std::vector<ChatMessage> conversation(const QDir& cards, int length)
     const QStringList names = cards.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
     const int earlier = names.isEmpty() ? 0 : length - static_cast<int>(kLastMessages.size());
     for (int i = 0; i < earlier; ++i) {
-        const QString name = names[i / 2 % names.size()];
+        const QString& name = names[i / 2 % names.size()];
         if (i % 2 == 0)
             messages.push_back({QStringLiteral("Maren"), QStringLiteral("%1. Look:").arg(i + 1)});
         else
