@@ -1,6 +1,6 @@
 // What docs/host.md tells hosts is true: its snippets, compiled as they are, and the sentences
 // around them.
-#include "HostGuide.h" // generated from docs/host.md
+#include "HostGuide.inc" // generated from docs/host.md
 
 #include "PlatformMessages.h"
 

@@ -9,8 +9,8 @@ namespace plix::test {
 // it says so when windows and popups open. All other messages go where they went before.
 class PlatformMessages {
 public:
-    PlatformMessages() { others_ = qInstallMessageHandler(&passOthersOn); }
-    ~PlatformMessages() { qInstallMessageHandler(others_); }
+    PlatformMessages() { others = qInstallMessageHandler(&passOthersOn); }
+    ~PlatformMessages() { qInstallMessageHandler(others); }
 
     PlatformMessages(const PlatformMessages&) = delete;
     PlatformMessages& operator=(const PlatformMessages&) = delete;
@@ -19,10 +19,10 @@ private:
     static void passOthersOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
     {
         if (!text.startsWith(QLatin1String("This plugin does not support ")))
-            others_(type, context, text);
+            others(type, context, text);
     }
 
-    static inline QtMessageHandler others_ = nullptr;
+    static inline QtMessageHandler others = nullptr;
 };
 
 } // namespace plix::test
