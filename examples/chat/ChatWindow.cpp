@@ -192,6 +192,10 @@ ChatWindow::ChatWindow(const QUrl& pictureServer)
     view_->setBackgroundRole(QPalette::Window);
     view_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(view_, &QWidget::customContextMenuRequested, this, &ChatWindow::showMenu);
+    connect(view_->scene(), &QGraphicsScene::focusItemChanged, this, [this](QGraphicsItem* item) {
+        if (item)
+            view_->ensureVisible(item); // what the Tab key has reached
+    });
     connect(scrollBar_, &QScrollBar::valueChanged, this, [this](int value) {
         if (!isArranging_)
             followsEnd_ = value == scrollBar_->maximum();

@@ -278,6 +278,20 @@ TEST_F(Chat, OpensLinksAndSaysSo)
     EXPECT_TRUE(input().hasFocus()) << "a click leaves the focus in the input line";
 }
 
+TEST_F(Chat, TakesTheKeyboardThroughTheCards)
+{
+    show({card("coffee_shop.json"), card("coffee_shop.json")});
+    view().setFocus(Qt::TabFocusReason);
+    for (int i = 0; i < 5; ++i) {
+        press(Qt::Key_Tab, Qt::NoModifier);
+        const QGraphicsItem* const item = view().scene()->focusItem();
+        ASSERT_NE(item, nullptr);
+        EXPECT_TRUE(view().viewport()->rect().contains(pixelOf(*item)));
+    }
+    press(Qt::Key_Return, Qt::NoModifier);
+    EXPECT_EQ(status(), "Opens https://example.com/bluebell/menu");
+}
+
 TEST_F(Chat, RefusesLinksThatAreNoPages)
 {
     QString json = readCard("coffee_shop.json");

@@ -5,6 +5,7 @@
 #include "PlatformMessages.h"
 
 #include "support/ExpectedLog.h"
+#include "support/Keyboard.h"
 #include "support/LiveView.h"
 #include "support/Mouse.h"
 
@@ -410,18 +411,63 @@ TEST_F(HostGuide, LogLinesCanNameTheirMessage)
 
 // ----- Popups, texts, links
 
-TEST_F(HostGuide, APopupOpensAtTheMouse)
+void pressAndRelease(QGraphicsView& view, const QPointF& place)
+{
+    const QPoint pixel = view.mapFromScene(place);
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, pixel, view.viewport()->mapToGlobal(pixel), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view.viewport(), &event);
+    }
+}
+
+TEST_F(HostGuide, APopupOpensAtTheMouseOrBelowWhatTheKeyboardHasClicked)
 {
     const PlatformMessages ignored;
-    QMenu menu;
     const auto card = cardInLanguage("en", bubble(text(R"(<m user=\"7\">@Ann Lee</m>)")), false);
-    Plix_SetMentionHandleCallback(card->controller(), &showProfile, &menu);
-    QCursor::setPos(200, 100);
+    QGraphicsScene scene;
+    scene.addItem(card->item());
+    HostView view(scene);
+    view.show();
+    QMenu menu;
+    ProfilePopup popup {&view, &menu};
+    Plix_SetMentionHandleCallback(card->controller(), &showProfile, &popup);
     const QRectF rect = leaf(*card->item()).sceneBoundingRect();
-    click(*card->item(), {rect.left() + 10, rect.center().y()});
+
+    QCursor::setPos(200, 100);
+    pressAndRelease(view, {rect.left() + 10, rect.center().y()});
     ASSERT_TRUE(menu.isVisible());
     EXPECT_EQ(menu.actions().first()->text(), QStringLiteral("Profile of user 7"));
     EXPECT_EQ(menu.pos(), QPoint(200, 100));
+    EXPECT_EQ(scene.focusItem(), nullptr) << "the mouse does not move the focus";
+    menu.close();
+
+    pressKey(view, Qt::Key_Tab);
+    ASSERT_NE(scene.focusItem(), nullptr);
+    const QPoint corner = view.mapFromScene(scene.focusItem()->sceneBoundingRect().bottomLeft());
+    pressKey(view, Qt::Key_Return);
+    ASSERT_TRUE(menu.isVisible());
+    EXPECT_EQ(menu.pos(), view.viewport()->mapToGlobal(corner));
+    menu.close();
+}
+
+TEST_F(HostGuide, TheFocusStaysInSight)
+{
+    const HostCard card(
+        bubble(text("high", R"("wrap": true, )") + ","
+               + R"({"type": "box", "layout": "vertical", "height": "900px", "contents": []},)"
+               + kClickable));
+    QGraphicsScene scene;
+    scene.addItem(card.item());
+    HostView view(scene);
+    view.resize(300, 300);
+    view.show();
+    view.verticalScrollBar()->setValue(0);
+    pressKey(view, Qt::Key_Tab);
+    ASSERT_NE(scene.focusItem(), nullptr);
+    EXPECT_TRUE(view.mapToScene(view.viewport()->rect())
+                    .boundingRect()
+                    .contains(scene.focusItem()->sceneBoundingRect()));
 }
 
 TEST_F(HostGuide, TheTextOfACardHasALinePerRow)
