@@ -29,6 +29,14 @@ ChatMessage card(const char* name)
     return {QStringLiteral("Bot"), readCard(name), true};
 }
 
+// A card that is an image.
+ChatMessage imageCard(const char* url)
+{
+    const QString json = QStringLiteral(R"({"type": "bubble", "hero": {"type": "image",
+        "size": "full", "aspectRatio": "3:2", "url": "%1"}})");
+    return {QStringLiteral("Bot"), json.arg(QLatin1String(url)), true};
+}
+
 ChatMessage plain(const QString& text)
 {
     return {QStringLiteral("Ann"), text};
@@ -47,29 +55,29 @@ class Chat : public testing::Test {
 protected:
     Chat()
     {
-        QObject::connect(&window, &ChatWindow::linkClicked,
-                         [this](const QUrl& url) { links += url.toString().toStdString() + ' '; });
+        QObject::connect(&window_, &ChatWindow::linkClicked,
+                         [this](const QUrl& url) { links_ += url.toString().toStdString() + ' '; });
     }
 
     ~Chat() override { Plix_SetCurrentLanguage("en"); }
 
     void show(const std::vector<ChatMessage>& messages)
     {
-        window.add(messages);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        window_.add(messages);
+        window_.show();
+        QApplication::setActiveWindow(&window_);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
     }
 
-    QGraphicsView& view() { return *window.findChild<QGraphicsView*>(); }
+    QGraphicsView& view() { return *window_.findChild<QGraphicsView*>(); }
     QScrollBar& scrollBar() { return *view().verticalScrollBar(); }
     QLineEdit& input() { return line("Write a message"); }
     QLineEdit& search() { return line("Search"); }
-    std::string status() { return window.statusBar()->currentMessage().toStdString(); }
+    std::string status() { return window_.statusBar()->currentMessage().toStdString(); }
 
     QLineEdit& line(const char* placeholder)
     {
-        for (QLineEdit* edit : window.findChildren<QLineEdit*>()) {
+        for (QLineEdit* edit : window_.findChildren<QLineEdit*>()) {
             if (edit->placeholderText() == QLatin1String(placeholder))
                 return *edit;
         }
@@ -120,15 +128,15 @@ protected:
 
     bool waitForPictures()
     {
-        return QTest::qWaitFor([this] { return !window.isLoadingPictures(); });
+        return QTest::qWaitFor([this] { return !window_.isLoadingPictures(); });
     }
 
     QImage shown() { return view().viewport()->grab().toImage(); }
 
-    const PlatformMessages platform;
-    PictureServer server {QStringLiteral(PLIX_IMAGES)};
-    ChatWindow window {server.url()};
-    std::string links;
+    const PlatformMessages platform_;
+    PictureServer server_ {QStringLiteral(PLIX_IMAGES)};
+    ChatWindow window_ {server_.url()};
+    std::string links_;
 };
 
 // ----- Messages
@@ -214,12 +222,13 @@ TEST_F(Chat, CopiesAndDeletesAMessageByItsMenu)
 
 TEST_F(Chat, ShowsPicturesThatArriveLateInPlace)
 {
-    server.hold();
+    server_.hold();
     show({card("coffee_shop.json")});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return server.held() == 6; })); // all at once
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return server_.held() == 6; })); // Qt sends no more at once
     const QRectF place = itemOf(QStringLiteral("Bluebell Coffee"))->sceneBoundingRect();
     const QImage before = shown();
-    server.release();
+    server_.release();
     ASSERT_TRUE(waitForPictures());
     EXPECT_NE(shown(), before);
     EXPECT_EQ(itemOf(QStringLiteral("Bluebell Coffee"))->sceneBoundingRect(), place);
@@ -227,43 +236,46 @@ TEST_F(Chat, ShowsPicturesThatArriveLateInPlace)
 
 TEST_F(Chat, DownloadsAPictureOnce)
 {
-    server.hold();
+    server_.hold();
     show({card("coffee_shop.json"), card("coffee_shop.json"), card("coffee_shop.json")});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return server.held() == 6; }));
-    server.release();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return server_.held() == 6; }));
+    server_.release();
     ASSERT_TRUE(waitForPictures());
-    window.add({card("coffee_shop.json")});
-    EXPECT_FALSE(window.isLoadingPictures());
+    window_.add({card("coffee_shop.json")});
+    EXPECT_FALSE(window_.isLoadingPictures());
 }
 
 TEST_F(Chat, SaysThatAPictureFailed)
 {
-    server.breakOff(QStringLiteral("coffee.png"));
-    show({card("coffee_shop.json")});
+    server_.breakOff(QStringLiteral("album.png"));
+    show({imageCard("https://example.com/album.png")});
     ASSERT_TRUE(waitForPictures());
-    EXPECT_EQ(status(), "No picture: https://example.com/img/coffee.png");
+    EXPECT_EQ(status(), "No picture: https://example.com/album.png");
+    window_.add({imageCard("https://example.com/none.png")});
+    ASSERT_TRUE(waitForPictures());
+    EXPECT_EQ(status(), "No picture: https://example.com/none.png");
 }
 
 TEST_F(Chat, MayDeleteACardBeforeItsPicturesArrive)
 {
-    server.hold();
+    server_.hold();
     show({card("coffee_shop.json")});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return server.held() == 6; }));
-    window.findChild<QComboBox*>()->setCurrentIndex(1);
-    server.release();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return server_.held() == 6; }));
+    window_.findChild<QComboBox*>()->setCurrentIndex(1);
+    server_.release();
     EXPECT_TRUE(waitForPictures());
 }
 
 TEST_F(Chat, MayBeClosedBeforePicturesArrive)
 {
-    server.hold();
+    server_.hold();
     {
-        ChatWindow other(server.url());
+        ChatWindow other(server_.url());
         other.add({card("coffee_shop.json")});
         other.show();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return server.held() == 6; }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return server_.held() == 6; }));
     }
-    server.release();
+    server_.release();
     QApplication::processEvents();
 }
 
@@ -273,7 +285,7 @@ TEST_F(Chat, OpensLinksAndSaysSo)
 {
     show({card("coffee_shop.json")});
     click(QStringLiteral("See the menu"));
-    EXPECT_EQ(links, "https://example.com/bluebell/menu ");
+    EXPECT_EQ(links_, "https://example.com/bluebell/menu ");
     EXPECT_EQ(status(), "Opens https://example.com/bluebell/menu");
     EXPECT_TRUE(input().hasFocus()) << "a click leaves the focus in the input line";
 }
@@ -304,7 +316,7 @@ TEST_F(Chat, RefusesLinksThatAreNoPages)
     EXPECT_EQ(status(), "Refused: file:///etc/passwd");
     click(QStringLiteral("Show on the map"));
     EXPECT_EQ(status(), "Refused: https://bank.example@evil.example");
-    EXPECT_EQ(links, "");
+    EXPECT_EQ(links_, "");
 }
 
 TEST_F(Chat, NamesMentionedUsers)
@@ -336,7 +348,7 @@ TEST_F(Chat, MakesCardsSmallerInANarrowWindow)
 {
     show({card("coffee_shop.json")});
     const double width = itemOf(QStringLiteral("See the menu"))->sceneBoundingRect().width();
-    window.resize(260, 800);
+    window_.resize(260, 800);
     QGraphicsItem& button = *itemOf(QStringLiteral("See the menu"));
     EXPECT_LT(button.sceneBoundingRect().width(), 0.8 * width);
     EXPECT_TRUE(view().sceneRect().contains(button.topLevelItem()->sceneBoundingRect()));
@@ -348,7 +360,7 @@ TEST_F(Chat, StaysAtTheEndWhenTheWindowChanges)
 {
     show(std::vector<ChatMessage>(50, card("coffee_shop.json")));
     for (const QSize& size : {QSize(260, 400), QSize(900, 300), QSize(480, 900)}) {
-        window.resize(size);
+        window_.resize(size);
         EXPECT_EQ(scrollBar().value(), scrollBar().maximum());
     }
 }
@@ -379,13 +391,10 @@ TEST_F(Chat, ShowsSharpPicturesWhenItIsZoomed)
 {
     const QTemporaryDir folder;
     writeFinePattern(folder.filePath(QStringLiteral("pattern.png")));
-    server.setFolder(folder.path());
-    show({{QStringLiteral("Bot"),
-           QStringLiteral(R"({"type": "bubble", "hero": {"type": "image", "size": "full",
-               "aspectRatio": "3:2", "url": "https://example.com/pattern.png"}})"),
-           true}});
+    server_.setFolder(folder.path());
+    show({imageCard("https://example.com/pattern.png")});
     ASSERT_TRUE(waitForPictures());
-    window.resize(1000, 800);
+    window_.resize(1000, 800);
     for (int i = 0; i < 8; ++i)
         press(Qt::Key_Plus);
     const QGraphicsItem& card = *view().items().last()->topLevelItem();
@@ -398,7 +407,7 @@ TEST_F(Chat, ChangesTheLanguageOfAllCards)
 {
     show({card("languages.json")});
     ASSERT_TRUE(isVisible(QStringLiteral("Your books are due soon")));
-    auto* const language = window.findChild<QComboBox*>();
+    auto* const language = window_.findChild<QComboBox*>();
     language->setFocus();
     QTest::keyClick(language, Qt::Key_Down);
     EXPECT_TRUE(isVisible(QStringLiteral("반납일이 다가오고 있습니다")));
@@ -412,8 +421,8 @@ TEST_F(Chat, HasALightAndADarkLookAndLeavesCardsAsTheyAre)
     const QPoint beside = view().viewport()->rect().bottomRight() - QPoint(3, 3);
     const QPoint inCard = pixelOf(*itemOf(QStringLiteral("Subtotal")));
     const QImage light = shown();
-    QTest::keyClick(window.findChild<QCheckBox*>(), Qt::Key_Space);
-    ASSERT_TRUE(window.findChild<QCheckBox*>()->isChecked());
+    QTest::keyClick(window_.findChild<QCheckBox*>(), Qt::Key_Space);
+    ASSERT_TRUE(window_.findChild<QCheckBox*>()->isChecked());
     const QImage dark = shown();
     EXPECT_GT(light.pixelColor(beside).lightness(), 200);
     EXPECT_LT(dark.pixelColor(beside).lightness(), 80);
