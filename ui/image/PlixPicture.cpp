@@ -1,5 +1,6 @@
 #include "ui/image/PlixPicture.h"
 
+#include "ui/image/PlixDecodedPictures.h"
 #include "ui/image/PlixMovie.h"
 #include "ui/image/PlixMovieBudget.h"
 #include "ui/image/PlixPictureFile.h"
@@ -83,6 +84,7 @@ PlixPicture::PlixPicture(const QString& path)
 PlixPicture::~PlixPicture()
 {
     PlixScaledPictures::Remove(*this);
+    PlixDecodedPictures::Remove(*this);
     AllPictures().remove(fileName_);
 }
 
@@ -112,7 +114,7 @@ QImage PlixPicture::Scaled(const Fit& fit)
     QImage image = PlixScaledPictures::Find(*this, fit(size_));
     if (image.isNull()) {
         if (frame.isNull())
-            frame = movie_ ? movie_->Frame() : Open();
+            frame = Frame();
         // size_ may have changed: the file may have been replaced.
         const QSize target = frame.isNull() ? QSize() : fit(size_);
         if (target.isEmpty())
@@ -123,6 +125,14 @@ QImage PlixPicture::Scaled(const Fit& fit)
     if (movie_)
         movie_->MarkPainted();
     return image;
+}
+
+QImage PlixPicture::Frame()
+{
+    if (movie_)
+        return movie_->Frame();
+    const QImage decoded = PlixDecodedPictures::Find(*this);
+    return decoded.isNull() ? Open() : decoded;
 }
 
 QImage PlixPicture::Open()
@@ -140,7 +150,14 @@ QImage PlixPicture::Open()
     size_ = frame.size();
     if (movie->IsAnimated() && PlixMovieBudget::GetInstance().Join(*movie))
         Play(std::move(movie));
+    else if (!frame.isNull() && IsShared())
+        PlixDecodedPictures::Insert(*this, frame);
     return frame;
+}
+
+bool PlixPicture::IsShared() const
+{
+    return AllPictures().value(fileName_).use_count() > 1;
 }
 
 void PlixPicture::Play(std::unique_ptr<PlixMovie> movie)
@@ -162,5 +179,6 @@ void PlixPicture::Stop()
 void PlixPicture::OnFrameChanged()
 {
     PlixScaledPictures::Remove(*this);
+    PlixDecodedPictures::Remove(*this);
     Q_EMIT FrameChanged();
 }

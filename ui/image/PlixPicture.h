@@ -54,7 +54,11 @@ private:
 
     FileVersion CurrentVersion() const;
     void OpenAgainIfChanged();
+    // Decoded now or, if it is a still picture that other items show, just before.
+    QImage Frame();
     QImage Open();
+    // Whether several items show the picture.
+    bool IsShared() const;
     void Play(std::unique_ptr<PlixMovie> movie);
     void Stop();
     void OnFrameChanged();

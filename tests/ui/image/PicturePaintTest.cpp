@@ -5,6 +5,7 @@
 #include "ui/image/PlixPicturePainter.h"
 #include "ui/image/PlixPictureUI.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 #include <ostream>
@@ -402,6 +403,51 @@ TEST_F(PicturePaint, SharesAFileBetweenItems)
     QFile::remove(QString::fromStdString(path));
     EXPECT_EQ(second.at(50, 50), QColor(Qt::red)) << "this size is cached";
     EXPECT_NE(second.at(30, 130), QColor(Qt::red)) << "this size is not";
+}
+
+// Paints one item of a card only.
+QColor middleOf(QGraphicsItem& item)
+{
+    QImage image(300, 300, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    item.paint(&painter, nullptr, nullptr);
+    painter.end();
+    return image.pixelColor(item.boundingRect().center().toPoint());
+}
+
+TEST_F(PicturePaint, DecodesAFileOnceForAllSizes)
+{
+    const PictureFolder folder;
+    const std::string path = folder.write("a.png", pictureBytes(filled({50, 50}, Qt::red)));
+    const PictureCard card(image(path) + "," + image(path, R"("size": "xs",)"));
+    EXPECT_EQ(middleOf(card.item(0)), QColor(Qt::red));
+    QFile::remove(QString::fromStdString(path));
+    EXPECT_EQ(middleOf(card.item(1)), QColor(Qt::red));
+}
+
+TEST_F(PicturePaint, KeepsNoDecodedFileOnceControlReturnsToQt)
+{
+    const PictureFolder folder;
+    const std::string path = folder.write("a.png", pictureBytes(filled({50, 50}, Qt::red)));
+    const PictureCard card(image(path) + "," + image(path, R"("size": "xs",)"));
+    EXPECT_EQ(middleOf(card.item(0)), QColor(Qt::red));
+    QCoreApplication::sendPostedEvents();
+    QFile::remove(QString::fromStdString(path));
+    EXPECT_EQ(middleOf(card.item(0)), QColor(Qt::red)) << "this size is cached";
+    EXPECT_NE(middleOf(card.item(1)), QColor(Qt::red)) << "this size is not";
+}
+
+TEST_F(PicturePaint, KeepsNoDecodedFileThatArrivesAgain)
+{
+    const PictureFolder folder;
+    const std::string path = folder.write("a.png", pictureBytes(filled({50, 50}, Qt::red)));
+    const PictureCard card(image(path) + "," + image(path, R"("size": "xs",)"));
+    EXPECT_EQ(middleOf(card.item(0)), QColor(Qt::red));
+    folder.write("a.png", pictureBytes(filled({60, 60}, Qt::blue)));
+    auto& other = dynamic_cast<PlixPictureUI&>(card.item(1));
+    other.FileArrived(path);
+    EXPECT_EQ(middleOf(other), QColor(Qt::blue));
 }
 
 TEST_F(PicturePaint, ForgetsAFileWithoutItems)
