@@ -3,6 +3,8 @@
 #include <QPainterPath>
 #include <QRectF>
 
+class QPainter;
+
 namespace kestro {
 
 // Adds a rectangle to a clip path, but so that Qt does not recognise it as one.
@@ -11,5 +13,9 @@ namespace kestro {
 // clips of the painter are rectangles, too. So painting a part of an item could
 // show other pixels than painting all of it.
 void AddClipRectangle(QPainterPath& path, const QRectF& rect);
+
+// Whether the left and right edges of `rect` are between two columns of pixels of the
+// painter's device. Then a clip to them needs no path.
+bool HasSidesBetweenPixels(const QPainter& painter, const QRectF& rect);
 
 } // namespace kestro

@@ -309,12 +309,18 @@ void ShownLines::Draw(QPainter* painter, const QRectF& exposed, const QBrush& hi
     }
 }
 
+QRectF ShownLines::Ink() const
+{
+    QRectF ink;
+    for (const Line& line : lines_)
+        ink |= line.Ink();
+    return ink;
+}
+
 bool ShownLines::HasInkOutside(qreal width) const
 {
-    return std::any_of(lines_.begin(), lines_.end(), [width](const Line& line) {
-        const QRectF ink = line.Ink();
-        return ink.left() < 0 || ink.right() > width;
-    });
+    return std::any_of(lines_.begin(), lines_.end(),
+                       [width](const Line& line) { return line.HasInkOutside(width); });
 }
 
 std::vector<QRectF> ShownLines::GlyphRects(int start, int end) const
@@ -402,6 +408,40 @@ QRectF ShownLines::Line::Ink() const
             ink |= font.boundingRect(glyphs[i]).translated(positions[i] + origin);
     }
     return ink;
+}
+
+bool ShownLines::Line::HasInkOutside(qreal width) const
+{
+    if (rect.left() < 0 || rect.right() > width)
+        return true;
+    const QList<QGlyphRun> runs = line.glyphRuns();
+    return std::any_of(runs.begin(), runs.end(),
+                       [&](const QGlyphRun& run) { return HasInkOutside(run, width); });
+}
+
+// Measuring the ink of a glyph takes time: that of a coloured emoji is decoded first. So
+// only glyphs near the edges are measured.
+bool ShownLines::Line::HasInkOutside(const QGlyphRun& run, qreal width) const
+{
+    // Ink never reaches farther out of the place of the glyph in the line.
+    const qreal reach = rect.height();
+    const auto isInside = [&](qreal one, qreal other) {
+        return std::min(one, other) >= reach && std::max(one, other) <= width - reach;
+    };
+    const QRectF place = run.boundingRect().translated(origin);
+    if (isInside(place.left(), place.right()))
+        return false;
+    const QVector<quint32> glyphs = run.glyphIndexes();
+    const QVector<QPointF> positions = run.positions();
+    for (int i = 0; i < glyphs.size(); ++i) {
+        const QPointF start = positions[i] + origin;
+        if (i + 1 < glyphs.size() && isInside(start.x(), positions[i + 1].x() + origin.x()))
+            continue;
+        const QRectF ink = run.rawFont().boundingRect(glyphs[i]).translated(start);
+        if (ink.left() < 0 || ink.right() > width)
+            return true;
+    }
+    return false;
 }
 
 // Pictures have no glyphs, but the zero width space after each of them has one, at

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+class QGlyphRun;
 class QPainter;
 
 namespace kestro {
@@ -50,8 +51,12 @@ public:
     // Replaces the earlier highlight.
     void Highlight(const LaidOutText& text, const HighlightWords& words);
 
-    // Whether glyphs have ink (the pixels that they paint) left of 0 or right of
-    // `width`. This happens with slanted glyphs and with lines that are too wide.
+    // The rectangle of the lines and of the ink (the pixels that they paint) of their
+    // glyphs, which may reach out of their line.
+    QRectF Ink() const;
+
+    // Whether glyphs have ink left of 0 or right of `width`. This happens with slanted
+    // glyphs and with lines that are too wide.
     bool HasInkOutside(qreal width) const;
 
     // Draws the lines that may have ink in `exposed`. Highlighted text has
@@ -83,6 +88,8 @@ private:
 
         // The rectangle of the line and of the ink of its glyphs.
         QRectF Ink() const;
+        bool HasInkOutside(qreal width) const;
+        bool HasInkOutside(const QGlyphRun& run, qreal width) const;
         void AddGlyphRects(int start, int end, std::vector<QRectF>& rects) const;
         void AddPictureRects(const FormatRanges& pictures, int start, int end,
                              std::vector<QRectF>& rects) const;

@@ -63,16 +63,24 @@ qreal DocumentWidth(qreal width)
     return width == 0 ? kNaturalWidth : width;
 }
 
-// A clip path that cuts at the left and right edges of an item only, rounded out to
-// whole pixels.
-QPainterPath SideClip(const QRectF& rect)
+// What is between the left and right edges of an item, rounded out to whole pixels.
+QRectF BetweenSides(const QRectF& item)
 {
+    return QRectF(0, item.top() - ShownLines::kMaximumOverhang, std::ceil(item.width()),
+                  item.height() + 2 * ShownLines::kMaximumOverhang);
+}
+
+void ClipSides(QPainter& painter, const QRectF& item)
+{
+    const QRectF sides = BetweenSides(item);
+    if (kestro::HasSidesBetweenPixels(painter, sides)) {
+        // A rectangle is much cheaper than a path, and shows the same pixels here.
+        painter.setClipRect(sides, Qt::IntersectClip);
+        return;
+    }
     QPainterPath path;
-    kestro::AddClipRectangle(path,
-                             QRectF(0, rect.top() - ShownLines::kMaximumOverhang,
-                                    std::ceil(rect.width()),
-                                    rect.height() + 2 * ShownLines::kMaximumOverhang));
-    return path;
+    kestro::AddClipRectangle(path, sides);
+    painter.setClipPath(path, Qt::IntersectClip);
 }
 
 bool IsWrapMode(QTextOption::WrapMode mode)
@@ -311,7 +319,7 @@ const ShownLines& TextItem::Private::ShownHighlighted()
     return shown_;
 }
 
-// Clipping takes half as long as drawing the text, and few texts need it.
+// Clipping takes time, and few texts need it.
 bool TextItem::Private::NeedsSideClip()
 {
     if (!needsSideClip_)
@@ -713,6 +721,14 @@ QPainterPath TextItem::shape() const
     return path;
 }
 
+QRectF TextItem::InkRect() const
+{
+    if (!IsReadOnly())
+        return boundingRect();
+    // Glyphs are drawn at whole pixels.
+    return private_->Shown().Ink().adjusted(-1, -1, 1, 1) & BetweenSides(boundingRect());
+}
+
 bool TextItem::contains(const QPointF& point) const
 {
     return boundingRect().contains(point);
@@ -730,7 +746,7 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
     painter->save();
     painter->setPen(private_->textColor);
     if (private_->NeedsSideClip())
-        painter->setClipPath(SideClip(rect), Qt::IntersectClip);
+        ClipSides(*painter, rect);
     const bool isPart = option && option->exposedRect.isValid();
     private_->ShownHighlighted().Draw(painter, isPart ? option->exposedRect : rect,
                                       private_->highlightBrush);

@@ -1,5 +1,6 @@
 // What a TextItem paints.
 #include "Ink.h"
+#include "support/ClipCounter.h"
 
 #include <kestro_control/TextItem.h>
 
@@ -13,6 +14,8 @@
 #include <string>
 
 namespace {
+
+using plix::test::ClipCounter;
 
 void useFont(TextItem& item, int pixelSize = 20)
 {
@@ -218,6 +221,68 @@ TEST(TextItemRendering, DrawsTheTextBelowTheFrameMargin)
     format.setTopMargin(100);
     item.document()->rootFrame()->setFrameFormat(format);
     EXPECT_EQ(Ink(item).rect(), before.translated(0, 100));
+}
+
+// Sets the clips that the item needs at this place and scale.
+void countClips(TextItem& item, double x, double scale, ClipCounter& counter)
+{
+    QPainter painter(&counter);
+    painter.translate(x, 0);
+    painter.scale(scale, scale);
+    item.paint(&painter, nullptr, nullptr);
+}
+
+struct SideRow {
+    const char* name;
+    const char* text;
+    bool isItalic;
+    double x;
+    double scale;
+    int rectangles;
+    int paths;
+
+    friend std::ostream& operator<<(std::ostream& out, const SideRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class TextItemSides : public testing::TestWithParam<SideRow> { };
+
+TEST_P(TextItemSides, AreClippedOnlyIfALetterSticksOut)
+{
+    TextItem item;
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(20);
+    font.setItalic(GetParam().isItalic);
+    item.setFont(font);
+    item.InsertRichText(QString::fromUtf8(GetParam().text), true);
+    ClipCounter counter;
+    countClips(item, GetParam().x, GetParam().scale, counter);
+    EXPECT_EQ(counter.rectangles(), GetParam().rectangles);
+    EXPECT_EQ(counter.paths(), GetParam().paths);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, TextItemSides,
+    testing::Values(SideRow {"Inside", "Dinner", false, 0, 1, 0, 0},
+                    SideRow {"FirstLetter", "jar", false, 0, 1, 1, 0},
+                    SideRow {"FirstLetterOfALongText", "jar of a jam that is red", false, 0, 1, 1,
+                             0},
+                    SideRow {"LastLetter", "\u05e9\u05dc j", false, 0, 1, 1, 0},
+                    SideRow {"TwiceAsLarge", "jar", false, 0, 2, 1, 0},
+                    SideRow {"BetweenPixels", "jar", false, 0.5, 1, 0, 1},
+                    SideRow {"EmojiInside", "Dinner 😀 is ready", false, 0, 1, 0, 0}),
+    rowName<SideRow>);
+
+TEST(TextItemRendering, HasAnInkRectangleOfWhatItDraws)
+{
+    for (const char* text : {"jar", "Dinner", "Á\u0323\u0323\u0323", "שלום"}) {
+        TextItem item;
+        useFont(item);
+        item.InsertRichText(QString::fromUtf8(text), true);
+        EXPECT_TRUE(item.InkRect().contains(Ink(item, 1).rect())) << text;
+    }
 }
 
 TEST(TextItemRendering, DrawsCapitalsOnTheBaseline)

@@ -270,6 +270,8 @@ public:
     // without a line, its height is 0.
     QRectF boundingRect() const override;
     QPainterPath shape() const override;
+    // The rectangle of what paint() draws. Glyphs may be higher than boundingRect().
+    QRectF InkRect() const;
     bool contains(const QPointF& point) const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
