@@ -3,7 +3,9 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataBox.h"
+#include "ui/PlixCardClip.h"
 #include "ui/PlixChildItems.h"
+#include "ui/PlixDevicePixels.h"
 #include "ui/PlixLeadingMargin.h"
 #include "ui/PlixOffsets.h"
 #include "ui/PlixPaths.h"
@@ -234,17 +236,48 @@ void PlixBoxUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
 {
     if (!background_ && !border_)
         return;
-    painter->save();
+    const std::optional<PlixCardCut> cut = plix::CutByCard(*this, rect());
+    const bool isOnWholePixels = plix::IsOnWholePixels(*painter, rect());
+    if (cut && cut->outline && isOnWholePixels && cornerRadius_ < 1 && !border_) {
+        cut->outline->Fill(*painter, rect(), background_->color());
+        return;
+    }
+    const PlixCardClip clip(*painter, cut);
+    if (isOnWholePixels && (cornerRadius_ >= 1 || !border_))
+        PaintOnWholePixels(*painter);
+    else
+        PaintClipped(*painter, option->exposedRect);
+}
+
+void PlixBoxUI::PaintClipped(QPainter& painter, const QRectF& exposed) const
+{
+    painter.save();
     // With the item's own clip alone, a partial paint may show one more row of
     // pixels than a paint of the whole.
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setClipPath(plix::RectanglePath(rect()), Qt::IntersectClip);
-    painter->setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setClipPath(plix::RectanglePath(rect()), Qt::IntersectClip);
+    painter.setRenderHint(QPainter::Antialiasing);
     if (background_)
-        PaintBackground(*painter, option->exposedRect);
+        PaintBackground(painter, exposed);
     if (border_)
-        PaintBorder(*painter);
-    painter->restore();
+        PaintBorder(painter);
+    painter.restore();
+}
+
+// For a box that fills whole pixels, and has no pen that would have to be cut in half:
+// it paints nothing outside of itself.
+void PlixBoxUI::PaintOnWholePixels(QPainter& painter) const
+{
+    const bool isRound = cornerRadius_ >= 1;
+    const bool wasSmooth = painter.testRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, isRound);
+    if (isRound && background_)
+        PaintBackground(painter, rect());
+    else if (background_)
+        painter.fillRect(rect(), background_->color());
+    if (border_)
+        PaintBorder(painter);
+    painter.setRenderHint(QPainter::Antialiasing, wasSmooth);
 }
 
 void PlixBoxUI::PaintBackground(QPainter& painter, const QRectF& exposed) const

@@ -48,6 +48,8 @@ private:
     void InitPaddings(const PlixDataBox& data);
     void InitPercentSize(const PlixDataBox& data);
     void ApplySpacing(YogaLayoutItem& child);
+    void PaintClipped(QPainter& painter, const QRectF& exposed) const;
+    void PaintOnWholePixels(QPainter& painter) const;
     void PaintBackground(QPainter& painter, const QRectF& exposed) const;
     void PaintBorder(QPainter& painter) const;
     QPainterPath RoundedBorderPath() const;

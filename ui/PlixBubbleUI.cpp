@@ -3,13 +3,15 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataBubble.h"
 #include "ui/PlixBoxUI.h"
+#include "ui/PlixCardOutline.h"
 #include "ui/PlixChildItems.h"
-#include "ui/PlixPaths.h"
+#include "ui/PlixFocusStop.h"
 #include "ui/PlixSeparatorUI.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -18,7 +20,6 @@ constexpr char kOthersColor[] = "#F1F3F7";
 constexpr char kOwnColor[] = "#C0EAFC";
 constexpr int kFromMyself = 1;
 constexpr char kZoneSeparatorColor[] = "#CCCCCC";
-constexpr int kCornerRadius = 12;
 
 } // namespace
 
@@ -37,7 +38,7 @@ bool PlixBubbleUI::Init()
     setWidth(data->GetWidth());
     if (data->IsRightToLeft())
         YogaLayoutItem::setLayoutDirection(Qt::RightToLeft);
-    setFlags(flags() | ItemClipsChildrenToShape | ItemClipsToShape);
+    LetQtClip(true);
     return true;
 }
 
@@ -142,11 +143,48 @@ int PlixBubbleUI::modifyHeight(int height)
 
 QPainterPath PlixBubbleUI::shape() const
 {
-    return plix::RoundedPath(boundingRect(), kCornerRadius);
+    return PlixCardOutline(boundingRect()).Path();
+}
+
+bool PlixBubbleUI::LeavesClippingToItems(const QGraphicsItem& item)
+{
+    // No other item of a card has this flag.
+    return item.flags().testFlag(ItemContainsChildrenInShape);
+}
+
+void PlixBubbleUI::LetQtClip(bool on)
+{
+    GraphicsItemFlags changed = flags();
+    changed.setFlag(ItemClipsToShape, on);
+    changed.setFlag(ItemClipsChildrenToShape, on);
+    // Nothing outside of the outline can be clicked, whoever clips.
+    changed.setFlag(ItemContainsChildrenInShape, !on);
+    setFlags(changed);
+}
+
+bool PlixBubbleUI::HasOnlyItemsOfTheCard() const
+{
+    const QList<QGraphicsItem*> children = childItems();
+    return std::all_of(children.begin(), children.end(), [](QGraphicsItem* child) {
+        return dynamic_cast<PlixBaseUI*>(child) || dynamic_cast<PlixFocusStop*>(child);
+    });
+}
+
+QVariant PlixBubbleUI::itemChange(GraphicsItemChange change, const QVariant& value)
+{
+    if (change == ItemSceneHasChanged)
+        LetQtClip(!scene() || !HasOnlyItemsOfTheCard());
+    else if (change == ItemChildAddedChange && scene())
+        LetQtClip(true); // the child may not be constructed yet
+    return PlixWidgetUI::itemChange(change, value);
 }
 
 void PlixBubbleUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
 {
+    if (LeavesClippingToItems(*this)) {
+        PlixCardOutline(boundingRect()).Fill(*painter, boundingRect(), background_.color());
+        return;
+    }
     painter->save();
     painter->setBrush(background_);
     painter->setPen(Qt::NoPen);

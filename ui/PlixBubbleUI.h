@@ -10,6 +10,10 @@ class PlixDataContainer;
 struct PlixZoneStyle;
 
 // The card itself: a column of zones on a rounded background.
+//
+// Qt can clip items to the outline, but then every paint inside of it is slow: it is
+// no rectangle. So while the card is in a scene, the items that paint over the outline
+// clip themselves (see PlixCardClip), unless the host has added items of its own.
 class PlixBubbleUI : public PlixWidgetUI {
     Q_OBJECT
     Q_PROPERTY(QString plainText READ PlainText)
@@ -37,10 +41,18 @@ public:
     // the card has none, or the host has deleted its item.
     int modifyHeight(int height);
 
+    // Whether `item` is a card that does not let Qt clip its items.
+    static bool LeavesClippingToItems(const QGraphicsItem& item);
+
     QPainterPath shape() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
+protected:
+    QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;
+
 private:
+    void LetQtClip(bool on);
+    bool HasOnlyItemsOfTheCard() const;
     // How many child items belong to `zone`, counted from `index`. A data item that
     // is not drawn has none.
     int ShownItems(const PlixDataContainer& zone, int index) const;

@@ -7,13 +7,14 @@
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataButton.h"
 #include "ui/PlixAlignmentWords.h"
-#include "ui/PlixPaths.h"
+#include "ui/PlixButtonLine.h"
+#include "ui/PlixCardClip.h"
 #include "ui/text/PlixTextFont.h"
 
 #include <QCursor>
 #include <QFontMetrics>
+#include <QGraphicsSceneResizeEvent>
 #include <QPainter>
-#include <QTextOption>
 
 #include <utility>
 
@@ -66,6 +67,8 @@ PlixButtonUI::PlixButtonUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLay
     clickable_ = true;
     ApplyFontFamily(font_);
 }
+
+PlixButtonUI::~PlixButtonUI() = default;
 
 bool PlixButtonUI::Init()
 {
@@ -167,6 +170,7 @@ void PlixButtonUI::FontChanged()
         return;
     ApplyFontFamily(font_);
     ApplyLabelWidth();
+    line_.reset();
     update();
 }
 
@@ -187,6 +191,7 @@ double PlixButtonUI::CornerRadius() const
 
 void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
 {
+    const PlixCardClip clip(*painter, plix::CutByCard(*this, rect()));
     painter->save();
     if (!plateColor_.empty()) {
         painter->setRenderHint(QPainter::Antialiasing);
@@ -194,16 +199,17 @@ void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWi
         painter->setBrush(QBrush(plix::ToColor(plateColor_), Qt::SolidPattern));
         painter->drawRoundedRect(rect(), kPlateRadius, kPlateRadius, Qt::AbsoluteSize);
     }
-    // Labels in large letters are higher than the button. Qt clips them, too, but
-    // not always to the same pixels, and with soft edges like those of the plate.
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setClipPath(plix::RectanglePath(rect()), Qt::IntersectClip);
     painter->setPen(textPen_);
-    painter->setFont(font_);
-    QTextOption option(Qt::AlignHCenter | Qt::AlignVCenter);
-    option.setWrapMode(QTextOption::NoWrap);
-    painter->drawText(rect(), shownLabel(), option);
+    if (!line_)
+        line_ = std::make_unique<PlixButtonLine>(shownLabel(), font_);
+    line_->Draw(*painter, rect());
     painter->restore();
+}
+
+void PlixButtonUI::resizeEvent(QGraphicsSceneResizeEvent* event)
+{
+    PlixWidgetUI::resizeEvent(event);
+    line_.reset(); // it may have to be elided in another way
 }
 
 void PlixButtonUI::setGeometry(const QRectF& rect)

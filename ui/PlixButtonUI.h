@@ -10,8 +10,10 @@
 #include <QPen>
 #include <QString>
 
+#include <memory>
 #include <string>
 
+class PlixButtonLine;
 class PlixDataButton;
 
 // A clickable label in one line, with or without a rounded plate behind it.
@@ -23,6 +25,7 @@ class PlixButtonUI : public PlixWidgetUI, public KestroFontBindSupport {
 
 public:
     explicit PlixButtonUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout = nullptr);
+    ~PlixButtonUI() override;
 
     bool Init() override;
     void SetClickFunc(const ClickFunc& func) override;
@@ -47,6 +50,8 @@ protected:
     // below.
     bool AcceptsPresses() const override { return true; }
 
+    void resizeEvent(QGraphicsSceneResizeEvent* event) override;
+
 private:
     void InitLabel(const PlixDataButton& data);
     void InitMouse();
@@ -59,6 +64,8 @@ private:
     QString label_;
     QPen textPen_ {Qt::black};
     QFont font_;
+    // The shown label. Made by the first paint after a change.
+    std::unique_ptr<PlixButtonLine> line_;
     // Empty: no plate.
     std::string plateColor_;
     bool hasLabelWidth_ = false;

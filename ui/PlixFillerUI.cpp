@@ -14,6 +14,7 @@ constexpr double kCollapsed = 1;
 PlixFillerUI::PlixFillerUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
     : PlixWidgetUI(parent, parentLayout)
 {
+    setFlag(ItemHasNoContents);
 }
 
 bool PlixFillerUI::Init()

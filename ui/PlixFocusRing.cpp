@@ -1,5 +1,6 @@
 #include "ui/PlixFocusRing.h"
 
+#include "ui/PlixCardClip.h"
 #include "ui/PlixPaths.h"
 
 #include <QApplication>
@@ -61,6 +62,7 @@ QPainterPath PlixFocusRing::shape() const
 
 void PlixFocusRing::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
 {
+    const PlixCardClip clip(*painter, plix::CutByCard(*this, rect_));
     painter->save();
     // Between pixels, a partial paint would show other pixels of the edges.
     painter->setRenderHint(QPainter::Antialiasing, false);

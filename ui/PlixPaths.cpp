@@ -4,10 +4,15 @@
 
 namespace plix {
 
-QPainterPath RoundedPath(const QRectF& rect, double radius)
+double FittingRadius(const QRectF& rect, double radius)
 {
     const int half = static_cast<int>(rect.height()) / 2;
-    const double fitting = std::min<double>(radius, half);
+    return std::min<double>(radius, half);
+}
+
+QPainterPath RoundedPath(const QRectF& rect, double radius)
+{
+    const double fitting = FittingRadius(rect, radius);
     QPainterPath path;
     path.addRoundedRect(rect, fitting, fitting, Qt::AbsoluteSize);
     return path;

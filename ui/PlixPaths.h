@@ -5,6 +5,9 @@
 
 namespace plix {
 
+// The radius of the corners of a rectangle: at most half of its height.
+double FittingRadius(const QRectF& rect, double radius);
+
 // A rounded rectangle. The radius is at most half of its height.
 QPainterPath RoundedPath(const QRectF& rect, double radius);
 

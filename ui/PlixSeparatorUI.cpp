@@ -3,6 +3,7 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataSeparator.h"
+#include "ui/PlixCardClip.h"
 #include "ui/PlixLeadingMargin.h"
 
 #include <QPainter>
@@ -48,7 +49,6 @@ void PlixSeparatorUI::setColor(const std::string& color)
 
 void PlixSeparatorUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
 {
-    painter->save();
+    const PlixCardClip clip(*painter, plix::CutByCard(*this, rect()));
     painter->fillRect(rect(), color_.value_or(QColor(Qt::gray)));
-    painter->restore();
 }

@@ -6,6 +6,7 @@
 PlixSpacerUI::PlixSpacerUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
     : PlixWidgetUI(parent, parentLayout)
 {
+    setFlag(ItemHasNoContents);
 }
 
 bool PlixSpacerUI::Init()

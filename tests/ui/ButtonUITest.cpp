@@ -4,11 +4,14 @@
 #include "support/FontFamilyHost.h"
 #include "support/LayoutNode.h"
 #include "support/Picture.h"
+#include "support/Pixels.h"
 #include "support/PlixTest.h"
 
 #include <QCursor>
 #include <QFontMetrics>
 #include <QGraphicsRectItem>
+#include <QPainter>
+#include <QTextOption>
 
 #include <cmath>
 #include <ostream>
@@ -617,6 +620,47 @@ TEST_F(Button, PaintsItsShownLabel)
         for (double x = area.left(); x < area.right(); ++x)
             ASSERT_EQ(elidedPicture.at({x, y}), plainPicture.at({x, y})) << x << " " << y;
     }
+}
+
+TEST_F(Button, PaintsItsLabelAsAPainterDoes)
+{
+    for (const char* label : {"HH", kLong, "H\\tH", "Äg fj", "שלום world"}) {
+        const TestCard card(wide(label, 161));
+        auto* button = card.ui<PlixButtonUI>({0, 0});
+        for (const double width : {161.0, 90.0, 230.0}) {
+            button->resize(width, 51);
+            QImage picture(260, 60, QImage::Format_ARGB32_Premultiplied);
+            picture.fill(Qt::white);
+            QImage expected = picture;
+            QPainter painter(&picture);
+            button->paint(&painter, nullptr, nullptr);
+            painter.end();
+            painter.begin(&expected);
+            painter.setPen(QColor("#157EFB"));
+            painter.setFont(button->labelFont());
+            QTextOption option(Qt::AlignCenter);
+            option.setWrapMode(QTextOption::NoWrap);
+            painter.drawText(button->rect(), button->shownLabel(), option);
+            painter.end();
+            EXPECT_EQ(picture, expected) << label << ", " << width;
+        }
+    }
+}
+
+TEST_F(Button, CutsALabelThatIsTooHigh)
+{
+    const TestCard card(inBox(labelled("Åg", R"("size": "5xl", "height": "sm",)")));
+    auto* button = card.ui<PlixButtonUI>({0, 0});
+    QImage picture(200, 100, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.translate(10, 30);
+    button->paint(&painter, nullptr, nullptr);
+    painter.end();
+    const QRect ink = boundsOfPixels(picture, picture.rect(),
+                                     [](QRgb pixel) { return pixel != qRgb(255, 255, 255); });
+    EXPECT_EQ(ink.top(), 30);
+    EXPECT_EQ(ink.bottom(), 69);
 }
 
 TEST_F(Button, HasItsLabelAsAProperty)

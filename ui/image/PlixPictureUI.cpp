@@ -6,6 +6,7 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataItemCommon.h"
+#include "ui/PlixCardClip.h"
 #include "ui/PlixOffsets.h"
 #include "ui/PlixPaths.h"
 #include "ui/image/PlixPicture.h"
@@ -80,6 +81,7 @@ double PlixPictureUI::DpiFactor() const
 
 void PlixPictureUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
 {
+    const PlixCardClip clip(*painter, plix::CutByCard(*this, rect()));
     painter->save();
     if (background_)
         PaintBackground(*painter);

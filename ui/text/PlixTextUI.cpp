@@ -12,6 +12,7 @@
 #include "model/PlixLanguageText.h"
 #include "ui/PlixAlignmentWords.h"
 #include "ui/PlixBoxUI.h"
+#include "ui/PlixCardClip.h"
 #include "ui/PlixFocusStop.h"
 #include "ui/PlixOffsets.h"
 #include "ui/text/PlixTextFont.h"
@@ -458,6 +459,22 @@ void PlixTextUI::PlaceFocusStops(const QPointF& position)
         if (stop)
             stop->Place(rect);
     }
+}
+
+void PlixTextUI::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget)
+{
+    const PlixCardClip clip(*painter, CutByCard());
+    TextItem::paint(painter, option, widget);
+}
+
+std::optional<PlixCardCut> PlixTextUI::CutByCard() const
+{
+    // Glyphs may be higher than their line, but not twice as high. Only near the
+    // outline, it is worth the time to look at each of them.
+    const double overhang = 2 * FirstLineAscent();
+    const QRectF around = boundingRect().adjusted(0, -overhang, kRounding, overhang);
+    const std::optional<PlixCardCut> cut = plix::CutByCard(*this, around);
+    return cut ? plix::CutByCard(*this, InkRect()) : cut;
 }
 
 void PlixTextUI::PlaceVertically(double available)

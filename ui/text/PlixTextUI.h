@@ -2,6 +2,7 @@
 
 #include "layout/YogaLayoutItem.h"
 #include "ui/PlixBaseUI.h"
+#include "ui/PlixCardClip.h"
 
 #include <kestro_control/TextItem.h>
 
@@ -50,6 +51,7 @@ public:
 
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF& constraint = QSizeF()) const override;
     void setGeometry(const QRectF& rect) override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 protected:
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
@@ -95,6 +97,7 @@ private:
     double ParentInnerWidth() const;
     QRectF ClippedToParent(const QRectF& rect) const;
     bool HasStyleWidth(double width) const;
+    std::optional<PlixCardCut> CutByCard() const;
     void PlaceVertically(double available);
     // For an item at `position`. Slots of the host may delete the text.
     void PlaceFocusStops(const QPointF& position);
