@@ -2,7 +2,6 @@
 
 #include "api/PlixCatchExceptions.h"
 #include "api/PlixLog.h"
-#include "layout/YogaNodeRegistry.h"
 
 #include <QGraphicsLayoutItem>
 
@@ -110,8 +109,13 @@ YogaLayoutItem::~YogaLayoutItem()
         return;
     if (YogaLayoutItem* parent = parentItem())
         parent->hasChanged_ = true;
-    YogaNodeRegistry::GetInstance().remove(node_);
     YGNodeFree(node_);
+}
+
+YogaLayoutItem* YogaLayoutItem::itemOf(YGNodeConstRef node)
+{
+    auto* const item = node ? static_cast<YogaLayoutItem*>(YGNodeGetContext(node)) : nullptr;
+    return item && item->isChild_ ? item : nullptr;
 }
 
 bool YogaLayoutItem::canInsert(const YogaLayoutItem* child) const
@@ -131,7 +135,7 @@ void YogaLayoutItem::insertNode(YogaLayoutItem* child, int index)
         throw std::invalid_argument("An item cannot be put into nothing or into itself.");
     const int place = std::clamp(index, 0, childCount());
     YGNodeInsertChild(node_, child->node_, static_cast<std::size_t>(place));
-    YogaNodeRegistry::GetInstance().add(child->node_, child);
+    child->isChild_ = true;
     hasChanged_ = true;
 }
 
@@ -174,8 +178,10 @@ float YogaLayoutItem::baseline(double, double height)
 
 void YogaLayoutItem::reset()
 {
-    if (startChange())
-        plix::CatchExceptions([this] { YGNodeReset(node_); });
+    if (!startChange())
+        return;
+    plix::CatchExceptions([this] { YGNodeReset(node_); });
+    YGNodeSetContext(node_, this);
 }
 
 void YogaLayoutItem::applyPaddingToAbsoluteChildren()
@@ -235,7 +241,7 @@ void YogaLayoutItem::setHasBaselineFunc(bool has)
 YGSize YogaLayoutItem::MeasureCallback(YGNodeConstRef node, float width, YGMeasureMode widthMode,
                                        float height, YGMeasureMode heightMode)
 {
-    YogaLayoutItem* item = YogaNodeRegistry::GetInstance().find(node);
+    YogaLayoutItem* item = itemOf(node);
     if (!item)
         return {width, height};
     QSizeF size(width, height);
@@ -245,7 +251,7 @@ YGSize YogaLayoutItem::MeasureCallback(YGNodeConstRef node, float width, YGMeasu
 
 float YogaLayoutItem::BaselineCallback(YGNodeConstRef node, float width, float height)
 {
-    YogaLayoutItem* item = YogaNodeRegistry::GetInstance().find(node);
+    YogaLayoutItem* item = itemOf(node);
     float baseline = height;
     if (item)
         plix::CatchExceptions([&] { baseline = item->baseline(width, height); });
@@ -343,6 +349,7 @@ void YogaLayoutItem::place(Round round)
 void YogaLayoutItem::placeChildren(Round round)
 {
     std::vector<PlixLink<YogaLayoutItem>> children;
+    children.reserve(static_cast<std::size_t>(childCount()));
     forEachChild([&](const YogaLayoutItem& child) { children.push_back(child.watch()); });
     // Placing a child may delete this item: use only `children` from here on.
     for (const PlixLink<YogaLayoutItem>& link : children) {
@@ -446,8 +453,7 @@ YogaLayoutItem* YogaLayoutItem::childAt(int index) const
 {
     if (!node_ || index < 0)
         return nullptr;
-    return YogaNodeRegistry::GetInstance().find(
-        YGNodeGetChild(node_, static_cast<std::size_t>(index)));
+    return itemOf(YGNodeGetChild(node_, static_cast<std::size_t>(index)));
 }
 
 int YogaLayoutItem::childCount() const
@@ -457,7 +463,7 @@ int YogaLayoutItem::childCount() const
 
 YogaLayoutItem* YogaLayoutItem::parentItem() const
 {
-    return node_ ? YogaNodeRegistry::GetInstance().find(YGNodeGetParent(node_)) : nullptr;
+    return node_ ? itemOf(YGNodeGetParent(node_)) : nullptr;
 }
 
 QRectF YogaLayoutItem::geometry() const

@@ -206,6 +206,10 @@ private:
     static constexpr float kNoNode = -1;
     static float ToFloat(double value) { return static_cast<float>(value); }
 
+    // The item of a node that is, or was, the child of another. Null for a root node,
+    // for a node without an item, and for null.
+    static YogaLayoutItem* itemOf(YGNodeConstRef node);
+
     bool canInsert(const YogaLayoutItem* child) const;
     void insertNode(YogaLayoutItem* child, int index);
     float padding(YGEdge edge) const;
@@ -234,6 +238,7 @@ private:
     PlixLinkTarget<YogaLayoutItem> linkTarget_;
     YGNodeRef node_ = nullptr;
     QGraphicsLayoutItem* geometryTarget_ = nullptr;
+    bool isChild_ = false;
     bool widthIsPercent_ = false;
     bool hasPadding_ = false;
     bool hasMargin_ = false;
