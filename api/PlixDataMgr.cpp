@@ -39,6 +39,14 @@ PlixDataMgr::Use::~Use()
 
 PlixDataMgr::PlixDataMgr()
     : linkTarget_(this)
+    , clickFunc_([watch = Watch()](ST_ACTION& action) {
+        if (PlixDataMgr* manager = watch.get())
+            manager->OnClick(action);
+    })
+    , downloadFunc_([watch = Watch()](const std::string& url) {
+        PlixDataMgr* manager = watch.get();
+        return manager ? manager->DownloadFile(url) : std::string();
+    })
     , bubble_(std::make_shared<PlixDataBubble>())
 {
     bubble_->InitZones();
@@ -139,21 +147,15 @@ PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
     // Deletes the item if something throws before it is complete.
     std::unique_ptr<QGraphicsItem> unfinished(ui->GetGraphicsItem());
     ui->SetOwner(this);
-    ui->SetClickFunc([watch = Watch()](ST_ACTION& action) {
-        if (PlixDataMgr* manager = watch.get())
-            manager->OnClick(action);
-    });
-    ui->SetDownloadFunc([watch = Watch()](const std::string& url) {
-        PlixDataMgr* manager = watch.get();
-        return manager ? manager->DownloadFile(url) : std::string();
-    });
+    ui->SetClickFunc(clickFunc_);
+    ui->SetDownloadFunc(downloadFunc_);
     ui->SetFrom(from_);
     ui->Init();
 
-    if (const auto* bubble = dynamic_cast<const PlixDataBubble*>(data.get()))
-        CreateZones(*bubble, *ui);
-    else if (const auto* box = dynamic_cast<const PlixDataBox*>(data.get()))
-        CreateBoxChildren(*box->GetContainer(), *ui);
+    if (data->GetType() == PlixKindBubble)
+        CreateZones(dynamic_cast<const PlixDataBubble&>(*data), *ui);
+    else if (data->GetType() == PlixKindBox)
+        CreateBoxChildren(*dynamic_cast<const PlixDataBox&>(*data).GetContainer(), *ui);
     static_cast<void>(unfinished.release());
     return ui;
 }

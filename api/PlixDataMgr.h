@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <cstdint>
+#include <functional>
 #include <list>
 #include <memory>
 #include <string>
@@ -108,6 +109,9 @@ private:
     PlixBubbleUI* RootBubble() const;
 
     PlixLinkTarget<PlixDataMgr> linkTarget_;
+    // What items get to reach the host. They may outlive the controller.
+    const std::function<void(ST_ACTION&)> clickFunc_;
+    const std::function<std::string(const std::string&)> downloadFunc_;
     int uses_ = 0;
     bool freeAfterUse_ = false;
     std::string messageType_;
