@@ -190,6 +190,11 @@ private:
 
 } // namespace
 
+bool MayHaveMarkup(const QString& text)
+{
+    return text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'));
+}
+
 std::vector<MarkupRun> ReadMarkup(const QString& text)
 {
     return Reader(text).Runs();

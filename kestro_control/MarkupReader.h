@@ -19,6 +19,10 @@ struct MarkupRun {
     QString emojiCode;
 };
 
+// Whether the text may have an element or an entity. ReadMarkup() returns any other
+// text unchanged, in one run.
+bool MayHaveMarkup(const QString& text);
+
 // Reads the markup that TextItem.h describes, in linear time. Everything outside of
 // well-formed elements is text. No run is empty, and no two text runs follow each
 // other.

@@ -24,6 +24,8 @@ bool HasCloserFrom(int position, const QString& closer, const QString& text)
 
 bool HasMarkup(const QString& text)
 {
+    if (!text.contains(QLatin1Char('<')))
+        return false;
     const int emoji = EndOfFirst(QStringLiteral("<e"), text);
     const int mention = EndOfFirst(QStringLiteral("<m"), text);
     return HasCloserFrom(std::min(emoji, mention), QStringLiteral("/>"), text)
@@ -33,6 +35,10 @@ bool HasMarkup(const QString& text)
 
 QString EscapeMarkup(const QString& text)
 {
+    const bool needsEscaping = text.contains(QLatin1Char('&')) || text.contains(QLatin1Char('<'))
+        || text.contains(QLatin1Char('>'));
+    if (!needsEscaping)
+        return text;
     struct Replacement {
         QLatin1String before;
         QLatin1String after;
