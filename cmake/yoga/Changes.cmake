@@ -6,8 +6,8 @@
 # constraints, and then each level measures the one below again and again: 32 levels with
 # a text each took 40 seconds. Cards are untrusted, so:
 #
-# - a node remembers 64 measurements, 24 bytes each. More would hardly be used, because
-#   the limit that follows is reached first;
+# - a node remembers 64 measurements (cmake/yoga/Measurements.h). More would hardly be
+#   used, because the limit that follows is reached first;
 # - a layout has a limit of visits (cmake/yoga/VisitLimit.h), because no number of
 #   measurements is enough for every card.
 #
@@ -56,8 +56,15 @@ endfunction()
 # plix_change_yoga(SOURCES): SOURCES is the folder that contains Yoga.h.
 function(plix_change_yoga sources)
     plix_change(${sources}/node/LayoutResults.h
+        [[#include <yoga/node/CachedMeasurement.h>
+]]
+        [[#include <yoga/node/CachedMeasurement.h>
+#include <yoga/node/Measurements.h>
+]]
         "MaxCachedMeasurements = 8;"
-        "MaxCachedMeasurements = 64;")
+        "MaxCachedMeasurements = plix::Measurements::MaxCount;"
+        "std::array<CachedMeasurement, MaxCachedMeasurements> cachedMeasurements = {};"
+        "plix::Measurements cachedMeasurements;")
     plix_change(${sources}/event/event.h
         [[      measureCallbackReasonsCount;
 ]]
@@ -87,8 +94,14 @@ function(plix_change_yoga sources)
     // The node has its measured size.
   } else if (!needToVisitNode && cachedResults != nullptr) {
 ]])
-    set(header ${PROJECT_SOURCE_DIR}/cmake/yoga/VisitLimit.h)
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${header})
-    file(READ ${header} text)
-    plix_write_changed(${sources}/algorithm/VisitLimit.h "${text}")
+    plix_add_to_yoga(VisitLimit.h ${sources}/algorithm)
+    plix_add_to_yoga(Measurements.h ${sources}/node)
+endfunction()
+
+# plix_add_to_yoga(HEADER FOLDER): copies a header of ours.
+function(plix_add_to_yoga header folder)
+    set(path ${PROJECT_SOURCE_DIR}/cmake/yoga/${header})
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${path})
+    file(READ ${path} text)
+    plix_write_changed(${folder}/${header} "${text}")
 endfunction()
