@@ -26,6 +26,8 @@ bool IsInRightToLeftBubble(const PlixDataItem& item)
 {
     for (std::shared_ptr<PlixDataItem> parent = item.GetParent(); parent;
          parent = parent->GetParent()) {
+        if (parent->GetType() != PlixKindBubble)
+            continue;
         if (const auto* bubble = dynamic_cast<const PlixDataBubble*>(parent.get()))
             return bubble->IsRightToLeft();
     }
