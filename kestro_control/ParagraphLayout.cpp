@@ -69,10 +69,14 @@ Qt::LayoutDirection ParagraphLayout::Direction() const
 // rounding, is what QTextDocumentLayout does.
 qreal ParagraphLayout::BreakLines(qreal width)
 {
-    ++WorkSoFar().lineBreakings;
     Shape();
-    layout_->clearLayout();
     SetWrapMode(width < 0 ? QTextOption::ManualWrap : wrapMode_);
+    if (width >= 0 && StaysInOneLine(width)) {
+        layout_->lineAt(0).setLineWidth(width);
+        return height_;
+    }
+    ++WorkSoFar().lineBreakings;
+    layout_->clearLayout();
     qreal height = 0;
     qreal bottom = 0;
     for (QTextLine line = layout_->createLine(); line.isValid(); line = layout_->createLine()) {
@@ -82,7 +86,21 @@ qreal ParagraphLayout::BreakLines(qreal width)
         bottom = height + line.height();
         height += std::ceil(line.ascent() + line.descent() + line.leading());
     }
-    return std::max(height, bottom);
+    height_ = std::max(height, bottom);
+    return height_;
+}
+
+// Whether the lines are a single one, which another width does not change. A line that
+// ends in a space, or whose last glyph reaches beyond its advance, may be measured in
+// another way if it has more room.
+bool ParagraphLayout::StaysInOneLine(qreal width) const
+{
+    const QString text = layout_->text();
+    if (layout_->lineCount() != 1 || text.isEmpty() || text.back().isSpace())
+        return false;
+    const QTextLine line = layout_->lineAt(0);
+    const qreal natural = line.naturalTextWidth();
+    return natural <= width && natural == line.horizontalAdvance();
 }
 
 void ParagraphLayout::Shape()

@@ -32,12 +32,15 @@ public:
 
 private:
     void Shape();
+    bool StaysInOneLine(qreal width) const;
     void FitLine(QTextLine& line, qreal width);
     void SetWrapMode(QTextOption::WrapMode mode);
 
     std::unique_ptr<QTextLayout> layout_;
     QTextOption::WrapMode wrapMode_;
     bool isShaped_ = false;
+    // Of the lines.
+    qreal height_ = 0;
 };
 
 } // namespace kestro

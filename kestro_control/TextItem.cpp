@@ -8,6 +8,7 @@
 #include "MarkupReader.h"
 #include "MentionAreas.h"
 #include "ParagraphText.h"
+#include "SharedFont.h"
 #include "ShownLines.h"
 
 #include "kestro_control/KestroControlManager.h"
@@ -61,6 +62,24 @@ qreal FixedWidth(qreal width)
 qreal DocumentWidth(qreal width)
 {
     return width == 0 ? kNaturalWidth : width;
+}
+
+TextItem::NaturalSize NaturalSizeOf(const ShownLines& lines)
+{
+    return {lines.BoundingRect().width(), lines.Count()};
+}
+
+// The same for lines that need no ellipsis, in less time. The text must have no width.
+TextItem::NaturalSize NaturalSizeOf(const kestro::LaidOutText& text)
+{
+    TextItem::NaturalSize size {0, 0};
+    const int count = text.IsEmpty() ? 0 : text.ParagraphCount();
+    for (int i = 0; i < count; ++i) {
+        const QTextLayout* const layout = text.Paragraph(i).layout;
+        for (int line = 0; line < layout->lineCount(); ++line, ++size.lineCount)
+            size.width = std::max(size.width, layout->lineAt(line).naturalTextRect().width());
+    }
+    return size;
 }
 
 // What is between the left and right edges of an item, rounded out to whole pixels.
@@ -125,6 +144,8 @@ public:
 
     // The same, with highlights.
     const ShownLines& ShownHighlighted();
+
+    NaturalSize NaturalLines();
 
     // Whether text would be drawn outside of the left and right edges.
     bool NeedsSideClip();
@@ -309,6 +330,20 @@ const ShownLines& TextItem::Private::Shown()
     return shown_;
 }
 
+TextItem::NaturalSize TextItem::Private::NaturalLines()
+{
+    const qreal width = text.Width();
+    if (width >= 0)
+        text.SetWidth(kNaturalWidth);
+    const kestro::LaidOutText& laidOut = text.LaidOut();
+    const NaturalSize size = hiddenText_.isEmpty()
+        ? NaturalSizeOf(laidOut)
+        : NaturalSizeOf(ShownLines(laidOut, 0, elide, true));
+    if (width >= 0)
+        text.SetWidth(width);
+    return size;
+}
+
 const ShownLines& TextItem::Private::ShownHighlighted()
 {
     Shown();
@@ -444,7 +479,7 @@ void TextItem::InsertRichText(const QString& text, bool append, const QTextCharF
     }
     const QTextCharFormat runFormat = format ? *format : QTextCharFormat();
     private_->text.BeginInsertion(append);
-    if (private_->markupEnabled) {
+    if (private_->markupEnabled && kestro::MayHaveMarkup(text)) {
         for (const MarkupRun& run : kestro::ReadMarkup(text))
             private_->Insert(run, runFormat);
     } else {
@@ -494,7 +529,7 @@ void TextItem::setFont(const QFont& font)
 {
     if (font == this->font())
         return;
-    private_->text.SetFont(font);
+    private_->text.SetFont(kestro::SharedFont(font));
 }
 
 QColor TextItem::defaultTextColor() const
@@ -589,6 +624,11 @@ void TextItem::setTextWidth(qreal width)
 qreal TextItem::textWidth() const
 {
     return private_->hasZeroWidth ? 0 : private_->text.Width();
+}
+
+TextItem::NaturalSize TextItem::NaturalLines() const
+{
+    return private_->NaturalLines();
 }
 
 void TextItem::adjustSize()

@@ -102,6 +102,9 @@ QString TextRuns::PlainText() const
 
 std::vector<ParagraphSource> TextRuns::Paragraphs() const
 {
+    if (runs_.size() == 1 && runs_.front().format.isEmpty()
+        && std::none_of(runs_.front().text.begin(), runs_.front().text.end(), &EndsParagraph))
+        return {{runs_.front().text, {}, {}}};
     std::vector<ParagraphSource> paragraphs(1);
     for (const Run& run : runs_) {
         const QString& text = run.text;

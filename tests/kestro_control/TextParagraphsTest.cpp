@@ -174,6 +174,23 @@ TEST(TextParagraphs, AreShapedOnceForAllWidths)
     EXPECT_EQ(WorkSoFar().shapings - before, 2);
 }
 
+TEST(TextParagraphs, AreNotBrokenAgainIfTheyAreOneLineThatFits)
+{
+    TextParagraphs paragraphs;
+    paragraphs.Append(QStringLiteral("one two"), {});
+    paragraphs.LayOut();
+    const int before = WorkSoFar().lineBreakings;
+    for (const qreal width : {200.0, 1000.0, 150.0}) {
+        paragraphs.SetWidth(width);
+        paragraphs.LayOut();
+        EXPECT_EQ(paragraphs.Paragraph(0).layout->lineAt(0).width(), width);
+    }
+    EXPECT_EQ(WorkSoFar().lineBreakings, before);
+    paragraphs.SetWidth(20);
+    paragraphs.LayOut();
+    EXPECT_EQ(WorkSoFar().lineBreakings, before + 1);
+}
+
 TEST(TextParagraphs, AreNotLaidOutAgainWithoutAChange)
 {
     TextParagraphs paragraphs;

@@ -30,8 +30,8 @@
 
 namespace {
 
-constexpr char kOthersColor[] = "#767676";
-constexpr char kOwnColor[] = "#0087EE";
+constexpr QColor kOthersColor(0x76, 0x76, 0x76);
+constexpr QColor kOwnColor(0x00, 0x87, 0xEE);
 constexpr int kFromMyself = 1;
 // Yoga rounds rectangles outwards to whole pixels, by less than this on each side. A
 // text keeps the exact width that it was measured with: in another one, it may break
@@ -87,8 +87,8 @@ bool PlixTextUI::Init()
     InitColor(*data);
     InitAction(*data);
     InitFont(*data);
-    const Place place = {plix::ParentBox(*data), plix::IsInRow(*data),
-                         plix::IsInRightToLeftBubble(*data)};
+    const std::shared_ptr<PlixDataBox> box = plix::ParentBox(*data);
+    const Place place = {box, box && !box->IsVertical(), plix::IsInRightToLeftBubble(*data)};
     baseline_ = place.box && place.box->IsBaseline();
     wrap_ = data->GetWrap();
     InitAlignment(*data, place);
@@ -117,7 +117,7 @@ void PlixTextUI::InitColor(const PlixDataText& data)
     if (!data.GetColor().empty())
         setDefaultTextColor(plix::ToColor(data.GetColor()));
     else
-        setDefaultTextColor(plix::ToColor(colorMode_ == kFromMyself ? kOwnColor : kOthersColor));
+        setDefaultTextColor(colorMode_ == kFromMyself ? kOwnColor : kOthersColor);
 }
 
 void PlixTextUI::InitAction(const PlixDataText& data)
@@ -240,19 +240,25 @@ void PlixTextUI::InitWidth(const PlixDataText& data, const Place& place)
 
 double PlixTextUI::NaturalWidth()
 {
-    const double shownWidth = textWidth();
-    SetFixedItemWidth(-1);
-    SetMaxLineCount(0);
-    double width = boundingRect().width();
-    if (!wrap_ && ShownLineCount() > 1) {
-        // Only the first line is shown, and it needs room for its ellipsis.
-        SetMaxLineCount(1);
-        width = std::max(width, boundingRect().width());
-    }
     SetMaxLineCount(maxLines_);
-    SetFixedItemWidth(shownWidth);
+    const NaturalSize natural = NaturalLines();
+    double width = natural.width;
+    if (!wrap_ && natural.lineCount > 1)
+        width = std::max(width, NaturalWidthOfFirstLine());
     // Yoga rounds to whole pixels: without the fraction, the last word would not fit.
     return std::ceil(width);
+}
+
+// With room for its ellipsis.
+double PlixTextUI::NaturalWidthOfFirstLine()
+{
+    const double shownWidth = textWidth();
+    SetFixedItemWidth(-1);
+    SetMaxLineCount(1);
+    const double width = boundingRect().width();
+    SetMaxLineCount(maxLines_);
+    SetFixedItemWidth(shownWidth);
+    return width;
 }
 
 void PlixTextUI::InitLines(const PlixDataText& data)
@@ -427,7 +433,7 @@ void PlixTextUI::setGeometry(const QRectF& rect)
     } else {
         SetFixedItemWidth(shown);
     }
-    PlaceVertically(given.height());
+    PlaceVertically(given.height(), lineHeight);
     // Not TextItem's, which would move the item to the rectangle's corner.
     QGraphicsLayoutItem::setGeometry(rect); // NOLINT(bugprone-parent-virtual-call)
 
@@ -477,10 +483,9 @@ std::optional<PlixCardCut> PlixTextUI::CutByCard() const
     return cut ? plix::CutByCard(*this, InkRect()) : cut;
 }
 
-void PlixTextUI::PlaceVertically(double available)
+void PlixTextUI::PlaceVertically(double available, int lineHeight)
 {
-    textHeight_ =
-        std::max(static_cast<int>(boundingRect().height()), QFontMetrics(font()).height());
+    textHeight_ = std::max(static_cast<int>(boundingRect().height()), lineHeight);
     if (baseline_ || available <= textHeight_) {
         SetFrame(0, 0);
         return;

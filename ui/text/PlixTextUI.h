@@ -84,6 +84,7 @@ private:
     void KeepSides(const PlixDataText& data, const Place& place);
     // The width of the text without any limit, in whole pixels.
     double NaturalWidth();
+    double NaturalWidthOfFirstLine();
     // Whether `text` must be escaped so that it is shown literally.
     bool NeedsEscaping(const QString& text) const;
 
@@ -98,7 +99,7 @@ private:
     QRectF ClippedToParent(const QRectF& rect) const;
     bool HasStyleWidth(double width) const;
     std::optional<PlixCardCut> CutByCard() const;
-    void PlaceVertically(double available);
+    void PlaceVertically(double available, int lineHeight);
     // For an item at `position`. Slots of the host may delete the text.
     void PlaceFocusStops(const QPointF& position);
 

@@ -191,6 +191,14 @@ public:
     void setTextWidth(qreal width);
     qreal textWidth() const;
 
+    // The width of boundingRect() without a fixed width and without a line limit, and
+    // the number of lines then.
+    struct NaturalSize {
+        qreal width;
+        int lineCount;
+    };
+    NaturalSize NaturalLines() const;
+
     // Picks a fixed width as QTextDocument::adjustSize() does.
     void adjustSize();
 
