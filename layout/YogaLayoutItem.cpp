@@ -33,11 +33,7 @@ YGNodeRef MakeNode(bool useWebDefaults)
 {
     static YGConfigRef webConfig = MakeQuietConfig(true);
     static YGConfigRef config = MakeQuietConfig(false);
-    if (useWebDefaults)
-        return YGNodeNewWithConfig(webConfig);
-    YGNodeRef node = YGNodeNew();
-    YGNodeSetConfig(node, config);
-    return node;
+    return YGNodeNewWithConfig(useWebDefaults ? webConfig : config);
 }
 
 // How many boxes inside each other are laid out again in one pass. It limits how
