@@ -61,6 +61,7 @@ void LayoutCosts::end()
 {
     ++layouts_;
     sum_ += visits_;
+    measureCallSum_ += measureCalls_;
     highest_.raiseTo(
         {static_cast<double>(visits_) / nodes_, static_cast<double>(measureCalls_) / nodes_});
 }

@@ -25,6 +25,9 @@ public:
     int layouts() const { return layouts_; }
     // The highest costs of a single layout.
     const LayoutCost& highest() const { return highest_; }
+    // Of all layouts.
+    long visits() const { return sum_; }
+    long measureCalls() const { return measureCallSum_; }
     // The visits of all layouts, per node of the largest one.
     double allVisits() const;
 
@@ -38,6 +41,7 @@ private:
     long visits_ = 0;
     long measureCalls_ = 0;
     long sum_ = 0;
+    long measureCallSum_ = 0;
     LayoutCost highest_;
 };
 

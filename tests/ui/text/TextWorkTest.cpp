@@ -58,7 +58,7 @@ TEST_P(TextWork, IsOneShapingForEachParagraphAndNoDocument)
     const int paragraphs = paragraphsOf(*card->root());
     EXPECT_EQ(building.documents, 0);
     EXPECT_EQ(building.shapings, paragraphs);
-    EXPECT_LE(building.lineBreakings, 3 * paragraphs);
+    EXPECT_LE(building.lineBreakings, 2 * paragraphs);
 
     const auto showing = workIn([&card] {
         paint(*card->root());

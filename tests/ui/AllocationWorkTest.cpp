@@ -1,0 +1,33 @@
+// How often memory is allocated for the example cards. A cache that was not used again,
+// or a copy that was not needed, shows in this count.
+#include "support/PlixTest.h"
+#include "ui/AllocationCount.h"
+#include "ui/CardWork.h"
+#include "ui/ExampleCards.h"
+
+namespace plix::test {
+namespace {
+
+long allocationsOf(const std::string& json)
+{
+    const long before = allocationCount();
+    const TestCard card(json, showExamplePictures);
+    return allocationCount() - before;
+}
+
+class AllocationWork : public PlixTest, public testing::WithParamInterface<std::string> { };
+
+TEST_P(AllocationWork, IsNotMoreThanItWas)
+{
+    const std::string json = exampleCard(GetParam());
+    // The first card finds fonts and fills tables.
+    allocationsOf(json);
+    allocationsOf(json);
+    EXPECT_LE(allocationsOf(json), maximumWork(GetParam()).allocations);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cards, AllocationWork, testing::ValuesIn(exampleNames()),
+                         [](const auto& card) { return card.param; });
+
+} // namespace
+} // namespace plix::test
