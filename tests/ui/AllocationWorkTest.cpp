@@ -5,6 +5,8 @@
 #include "ui/CardWork.h"
 #include "ui/ExampleCards.h"
 
+#include <algorithm>
+
 namespace plix::test {
 namespace {
 
@@ -20,10 +22,11 @@ class AllocationWork : public PlixTest, public testing::WithParamInterface<std::
 TEST_P(AllocationWork, IsNotMoreThanItWas)
 {
     const std::string json = exampleCard(GetParam());
-    // The first card finds fonts and fills tables.
-    allocationsOf(json);
-    allocationsOf(json);
-    EXPECT_LE(allocationsOf(json), maximumWork(GetParam()).allocations);
+    // The first card finds fonts, and any card may be the one for which a table grows.
+    long fewest = allocationsOf(json);
+    for (int i = 0; i < 3; ++i)
+        fewest = std::min(fewest, allocationsOf(json));
+    EXPECT_LE(fewest, maximumWork(GetParam()).allocations);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cards, AllocationWork, testing::ValuesIn(exampleNames()),
