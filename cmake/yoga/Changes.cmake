@@ -11,17 +11,12 @@
 # - a layout has a limit of visits (cmake/yoga/VisitLimit.h), because no number of
 #   measurements is enough for every card.
 #
-# The original files are kept beside the changed ones. So this may run again at any time,
-# also after a version of it that made no changes or other ones.
+# The changes are made in a copy of the sources.
 
-# plix_change(FILE OLD NEW [OLD NEW]...): writes the original FILE with each OLD text
-# replaced by its NEW one. Each OLD text must be in the file exactly once.
+# plix_change(FILE OLD NEW [OLD NEW]...): replaces each OLD text in the file by its NEW
+# one. Each OLD text must be in the file exactly once.
 function(plix_change file)
-    if(NOT EXISTS ${file}.original)
-        file(COPY_FILE ${file} ${file}.part)
-        file(RENAME ${file}.part ${file}.original)
-    endif()
-    file(READ ${file}.original text)
+    file(READ ${file} text)
     set(last 1)
     while(last LESS ARGC)
         set(old "${ARGV${last}}")
@@ -31,26 +26,13 @@ function(plix_change file)
         string(FIND "${text}" "${old}" last_place REVERSE)
         if(first_place EQUAL -1 OR NOT first_place EQUAL last_place)
             message(FATAL_ERROR
-                "${file}.original does not have this text exactly once:\n${old}\n"
-                "cmake/yoga/Changes.cmake was made for another version of Yoga, or the "
-                "sources were not unpacked whole. Delete ${yoga_dir} to unpack them again.")
+                "${file} does not have this text exactly once:\n${old}\n"
+                "cmake/yoga/Changes.cmake was made for another version of Yoga.")
         endif()
         string(REPLACE "${old}" "${new}" text "${text}")
         math(EXPR last "${last} + 2")
     endwhile()
-    plix_write_changed(${file} "${text}")
-endfunction()
-
-# Does not write a file that already has this text, so that nothing is built again.
-function(plix_write_changed file text)
-    set(present "")
-    if(EXISTS ${file})
-        file(READ ${file} present)
-    endif()
-    if(NOT present STREQUAL text)
-        file(WRITE ${file}.part "${text}")
-        file(RENAME ${file}.part ${file})
-    endif()
+    file(WRITE ${file} "${text}")
 endfunction()
 
 # plix_change_yoga(SOURCES): SOURCES is the folder that contains Yoga.h.
@@ -94,14 +76,27 @@ function(plix_change_yoga sources)
     // The node has its measured size.
   } else if (!needToVisitNode && cachedResults != nullptr) {
 ]])
-    plix_add_to_yoga(VisitLimit.h ${sources}/algorithm)
-    plix_add_to_yoga(Measurements.h ${sources}/node)
+    foreach(header IN ITEMS algorithm/VisitLimit.h node/Measurements.h)
+        cmake_path(GET header FILENAME name)
+        configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/${name} ${sources}/${header} COPYONLY)
+    endforeach()
 endfunction()
 
-# plix_add_to_yoga(HEADER FOLDER): copies a header of ours.
-function(plix_add_to_yoga header folder)
-    set(path ${PROJECT_SOURCE_DIR}/cmake/yoga/${header})
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${path})
-    file(READ ${path} text)
-    plix_write_changed(${folder}/${header} "${text}")
+# plix_copy_changed_yoga(SOURCES COPY): makes the folder COPY the changed sources. Does not
+# write a file that already has its text, so that nothing is compiled again.
+function(plix_copy_changed_yoga sources copy)
+    set(scratch ${copy}.part)
+    file(REMOVE_RECURSE ${scratch})
+    plix_list_yoga(${sources} files)
+    foreach(file IN LISTS files)
+        configure_file(${sources}/${file} ${scratch}/${file} COPYONLY)
+    endforeach()
+    plix_change_yoga(${scratch}/yoga)
+    plix_list_yoga(${scratch} files)
+    foreach(file IN LISTS files)
+        cmake_path(GET file PARENT_PATH folder)
+        file(MAKE_DIRECTORY ${copy}/${folder})
+        file(COPY_FILE ${scratch}/${file} ${copy}/${file} ONLY_IF_DIFFERENT)
+    endforeach()
+    file(REMOVE_RECURSE ${scratch})
 endfunction()
