@@ -1,6 +1,7 @@
 #include <plix/Plix.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QGraphicsScene>
 #include <QGraphicsView>
 
@@ -18,15 +19,24 @@ void onClick(PlixDataController*, ST_ACTION& action, void*)
 std::string onDownload(PlixDataController*, const std::string& url, void* folder)
 {
     const std::string name = url.substr(url.rfind('/') + 1);
+    std::string path = static_cast<const char*>(folder) + ('/' + name);
     const bool isPlain = name.find_first_of("\\:?*") == std::string::npos && name[0] != '.';
-    return isPlain ? static_cast<const char*>(folder) + ('/' + name) : std::string();
+    if (isPlain && QFileInfo(QString::fromStdString(path)).isFile())
+        return path;
+    std::cerr << "No picture for " << url << ": " << path << std::endl;
+    return std::string();
 }
 
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    std::ifstream file(argc > 1 ? argv[1] : "examples/cards/receipt.json");
+    const char* path = argc > 1 ? argv[1] : "examples/cards/receipt.json";
+    std::ifstream file(path);
     const std::string json(std::istreambuf_iterator<char>(file), {});
+    if (json.empty()) {
+        std::cerr << "Cannot read the card " << path << std::endl;
+        return 1;
+    }
     char folder[] = "examples/images";
 
     Plix_SetWiteLogCallback([](const char* line) { std::cerr << line << std::endl; });
