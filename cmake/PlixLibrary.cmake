@@ -30,8 +30,11 @@ add_library(plix SHARED $<TARGET_OBJECTS:plix_objects>)
 add_library(Plix::plix ALIAS plix)
 target_include_directories(plix INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                           $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
-target_link_libraries(plix PRIVATE KestroControl::KestroControl Qt5::Widgets plix_yoga
-                                   JsonCpp::JsonCpp)
+# Plix.h includes no header of these two, but a host shows its cards with Qt, and sets its
+# font family with KestroControl.
+target_link_libraries(plix PUBLIC KestroControl::KestroControl Qt5::Widgets
+                           PRIVATE plix_yoga JsonCpp::JsonCpp)
+target_compile_features(plix INTERFACE cxx_std_17)
 set_target_properties(plix PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
 if(WIN32)
@@ -47,8 +50,3 @@ else()
     target_link_options(plix PRIVATE LINKER:--version-script=${version_script}
                                      $<$<NOT:$<BOOL:${PLIX_SANITIZE}>>:LINKER:--no-undefined>)
 endif()
-
-install(TARGETS plix
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES include/plix/Plix.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/plix)

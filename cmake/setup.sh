@@ -5,7 +5,7 @@
 
 readonly PLIX_PACKAGES=(
     g++ cmake ninja-build ca-certificates
-    qtbase5-dev libjsoncpp-dev libgtest-dev
+    qtbase5-dev libjsoncpp-dev libgtest-dev pkgconf dpkg-dev file
     fonts-dejavu-core fonts-dejavu-extra fonts-noto-cjk fonts-noto-color-emoji)
 
 # What only the benchmarks need.
