@@ -173,14 +173,20 @@ mount_into_wine() {
     done
 }
 
-# unmount_from_wine ROOT: ends the processes of Wine and unmounts everything below ROOT,
+# unmount_from_wine ROOT: ends Wine and unmounts everything below ROOT,
 # the latest first.
 unmount_from_wine() {
     local place
-    in_wine "$1" wineserver --kill || true
-    in_wine "$1" wineserver --wait || true
+    end_wine_services "$1"
     awk -v root="$(realpath "$1")/" 'index($2, root) == 1 { print $2 }' /proc/mounts | tac |
         while read -r place; do umount "$place"; done
+}
+
+# end_wine_services ROOT: ends the processes of Wine. Those that were started without a
+# display would not use one.
+end_wine_services() {
+    in_wine "$1" wineserver --kill || true
+    in_wine "$1" wineserver --wait || true
 }
 
 # in_wine ROOT COMMAND...: runs the command in ROOT, with the environment variables that
@@ -196,8 +202,10 @@ in_wine() {
         "${pass[@]}" "${@:2}"
 }
 
-# The libraries, the tool and the tests, in build/windows.
+# build_windows [TARGET...]: the targets, or else the libraries, the tool and the tests, in
+# build/windows.
 build_windows() {
+    local target=("${@:-all}")
     install_packages "${PLIX_WINDOWS_PACKAGES[@]}"
     make_part qt make_qt
     make_part jsoncpp make_jsoncpp
@@ -206,7 +214,11 @@ build_windows() {
     make_part fonts make_fonts
     [[ -e $root/build/cache ]] || install_npm
     # Always configures, because the path of the cache may have changed.
-    (cd "$root" && cmake --preset windows && cmake --build --preset windows) >&2
+    (
+        cd "$root"
+        cmake --preset windows
+        cmake --build --preset windows --target "${target[@]}"
+    ) >&2
 }
 
 # start_wine [FOLDER...]: mounts the folders into the Wine root, at the same paths as
