@@ -32,11 +32,18 @@ std::optional<Picture> pictureOf(const QGraphicsObject& item, const PaintRecord&
     return Picture {file, record.pictures.front()};
 }
 
+// The stops of the Tab key on texts show nothing.
+bool isShown(QGraphicsItem& item)
+{
+    const QGraphicsObject* const object = item.toGraphicsObject();
+    return item.isVisible() && !(object && object->inherits("PlixFocusStop"));
+}
+
 void readChildren(const QGraphicsItem& item, Element& element)
 {
     std::vector<QRectF> rects;
     for (QGraphicsItem* child : item.childItems()) {
-        if (!child->isVisible())
+        if (!isShown(*child))
             continue;
         element.children.push_back(readElement(*child));
         rects.push_back(element.children.back().rect);
