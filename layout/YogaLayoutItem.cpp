@@ -108,7 +108,7 @@ YogaLayoutItem::~YogaLayoutItem()
     YGNodeFree(node_);
 }
 
-YogaLayoutItem* YogaLayoutItem::itemOf(YGNodeConstRef node)
+YogaLayoutItem* YogaLayoutItem::ItemOf(YGNodeConstRef node)
 {
     auto* const item = node ? static_cast<YogaLayoutItem*>(YGNodeGetContext(node)) : nullptr;
     return item && item->isChild_ ? item : nullptr;
@@ -237,7 +237,7 @@ void YogaLayoutItem::setHasBaselineFunc(bool has)
 YGSize YogaLayoutItem::MeasureCallback(YGNodeConstRef node, float width, YGMeasureMode widthMode,
                                        float height, YGMeasureMode heightMode)
 {
-    YogaLayoutItem* item = itemOf(node);
+    YogaLayoutItem* item = ItemOf(node);
     if (!item)
         return {width, height};
     QSizeF size(width, height);
@@ -247,7 +247,7 @@ YGSize YogaLayoutItem::MeasureCallback(YGNodeConstRef node, float width, YGMeasu
 
 float YogaLayoutItem::BaselineCallback(YGNodeConstRef node, float width, float height)
 {
-    YogaLayoutItem* item = itemOf(node);
+    YogaLayoutItem* item = ItemOf(node);
     float baseline = height;
     if (item)
         plix::CatchExceptions([&] { baseline = item->baseline(width, height); });
@@ -449,7 +449,7 @@ YogaLayoutItem* YogaLayoutItem::childAt(int index) const
 {
     if (!node_ || index < 0)
         return nullptr;
-    return itemOf(YGNodeGetChild(node_, static_cast<std::size_t>(index)));
+    return ItemOf(YGNodeGetChild(node_, static_cast<std::size_t>(index)));
 }
 
 int YogaLayoutItem::childCount() const
@@ -459,7 +459,7 @@ int YogaLayoutItem::childCount() const
 
 YogaLayoutItem* YogaLayoutItem::parentItem() const
 {
-    return node_ ? itemOf(YGNodeGetParent(node_)) : nullptr;
+    return node_ ? ItemOf(YGNodeGetParent(node_)) : nullptr;
 }
 
 QRectF YogaLayoutItem::geometry() const

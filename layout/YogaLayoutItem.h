@@ -208,7 +208,7 @@ private:
 
     // The item of a node that is, or was, the child of another. Null for a root node,
     // for a node without an item, and for null.
-    static YogaLayoutItem* itemOf(YGNodeConstRef node);
+    static YogaLayoutItem* ItemOf(YGNodeConstRef node);
 
     bool canInsert(const YogaLayoutItem* child) const;
     void insertNode(YogaLayoutItem* child, int index);
