@@ -5,12 +5,14 @@
 #include <cstddef>
 
 // glibc's own functions under their second names.
+// NOLINTBEGIN(readability-identifier-naming)
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* block, std::size_t size);
 void* __libc_memalign(std::size_t alignment, std::size_t size);
 }
+// NOLINTEND(readability-identifier-naming)
 
 namespace {
 

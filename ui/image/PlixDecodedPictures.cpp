@@ -1,17 +1,23 @@
 #include "ui/image/PlixDecodedPictures.h"
 
 #include <QCache>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QObject>
 
 namespace {
 
-// Also the receiver of the call that empties it.
 class Cache : public QObject, public QCache<const PlixPicture*, QImage> {
 public:
     Cache()
         : QCache(PlixDecodedPictures::kMaximumBytes)
     {
     }
+
+    void ClearLater() { QCoreApplication::postEvent(this, new QEvent(QEvent::User)); }
+
+private:
+    void customEvent(QEvent*) override { clear(); }
 };
 
 Cache& Instance()
@@ -33,8 +39,7 @@ void PlixDecodedPictures::Insert(const PlixPicture& picture, const QImage& decod
 {
     Cache& cache = Instance();
     if (cache.isEmpty())
-        QMetaObject::invokeMethod(
-            &cache, [&cache] { cache.clear(); }, Qt::QueuedConnection);
+        cache.ClearLater();
     cache.insert(&picture, new QImage(decoded), static_cast<int>(decoded.sizeInBytes()));
 }
 
