@@ -37,7 +37,7 @@ public:
         const bool isRegion = changed.state().testFlag(DirtyClipRegion);
         if ((!isPath && !isRegion) || changed.clipOperation() == Qt::NoClip)
             return;
-        ++(isRegion || isRectangle(changed.clipPath()) ? rectangles_ : paths_);
+        ++(isRegion || isRectangle(changed.clipPath()) ? rectangles : paths);
     }
 
     void drawPath(const QPainterPath&) override { }
@@ -48,8 +48,8 @@ public:
     }
     void drawTextItem(const QPointF&, const QTextItem&) override { }
 
-    int rectangles_ = 0;
-    int paths_ = 0;
+    int rectangles = 0;
+    int paths = 0;
 };
 
 ClipCounter::ClipCounter()
@@ -61,12 +61,12 @@ ClipCounter::~ClipCounter() = default;
 
 int ClipCounter::rectangles() const
 {
-    return engine_->rectangles_;
+    return engine_->rectangles;
 }
 
 int ClipCounter::paths() const
 {
-    return engine_->paths_;
+    return engine_->paths;
 }
 
 QPaintEngine* ClipCounter::paintEngine() const
