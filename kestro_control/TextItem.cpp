@@ -185,13 +185,13 @@ private:
     void InsertEmoji(const MarkupRun& run, const QTextCharFormat& format);
     void InsertPicture(const MarkupRun& run, const QTextCharFormat& format, const QImage& picture);
     void AddHiddenText(const QString& hidden);
+    // The mentions of a read-only item; there are none in an editable one.
+    const MentionAreas& Areas();
 
     TextItem& item_;
     ShownLines shown_;
     bool isShownValid_ = false;
     std::optional<bool> needsSideClip_;
-    const MentionAreas& Areas();
-
     std::optional<MentionAreas> mentions_;
 
     DisplayBudget budget_;

@@ -254,8 +254,7 @@ void PlixBoxUI::PaintClipped(QPainter& painter, const QRectF& exposed) const
     painter.save();
     // With the item's own clip alone, a partial paint may show one more row of
     // pixels than a paint of the whole.
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setClipPath(plix::RectanglePath(rect()), Qt::IntersectClip);
+    plix::ClipToRectangle(painter, rect());
     painter.setRenderHint(QPainter::Antialiasing);
     if (background_)
         PaintBackground(painter, exposed);
@@ -268,13 +267,14 @@ void PlixBoxUI::PaintClipped(QPainter& painter, const QRectF& exposed) const
 // it paints nothing outside of itself.
 void PlixBoxUI::PaintOnWholePixels(QPainter& painter) const
 {
-    const bool isRound = cornerRadius_ >= 1;
+    if (cornerRadius_ < 1) {
+        plix::FillWholePixels(painter, rect(), background_->color());
+        return;
+    }
     const bool wasSmooth = painter.testRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::Antialiasing, isRound);
-    if (isRound && background_)
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (background_)
         PaintBackground(painter, rect());
-    else if (background_)
-        painter.fillRect(rect(), background_->color());
     if (border_)
         PaintBorder(painter);
     painter.setRenderHint(QPainter::Antialiasing, wasSmooth);

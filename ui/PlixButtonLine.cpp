@@ -51,10 +51,8 @@ void PlixButtonLine::Draw(QPainter& painter, const QRectF& rect) const
     const QPointF position = PositionIn(rect);
     // Labels in large letters are higher than the button. Qt clips them, too, but
     // not always to the same pixels, and with soft edges like those of the plate.
-    if (!rect.contains(ink_.translated(position))) {
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.setClipPath(plix::RectanglePath(rect), Qt::IntersectClip);
-    }
+    if (!rect.contains(ink_.translated(position)))
+        plix::ClipToRectangle(painter, rect);
     layout_.lineAt(0).draw(&painter, position);
 }
 

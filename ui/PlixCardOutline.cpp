@@ -83,8 +83,5 @@ void PlixCardOutline::Fill(QPainter& painter, const QRectF& rect, const QColor& 
         if (!part.isEmpty())
             painter.fillPath(Cut(part).value_or(QPainterPath()), color);
     }
-    const bool wasSmooth = painter.testRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillRect(middle, color);
-    painter.setRenderHint(QPainter::Antialiasing, wasSmooth);
+    plix::FillWholePixels(painter, middle, color);
 }

@@ -65,8 +65,7 @@ void PlixFocusRing::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QW
     const PlixCardClip clip(*painter, plix::CutByCard(*this, rect_));
     painter->save();
     // Between pixels, a partial paint would show other pixels of the edges.
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setClipPath(plix::RectanglePath(rect_), Qt::IntersectClip);
+    plix::ClipToRectangle(*painter, rect_);
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(Qt::NoBrush);
     const QColor color = QApplication::palette().color(QPalette::Highlight);

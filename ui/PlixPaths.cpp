@@ -1,5 +1,7 @@
 #include "ui/PlixPaths.h"
 
+#include <QPainter>
+
 #include <algorithm>
 
 namespace plix {
@@ -26,6 +28,12 @@ QPainterPath RectanglePath(const QRectF& rect)
     // nothing, so contains() is right, too.
     path.moveTo(rect.topLeft());
     return path;
+}
+
+void ClipToRectangle(QPainter& painter, const QRectF& rect)
+{
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setClipPath(RectanglePath(rect), Qt::IntersectClip);
 }
 
 } // namespace plix

@@ -3,6 +3,8 @@
 #include <QPainterPath>
 #include <QRectF>
 
+class QPainter;
+
 namespace plix {
 
 // The radius of the corners of a rectangle: at most half of its height.
@@ -16,5 +18,8 @@ QPainterPath RoundedPath(const QRectF& rect, double radius);
 // pixels, but not if the clip around it is not rectangular. So a partial paint would
 // show other pixels than a paint of the whole.
 QPainterPath RectanglePath(const QRectF& rect);
+
+// Clips to that rectangle, with hard edges. Turns antialiasing off.
+void ClipToRectangle(QPainter& painter, const QRectF& rect);
 
 } // namespace plix

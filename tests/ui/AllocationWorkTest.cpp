@@ -1,7 +1,7 @@
 // How often memory is allocated for the example cards. A cache that was not used again,
 // or a copy that was not needed, shows in this count.
+#include "bench/cards/HeapCount.h"
 #include "support/PlixTest.h"
-#include "ui/AllocationCount.h"
 #include "ui/CardWork.h"
 #include "ui/ExampleCards.h"
 
@@ -10,11 +10,12 @@
 namespace plix::test {
 namespace {
 
-long allocationsOf(const std::string& json)
+std::int64_t allocationsOf(const std::string& json)
 {
-    const long before = allocationCount();
+    bench::setHeapCounting(true);
+    const bench::HeapCount before = bench::heapCount();
     const TestCard card(json, showExamplePictures);
-    return allocationCount() - before;
+    return (bench::heapCount() - before).allocations;
 }
 
 class AllocationWork : public PlixTest, public testing::WithParamInterface<std::string> { };
@@ -23,7 +24,7 @@ TEST_P(AllocationWork, IsNotMoreThanItWas)
 {
     const std::string json = exampleCard(GetParam());
     // The first card finds fonts, and any card may be the one for which a table grows.
-    long fewest = allocationsOf(json);
+    std::int64_t fewest = allocationsOf(json);
     for (int i = 0; i < 3; ++i)
         fewest = std::min(fewest, allocationsOf(json));
     EXPECT_LE(fewest, maximumWork(GetParam()).allocations);

@@ -67,10 +67,8 @@ void plix::DrawPicture(QPainter& painter, const QImage& image, const QRectF& are
     brush.setTransform(onPicture);
     // A brush repeats its picture outside of it, so the painter clips. The clip has
     // hard edges: Qt loses soft ones where the painted part sees a rectangle of it.
-    if (!mapping.isExact || !mapping.area.contains(outline.boundingRect())) {
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.setClipPath(plix::RectanglePath(mapping.area), Qt::IntersectClip);
-    }
+    if (!mapping.isExact || !mapping.area.contains(outline.boundingRect()))
+        plix::ClipToRectangle(painter, mapping.area);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !mapping.isExact);
     painter.fillPath(outline, brush);
