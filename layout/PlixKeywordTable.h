@@ -12,6 +12,8 @@
 template <typename Value> struct PlixKeyword {
     std::string_view word;
     Value value;
+    // For authors of cards, if the value does not say enough.
+    std::string_view meaning = {};
 };
 
 namespace plix {

@@ -1,6 +1,6 @@
 #include "layout/PlixStyleValues.h"
 
-#include "layout/PlixKeywordTable.h"
+#include "layout/PlixLengthWords.h"
 
 #include <QString>
 #include <QStringList>
@@ -14,29 +14,6 @@
 namespace plix {
 
 namespace {
-
-using Pixels = PlixKeyword<int>;
-
-constexpr std::array kLengths =
-    std::to_array<Pixels>({{"xs", 2}, {"sm", 4}, {"md", 8}, {"lg", 12}, {"xl", 16}, {"xxl", 20}});
-
-constexpr std::array kCornerRadii =
-    std::to_array<Pixels>({{"xs", 1}, {"sm", 2}, {"md", 3}, {"lg", 4}, {"xl", 5}, {"xxl", 6}});
-
-constexpr std::array kBorderWidths = std::to_array<Pixels>(
-    {{"light", 1}, {"normal", 2}, {"medium", 3}, {"semibold", 4}, {"bold", 5}});
-
-constexpr std::array kImageSizes = std::to_array<PlixKeyword<float>>({{"xxs", 40},
-                                                                      {"xs", 60},
-                                                                      {"sm", 80},
-                                                                      {"md", 100},
-                                                                      {"lg", 120},
-                                                                      {"xl", 140},
-                                                                      {"xxl", 160},
-                                                                      {"3xl", 180},
-                                                                      {"4xl", 200},
-                                                                      {"5xl", 220},
-                                                                      {"full", kFullImageWidth}});
 
 constexpr int kDefaultSpacer = 8;
 constexpr float kDefaultImageSize = 100;
@@ -73,7 +50,8 @@ std::optional<QRgb> ReadHexColor(std::string_view text)
 }
 
 template <std::size_t Size>
-int WordOrPixels(const std::array<Pixels, Size>& words, const std::string& text, int whenEmpty)
+int WordOrPixels(const std::array<PlixKeyword<int>, Size>& words, const std::string& text,
+                 int whenEmpty)
 {
     if (text.empty())
         return whenEmpty;

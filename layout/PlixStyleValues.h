@@ -43,7 +43,6 @@ int ToBorderWidth(const std::string& text);
 int ToSpacerPixels(const std::string& text);
 
 // An image's "size"; kFullImageWidth for "full", 100 for unknown words.
-constexpr float kFullImageWidth = -2.0F;
 float ToImageSize(const std::string& text);
 
 // The "aspectRatio" of an image or icon, such as "16:9", as its width divided by its

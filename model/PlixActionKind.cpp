@@ -2,20 +2,13 @@
 
 #include "layout/PlixKeywordTable.h"
 #include "model/PlixDataItem.h"
+#include "model/format/PlixWords.h"
 
 #include <plix/Plix.h>
 
-#include <array>
 #include <memory>
 
 namespace plix {
-
-namespace {
-
-constexpr std::array kActionWords = std::to_array<PlixKeyword<PlixActionKind>>(
-    {{"uri", PlixActionUri}, {"message", PlixActionMessage}, {"postback", PlixActionPostback}});
-
-} // namespace
 
 PlixActionKind ToActionKind(const std::string& word)
 {

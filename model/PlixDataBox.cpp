@@ -1,5 +1,7 @@
 #include "model/PlixDataBox.h"
 
+#include "layout/PlixKeywordTable.h"
+
 #include <utility>
 
 namespace {
@@ -62,6 +64,11 @@ void PlixDataBox::SetPaddingEnd(std::string_view padding)
 {
     PlixPadding& edge = padding.empty() ? lengths_.Make().paddingStart : lengths_.Make().paddingEnd;
     ReadPadding(padding, edge);
+}
+
+bool PlixDataBox::HasLayout(PlixBoxLayout layout) const
+{
+    return plix::FindKeyword(plix::kBoxLayouts, fields_.View(PlixField::Layout)) == layout;
 }
 
 void PlixDataBox::SetContainer(std::shared_ptr<PlixDataContainer> container)

@@ -4,6 +4,7 @@
 #include "model/PlixDataContainer.h"
 #include "model/PlixDataItemCommon.h"
 #include "model/PlixRareValue.h"
+#include "model/format/PlixWords.h"
 
 #include <memory>
 #include <string>
@@ -22,9 +23,9 @@ public:
 
     std::string GetLayout() const { return fields_.Get(PlixField::Layout); }
     void SetLayout(std::string_view layout) { fields_.Set(PlixField::Layout, layout); }
-    bool IsVertical() const { return HasLayout("vertical"); }
-    bool IsHorizontal() const { return HasLayout("horizontal"); }
-    bool IsBaseline() const { return HasLayout("baseline"); }
+    bool IsVertical() const { return HasLayout(PlixBoxLayout::Vertical); }
+    bool IsHorizontal() const { return HasLayout(PlixBoxLayout::Horizontal); }
+    bool IsBaseline() const { return HasLayout(PlixBoxLayout::Baseline); }
 
     std::string GetSpacing() const { return fields_.Get(PlixField::Spacing); }
     void SetSpacing(std::string_view spacing) { fields_.Set(PlixField::Spacing, spacing); }
@@ -83,7 +84,7 @@ private:
         PlixPadding paddingEnd;
     };
 
-    bool HasLayout(std::string_view word) const { return fields_.View(PlixField::Layout) == word; }
+    bool HasLayout(PlixBoxLayout layout) const;
 
     PlixRareValue<Lengths> lengths_;
     std::shared_ptr<PlixDataContainer> container_;

@@ -1,30 +1,11 @@
 #include "model/PlixDataBubble.h"
 
 #include "layout/PlixKeywordTable.h"
-
-#include <optional>
+#include "model/format/PlixWords.h"
 
 namespace {
 
-constexpr float kDefaultWidth = 300;
-constexpr float kDefaultSpacing = 20;
-
-using Pixels = PlixKeyword<float>;
-
-constexpr std::array kWidths = std::to_array<Pixels>({{"giga", 500},
-                                                      {"autogiga", 385},
-                                                      {"sn_autogiga", 343},
-                                                      {"mega", 300},
-                                                      {"kilo", 260},
-                                                      {"micro", 160},
-                                                      {"nano", 120}});
-
-constexpr std::array kSizeSpacings =
-    std::to_array<Pixels>({{"giga", 20}, {"mega", 20}, {"kilo", 13}, {"micro", 10}, {"nano", 10}});
-
-// The space between the body and a footer that is not empty.
-constexpr std::array kFooterSpacings =
-    std::to_array<Pixels>({{"giga", 10}, {"mega", 10}, {"kilo", 3}, {"micro", 0}, {"nano", 0}});
+constexpr float kDefaultWidth = PlixBubbleSize().width;
 
 template <typename Zone> std::shared_ptr<Zone> MakeZone(const std::shared_ptr<PlixDataItem>& owner)
 {
@@ -58,21 +39,33 @@ std::array<PlixDataBubble::Zone, 4> PlixDataBubble::GetZones() const
              {footer_, footerStyle_}}};
 }
 
+bool PlixDataBubble::IsRightToLeft() const
+{
+    return plix::FindKeyword(plix::kDirections, fields_.View(PlixField::Direction))
+        == Qt::RightToLeft;
+}
+
 float PlixDataBubble::GetWidth()
 {
     if (width_ == kDefaultWidth)
-        width_ = plix::FindKeyword(kWidths, GetSize()).value_or(kDefaultWidth);
+        width_ = FindSize().width;
     return width_;
 }
 
 float PlixDataBubble::GetSizeSpacing() const
 {
-    return plix::FindKeyword(kSizeSpacings, GetSize()).value_or(kDefaultSpacing);
+    return FindSize().spacing;
 }
 
 float PlixDataBubble::GetFooterSpacing() const
 {
     const bool hasFooter = footer_ && footer_->GetChildCount() > 0;
-    const auto spacing = hasFooter ? plix::FindKeyword(kFooterSpacings, GetSize()) : std::nullopt;
-    return spacing.value_or(GetSizeSpacing());
+    const PlixBubbleSize size = FindSize();
+    return hasFooter ? size.footerSpacing : size.spacing;
+}
+
+PlixBubbleSize PlixDataBubble::FindSize() const
+{
+    return plix::FindKeyword(plix::kBubbleSizes, fields_.View(PlixField::Size))
+        .value_or(PlixBubbleSize());
 }

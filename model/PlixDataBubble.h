@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+struct PlixBubbleSize;
+
 // The root of a card message.
 class PlixDataBubble : public PlixDataItem {
 public:
@@ -31,7 +33,7 @@ public:
 
     std::string GetDirection() const { return fields_.Get(PlixField::Direction); }
     void SetDirection(std::string_view direction) { fields_.Set(PlixField::Direction, direction); }
-    bool IsRightToLeft() const { return fields_.View(PlixField::Direction) == "rtl"; }
+    bool IsRightToLeft() const;
 
     std::string GetSize() const { return fields_.Get(PlixField::Size); }
     void SetSize(std::string_view size) { fields_.Set(PlixField::Size, size); }
@@ -57,6 +59,8 @@ public:
     float GetFooterSpacing() const;
 
 private:
+    PlixBubbleSize FindSize() const;
+
     float width_;
     std::shared_ptr<PlixDataHeader> header_;
     std::shared_ptr<PlixDataHero> hero_;

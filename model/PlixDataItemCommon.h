@@ -17,6 +17,7 @@ public:
 
     bool IsGrowDefault() const { return growIsDefault_; }
 
+    bool HasAbsolutePosition() const;
     // Whether the item or one of the boxes around it has an absolute position.
     bool IsAbsolute() const;
 

@@ -3,12 +3,17 @@
 #include "api/PlixCatchExceptions.h"
 #include "api/PlixDataMgr.h"
 #include "api/PlixLog.h"
-#include "model/PlixJsonTables.h"
 #include "model/PlixJsonText.h"
+#include "model/format/PlixActionKeys.h"
+#include "model/format/PlixBoxKeys.h"
+#include "model/format/PlixBubbleKeys.h"
+#include "model/format/PlixButtonKeys.h"
+#include "model/format/PlixPictureKeys.h"
+#include "model/format/PlixSpaceKeys.h"
+#include "model/format/PlixTextKeys.h"
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
 #include <stdexcept>
 #include <utility>
 
@@ -25,13 +30,12 @@ template <typename Body> int RunOperation(const char* operation, Body body)
 }
 
 // The Parse operation of a component that consists of one table.
-template <typename Item, std::size_t Size>
-int ParseComponent(const char* operation, const std::array<PlixJsonKey<Item>, Size>& keys,
-                   PlixJsonDataParse& parse, const Json::Value& node,
+template <typename Item, const auto& Keys>
+int ParseComponent(const char* operation, PlixJsonDataParse& parse, const Json::Value& node,
                    const std::shared_ptr<PlixDataItem>& item)
 {
     return RunOperation(operation,
-                        [&] { plix::ReadKeys(keys, parse, node, dynamic_cast<Item&>(*item)); });
+                        [&] { plix::ReadKeys<Keys>(parse, node, dynamic_cast<Item&>(*item)); });
 }
 
 // Increments a counter during its lifetime.
@@ -86,7 +90,7 @@ int PlixJsonDataParse::ParseBubble(const Json::Value& node,
 {
     return RunOperation("ParseBubble", [&] {
         item->SetIndex(0);
-        plix::ReadKeys(plix::kBubbleKeys, *this, node, dynamic_cast<PlixDataBubble&>(*item));
+        plix::ReadKeys<plix::kBubbleKeys>(*this, node, dynamic_cast<PlixDataBubble&>(*item));
     });
 }
 
@@ -115,58 +119,59 @@ int PlixJsonDataParse::ParseBox(const Json::Value& node, const std::shared_ptr<P
     return RunOperation("ParseBox", [&] {
         auto& box = dynamic_cast<PlixDataBox&>(*item);
         const Level level(nestedBoxes_);
-        plix::ReadKeys(plix::kBoxKeys, *this, node, box);
+        plix::ReadKeys<plix::kBoxKeys>(*this, node, box);
         if (nestedBoxes_ > kMaxNestedBoxes)
             throw std::length_error("Boxes are nested deeper than "
                                     + std::to_string(kMaxNestedBoxes) + " levels.");
-        plix::ReadKeys(plix::kBoxContentsKeys, *this, node, box);
+        plix::ReadKeys<plix::kBoxContentsKeys>(*this, node, box);
     });
 }
 
 int PlixJsonDataParse::ParseText(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseText", plix::kTextKeys, *this, node, item);
+    return ParseComponent<PlixDataText, plix::kTextKeys>("ParseText", *this, node, item);
 }
 
 int PlixJsonDataParse::ParseImage(const Json::Value& node,
                                   const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseImage", plix::kImageKeys, *this, node, item);
+    return ParseComponent<PlixDataImage, plix::kImageKeys>("ParseImage", *this, node, item);
 }
 
 int PlixJsonDataParse::ParseIcon(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseIcon", plix::kIconKeys, *this, node, item);
+    return ParseComponent<PlixDataIcon, plix::kIconKeys>("ParseIcon", *this, node, item);
 }
 
 int PlixJsonDataParse::ParseButton(const Json::Value& node,
                                    const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseButton", plix::kButtonKeys, *this, node, item);
+    return ParseComponent<PlixDataButton, plix::kButtonKeys>("ParseButton", *this, node, item);
 }
 
 int PlixJsonDataParse::ParseSpacer(const Json::Value& node,
                                    const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseSpacer", plix::kSpacerKeys, *this, node, item);
+    return ParseComponent<PlixDataSpacer, plix::kSpacerKeys>("ParseSpacer", *this, node, item);
 }
 
 int PlixJsonDataParse::ParseFiller(const Json::Value& node,
                                    const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseFiller", plix::kFillerKeys, *this, node, item);
+    return ParseComponent<PlixDataFiller, plix::kFillerKeys>("ParseFiller", *this, node, item);
 }
 
 int PlixJsonDataParse::ParseSeparator(const Json::Value& node,
                                       const std::shared_ptr<PlixDataItem>& item)
 {
-    return ParseComponent("ParseSeparator", plix::kSeparatorKeys, *this, node, item);
+    return ParseComponent<PlixDataSeparator, plix::kSeparatorKeys>("ParseSeparator", *this, node,
+                                                                   item);
 }
 
 int PlixJsonDataParse::ParseAction(const PlixJsonMember& member, ST_ACTION& action)
 {
     return RunOperation("ParseAction", [&] {
-        plix::ReadKeys(plix::kActionKeys, *this, plix::RequireObject(member), action);
+        plix::ReadKeys<plix::kActionKeys>(*this, plix::RequireObject(member), action);
     });
 }
 

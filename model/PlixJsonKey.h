@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/PlixJsonValue.h"
+#include "model/format/PlixFormatKey.h"
 
 #include <json/value.h>
 
@@ -11,15 +12,16 @@
 
 class PlixJsonDataParse;
 
-// The type that a key's value must have.
-enum class PlixJsonType { String, Integer, Boolean, Object, Array };
+// A function of the reader that stores a key's value in its component.
+template <typename Target>
+using PlixJsonReadFunc = void (*)(PlixJsonDataParse& parse, const PlixJsonMember& member,
+                                  Target& target);
 
-// One row of a component's table: a key, the type of its value, and a function
-// that stores the value in the component.
+// One row of a component's table: what the format says about a key, and where its
+// value goes.
 template <typename Target> struct PlixJsonKey {
-    std::string_view name;
-    PlixJsonType type;
-    void (*read)(PlixJsonDataParse& parse, const PlixJsonMember& member, Target& target);
+    PlixFormatKey format;
+    PlixJsonReadFunc<Target> read;
 };
 
 namespace plix {
@@ -27,53 +29,30 @@ namespace plix {
 // Rows for plain values. `Setter` stores the value.
 
 template <typename Target, auto Setter>
-constexpr PlixJsonKey<Target> StringKey(std::string_view name)
+constexpr PlixJsonKey<Target> StringKey(PlixFormatKey format)
 {
-    return {name, PlixJsonType::String,
-            [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
+    format.type = PlixJsonType::String;
+    return {format, [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
                 (target.*Setter)(ToString(member));
             }};
 }
 
 template <typename Target, auto Setter>
-constexpr PlixJsonKey<Target> IntegerKey(std::string_view name)
+constexpr PlixJsonKey<Target> IntegerKey(PlixFormatKey format)
 {
-    return {name, PlixJsonType::Integer,
-            [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
+    format.type = PlixJsonType::Integer;
+    return {format, [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
                 (target.*Setter)(ToInteger(member));
             }};
 }
 
 template <typename Target, auto Setter>
-constexpr PlixJsonKey<Target> BooleanKey(std::string_view name)
+constexpr PlixJsonKey<Target> BooleanKey(PlixFormatKey format)
 {
-    return {name, PlixJsonType::Boolean,
-            [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
+    format.type = PlixJsonType::Boolean;
+    return {format, [](PlixJsonDataParse&, const PlixJsonMember& member, Target& target) {
                 (target.*Setter)(ToBoolean(member));
             }};
-}
-
-// Reads the keys of `object` in the order of the table. Ignores keys that are not
-// in the table. An object has few of the keys that its table knows, so its members
-// are looked up in the table and not the other way round.
-template <typename Target, std::size_t Size>
-void ReadKeys(const std::array<PlixJsonKey<Target>, Size>& keys, PlixJsonDataParse& parse,
-              const Json::Value& object, Target& target)
-{
-    RequireObject({"a component", object});
-    std::array<const Json::Value*, Size> values {};
-    const auto end = object.end();
-    for (auto member = object.begin(); member != end; ++member) {
-        const std::string_view name = MemberName(member);
-        const auto key = std::find_if(keys.begin(), keys.end(),
-                                      [name](const auto& row) { return row.name == name; });
-        if (key != keys.end())
-            values[static_cast<std::size_t>(key - keys.begin())] = &*member;
-    }
-    for (std::size_t i = 0; i < Size; ++i) {
-        if (values[i])
-            keys[i].read(parse, {keys[i].name, *values[i]}, target);
-    }
 }
 
 // Joins the parts of a table.
@@ -84,6 +63,47 @@ constexpr auto JoinKeys(const std::array<PlixJsonKey<Target>, Sizes>&... parts)
     auto next = all.begin();
     ((next = std::copy(parts.begin(), parts.end(), next)), ...);
     return all;
+}
+
+// What the reader needs of a row. The rows of a table are close together, because
+// it searches them for each member of each component.
+template <typename Target> struct PlixJsonReadRow {
+    std::string_view name;
+    PlixJsonReadFunc<Target> read;
+};
+
+template <typename Target, std::size_t Size>
+constexpr auto ToReadRows(const std::array<PlixJsonKey<Target>, Size>& keys)
+{
+    std::array<PlixJsonReadRow<Target>, Size> rows {};
+    std::transform(keys.begin(), keys.end(), rows.begin(),
+                   [](const PlixJsonKey<Target>& key) -> PlixJsonReadRow<Target> {
+                       return {key.format.name, key.read};
+                   });
+    return rows;
+}
+
+// Reads the keys of `object` in the order of the table. Ignores keys that are not
+// in the table. An object has few of the keys that its table knows, so its members
+// are looked up in the table and not the other way round.
+template <const auto& Keys, typename Target>
+void ReadKeys(PlixJsonDataParse& parse, const Json::Value& object, Target& target)
+{
+    static constexpr auto kRows = ToReadRows(Keys);
+    RequireObject({"a component", object});
+    std::array<const Json::Value*, kRows.size()> values {};
+    const auto end = object.end();
+    for (auto member = object.begin(); member != end; ++member) {
+        const std::string_view name = MemberName(member);
+        const auto* const row = std::find_if(
+            kRows.begin(), kRows.end(), [name](const auto& each) { return each.name == name; });
+        if (row != kRows.end())
+            values[static_cast<std::size_t>(row - kRows.begin())] = &*member;
+    }
+    for (std::size_t i = 0; i < kRows.size(); ++i) {
+        if (values[i])
+            kRows[i].read(parse, {kRows[i].name, *values[i]}, target);
+    }
 }
 
 } // namespace plix

@@ -1,18 +1,9 @@
 #pragma once
 
-#include <Qt>
+#include "model/format/PlixWords.h"
 
 #include <optional>
 #include <string>
-
-// How a word of "align" or "gravity" places an item in its box, and content that
-// is smaller than its item.
-struct PlixAlignment {
-    Qt::AlignmentFlag flag = Qt::AlignLeft; // for YogaLayoutItem::setAlignment()
-    // The share of the free space that lies before the content: left of it, or
-    // above it.
-    double shareBefore = 0;
-};
 
 namespace plix {
 

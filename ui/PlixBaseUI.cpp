@@ -81,7 +81,7 @@ PlixOffsets PlixBaseUI::ApplyPlacement(const PlixDataItemCommon& data, bool pare
         plix::SetLeadingMargin(node, margin, parentIsVertical, plix::IsInRightToLeftBubble(data));
         node.setHasMargin(true);
     }
-    if (data.GetPosition() == "absolute")
+    if (data.HasAbsolutePosition())
         node.setAbsolute(true);
     const PlixOffsets offsets(data);
     offsets.ApplyPixels(node);

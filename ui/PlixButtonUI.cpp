@@ -6,6 +6,7 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataButton.h"
+#include "model/format/PlixWords.h"
 #include "ui/PlixAlignmentWords.h"
 #include "ui/PlixButtonLine.h"
 #include "ui/PlixCardClip.h"
@@ -16,37 +17,18 @@
 #include <QGraphicsSceneResizeEvent>
 #include <QPainter>
 
+#include <string_view>
 #include <utility>
 
 namespace {
 
-constexpr int kSmallHeight = 40;
-constexpr int kHeight = 52;
+constexpr int kDefaultHeight = 52;
 constexpr int kPlateRadius = 6;
 // Left and right of the label, both sides together.
 constexpr int kLabelPadding = 30;
 // In characters. No button is wide enough to show more, and shaping a very long
 // label would block the GUI thread.
 constexpr int kMaximumLabelLength = 1000;
-
-// The part that the card's "color" changes.
-enum class Colored { Nothing, Plate, Label };
-
-struct Look {
-    const char* plate;
-    const char* label;
-    Colored colored;
-};
-
-constexpr Look kLink = {"", "#157EFB", Colored::Label};
-constexpr Look kUnknown = {"", "black", Colored::Nothing};
-
-constexpr std::array kLooks =
-    std::to_array<PlixKeyword<Look>>({{"", kLink},
-                                      {"link", kLink},
-                                      {"primary", {"#0dc950", "white", Colored::Plate}},
-                                      {"secondary", {"#d8dee6", "black", Colored::Plate}},
-                                      {"automatic", {"#ffffff", "#0087EE", Colored::Nothing}}});
 
 QString WithoutLineBreaks(QString text)
 {
@@ -86,7 +68,7 @@ bool PlixButtonUI::Init()
     const bool isInRow = plix::IsInRow(*data);
     InitSize(*data, isInRow);
     offsets_ = ApplyPlacement(*data, !isInRow);
-    const bool isAbsolute = data->GetPosition() == "absolute";
+    const bool isAbsolute = data->HasAbsolutePosition();
     // A button that does not grow in a row would have no width otherwise.
     hasLabelWidth_ = isAbsolute || (isInRow && data->GetGrow() <= 0);
     ApplyLabelWidth();
@@ -130,13 +112,16 @@ void PlixButtonUI::InitMouse()
 
 void PlixButtonUI::InitLook(const PlixDataButton& data)
 {
-    const Look look = plix::FindKeyword(kLooks, data.GetStyle()).value_or(kUnknown);
-    const auto color = [&](Colored part, const char* fallback) {
+    const std::string style = data.GetStyle();
+    const PlixButtonLook look =
+        plix::FindKeyword(plix::kButtonLooks, style.empty() ? "link" : std::string_view(style))
+            .value_or(PlixButtonLook());
+    const auto color = [&](PlixButtonLook::Colored part, const char* fallback) {
         const bool isColored = look.colored == part && !data.GetColor().empty();
         return isColored ? data.GetColor() : std::string(fallback);
     };
-    plateColor_ = color(Colored::Plate, look.plate);
-    textPen_.setColor(plix::ToColor(color(Colored::Label, look.label)));
+    plateColor_ = color(PlixButtonLook::Colored::Plate, look.plate);
+    textPen_.setColor(plix::ToColor(color(PlixButtonLook::Colored::Label, look.label)));
 }
 
 void PlixButtonUI::InitFont(PlixDataButton& data)
@@ -151,7 +136,7 @@ void PlixButtonUI::InitSize(const PlixDataButton& data, bool isInRow)
     if (const auto gravity = plix::FindGravity(data.GetGravity()))
         setAlignment(gravity->flag, isInRow);
     setGrowFactor(data.GetGrow());
-    setHeight(data.GetHeight() == "sm" ? kSmallHeight : kHeight);
+    setHeight(plix::FindKeyword(plix::kButtonHeights, data.GetHeight()).value_or(kDefaultHeight));
 }
 
 void PlixButtonUI::SetClickFunc(const ClickFunc& func)

@@ -1,11 +1,14 @@
 #include "ui/image/PlixImageUI.h"
 
 #include "api/PlixCurrentLanguage.h"
+#include "layout/PlixKeywordTable.h"
+#include "layout/PlixLengthWords.h"
 #include "layout/PlixStyleValues.h"
 #include "model/PlixActionKind.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataImage.h"
 #include "model/PlixLanguageText.h"
+#include "model/format/PlixWords.h"
 #include "ui/PlixAlignmentWords.h"
 
 #include <QCursor>
@@ -29,8 +32,8 @@ bool PlixImageUI::Init()
     InitAction(*data);
     Download(plix::ChooseText(data->GetUrls(), plix::GetCurrentLanguage(), data->GetUrl()));
     InitSize(*data);
-    if (data->GetAspectMode() == "cover")
-        SetAspectMode(AspectMode::Cover);
+    SetAspectMode(
+        plix::FindKeyword(plix::kAspectModes, data->GetAspectMode()).value_or(PlixAspectMode::Fit));
     InitAlignment(*data);
     SetBackground(data->GetBackgroundColor());
     InitCommon(*data);

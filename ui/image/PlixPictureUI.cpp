@@ -109,7 +109,7 @@ QRectF PlixPictureUI::DrawingArea(const QSize& picture) const
         const double room = (area.width() - fixedWidth_) / 2;
         area.adjust(room, 0, -room, 0);
     }
-    if (aspectMode_ == AspectMode::Cover)
+    if (aspectMode_ == PlixAspectMode::Cover)
         return area;
     const QSizeF size = QSizeF(picture).scaled(area.size(), Qt::KeepAspectRatio);
     const QPointF corner(area.x() + (area.width() - size.width()) * placement_.x,

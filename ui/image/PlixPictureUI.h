@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/format/PlixWords.h"
 #include "ui/PlixWidgetUI.h"
 
 #include <QBrush>
@@ -32,11 +33,6 @@ public Q_SLOTS:
     void OnFileArrived(const QString& path);
 
 protected:
-    // How a picture of other proportions than the item's is shown.
-    enum class AspectMode {
-        Fit, // all of it
-        Cover // its middle, filling the item
-    };
     // The share of the free space around a fitting picture that is left of it, and
     // above it.
     struct Placement {
@@ -55,7 +51,7 @@ protected:
 
     // The width of the picture if the item is wider. 0 or less: the item's width.
     void SetFixedWidth(double width) { fixedWidth_ = width; }
-    void SetAspectMode(AspectMode mode) { aspectMode_ = mode; }
+    void SetAspectMode(PlixAspectMode mode) { aspectMode_ = mode; }
     void SetPlacement(const Placement& placement) { placement_ = placement; }
     void SetBackground(const std::string& color);
 
@@ -67,7 +63,7 @@ private:
 
     DownloadFunc downloadFunc_;
     std::shared_ptr<PlixPicture> picture_; // null before a file is named
-    AspectMode aspectMode_ = AspectMode::Fit;
+    PlixAspectMode aspectMode_ = PlixAspectMode::Fit;
     Placement placement_;
     std::optional<QBrush> background_;
     double fixedWidth_ = 0;

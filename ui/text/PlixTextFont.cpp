@@ -1,21 +1,11 @@
 #include "ui/text/PlixTextFont.h"
 
 #include "layout/PlixKeywordTable.h"
+#include "model/format/PlixWords.h"
 
 namespace plix {
 
 namespace {
-
-constexpr std::array kSizes = std::to_array<PlixKeyword<int>>({{"xxs", 11},
-                                                               {"xs", 13},
-                                                               {"sm", 14},
-                                                               {"md", 16},
-                                                               {"lg", 19},
-                                                               {"xl", 22},
-                                                               {"xxl", 29},
-                                                               {"3xl", 35},
-                                                               {"4xl", 48},
-                                                               {"5xl", 74}});
 
 constexpr int kDefaultSize = 16;
 
@@ -23,19 +13,20 @@ constexpr int kDefaultSize = 16;
 
 int ToTextPixels(const std::string& size)
 {
-    return FindKeyword(kSizes, size).value_or(kDefaultSize);
+    return FindKeyword(kTextSizes, size).value_or(kDefaultSize);
 }
 
 void ApplyFontWords(QFont& font, const std::string& weight, const std::string& decoration,
                     const std::string& style)
 {
-    if (weight == "bold")
+    if (FindKeyword(kTextWeights, weight) == PlixTextWeight::Bold)
         font.setWeight(QFont::Bold);
-    if (decoration == "line-through")
+    const auto line = FindKeyword(kTextDecorations, decoration);
+    if (line == PlixTextDecoration::LineThrough)
         font.setStrikeOut(true);
-    else if (decoration == "underline")
+    else if (line == PlixTextDecoration::Underline)
         font.setUnderline(true);
-    if (style == "italic")
+    if (FindKeyword(kTextStyles, style) == PlixTextStyle::Italic)
         font.setStyle(QFont::StyleItalic);
 }
 

@@ -96,7 +96,7 @@ bool PlixTextUI::Init()
     InsertContent(*data);
     KeepSides(*data, place);
     InitWidth(*data, place);
-    if (data->GetPosition() == "absolute")
+    if (data->HasAbsolutePosition())
         shareAbove_ = 0;
     ApplyPlacement(*data, place.box && place.box->IsVertical()).ApplyPercentages(*this);
     setHasBaselineFunc(baseline_);
@@ -201,10 +201,11 @@ void PlixTextUI::InsertText(const std::string& text, const QTextCharFormat* form
 // values of a column end.
 void PlixTextUI::KeepSides(const PlixDataText& data, const Place& place)
 {
-    if (data.GetAlign() == "center" || place.isRightToLeft)
+    const Qt::AlignmentFlag align = plix::FindAlign(data.GetAlign()).value_or(PlixAlignment()).flag;
+    if (align == Qt::AlignHCenter || place.isRightToLeft)
         return;
     const QVector<Qt::LayoutDirection> directions = ParagraphDirections();
-    if (data.GetAlign() != "end") {
+    if (align != Qt::AlignRight) {
         if (!place.isInRow && directions.first() == Qt::RightToLeft)
             YogaLayoutItem::setAlignment(Qt::AlignRight, false);
     } else if (directions.contains(Qt::RightToLeft)) {
