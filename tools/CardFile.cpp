@@ -9,6 +9,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace plix::tool {
 namespace {
@@ -31,23 +32,30 @@ int errorOffset(const QJsonParseError& error, int size)
 
 } // namespace
 
-CardFile::CardFile(const QString& path)
-    : path_(path)
+QByteArray readCardText(const QString& path)
 {
-    read();
-    check();
+    QFile file(path);
+    const bool isOpen = path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
+                                                   : file.open(QIODevice::ReadOnly);
+    QByteArray text = isOpen ? file.readAll() : QByteArray();
+    if (file.error() != QFileDevice::NoError)
+        throw fileError(path, file.errorString());
+    // A byte order mark is not part of the message.
+    if (text.startsWith("\xEF\xBB\xBF"))
+        text.remove(0, 3);
+    return text;
 }
 
-void CardFile::read()
+CardFile::CardFile(const QString& path)
+    : CardFile(path, readCardText(path))
 {
-    QFile file(path_);
-    if (file.open(QIODevice::ReadOnly))
-        json_ = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        throw fileError(path_, file.errorString());
-    // A byte order mark is not part of the message.
-    if (json_.startsWith("\xEF\xBB\xBF"))
-        json_.remove(0, 3);
+}
+
+CardFile::CardFile(const QString& path, const QByteArray& json)
+    : path_(path)
+    , json_(json)
+{
+    check();
 }
 
 void CardFile::check() const

@@ -1,6 +1,7 @@
 #include "CardHost.h"
 
 #include "CardFile.h"
+#include "CardLog.h"
 #include "Console.h"
 #include "ToolError.h"
 
@@ -8,6 +9,7 @@
 
 #include <list>
 #include <string>
+#include <utility>
 
 namespace plix::tool {
 
@@ -17,7 +19,13 @@ void CardHost::Free::operator()(PlixDataController* controller) const
 }
 
 CardHost::CardHost(const CardFile& file, const CardOptions& options)
-    : log_(file.path())
+    : CardHost(file, options,
+               [log = CardLog(file)](const QString& line) mutable { log.print(line); })
+{
+}
+
+CardHost::CardHost(const CardFile& file, const CardOptions& options, LibraryLog::Receiver receiver)
+    : log_(std::move(receiver))
     , wordings_(options.wordings)
     , images_(options.images, file.path())
     , controller_(Plix_CreateController())

@@ -18,8 +18,11 @@ class CardFile;
 // One card in a scene of its own, as in a chat view.
 class CardHost {
 public:
-    // Throws ToolError if the library cannot build the card.
+    // Prints the library's log lines. Throws ToolError if the library cannot build the
+    // card.
     CardHost(const CardFile& file, const CardOptions& options);
+    // The same, but passes the lines on.
+    CardHost(const CardFile& file, const CardOptions& options, LibraryLog::Receiver receiver);
 
     QGraphicsScene& scene() { return scene_; }
     const QGraphicsItem& card() const { return *card_; }

@@ -1,16 +1,13 @@
 #include "CommandLine.h"
 
+#include "CardOptionParser.h"
 #include "ToolError.h"
+#include "check/CheckCommandLine.h"
 
-#include <QColor>
-#include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QFileInfo>
-#include <QMap>
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace plix::tool {
 namespace {
@@ -75,56 +72,45 @@ const QString kExitCodes =
 
 QString generalHelp()
 {
-    QString text = QStringLiteral("Usage: plix COMMAND ...\n\n"
-                                  "Draws card messages and shows how they are laid out.\n\n"
-                                  "Commands:\n");
+    QString text =
+        QStringLiteral("Usage: plix COMMAND ...\n\n"
+                       "Draws card messages, shows how they are laid out, and checks them.\n\n"
+                       "Commands:\n");
     for (const CommandDescription& command : kCommands) {
         text += QStringLiteral("  %1 %2\n")
                     .arg(QString(command.name).leftJustified(9), QString(command.summary));
     }
+    text += QStringLiteral("  %1 %2\n").arg(QString(kCheckCommand).leftJustified(9), kCheckSummary);
     text += QStringLiteral("\nOptions:\n"
                            "  -h, --help     Shows this help, or the help for a command.\n"
                            "  -v, --version  Shows the version.\n"
                            "\nExamples:\n");
     for (const CommandDescription& command : kCommands)
         text += command.examples;
-    return text + kExitCodes;
-}
-
-[[noreturn]] void refuse(const QString& reason, const QString& command = QString())
-{
-    const QString help = command.isEmpty() ? QStringLiteral("plix --help")
-                                           : QStringLiteral("plix %1 --help").arg(command);
-    throw ToolError {ExitCode::WrongUse,
-                     QStringLiteral("plix: error: %1\nTry '%2'.").arg(reason, help)};
+    return text + kCheckExamples + kExitCodes;
 }
 
 class CommandParser {
 public:
     explicit CommandParser(const CommandDescription& description);
 
-    std::variant<Options, Information> parse(const QStringList& arguments);
+    Request parse(const QStringList& arguments);
 
 private:
     void addOptions();
     QString help() const;
     QString input() const;
     QString output() const;
-    CardOptions cardOptions() const;
-    QString images() const;
-    QString background() const;
-    QMap<QString, QString> wordings() const;
-
-    double number(const QString& option, double minimum, double maximum) const;
-    int integer(const QString& option, int minimum, int maximum) const;
-    [[noreturn]] void refuseValue(const QString& option, const QString& expected) const;
 
     const CommandDescription& description_;
-    QCommandLineParser parser_;
+    CardOptionParser options_;
+    QCommandLineParser& parser_;
 };
 
 CommandParser::CommandParser(const CommandDescription& description)
     : description_(description)
+    , options_(description.name)
+    , parser_(options_.parser())
 {
     parser_.setApplicationDescription(QLatin1Char('\n') + QString(description.text));
     parser_.addPositionalArgument(description.name, description.summary);
@@ -134,58 +120,23 @@ CommandParser::CommandParser(const CommandDescription& description)
 
 void CommandParser::addOptions()
 {
-    const auto option = [this](const QStringList& names, const QString& text,
-                               const QString& value = QString()) {
-        parser_.addOption(QCommandLineOption(names, text, value));
-    };
-    option({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
-    option({QStringLiteral("o"), kOutputOption}, description_.outputText, description_.outputValue);
+    options_.addOption({QStringLiteral("h"), QStringLiteral("help")},
+                       QStringLiteral("Shows this help."));
+    options_.addOption({QStringLiteral("o"), kOutputOption}, description_.outputText,
+                       description_.outputValue);
     if (description_.paints) {
-        option({kScaleOption},
-               QStringLiteral("Device pixels per logical pixel, 0.25 to 8 (default: 2)."),
-               QStringLiteral("F"));
+        options_.addOption(
+            {kScaleOption},
+            QStringLiteral("Device pixels per logical pixel, 0.25 to 8 (default: 2)."),
+            QStringLiteral("F"));
     }
-    option({QStringLiteral("dpi")},
-           QStringLiteral("Device pixels per logical pixel that images are\n"
-                          "scaled for, 0.01 to 16 (default: that of --scale,\n"
-                          "or 1 for a layout)."),
-           QStringLiteral("F"));
-    option({QStringLiteral("images")},
-           QStringLiteral("The folder of the images. Each image is the file\n"
-                          "with the name at the end of its URL (default: none)."),
-           QStringLiteral("DIR"));
-    option({QStringLiteral("lang")},
-           QStringLiteral("The language of the texts, such as ko or zh-CN (default: en)."),
-           QStringLiteral("CODE"));
-    option({QStringLiteral("from")},
-           QStringLiteral("Who sent the message: 1 is the user (default: 0)."),
-           QStringLiteral("N"));
-    option({QStringLiteral("height")},
-           QStringLiteral("Makes the card at least N pixels high, 0 to 100000."),
-           QStringLiteral("N"));
-    option({QStringLiteral("highlight")},
-           QStringLiteral("Highlights a word; may be given several times."),
-           QStringLiteral("WORD"));
-    option({QStringLiteral("background")},
-           QStringLiteral("The card's background: #RRGGBB, #AARRGGBB or an SVG colour name."),
-           QStringLiteral("COLOUR"));
-    option({QStringLiteral("markup")}, QStringLiteral("Shows mention and emoji markup in texts."));
-    option({QStringLiteral("no-mobile-check")},
-           QStringLiteral("Lets items work whose action opens only mobile apps."));
-    option({QStringLiteral("wrap-mode")},
-           QStringLiteral("How texts wrap, a QTextOption::WrapMode from 0 to 4 (default: 4)."),
-           QStringLiteral("N"));
-    option({QStringLiteral("text")},
-           QStringLiteral("The host's wording for a key, such as\n"
-                          "chat_room_check_on_mobile=\"See your phone\";\n"
-                          "may be given several times."),
-           QStringLiteral("KEY=VALUE"));
+    options_.addCardOptions();
 }
 
-std::variant<Options, Information> CommandParser::parse(const QStringList& arguments)
+Request CommandParser::parse(const QStringList& arguments)
 {
     if (!parser_.parse(arguments))
-        refuse(parser_.errorText(), description_.name);
+        options_.refuse(parser_.errorText());
     if (parser_.isSet(QStringLiteral("help")))
         return Information {help()};
 
@@ -194,8 +145,8 @@ std::variant<Options, Information> CommandParser::parse(const QStringList& argum
     options.input = input();
     options.output = output();
     if (description_.paints && parser_.isSet(kScaleOption))
-        options.scale = number(kScaleOption, 0.25, 8);
-    options.card = cardOptions();
+        options.scale = options_.number(kScaleOption, 0.25, 8);
+    options.card = options_.cardOptions();
     if (description_.paints && !options.card.dpi)
         options.card.dpi = static_cast<float>(options.scale);
     return options;
@@ -211,11 +162,10 @@ QString CommandParser::input() const
 {
     const QStringList positional = parser_.positionalArguments().mid(1);
     if (positional.isEmpty())
-        refuse(QStringLiteral("%1 is missing").arg(description_.input), description_.name);
+        options_.refuse(QStringLiteral("%1 is missing").arg(description_.input));
     if (positional.size() > 1) {
-        refuse(QStringLiteral("only one %1 is allowed, but \"%2\" follows")
-                   .arg(description_.input, positional.at(1)),
-               description_.name);
+        options_.refuse(QStringLiteral("only one %1 is allowed, but \"%2\" follows")
+                            .arg(description_.input, positional.at(1)));
     }
     return positional.front();
 }
@@ -226,112 +176,30 @@ QString CommandParser::output() const
     const bool isMissing = description_.outputRequired
         ? output.isEmpty()
         : parser_.isSet(kOutputOption) && output.isEmpty();
-    if (isMissing) {
-        refuse(QStringLiteral("-o %1 is missing").arg(description_.outputValue), description_.name);
-    }
+    if (isMissing)
+        options_.refuse(QStringLiteral("-o %1 is missing").arg(description_.outputValue));
     return output;
-}
-
-CardOptions CommandParser::cardOptions() const
-{
-    const auto isSet = [this](const char* name) { return parser_.isSet(QLatin1String(name)); };
-    const auto value = [this](const char* name) { return parser_.value(QLatin1String(name)); };
-
-    CardOptions card;
-    if (isSet("dpi"))
-        card.dpi = static_cast<float>(number(QStringLiteral("dpi"), 0.01, 16));
-    card.images = images();
-    card.language = value("lang");
-    if (isSet("from")) {
-        card.from = integer(QStringLiteral("from"), std::numeric_limits<int>::min(),
-                            std::numeric_limits<int>::max());
-    }
-    if (isSet("height"))
-        card.height = integer(QStringLiteral("height"), 0, 100000);
-    card.highlight = parser_.values(QStringLiteral("highlight"));
-    card.background = background();
-    card.markup = isSet("markup");
-    card.mobileOnlyCheck = !isSet("no-mobile-check");
-    if (isSet("wrap-mode"))
-        card.wrapMode = integer(QStringLiteral("wrap-mode"), 0, 4);
-    card.wordings = wordings();
-    return card;
-}
-
-QString CommandParser::images() const
-{
-    const QString option = QStringLiteral("images");
-    if (parser_.isSet(option) && !QFileInfo(parser_.value(option)).isDir())
-        refuseValue(option, QStringLiteral("an existing folder"));
-    return parser_.value(option);
-}
-
-QString CommandParser::background() const
-{
-    const QString option = QStringLiteral("background");
-    if (parser_.isSet(option) && !QColor::isValidColor(parser_.value(option)))
-        refuseValue(option, QStringLiteral("a colour (#RRGGBB, #AARRGGBB or an SVG colour name)"));
-    return parser_.value(option);
-}
-
-QMap<QString, QString> CommandParser::wordings() const
-{
-    QMap<QString, QString> wordings;
-    for (const QString& pair : parser_.values(QStringLiteral("text"))) {
-        const int equals = pair.indexOf(QLatin1Char('='));
-        if (equals < 1) {
-            refuse(QStringLiteral("--text must be KEY=VALUE, but is \"%1\"").arg(pair),
-                   description_.name);
-        }
-        wordings.insert(pair.left(equals), pair.mid(equals + 1));
-    }
-    return wordings;
-}
-
-double CommandParser::number(const QString& option, double minimum, double maximum) const
-{
-    bool isNumber = false;
-    const double number = parser_.value(option).toDouble(&isNumber);
-    // Written so that "nan", which is a number for Qt, is refused.
-    if (!isNumber || !(number >= minimum && number <= maximum))
-        refuseValue(option, QStringLiteral("a number from %1 to %2").arg(minimum).arg(maximum));
-    return number;
-}
-
-int CommandParser::integer(const QString& option, int minimum, int maximum) const
-{
-    bool isInteger = false;
-    const int integer = parser_.value(option).toInt(&isInteger);
-    if (!isInteger || integer < minimum || integer > maximum)
-        refuseValue(option,
-                    QStringLiteral("a whole number from %1 to %2").arg(minimum).arg(maximum));
-    return integer;
-}
-
-void CommandParser::refuseValue(const QString& option, const QString& expected) const
-{
-    refuse(QStringLiteral("--%1 must be %2, but is \"%3\"")
-               .arg(option, expected, parser_.value(option)),
-           description_.name);
 }
 
 } // namespace
 
-std::variant<Options, Information> parseCommandLine(const QStringList& arguments)
+Request parseCommandLine(const QStringList& arguments)
 {
     const QString first = arguments.value(1);
     if (first.isEmpty())
-        refuse(QStringLiteral("a command is missing: render, layout or gallery"));
+        refuseUse(QStringLiteral("a command is missing: render, layout, gallery or check"));
     if (first == QLatin1String("--help") || first == QLatin1String("-h"))
         return Information {generalHelp()};
     if (first == QLatin1String("--version") || first == QLatin1String("-v"))
         return Information {QStringLiteral("plix %1").arg(QCoreApplication::applicationVersion())};
 
-    const auto description =
+    if (first == kCheckCommand)
+        return parseCheckCommandLine(arguments);
+    const auto* const description =
         std::find_if(kCommands.begin(), kCommands.end(),
                      [&](const CommandDescription& command) { return command.name == first; });
     if (description == kCommands.end())
-        refuse(QStringLiteral("unknown command \"%1\"").arg(first));
+        refuseUse(QStringLiteral("unknown command \"%1\"").arg(first));
     return CommandParser(*description).parse(arguments);
 }
 

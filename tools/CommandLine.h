@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Options.h"
+#include "check/CheckOptions.h"
 
 #include <QString>
 #include <QStringList>
@@ -14,8 +15,10 @@ struct Information {
     QString text;
 };
 
+using Request = std::variant<Options, CheckOptions, Information>;
+
 // Throws ToolError if the arguments are wrong. `arguments` starts with the name of
 // the program.
-std::variant<Options, Information> parseCommandLine(const QStringList& arguments);
+Request parseCommandLine(const QStringList& arguments);
 
 } // namespace plix::tool

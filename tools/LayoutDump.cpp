@@ -1,5 +1,7 @@
 #include "LayoutDump.h"
 
+#include "CardObjects.h"
+
 #include <QFileInfo>
 #include <QFont>
 #include <QGraphicsObject>
@@ -7,7 +9,6 @@
 #include <QJsonDocument>
 #include <QString>
 #include <QVariant>
-#include <QVector>
 
 #include <cmath>
 #include <utility>
@@ -34,18 +35,6 @@ QByteArray rounded(double value)
     if (digits.endsWith('.'))
         digits.chop(1);
     return digits;
-}
-
-// Without the stops of the Tab key on texts, which show nothing of the card.
-QVector<const QGraphicsObject*> childObjects(const QGraphicsItem& item)
-{
-    QVector<const QGraphicsObject*> objects;
-    for (const QGraphicsItem* child : item.childItems()) {
-        const QGraphicsObject* object = child->toGraphicsObject();
-        if (object && !object->inherits("PlixFocusStop"))
-            objects.append(object);
-    }
-    return objects;
 }
 
 class LayoutWriter {
@@ -118,11 +107,11 @@ void LayoutWriter::writePicture(const QGraphicsObject& item)
 
 void LayoutWriter::writeChildren(const QGraphicsObject& item, int depth)
 {
-    const QVector<const QGraphicsObject*> children = childObjects(item);
+    const QVector<QGraphicsObject*> children = childObjects(item);
     if (children.isEmpty())
         return;
     text_ += ", \"children\": [\n";
-    for (const QGraphicsObject* child : children) {
+    for (QGraphicsObject* child : children) {
         write(*child, depth + 1);
         text_ += child == children.last() ? "\n" : ",\n";
     }

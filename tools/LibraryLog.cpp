@@ -1,31 +1,32 @@
 #include "LibraryLog.h"
 
-#include "Console.h"
-
 #include <plix/Plix.h>
+
+#include <utility>
 
 namespace plix::tool {
 namespace {
 
 // Global, since the callback has no user data.
-QString currentPath;
+LibraryLog::Receiver currentReceiver;
 
-void PLIX_CALL warn(const char* text)
+void PLIX_CALL receive(const char* text)
 {
-    console::warn(currentPath, QString::fromUtf8(text).trimmed());
+    currentReceiver(QString::fromUtf8(text).trimmed());
 }
 
 } // namespace
 
-LibraryLog::LibraryLog(const QString& path)
+LibraryLog::LibraryLog(Receiver receiver)
 {
-    currentPath = path;
-    Plix_SetWiteLogCallback(&warn);
+    currentReceiver = std::move(receiver);
+    Plix_SetWiteLogCallback(&receive);
 }
 
 LibraryLog::~LibraryLog()
 {
     Plix_SetWiteLogCallback(nullptr);
+    currentReceiver = nullptr;
 }
 
 } // namespace plix::tool

@@ -2,13 +2,17 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace plix::tool {
 
-// Prints the library's log lines as warnings about one card during its lifetime.
-// The callback is process-wide, so only one of these may exist at a time.
+// Passes the library's log lines to a function during its lifetime. The callback is
+// process-wide, so only one of these may exist at a time.
 class LibraryLog {
 public:
-    explicit LibraryLog(const QString& path);
+    using Receiver = std::function<void(const QString& line)>;
+
+    explicit LibraryLog(Receiver receiver);
     ~LibraryLog();
     LibraryLog(const LibraryLog&) = delete;
     LibraryLog& operator=(const LibraryLog&) = delete;

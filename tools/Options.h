@@ -8,6 +8,8 @@
 
 namespace plix::tool {
 
+constexpr int kMaximumCardHeight = 100000;
+
 // The host's settings for a card.
 struct CardOptions {
     // Device pixels per logical pixel, for images; the scale of the picture if empty.

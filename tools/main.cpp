@@ -3,6 +3,7 @@
 #include "Console.h"
 #include "FontList.h"
 #include "ToolError.h"
+#include "check/CheckCommand.h"
 
 #include <QApplication>
 #include <QTextCodec>
@@ -16,11 +17,13 @@ using namespace plix::tool;
 ExitCode runTool(const QStringList& arguments)
 {
     try {
-        const std::variant<Options, Information> request = parseCommandLine(arguments);
+        const Request request = parseCommandLine(arguments);
         if (const Information* information = std::get_if<Information>(&request)) {
             console::print(information->text);
             return ExitCode::Done;
         }
+        if (const CheckOptions* check = std::get_if<CheckOptions>(&request))
+            return CheckCommand(*check).run();
         return run(std::get<Options>(request));
     } catch (const ToolError& error) {
         console::printError(error.message);

@@ -150,17 +150,41 @@ TEST(CardFile, MayHaveAnyName)
     EXPECT_EQ(result.errors, "카드 %2 é.json:1:1: error: the card has no \"type\"\n");
 }
 
-TEST(CardWarnings, AreTheLibrarysLogLines)
+TEST(CardWarnings, AreTheLibrarysLogLinesWithTheirPlaces)
 {
     const ToolFolder folder;
-    folder.write("card.json", cardOf(R"({"type": "text", "text": "read", "size": 5})"));
+    folder.write("card.json", cardOf("\n{\"type\": \"text\", \"text\": \"read\", \"size\": 5}"));
     const ToolResult result = folder.run(kLayOut);
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_TRUE(
-        result.errors.starts_with("card.json: warning: call PlixJsonDataParse::ParseText failed. "))
-        << result.errors;
-    EXPECT_EQ(countOf(result.errors, "\n"), 1);
+    EXPECT_EQ(result.errors,
+              "card.json:2:42: warning: body.contents[0].size: "
+              "call PlixJsonDataParse::ParseText failed. "
+              "\"size\" must be a string, but is the number 5\n");
     EXPECT_TRUE(contains(result.output, "\"text\": \"read\"")) << result.output;
+}
+
+// The reader does not read a card in the order of its text.
+TEST(CardWarnings, NameTheRightPlacesOfSeveralLines)
+{
+    const ToolFolder folder;
+    folder.write(
+        "card.json",
+        "{\"footer\": {\"type\": \"icon\", \"url\": [],\n\"size\": 1},\n"
+        "\"body\": {\"type\": \"text\", \"contents\": [{\"type\": \"span\", \"text\": 7}],\n"
+        "\"maxLines\": 2, \"action\": 4},\n"
+        "\"action\": {\"i18nLabels\": {\"en\": \"a\", \"de\": {}}},\n"
+        "\"styles\": 1, \"type\": \"bubble\"}");
+    const std::vector<std::string> lines = linesOf(folder.run(kLayOut).errors);
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_TRUE(lines[0].starts_with("card.json:3:64: warning: body.contents[0].text: "
+                                     "call PlixJsonDataParse::ParseText failed. \"text\""))
+        << lines[0];
+    EXPECT_TRUE(lines[1].starts_with("card.json:2:9: warning: footer.size: "
+                                     "call PlixJsonDataParse::ParseIcon failed. \"size\""))
+        << lines[1];
+    EXPECT_TRUE(lines[2].starts_with("card.json:6:11: warning: styles: "
+                                     "call PlixJsonDataParse::ParseBubble failed. \"styles\""))
+        << lines[2];
 }
 
 TEST(CardWarnings, ReportThatACardWithoutBodyCannotGrow)
@@ -197,7 +221,7 @@ TEST(CardNesting, OfTooManyBoxesIsAWarning)
     folder.write("card.json", nestedBoxes(480));
     const ToolResult render = folder.run({"render", "card.json", "-o", "out.png"});
     EXPECT_EQ(render.exitCode, 0);
-    EXPECT_TRUE(render.errors.starts_with("card.json: warning: ")) << render.errors;
+    EXPECT_TRUE(render.errors.starts_with("card.json:1:")) << render.errors;
     EXPECT_TRUE(contains(render.errors, "nested deeper than")) << render.errors;
     EXPECT_EQ(countOf(render.errors, "\n"), 1);
     EXPECT_TRUE(folder.contains("out.png"));

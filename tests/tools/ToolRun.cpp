@@ -35,7 +35,7 @@ Arguments operator+(Arguments first, const Arguments& more)
     return first;
 }
 
-ToolResult runTool(const Arguments& arguments, const QString& folder)
+ToolResult runTool(const Arguments& arguments, const QString& folder, const QByteArray& input)
 {
     QStringList words;
     for (const std::string& argument : arguments)
@@ -45,6 +45,8 @@ ToolResult runTool(const Arguments& arguments, const QString& folder)
     process.setProcessEnvironment(environment());
     process.setWorkingDirectory(folder);
     process.start(QStringLiteral(PLIX_TOOL), words);
+    process.write(input);
+    process.closeWriteChannel();
     EXPECT_TRUE(process.waitForFinished(-1)) << process.errorString().toStdString();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << "the tool crashed";
     return {process.exitCode(), process.readAllStandardOutput().toStdString(),
@@ -84,9 +86,9 @@ bool ToolFolder::contains(const std::string& name) const
     return QFileInfo::exists(path(name));
 }
 
-ToolResult ToolFolder::run(const Arguments& arguments) const
+ToolResult ToolFolder::run(const Arguments& arguments, const QByteArray& input) const
 {
-    return runTool(arguments, folder_.path());
+    return runTool(arguments, folder_.path(), input);
 }
 
 QByteArray cardOf(const QByteArray& components)

@@ -20,7 +20,9 @@ struct ToolResult {
 };
 
 // Runs the built tool as a user would, in `folder`.
-ToolResult runTool(const Arguments& arguments, const QString& folder = QString());
+// `input` is its standard input.
+ToolResult runTool(const Arguments& arguments, const QString& folder = QString(),
+                   const QByteArray& input = QByteArray());
 
 // A temporary folder in which the tool runs, so that its messages contain file names
 // without folders.
@@ -36,7 +38,7 @@ public:
     void write(const std::string& name, const QByteArray& bytes) const;
     QByteArray read(const std::string& name) const;
     bool contains(const std::string& name) const;
-    ToolResult run(const Arguments& arguments) const;
+    ToolResult run(const Arguments& arguments, const QByteArray& input = QByteArray()) const;
 
 private:
     QTemporaryDir folder_;

@@ -1,0 +1,115 @@
+#include "check/LookMends.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace plix::tool {
+namespace {
+
+constexpr int kShortText = 16;
+
+const auto& siblings(const ShownItem& item)
+{
+    return item.box->children;
+}
+
+bool isPicture(const ShownItem& item)
+{
+    return item.source.isA("image") || item.source.isA("icon");
+}
+
+bool isColumn(const ShownItem& item)
+{
+    const std::string_view layout = item.source.text("layout");
+    return item.source.isA("box") && layout != "horizontal" && layout != "baseline";
+}
+
+bool isShortText(const ShownItem& item)
+{
+    return item.isText() && item.text().size() <= kShortText && !item.source.flag("wrap");
+}
+
+bool growsByDefault(const ShownItem& item)
+{
+    return !item.source.has("flex") && !item.source.isAbsolute();
+}
+
+// Whether the pictures of a row alone are wider than the row.
+bool arePicturesTooWide(const ShownItem& item)
+{
+    double width = 0;
+    for (const auto& each : siblings(item))
+        width += isPicture(*each) ? each->place().width() : 0;
+    return item.box && width > item.box->place().width();
+}
+
+// What is next to something wider needs a width of its own, and a column none.
+QString changeFor(const ShownItem& item)
+{
+    if (isPicture(item) || (isShortText(item) && siblings(item).size() > 1))
+        return QStringLiteral("\"flex\": 0 in ") + item.source.path;
+    if (isColumn(item) && !item.source.has("width"))
+        return QStringLiteral("\"width\": \"0px\" in ") + item.source.path;
+    return {};
+}
+
+// In a row, everything without "flex" grows. What has a width of its own leaves no room
+// for the others then.
+QString rowMend(const ShownItem& item)
+{
+    if (arePicturesTooWide(item))
+        return QStringLiteral("a smaller \"size\" for the pictures of the row");
+    constexpr int kMaximumChanges = 4;
+    QStringList changes;
+    for (const auto& each : siblings(item)) {
+        const QString change = growsByDefault(*each) ? changeFor(*each) : QString();
+        if (!change.isEmpty() && changes.size() < kMaximumChanges)
+            changes.append(change);
+    }
+    return changes.isEmpty() ? QStringLiteral("fewer or smaller items in the row")
+                             : changes.join(QStringLiteral(", and "));
+}
+
+} // namespace
+
+QString nameOf(const ShownItem& item)
+{
+    const std::string_view type = item.source.format.type;
+    return QStringLiteral("the ") + QString::fromUtf8(type.data(), static_cast<int>(type.size()));
+}
+
+QString roomMend(const ShownItem& item)
+{
+    if (item.source.isInRow() && item.box)
+        return rowMend(item);
+    return QStringLiteral("more room in the box around it");
+}
+
+QString placeMend(const ShownItem& item)
+{
+    if (item.source.isAbsolute())
+        return QStringLiteral("smaller offsets, or a smaller item");
+    if (item.source.isInRow() && item.box)
+        return rowMend(item);
+    // The box may be in a row that is too narrow for it.
+    if (item.box && item.box->source.isInRow() && item.box->box)
+        return rowMend(*item.box);
+    return QStringLiteral("a larger \"width\" and \"height\" of the boxes around it, or none");
+}
+
+QString cutMend(const ShownItem& item)
+{
+    const QString wrap = QStringLiteral("\"wrap\": true, or \"wrap\": false if it may be cut");
+    if (!item.source.isInRow() || !item.box)
+        return wrap;
+    const auto& all = siblings(item);
+    const bool hasOthers = std::any_of(all.begin(), all.end(), [&item](const auto& each) {
+        return each.get() != &item && growsByDefault(*each) && !changeFor(*each).isEmpty();
+    });
+    if (hasOthers)
+        return rowMend(item) + QStringLiteral(", or ") + wrap;
+    return isShortText(item) && growsByDefault(item) ? QStringLiteral("\"flex\": 0") : wrap;
+}
+
+} // namespace plix::tool

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "check/ShownItem.h"
+
+#include <QString>
+
+namespace plix::tool {
+
+// What to change in a card, so that an item is shown as a whole.
+
+// "the text", "the image".
+QString nameOf(const ShownItem& item);
+
+// For an item without room.
+QString roomMend(const ShownItem& item);
+
+// For an item that is outside of its box, or over another one.
+QString placeMend(const ShownItem& item);
+
+// For a text that is cut.
+QString cutMend(const ShownItem& item);
+
+} // namespace plix::tool

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "JsonPosition.h"
+
+#include <QByteArray>
+
+namespace plix::tool {
+
+// The lines and columns of offsets in a text. It is fast for offsets in increasing
+// order: it counts from the last one on.
+class TextPlaces {
+public:
+    explicit TextPlaces(const QByteArray& text);
+
+    TextPlace at(int offset);
+
+private:
+    const QByteArray& text_;
+    int offset_ = 0;
+    TextPlace place_;
+};
+
+} // namespace plix::tool
