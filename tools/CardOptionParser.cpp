@@ -98,7 +98,7 @@ CardOptions CardOptionParser::cardOptions() const
 QString CardOptionParser::images() const
 {
     const QString option = QStringLiteral("images");
-    const QString folder = parser_.value(option);
+    QString folder = parser_.value(option);
     if (parser_.isSet(option) && !QFileInfo(folder).isDir())
         refuseValue(option, folder, QStringLiteral("an existing folder"));
     return folder;
@@ -107,7 +107,7 @@ QString CardOptionParser::images() const
 QString CardOptionParser::background() const
 {
     const QString option = QStringLiteral("background");
-    const QString color = parser_.value(option);
+    QString color = parser_.value(option);
     if (parser_.isSet(option) && !QColor::isValidColor(color))
         refuseValue(option, color,
                     QStringLiteral("a colour (#RRGGBB, #AARRGGBB or an SVG colour name)"));

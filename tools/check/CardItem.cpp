@@ -49,6 +49,16 @@ bool CardItem::isInRow() const
     return layout == "horizontal" || layout == "baseline";
 }
 
+std::vector<std::string_view> zoneNames()
+{
+    std::vector<std::string_view> names;
+    for (const PlixFormatKey& key : BubbleFormat().keys) {
+        if (key.part == PlixFormatPart::Component)
+            names.push_back(key.name);
+    }
+    return names;
+}
+
 QString memberPath(const QString& path, std::string_view name)
 {
     const QString key = QString::fromUtf8(name.data(), static_cast<int>(name.size()));

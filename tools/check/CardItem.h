@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <string_view>
+#include <vector>
 
 namespace plix::tool {
 
@@ -36,6 +37,9 @@ struct CardItem {
 
 // What the reader makes of a string: the value of a member, or an empty text.
 std::string_view textOf(const JsonNode& object, std::string_view key);
+
+// The keys of a card that are zones, from top to bottom.
+std::vector<std::string_view> zoneNames();
 
 // The path of a member, and of an element.
 QString memberPath(const QString& path, std::string_view name);

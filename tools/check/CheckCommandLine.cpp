@@ -19,14 +19,14 @@ const QString kWorkerOption = QStringLiteral("worker");
 const QString kPhoneWording = QStringLiteral("chat_room_check_on_mobile");
 
 struct FormatName {
-    QLatin1String name;
+    const char* name;
     CheckFormat format;
 };
 
 constexpr std::array kFormats = std::to_array<FormatName>({
-    {QLatin1String("text"), CheckFormat::Text},
-    {QLatin1String("json"), CheckFormat::Json},
-    {QLatin1String("sarif"), CheckFormat::Sarif},
+    {"text", CheckFormat::Text},
+    {"json", CheckFormat::Json},
+    {"sarif", CheckFormat::Sarif},
 });
 
 const QString kText = QStringLiteral(
@@ -122,8 +122,9 @@ CheckFormat CheckParser::format() const
     if (!parser_.isSet(kFormatOption))
         return CheckFormat::Text;
     const QString name = parser_.value(kFormatOption);
-    const auto* const found = std::find_if(kFormats.begin(), kFormats.end(),
-                                           [&name](const auto& row) { return row.name == name; });
+    const auto* const found =
+        std::find_if(kFormats.begin(), kFormats.end(),
+                     [&name](const auto& row) { return name == QLatin1String(row.name); });
     if (found == kFormats.end())
         options_.refuseValue(kFormatOption, name, QStringLiteral("text, json or sarif"));
     return found->format;

@@ -9,8 +9,6 @@
 namespace plix::tool {
 namespace {
 
-constexpr std::array kZones = std::to_array<std::string_view>({"header", "hero", "body", "footer"});
-
 // Notes what is wrong with the keys of an object.
 class KeyNotes {
 public:
@@ -291,7 +289,7 @@ void checkZoneStyles(const JsonNode& bubble, Findings& findings)
 {
     const JsonMember* const styles = bubble.find("styles");
     bool isFirst = true;
-    for (const std::string_view zone : kZones) {
+    for (const std::string_view zone : zoneNames()) {
         const JsonMember* const style = styles ? styles->value.find(zone) : nullptr;
         if (style) {
             const QString path = memberPath(QStringLiteral("styles"), zone);

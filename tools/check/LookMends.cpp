@@ -100,7 +100,9 @@ QString placeMend(const ShownItem& item)
 
 QString cutMend(const ShownItem& item)
 {
-    const QString wrap = QStringLiteral("\"wrap\": true, or \"wrap\": false if it may be cut");
+    if (item.source.flag("wrap"))
+        return QStringLiteral("a shorter text");
+    QString wrap = QStringLiteral("\"wrap\": true, or \"wrap\": false if it may be cut");
     if (!item.source.isInRow() || !item.box)
         return wrap;
     const auto& all = siblings(item);

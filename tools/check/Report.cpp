@@ -14,7 +14,7 @@ QJsonObject toJson(const Finding& finding)
 {
     const RuleDescription& rule = description(finding.rule);
     QJsonObject object {
-        {QStringLiteral("code"), QString(rule.code)},
+        {QStringLiteral("code"), QLatin1String(rule.code)},
         {QStringLiteral("severity"), severityName(rule.severity)},
         {QStringLiteral("line"), finding.place.line},
         {QStringLiteral("column"), finding.place.column},
@@ -62,7 +62,7 @@ Report reportFromJson(const QJsonObject& object)
     Report report;
     report.file = object.value(QStringLiteral("file")).toString();
     report.failure = object.value(QStringLiteral("failure")).toString();
-    for (const QJsonValue& finding : object.value(QStringLiteral("findings")).toArray())
+    for (const auto& finding : object.value(QStringLiteral("findings")).toArray())
         report.findings.push_back(findingFromJson(finding.toObject()));
     return report;
 }

@@ -33,7 +33,7 @@ private:
         return QStringLiteral("%1:%2:%3: %4: ")
                    .arg(file, QString::number(finding.place.line),
                         QString::number(finding.place.column), severity)
-            + path + finding.message + mend + QStringLiteral(" [%1]").arg(rule.code);
+            + path + finding.message + mend + QStringLiteral(" [%1]").arg(QLatin1String(rule.code));
     }
 };
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLatin1String>
 #include <QString>
 
 #include <array>
@@ -51,9 +50,9 @@ enum class Rule {
 
 struct RuleDescription {
     Rule rule;
-    QLatin1String code;
+    const char* code;
     Severity severity;
-    QLatin1String title;
+    const char* title;
 };
 
 constexpr int kRuleCount = static_cast<int>(Rule::MissingGlyph) + 1;

@@ -24,8 +24,8 @@ QJsonArray ruleObjects()
     QJsonArray objects;
     for (const RuleDescription& rule : rules()) {
         objects.append(QJsonObject {
-            {QStringLiteral("id"), QString(rule.code)},
-            {QStringLiteral("shortDescription"), textObject(rule.title)},
+            {QStringLiteral("id"), QLatin1String(rule.code)},
+            {QStringLiteral("shortDescription"), textObject(QLatin1String(rule.title))},
             {QStringLiteral("defaultConfiguration"),
              QJsonObject {{QStringLiteral("level"), level(rule.severity)}}},
         });
@@ -61,7 +61,7 @@ QJsonObject result(const QString& file, const Finding& finding)
     const RuleDescription& rule = description(finding.rule);
     const QString mend =
         finding.mend.isEmpty() ? QString() : QStringLiteral("; try ") + finding.mend;
-    return {{QStringLiteral("ruleId"), QString(rule.code)},
+    return {{QStringLiteral("ruleId"), QLatin1String(rule.code)},
             {QStringLiteral("ruleIndex"), static_cast<int>(finding.rule)},
             {QStringLiteral("level"), level(rule.severity)},
             {QStringLiteral("message"), textObject(finding.message + mend)},

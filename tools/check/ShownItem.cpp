@@ -28,8 +28,6 @@ constexpr std::array kClasses = std::to_array<ClassName>({
     {"filler", "PlixFillerUI"},
 });
 
-constexpr std::array kZones = std::to_array<std::string_view>({"header", "hero", "body", "footer"});
-
 // Takes the objects of a box one by one, for the JSON elements of the box.
 class ObjectSequence {
 public:
@@ -115,7 +113,7 @@ std::vector<std::unique_ptr<ShownItem>> shownItems(const QGraphicsItem& card, co
 {
     Items items;
     ObjectSequence objects(card);
-    for (const std::string_view zone : kZones) {
+    for (const std::string_view zone : zoneNames()) {
         if (const JsonMember* const member = root.find(zone))
             addItem(items, objects, member->value,
                     {member->value, BubbleFormat(), memberPath({}, zone), nullptr, 0, zone});

@@ -84,7 +84,7 @@ TEST(CheckGuide, HasASectionForEachCode)
         codes.push_back(section.code.toStdString());
     std::vector<std::string> expected;
     for (const tool::RuleDescription& rule : tool::rules())
-        expected.emplace_back(rule.code.latin1());
+        expected.emplace_back(rule.code);
     EXPECT_EQ(codes, expected);
 }
 

@@ -16,8 +16,7 @@ inline std::vector<std::string> checkedLines(const std::string& json)
     for (const tool::Finding& finding : tool::checkText(QByteArray::fromStdString(json)).findings) {
         lines.push_back(std::to_string(finding.place.line) + ':'
                         + std::to_string(finding.place.column) + ' '
-                        + std::string(tool::description(finding.rule).code.latin1()) + ' '
-                        + finding.path.toStdString());
+                        + tool::description(finding.rule).code + ' ' + finding.path.toStdString());
     }
     return lines;
 }
