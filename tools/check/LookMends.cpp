@@ -1,8 +1,10 @@
 #include "check/LookMends.h"
 
+#include <QGraphicsObject>
 #include <QStringList>
+#include <QVariant>
 
-#include <algorithm>
+#include <cstddef>
 
 namespace plix::tool {
 namespace {
@@ -35,23 +37,50 @@ bool growsByDefault(const ShownItem& item)
     return !item.source.has("flex") && !item.source.isAbsolute();
 }
 
-// Whether the pictures of a row alone are wider than the row.
+// Whether the pictures of a row alone are wider than what is inside of the row's box.
 bool arePicturesTooWide(const ShownItem& item)
 {
+    const QRectF box = item.box->place();
+    const double padding = siblings(item).front()->place().left() - box.left();
     double width = 0;
     for (const auto& each : siblings(item))
         width += isPicture(*each) ? each->place().width() : 0;
-    return item.box && width > item.box->place().width();
+    return width > box.width() - 2 * padding;
+}
+
+bool isCut(const ShownItem& item)
+{
+    return item.object->property("elided").toBool();
 }
 
 // What is next to something wider needs a width of its own, and a column none.
 QString changeFor(const ShownItem& item)
 {
-    if (isPicture(item) || (isShortText(item) && siblings(item).size() > 1))
+    if (isPicture(item) || isShortText(item))
         return QStringLiteral("\"flex\": 0 in ") + item.source.path;
     if (isColumn(item) && !item.source.has("width"))
         return QStringLiteral("\"width\": \"0px\" in ") + item.source.path;
     return {};
+}
+
+// The changes of those items of a row that grow, and for which `isWanted` is true.
+template <typename Predicate>
+QStringList rowChanges(const ShownItem& item, const Predicate& isWanted)
+{
+    constexpr int kMaximum = 4;
+    QStringList changes;
+    for (const auto& each : siblings(item)) {
+        const QString change =
+            growsByDefault(*each) && isWanted(*each) ? changeFor(*each) : QString();
+        if (!change.isEmpty() && changes.size() < kMaximum)
+            changes.append(change);
+    }
+    return changes;
+}
+
+QString joined(const QStringList& changes)
+{
+    return changes.join(QStringLiteral(", and "));
 }
 
 // In a row, everything without "flex" grows. What has a width of its own leaves no room
@@ -60,15 +89,9 @@ QString rowMend(const ShownItem& item)
 {
     if (arePicturesTooWide(item))
         return QStringLiteral("a smaller \"size\" for the pictures of the row");
-    constexpr int kMaximumChanges = 4;
-    QStringList changes;
-    for (const auto& each : siblings(item)) {
-        const QString change = growsByDefault(*each) ? changeFor(*each) : QString();
-        if (!change.isEmpty() && changes.size() < kMaximumChanges)
-            changes.append(change);
-    }
+    const QStringList changes = rowChanges(item, [](const ShownItem&) { return true; });
     return changes.isEmpty() ? QStringLiteral("fewer or smaller items in the row")
-                             : changes.join(QStringLiteral(", and "));
+                             : joined(changes);
 }
 
 } // namespace
@@ -105,13 +128,16 @@ QString cutMend(const ShownItem& item)
     QString wrap = QStringLiteral("\"wrap\": true, or \"wrap\": false if it may be cut");
     if (!item.source.isInRow() || !item.box)
         return wrap;
-    const auto& all = siblings(item);
-    const bool hasOthers = std::any_of(all.begin(), all.end(), [&item](const auto& each) {
-        return each.get() != &item && growsByDefault(*each) && !changeFor(*each).isEmpty();
-    });
-    if (hasOthers)
-        return rowMend(item) + QStringLiteral(", or ") + wrap;
-    return isShortText(item) && growsByDefault(item) ? QStringLiteral("\"flex\": 0") : wrap;
+    const auto isNoText = [](const ShownItem& each) { return !each.isText(); };
+    if (!rowChanges(item, isNoText).isEmpty())
+        return rowMend(item);
+    // In a table, all rows must have the same shares.
+    constexpr std::size_t kLabelAndValue = 2;
+    const QStringList changes =
+        rowChanges(item, [](const ShownItem& each) { return !isCut(each); });
+    if (siblings(item).size() > kLabelAndValue)
+        return QStringLiteral("a larger \"flex\" than that of the others, or ") + wrap;
+    return changes.isEmpty() ? wrap : joined(changes) + QStringLiteral(", or ") + wrap;
 }
 
 } // namespace plix::tool
