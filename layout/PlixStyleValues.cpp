@@ -1,10 +1,13 @@
 #include "layout/PlixStyleValues.h"
 
 #include "layout/PlixLengthWords.h"
+#include "layout/PlixLimits.h"
+#include "layout/PlixStyleNumber.h"
 
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <optional>
@@ -121,7 +124,8 @@ float ToAspectRatio(const std::string& text)
     // too small.
     using Limits = std::numeric_limits<float>;
     const bool isUsable = width > 0 && ratio >= Limits::min() && ratio <= Limits::max();
-    return isUsable ? static_cast<float>(ratio) : kSquare;
+    // Yoga also divides by it.
+    return isUsable ? ToStyleNumber(std::max(ratio, 1 / kMaximumStyleNumber)) : kSquare;
 }
 
 QColor ToColor(const std::string& text)

@@ -2,6 +2,7 @@
 
 #include "api/PlixCatchExceptions.h"
 #include "api/PlixLog.h"
+#include "layout/PlixStyleNumber.h"
 
 #include <QGraphicsLayoutItem>
 
@@ -48,8 +49,8 @@ bool IsPositive(float value)
 
 float AtLeastOne(double value)
 {
-    const auto narrowed = static_cast<float>(value);
-    return IsPositive(narrowed) ? narrowed : 1.0F;
+    const float number = plix::ToStyleNumber(value);
+    return IsPositive(number) ? number : 1.0F;
 }
 
 // Set a node's width or height in each unit.
@@ -154,12 +155,12 @@ void YogaLayoutItem::addChild(YogaLayoutItem* child)
 
 float YogaLayoutItem::layoutWidth() const
 {
-    return node_ ? YGNodeLayoutGetWidth(node_) : kNoNode;
+    return node_ ? plix::ToStyleNumber(YGNodeLayoutGetWidth(node_)) : kNoNode;
 }
 
 float YogaLayoutItem::layoutHeight() const
 {
-    return node_ ? YGNodeLayoutGetHeight(node_) : kNoNode;
+    return node_ ? plix::ToStyleNumber(YGNodeLayoutGetHeight(node_)) : kNoNode;
 }
 
 QSizeF YogaLayoutItem::measure(double width, YGMeasureMode, double height, YGMeasureMode)
@@ -169,7 +170,7 @@ QSizeF YogaLayoutItem::measure(double width, YGMeasureMode, double height, YGMea
 
 float YogaLayoutItem::baseline(double, double height)
 {
-    return ToFloat(height);
+    return static_cast<float>(height);
 }
 
 void YogaLayoutItem::reset()
@@ -207,7 +208,9 @@ int YogaLayoutItem::setHighlightText(const QStringList&)
 void YogaLayoutItem::applyLayout()
 {
     const QRectF rect = geometry();
-    if (geometryTarget_ && !std::isnan(rect.width()) && !std::isnan(rect.height()))
+    const bool isComputed =
+        !std::isnan(rect.right()) && !std::isnan(rect.bottom()); // NaN if one of its numbers is
+    if (geometryTarget_ && isComputed)
         geometryTarget_->setGeometry(rect);
 }
 
@@ -269,8 +272,10 @@ void YogaLayoutItem::calculateLayout()
 
 void YogaLayoutItem::calculateLayout(double width, double height, YGDirection direction)
 {
-    plix::CatchExceptions(
-        [&] { YGNodeCalculateLayout(node_, ToFloat(width), ToFloat(height), direction); });
+    plix::CatchExceptions([&] {
+        YGNodeCalculateLayout(node_, plix::ToStyleNumber(width), plix::ToStyleNumber(height),
+                              direction);
+    });
 }
 
 void YogaLayoutItem::startPass()
@@ -360,7 +365,7 @@ void YogaLayoutItem::changeWidth(double width)
         return;
     if (!pass_.styleWidth)
         pass_.styleWidth = YGNodeStyleGetWidth(node_);
-    YGNodeStyleSetWidth(node_, ToFloat(width));
+    YGNodeStyleSetWidth(node_, plix::ToStyleNumber(width));
     YogaLayoutItem* parent = parentItem();
     if (parent && isWiderThan(width))
         parent->setRelayoutPending();
@@ -438,8 +443,8 @@ void YogaLayoutItem::calculateAtSize(double width, double height)
 {
     const YGValue styleWidth = YGNodeStyleGetWidth(node_);
     const YGValue styleHeight = YGNodeStyleGetHeight(node_);
-    YGNodeStyleSetWidth(node_, ToFloat(width));
-    YGNodeStyleSetHeight(node_, ToFloat(height));
+    YGNodeStyleSetWidth(node_, plix::ToStyleNumber(width));
+    YGNodeStyleSetHeight(node_, plix::ToStyleNumber(height));
     calculateLayout(width, height, YGNodeLayoutGetDirection(node_));
     Restore(kWidth, node_, styleWidth);
     Restore(kHeight, node_, styleHeight);
@@ -466,16 +471,17 @@ QRectF YogaLayoutItem::geometry() const
 {
     if (!node_)
         return {};
-    const QPointF computed(YGNodeLayoutGetLeft(node_), YGNodeLayoutGetTop(node_));
-    return {pass_.keptPosition.value_or(computed),
-            QSizeF(YGNodeLayoutGetWidth(node_), YGNodeLayoutGetHeight(node_))};
+    const QPointF computed(plix::ToStyleNumber(YGNodeLayoutGetLeft(node_)),
+                           plix::ToStyleNumber(YGNodeLayoutGetTop(node_)));
+    return {pass_.keptPosition.value_or(computed), QSizeF(layoutWidth(), layoutHeight())};
 }
 
 QMarginsF YogaLayoutItem::layoutPaddings() const
 {
     if (!node_)
         return {};
-    return {YGNodeLayoutGetPadding(node_, YGEdgeLeft), YGNodeLayoutGetPadding(node_, YGEdgeTop),
-            YGNodeLayoutGetPadding(node_, YGEdgeRight),
-            YGNodeLayoutGetPadding(node_, YGEdgeBottom)};
+    const auto padding = [this](YGEdge edge) {
+        return plix::ToStyleNumber(YGNodeLayoutGetPadding(node_, edge));
+    };
+    return {padding(YGEdgeLeft), padding(YGEdgeTop), padding(YGEdgeRight), padding(YGEdgeBottom)};
 }

@@ -22,7 +22,8 @@ class QGraphicsLayoutItem;
 //
 // Lengths are logical pixels. No operation throws. An item without a node does
 // nothing and returns the default that is stated, -1 for lengths. Yoga reports NaN
-// for a length that it has not computed yet.
+// for a length that it has not computed yet. Numbers beyond kMaximumStyleNumber are
+// reduced to it (PlixStyleNumber.h).
 class YogaLayoutItem {
 public:
     explicit YogaLayoutItem(bool useWebDefaults);
@@ -204,7 +205,6 @@ private:
     static float BaselineCallback(YGNodeConstRef node, float width, float height);
 
     static constexpr float kNoNode = -1;
-    static float ToFloat(double value) { return static_cast<float>(value); }
 
     // The item of a node that is, or was, the child of another. Null for a root node,
     // for a node without an item, and for null.

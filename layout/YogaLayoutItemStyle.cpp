@@ -1,9 +1,9 @@
 // The operations of YogaLayoutItem that set and read the style of its node.
+#include "layout/PlixStyleNumber.h"
 #include "layout/YogaLayoutItem.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 void YogaLayoutItem::setOrientation(Qt::Orientation orientation)
 {
@@ -74,34 +74,34 @@ void YogaLayoutItem::setMargins(double left, double top, double right, double bo
 {
     if (!startChange())
         return;
-    YGNodeStyleSetMargin(node_, YGEdgeLeft, ToFloat(left));
-    YGNodeStyleSetMargin(node_, YGEdgeTop, ToFloat(top));
-    YGNodeStyleSetMargin(node_, YGEdgeRight, ToFloat(right));
-    YGNodeStyleSetMargin(node_, YGEdgeBottom, ToFloat(bottom));
+    YGNodeStyleSetMargin(node_, YGEdgeLeft, plix::ToStyleNumber(left));
+    YGNodeStyleSetMargin(node_, YGEdgeTop, plix::ToStyleNumber(top));
+    YGNodeStyleSetMargin(node_, YGEdgeRight, plix::ToStyleNumber(right));
+    YGNodeStyleSetMargin(node_, YGEdgeBottom, plix::ToStyleNumber(bottom));
 }
 
 void YogaLayoutItem::setMargin(double all)
 {
     if (startChange())
-        YGNodeStyleSetMargin(node_, YGEdgeAll, ToFloat(all));
+        YGNodeStyleSetMargin(node_, YGEdgeAll, plix::ToStyleNumber(all));
 }
 
 void YogaLayoutItem::setMarginTop(double margin)
 {
     if (startChange())
-        YGNodeStyleSetMargin(node_, YGEdgeTop, ToFloat(margin));
+        YGNodeStyleSetMargin(node_, YGEdgeTop, plix::ToStyleNumber(margin));
 }
 
 void YogaLayoutItem::setMarginLeft(double margin)
 {
     if (startChange())
-        YGNodeStyleSetMargin(node_, YGEdgeLeft, ToFloat(margin));
+        YGNodeStyleSetMargin(node_, YGEdgeLeft, plix::ToStyleNumber(margin));
 }
 
 void YogaLayoutItem::setMarginBottom(double margin)
 {
     if (startChange())
-        YGNodeStyleSetMargin(node_, YGEdgeBottom, ToFloat(margin));
+        YGNodeStyleSetMargin(node_, YGEdgeBottom, plix::ToStyleNumber(margin));
 }
 
 float YogaLayoutItem::margin(YGEdge edge) const
@@ -133,7 +133,7 @@ void YogaLayoutItem::setPaddings(double left, double top, double right, double b
         return;
     const auto setEdge = [this](YGEdge edge, double value) {
         if (value >= 0)
-            YGNodeStyleSetPadding(node_, edge, ToFloat(value));
+            YGNodeStyleSetPadding(node_, edge, plix::ToStyleNumber(value));
     };
     setEdge(YGEdgeLeft, left);
     setEdge(YGEdgeTop, top);
@@ -145,7 +145,7 @@ void YogaLayoutItem::setPadding(double all)
 {
     if (!startChange())
         return;
-    YGNodeStyleSetPadding(node_, YGEdgeAll, ToFloat(all));
+    YGNodeStyleSetPadding(node_, YGEdgeAll, plix::ToStyleNumber(all));
     hasPadding_ = true;
 }
 
@@ -157,38 +157,38 @@ bool YogaLayoutItem::hasPadding() const
 void YogaLayoutItem::setPaddingLeftPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetPaddingPercent(node_, YGEdgeLeft, ToFloat(percent));
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeLeft, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setPaddingRightPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetPaddingPercent(node_, YGEdgeRight, ToFloat(percent));
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeRight, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setPaddingTopPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetPaddingPercent(node_, YGEdgeTop, ToFloat(percent));
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeTop, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setPaddingBottomPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetPaddingPercent(node_, YGEdgeBottom, ToFloat(percent));
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeBottom, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setPaddingPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetPaddingPercent(node_, YGEdgeAll, ToFloat(percent));
+        YGNodeStyleSetPaddingPercent(node_, YGEdgeAll, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setPaddingBottom(double padding)
 {
     if (!startChange())
         return;
-    YGNodeStyleSetPadding(node_, YGEdgeBottom, ToFloat(padding));
+    YGNodeStyleSetPadding(node_, YGEdgeBottom, plix::ToStyleNumber(padding));
     hasPadding_ = true;
 }
 
@@ -229,7 +229,7 @@ void YogaLayoutItem::setWidth(double width)
     if (!startChange())
         return;
     pass_.styleWidth.reset();
-    YGNodeStyleSetWidth(node_, ToFloat(width));
+    YGNodeStyleSetWidth(node_, plix::ToStyleNumber(width));
 }
 
 void YogaLayoutItem::setWidthAuto()
@@ -245,19 +245,19 @@ void YogaLayoutItem::setWidthPercent(double percent)
     if (!startChange())
         return;
     pass_.styleWidth.reset();
-    YGNodeStyleSetWidthPercent(node_, ToFloat(percent));
+    YGNodeStyleSetWidthPercent(node_, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setHeight(double height)
 {
     if (startChange())
-        YGNodeStyleSetHeight(node_, ToFloat(height));
+        YGNodeStyleSetHeight(node_, plix::ToStyleNumber(height));
 }
 
 void YogaLayoutItem::setHeightPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetHeightPercent(node_, ToFloat(percent));
+        YGNodeStyleSetHeightPercent(node_, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setHeightAuto()
@@ -283,7 +283,7 @@ float YogaLayoutItem::styleHeight() const
 void YogaLayoutItem::setBorder(double width)
 {
     if (startChange())
-        YGNodeStyleSetBorder(node_, YGEdgeAll, ToFloat(width));
+        YGNodeStyleSetBorder(node_, YGEdgeAll, plix::ToStyleNumber(width));
 }
 
 float YogaLayoutItem::border() const
@@ -294,19 +294,15 @@ float YogaLayoutItem::border() const
 void YogaLayoutItem::setGrowFactor(double factor)
 {
     if (startChange())
-        YGNodeStyleSetFlexGrow(node_, std::max(ToFloat(factor), 0.0F));
+        YGNodeStyleSetFlexGrow(node_, std::max(plix::ToStyleNumber(factor), 0.0F));
 }
 
 int YogaLayoutItem::growFactor() const
 {
     if (!node_)
         return -1;
-    const double factor = YGNodeStyleGetFlexGrow(node_);
-    if (std::isnan(factor))
-        return 0;
-    // A float rounds the largest int up to a value that does not fit an int.
-    using Limits = std::numeric_limits<int>;
-    return static_cast<int>(std::clamp<double>(factor, Limits::min(), Limits::max()));
+    const float factor = YGNodeStyleGetFlexGrow(node_);
+    return std::isnan(factor) ? 0 : static_cast<int>(factor);
 }
 
 void YogaLayoutItem::setTextNode(bool isText)
@@ -331,7 +327,7 @@ void YogaLayoutItem::setPositionStart(double position)
 {
     if (!startChange())
         return;
-    YGNodeStyleSetPosition(node_, YGEdgeStart, ToFloat(position));
+    YGNodeStyleSetPosition(node_, YGEdgeStart, plix::ToStyleNumber(position));
     startSet_ = true;
 }
 
@@ -339,7 +335,7 @@ void YogaLayoutItem::setPositionEnd(double position)
 {
     if (!startChange())
         return;
-    YGNodeStyleSetPosition(node_, YGEdgeEnd, ToFloat(position));
+    YGNodeStyleSetPosition(node_, YGEdgeEnd, plix::ToStyleNumber(position));
     endSet_ = true;
 }
 
@@ -347,7 +343,7 @@ void YogaLayoutItem::setPositionTop(double position)
 {
     if (!startChange())
         return;
-    YGNodeStyleSetPosition(node_, YGEdgeTop, ToFloat(position));
+    YGNodeStyleSetPosition(node_, YGEdgeTop, plix::ToStyleNumber(position));
     topSet_ = true;
 }
 
@@ -355,32 +351,32 @@ void YogaLayoutItem::setPositionBottom(double position)
 {
     if (!startChange())
         return;
-    YGNodeStyleSetPosition(node_, YGEdgeBottom, ToFloat(position));
+    YGNodeStyleSetPosition(node_, YGEdgeBottom, plix::ToStyleNumber(position));
     bottomSet_ = true;
 }
 
 void YogaLayoutItem::setPositionStartPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetPositionPercent(node_, YGEdgeLeft, ToFloat(percent));
+        YGNodeStyleSetPositionPercent(node_, YGEdgeLeft, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setPositionEndPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetPositionPercent(node_, YGEdgeEnd, ToFloat(percent));
+        YGNodeStyleSetPositionPercent(node_, YGEdgeEnd, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setPositionTopPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetPositionPercent(node_, YGEdgeTop, ToFloat(percent));
+        YGNodeStyleSetPositionPercent(node_, YGEdgeTop, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setPositionBottomPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetPositionPercent(node_, YGEdgeBottom, ToFloat(percent));
+        YGNodeStyleSetPositionPercent(node_, YGEdgeBottom, plix::ToStyleNumber(percent));
 }
 
 float YogaLayoutItem::position(YGEdge edge, bool isSet) const
@@ -424,17 +420,17 @@ bool YogaLayoutItem::hasMargin() const
 void YogaLayoutItem::setMaxWidthPercent(double percent)
 {
     if (startChange())
-        YGNodeStyleSetMaxWidthPercent(node_, ToFloat(percent));
+        YGNodeStyleSetMaxWidthPercent(node_, plix::ToStyleNumber(percent));
 }
 
 void YogaLayoutItem::setShrinkFactor(double factor)
 {
     if (startChange())
-        YGNodeStyleSetFlexShrink(node_, ToFloat(factor));
+        YGNodeStyleSetFlexShrink(node_, plix::ToStyleNumber(factor));
 }
 
 void YogaLayoutItem::setAspectRatio(double ratio)
 {
     if (startChange())
-        YGNodeStyleSetAspectRatio(node_, ToFloat(ratio));
+        YGNodeStyleSetAspectRatio(node_, plix::ToStyleNumber(ratio));
 }

@@ -1,5 +1,6 @@
 #include "ui/PlixBoxUI.h"
 
+#include "layout/PlixStyleNumber.h"
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataBox.h"
@@ -119,7 +120,7 @@ void PlixBoxUI::InitBorder(const PlixDataBox& data)
     if (width < 1 || data.GetBorderColor().empty())
         return;
     // The pen follows the edge, and the clip cuts its outer half off.
-    border_.emplace(plix::ToColor(data.GetBorderColor()), width + 1.0);
+    border_.emplace(plix::ToColor(data.GetBorderColor()), plix::ToStyleNumber(width + 1.0));
     borderWidth_ = width;
 }
 
