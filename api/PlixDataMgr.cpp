@@ -2,6 +2,7 @@
 
 #include "api/PlixCatchExceptions.h"
 #include "api/PlixLog.h"
+#include "layout/PlixLimits.h"
 #include "layout/YogaLayoutItem.h"
 #include "model/PlixDataBox.h"
 #include "model/PlixDataBubble.h"
@@ -13,6 +14,8 @@
 
 #include <QString>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -97,6 +100,7 @@ void PlixDataMgr::Build()
 {
     sideInset_ = bubble_->GetSizeSpacing();
     bodyBottomInset_ = bubble_->GetFooterSpacing();
+    mentionStopsLeft_ = plix::kMaximumMentionStops;
     PlixBaseUI* root = CreateUIItem(bubble_, nullptr, nullptr);
     if (!root)
         return;
@@ -202,6 +206,13 @@ void PlixDataMgr::CreateBoxChildren(const PlixDataContainer& children, PlixBaseU
         if (PlixBaseUI* ui = CreateChildUI(data, boxUI))
             boxUI.GetYogaItem()->addChild(ui->GetYogaItem());
     }
+}
+
+int PlixDataMgr::TakeMentionStops(int wanted)
+{
+    const int taken = std::min(wanted, mentionStopsLeft_);
+    mentionStopsLeft_ -= taken;
+    return taken;
 }
 
 PlixBubbleUI* PlixDataMgr::RootBubble() const

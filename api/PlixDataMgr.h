@@ -82,6 +82,10 @@ public:
     void SetMessageType(const std::string& type) { messageType_ = type; }
     std::string GetMessageType() const { return messageType_; }
 
+    // How many of the `wanted` mentions of a text the Tab key may stop at. A card has a
+    // limited number of them (plix::kMaximumMentionStops).
+    int TakeMentionStops(int wanted);
+
     // Events of the graphics items. Each calls the callback that is set when the
     // event happens, and does nothing without one.
     void OnClick(ST_ACTION& action);
@@ -123,6 +127,7 @@ private:
     void* clickUserData_ = nullptr;
     void* downloadUserData_ = nullptr;
     int from_ = 0;
+    int mentionStopsLeft_ = 0;
     PlixMentionCallback mentionCallBack_ = nullptr;
     PlixBotMentionCallback botMentionCallBack_ = nullptr;
     void* mentionUserData_ = nullptr;

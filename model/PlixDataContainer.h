@@ -1,5 +1,8 @@
 #pragma once
 
+#include "layout/PlixLimits.h"
+
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <vector>
@@ -19,8 +22,12 @@ public:
     // its ownership; Clear() breaks the cycle.
     void SetOwner(std::shared_ptr<PlixDataItem> owner);
 
-    // Make room for that many children, and free what is left of it.
-    void Reserve(std::size_t count) { children_.reserve(count); }
+    // Make room for that many children, but not for more than a card may have, and free
+    // what is left of it.
+    void Reserve(std::size_t count)
+    {
+        children_.reserve(std::min<std::size_t>(count, plix::kMaximumItems));
+    }
     void ShrinkToFit() { children_.shrink_to_fit(); }
     void AddChild(const std::shared_ptr<PlixDataItem>& child);
     int GetChildCount() const;

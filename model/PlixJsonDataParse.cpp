@@ -3,6 +3,7 @@
 #include "api/PlixCatchExceptions.h"
 #include "api/PlixDataMgr.h"
 #include "api/PlixLog.h"
+#include "layout/PlixLimits.h"
 #include "model/PlixJsonText.h"
 #include "model/format/PlixActionKeys.h"
 #include "model/format/PlixBoxKeys.h"
@@ -76,6 +77,9 @@ int PlixJsonDataParse::Parse(const std::string& text, PlixDataMgr& root)
 {
     int result = 0;
     const int parsed = RunOperation("Parse", [&] {
+        if (text.size() > plix::kMaximumMessageBytes)
+            throw std::length_error("The message has more than "
+                                    + std::to_string(plix::kMaximumMessageBytes) + " bytes.");
         const Json::Value node = plix::ReadJsonText(text);
         if (plix::TypeWord(node) != "bubble")
             return;
@@ -105,13 +109,23 @@ void PlixJsonDataParse::AddComponent(const Json::Value& node, int index,
                                      PlixDataContainer& container)
 {
     const int kind = plix::ToItemKind(plix::TypeWord(node));
-    const std::shared_ptr<PlixDataItem> item = creater_.Create(kind);
     const ParseOperation operation = FindOperation(kind);
-    if (!item || !operation)
+    if (!operation || !CountItem())
         return;
+    const std::shared_ptr<PlixDataItem> item = creater_.Create(kind);
     (this->*operation)(node, item);
     item->SetIndex(index);
     container.AddChild(item);
+}
+
+bool PlixJsonDataParse::CountItem()
+{
+    ++items_;
+    // Throws only once, so that a card logs one line.
+    if (items_ == plix::kMaximumItems + 1)
+        throw std::length_error("The card has more than " + std::to_string(plix::kMaximumItems)
+                                + " items.");
+    return items_ <= plix::kMaximumItems;
 }
 
 int PlixJsonDataParse::ParseBox(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item)
@@ -120,9 +134,9 @@ int PlixJsonDataParse::ParseBox(const Json::Value& node, const std::shared_ptr<P
         auto& box = dynamic_cast<PlixDataBox&>(*item);
         const Level level(nestedBoxes_);
         plix::ReadKeys<plix::kBoxKeys>(*this, node, box);
-        if (nestedBoxes_ > kMaxNestedBoxes)
+        if (nestedBoxes_ > plix::kMaximumNestedBoxes)
             throw std::length_error("Boxes are nested deeper than "
-                                    + std::to_string(kMaxNestedBoxes) + " levels.");
+                                    + std::to_string(plix::kMaximumNestedBoxes) + " levels.");
         plix::ReadKeys<plix::kBoxContentsKeys>(*this, node, box);
     });
 }

@@ -22,12 +22,9 @@ class PlixDataMgr;
 // The caller continues, so an error in one component does not affect the others.
 class PlixJsonDataParse {
 public:
-    // The maximum depth of nested boxes in a zone. The time for a layout grows with
-    // the depth, and real cards have fewer than ten levels.
-    static constexpr int kMaxNestedBoxes = 24;
-
     // Reads `text` into the bubble of `root`. Returns 0 without reading anything if
-    // `text` is not the JSON of a bubble.
+    // `text` is not the JSON of a bubble. A text of more than plix::kMaximumMessageBytes
+    // fails.
     int Parse(const std::string& text, PlixDataMgr& root);
 
     int ParseBubble(const Json::Value& node, const std::shared_ptr<PlixDataItem>& item);
@@ -45,7 +42,8 @@ public:
     int ParseMultiLang(const PlixJsonMember& member, PlixLanguageMap& texts);
 
     // Appends the component that `node` describes to `container`. Does nothing if
-    // its "type" is unknown. A component that fails is appended, too.
+    // its "type" is unknown. A component that fails is appended, too. Throws for the
+    // first item beyond plix::kMaximumItems, and leaves out those that follow.
     void AddComponent(const Json::Value& node, int index, PlixDataContainer& container);
 
 private:
@@ -55,7 +53,12 @@ private:
     // The operation that reads items of a kind; null if there is none.
     static ParseOperation FindOperation(int kind);
 
+    // False for an item that is one too many.
+    bool CountItem();
+
     // The number of boxes that are being read, each inside the one before.
     int nestedBoxes_ = 0;
+    // The number of items of the message so far, with those that were left out.
+    int items_ = 0;
     PlixDataItemCreater creater_;
 };

@@ -3,6 +3,7 @@
 #include "api/PlixCurrentLanguage.h"
 #include "api/PlixSettings.h"
 #include "layout/PlixKeywordTable.h"
+#include "layout/PlixLimits.h"
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataButton.h"
@@ -26,9 +27,6 @@ constexpr int kDefaultHeight = 52;
 constexpr int kPlateRadius = 6;
 // Left and right of the label, both sides together.
 constexpr int kLabelPadding = 30;
-// In characters. No button is wide enough to show more, and shaping a very long
-// label would block the GUI thread.
-constexpr int kMaximumLabelLength = 1000;
 
 QString WithoutLineBreaks(QString text)
 {
@@ -78,7 +76,7 @@ bool PlixButtonUI::Init()
 void PlixButtonUI::ApplyLabelWidth()
 {
     if (hasLabelWidth_)
-        setWidth(QFontMetrics(font_).horizontalAdvance(label_.left(kMaximumLabelLength))
+        setWidth(QFontMetrics(font_).horizontalAdvance(label_.left(plix::kMaximumLabelLength))
                  + kLabelPadding);
 }
 
@@ -161,7 +159,7 @@ void PlixButtonUI::FontChanged()
 
 QString PlixButtonUI::shownLabel() const
 {
-    QString label = label_.left(kMaximumLabelLength);
+    QString label = label_.left(plix::kMaximumLabelLength);
     const QFontMetrics metrics(font_);
     const double available = size().width() - kLabelPadding;
     if (metrics.horizontalAdvance(label) <= available)

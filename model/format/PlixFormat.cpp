@@ -1,5 +1,6 @@
 #include "model/format/PlixFormat.h"
 
+#include "layout/PlixLimits.h"
 #include "model/format/PlixActionKeys.h"
 #include "model/format/PlixBoxKeys.h"
 #include "model/format/PlixBubbleKeys.h"
@@ -95,7 +96,7 @@ const PlixFormatKey* FindKeyFormat(const PlixFormatComponent& component, std::st
 
 int MaximumNestedBoxes()
 {
-    return PlixJsonDataParse::kMaxNestedBoxes;
+    return kMaximumNestedBoxes;
 }
 
 bool IsReadByItself(PlixFormatPart part)

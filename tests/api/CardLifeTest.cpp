@@ -1,9 +1,9 @@
 // How long data and items live, and in which order they may be deleted.
 #include "api/PlixDataMgr.h"
+#include "layout/PlixLimits.h"
 #include "model/PlixDataBox.h"
 #include "model/PlixDataBubble.h"
 #include "model/PlixItemRegistry.h"
-#include "model/PlixJsonDataParse.h"
 #include "support/PlixTest.h"
 
 #include <QGraphicsScene>
@@ -106,7 +106,7 @@ void* freeController(void* controller)
 
 TEST_F(CardLife, FreesDeeplyNestedDataOnASmallStack)
 {
-    constexpr int kDepth = PlixJsonDataParse::kMaxNestedBoxes;
+    constexpr int kDepth = kMaximumNestedBoxes;
     PlixDataController* const controller = Plix_CreateController();
     EXPECT_EQ(Plix_InitData(controller, bubbleWithBody(nested(kDepth))), 0);
     const WeakItems items = dataOf(controller);

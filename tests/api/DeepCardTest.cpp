@@ -1,6 +1,6 @@
 // The deepest cards on a stack of one megabyte, which the main thread of a Windows
 // program has.
-#include "model/PlixJsonDataParse.h"
+#include "layout/PlixLimits.h"
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
 
@@ -59,7 +59,7 @@ TEST_F(DeepCard, WorksOnOneMegabyteOfStack)
 {
     ASSERT_EQ(stackLimit(), kStack);
     int clicks = 0;
-    const TestCard card(nestedBoxes(PlixJsonDataParse::kMaxNestedBoxes),
+    const TestCard card(nestedBoxes(kMaximumNestedBoxes),
                         [&clicks](PlixDataController* controller) {
                             Plix_SetClickCallBack(
                                 controller,

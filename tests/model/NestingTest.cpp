@@ -1,13 +1,13 @@
 // How deep boxes may be nested.
+#include "layout/PlixLimits.h"
 #include "model/PlixDataText.h"
-#include "model/PlixJsonDataParse.h"
 #include "model/ReadCard.h"
 #include "support/PlixTest.h"
 
 namespace plix::test {
 namespace {
 
-constexpr int kMaxDepth = PlixJsonDataParse::kMaxNestedBoxes;
+constexpr int kMaxDepth = kMaximumNestedBoxes;
 
 class Nesting : public PlixTest { };
 

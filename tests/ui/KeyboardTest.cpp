@@ -3,10 +3,12 @@
 #include "ClickHost.h"
 #include "ExampleCards.h"
 
+#include "layout/PlixLimits.h"
 #include "support/LiveView.h"
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
 #include "ui/PlixFocusRing.h"
+#include "ui/PlixFocusStop.h"
 #include "ui/text/PlixTextUI.h"
 
 #include <QApplication>
@@ -14,6 +16,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -334,6 +337,32 @@ TEST_F(KeyboardOfExamples, ClicksWhatTheMouseClicks)
         all += byMouse.size();
     }
     EXPECT_GT(all, 50U);
+}
+
+int mentionStopsOf(const TestCard& card)
+{
+    int stops = 0;
+    forEachItem(*card.root(), [&stops](QGraphicsItem& item) {
+        stops += dynamic_cast<const PlixFocusStop*>(&item) ? 1 : 0;
+    });
+    return stops;
+}
+
+TEST_F(Keyboard, StopsAtALimitedNumberOfMentions)
+{
+    for (const int more : {-1, 0, 1}) {
+        std::string half;
+        for (int i = 0; i < kMaximumMentionStops / 2; ++i)
+            half += mention(R"(user=\"7\")") + " ";
+        std::string rest = half;
+        for (int i = 0; i < more; ++i)
+            rest += mention(R"(user=\"7\")");
+        if (more < 0)
+            rest.erase(0, rest.find("</m>") + 5);
+        ClickHost host;
+        const TestCard card(cardOf({text(half), text(rest)}), host.setUp());
+        EXPECT_EQ(mentionStopsOf(card), kMaximumMentionStops + std::min(more, 0));
+    }
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The cost of laying out the costliest cards, counted in calls.
 #include "CostlyCards.h"
 #include "LayoutCosts.h"
-#include "model/PlixJsonDataParse.h"
+#include "layout/PlixLimits.h"
 #include "support/PlixTest.h"
 
 #include <yoga/algorithm/VisitLimit.h>
@@ -9,7 +9,7 @@
 namespace plix::test {
 namespace {
 
-constexpr int kDepth = PlixJsonDataParse::kMaxNestedBoxes;
+constexpr int kDepth = kMaximumNestedBoxes;
 constexpr double kMaxPerItem = 2.0 * kDepth;
 // Some texts make the box around them lay itself and all below it out again. On the
 // average that is half of the card.

@@ -1,7 +1,7 @@
 // Cards of random and extreme content can all be shown.
 #include "CardTree.h"
+#include "layout/PlixLimits.h"
 #include "layout/YogaLayoutItem.h"
-#include "model/PlixJsonDataParse.h"
 #include "support/PlixTest.h"
 
 #include <QGraphicsScene>
@@ -268,7 +268,7 @@ TEST_F(ExtremeCard, MayBeNestedDeeply)
         std::string json = text("deep", R"("wrap": true,)");
         for (int level = 0; level < 450; ++level) {
             json = box(layout, json, level % 5 == 0 ? R"("paddingAll": "1px",)" : "");
-            if (level + 1 == PlixJsonDataParse::kMaxNestedBoxes)
+            if (level + 1 == kMaximumNestedBoxes)
                 useCard(bubbleWithBody(json), true, true);
         }
         EXPECT_EQ(pendingLogLines(), 0);

@@ -276,7 +276,10 @@ void PlixTextUI::InitFocus()
     if (hasOwnAction_)
         focusStops_.emplace_back(
             new PlixFocusStop(QGraphicsItem::parentItem(), [this] { DeliverClick(); }));
-    const int mentions = clickable_ || unsupported_ ? 0 : MentionCount();
+    PlixDataMgr* const manager = Manager();
+    if (!manager || clickable_ || unsupported_)
+        return;
+    const int mentions = manager->TakeMentionStops(MentionCount());
     for (int i = 0; i < mentions; ++i)
         focusStops_.emplace_back(
             new PlixFocusStop(QGraphicsItem::parentItem(), [this, i] { ClickMention(i); }));
