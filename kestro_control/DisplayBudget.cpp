@@ -1,30 +1,48 @@
 #include "DisplayBudget.h"
 
 #include "CodePoint.h"
+#include "TextLimits.h"
+#include "TextWork.h"
 
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <iterator>
 
 namespace kestro {
 
 namespace {
 
-constexpr int kMaximumCost = 16000;
-constexpr int kMaximumWordCost = 2000;
-
-constexpr int kCharacterCost = 1;
-constexpr int kExtraCost = 8;
-constexpr int kJoinerCost = 40;
-
-// The number of marks on one letter that is usual in living languages.
-constexpr int kOrdinaryMarks = 2;
-
-// The emoji sequences that it joins are slow to shape.
 constexpr uint kZeroWidthJoiner = 0x200D;
 
 // Texts up to this length are fast to lay out, whatever their characters are.
-constexpr int kHarmlessLength = kMaximumWordCost / (kCharacterCost + kExtraCost);
+constexpr int kHarmlessLength = limits::kWordCost / (limits::kCharacterCost + limits::kRunCost);
+
+struct Range {
+    uint first;
+    uint last;
+    int cost;
+};
+
+// Characters that may be pictures in a font with colours, and what is added for them.
+constexpr Range kPictures[] = {
+    {0x20E3, 0x20E3, limits::kPictographCost}, // the key around the character before
+    {0x2300, 0x23FF, limits::kPictographCost},
+    {0x2600, 0x27BF, limits::kPictographCost},
+    {0x2B00, 0x2BFF, limits::kPictographCost},
+    {0xFE0F, 0xFE0F, limits::kPictographCost}, // makes a picture of the character before
+    {0x1F000, 0x1F1E5, limits::kPictographCost},
+    {0x1F1E6, 0x1F1FF, limits::kFlagHalfCost}, // regional indicators
+    {0x1F200, 0x1FAFF, limits::kPictographCost},
+};
+
+int PictureCost(uint character)
+{
+    const auto* const range =
+        std::find_if(std::begin(kPictures), std::end(kPictures),
+                     [character](const Range& row) { return character <= row.last; });
+    return range != std::end(kPictures) && character >= range->first ? range->cost : 0;
+}
 
 bool EndsLine(uint character)
 {
@@ -77,14 +95,19 @@ DisplayBudget::Direction DisplayBudget::DirectionOf(uint character)
 
 int DisplayBudget::Spend(const QString& text)
 {
-    used_ += kExtraCost;
+    used_ += limits::kRunCost;
     if (used_ + text.size() <= kHarmlessLength) {
         used_ += text.size();
         usedByWord_ += text.size();
         return text.size();
     }
 
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    // Cut first: in Thai and the like, the time of the finder grows with the square of the
+    // length. The words at the cut are longer than what may be shown of one.
+    const int shown = std::max(0, limits::kTextCost - used_);
+    const QString searched = text.left(shown + limits::kWordCost);
+    WorkSoFar().searchedCharacters += searched.size();
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, searched);
     int wordEnd = finder.toNextBoundary();
     int at = 0;
     while (at < text.size()) {
@@ -95,7 +118,7 @@ int DisplayBudget::Spend(const QString& text)
         const uint character = CodePointAt(text, at);
         const int length = QChar::requiresSurrogates(character) ? 2 : 1;
         const int cost = CostOfNext(character) + length - 1;
-        if (used_ + cost > kMaximumCost || usedByWord_ + cost > kMaximumWordCost)
+        if (used_ + cost > limits::kTextCost || usedByWord_ + cost > limits::kWordCost)
             break;
         used_ += cost;
         usedByWord_ += cost;
@@ -112,10 +135,10 @@ int DisplayBudget::CostOfNext(uint character)
 {
     marksInARow_ = IsMark(character) ? marksInARow_ + 1 : 0;
     if (character == kZeroWidthJoiner)
-        return kCharacterCost + kJoinerCost;
-    const bool isExtra =
-        StartsRun(character) || marksInARow_ > kOrdinaryMarks || EndsLine(character);
-    return kCharacterCost + (isExtra ? kExtraCost : 0);
+        return limits::kCharacterCost + limits::kJoinerCost;
+    const bool isRun =
+        StartsRun(character) || marksInARow_ > limits::kMarksOnALetter || EndsLine(character);
+    return limits::kCharacterCost + (isRun ? limits::kRunCost : 0) + PictureCost(character);
 }
 
 // Whether the text engine starts a new run of text at the character, because it

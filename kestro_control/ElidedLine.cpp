@@ -1,6 +1,7 @@
 #include "ElidedLine.h"
 
 #include "EmojiPicture.h"
+#include "TextWork.h"
 
 #include <QTextBoundaryFinder>
 
@@ -162,6 +163,7 @@ void ElidedLine::LayOut(int length)
 
     const QString start = source_.text.left(kept);
     const QString tail = DirectionEnds(start) + kEllipsis;
+    WorkSoFar().shapedCharacters += kept;
     layout_.setText(start + tail);
     layout_.setFormats(FormatsWithTail(source_.formats, kept, tail.size()));
     layout_.beginLayout();

@@ -1,5 +1,7 @@
 #include "HighlightWords.h"
 
+#include "TextLimits.h"
+
 #include <algorithm>
 
 namespace kestro {
@@ -67,7 +69,7 @@ HighlightWords::HighlightWords(const QStringList& words)
     for (const QString& word : words) {
         if (!word.isEmpty())
             words_.push_back(CaseFolded(word));
-        if (words_.size() == kMaximumWords)
+        if (words_.size() == limits::kHighlightWords)
             break;
     }
     std::sort(words_.begin(), words_.end());

@@ -11,10 +11,8 @@ namespace kestro {
 // Words to search for in texts, in upper or lower case.
 class HighlightWords {
 public:
-    // Further words are ignored.
-    static constexpr std::size_t kMaximumWords = 1000;
-
     HighlightWords() = default;
+    // Ignores the words beyond limits::kHighlightWords.
     explicit HighlightWords(const QStringList& words);
 
     bool IsEmpty() const { return words_.empty(); }

@@ -109,6 +109,7 @@ void ParagraphLayout::Shape()
         return;
     isShaped_ = true;
     ++WorkSoFar().shapings;
+    WorkSoFar().shapedCharacters += layout_->text().size();
     layout_->beginLayout();
 }
 

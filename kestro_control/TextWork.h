@@ -13,6 +13,12 @@ struct TextWork {
     int shapings = 0;
     // Paragraphs broken into lines outside of documents.
     int lineBreakings = 0;
+    // Characters that were searched for places where a line can break, to find how much of
+    // a text is shown.
+    int searchedCharacters = 0;
+    // Characters that were shaped: those of paragraphs, and of lines that were tried with
+    // an ellipsis.
+    int shapedCharacters = 0;
 };
 
 KESTRO_CONTROL_API TextWork& WorkSoFar();

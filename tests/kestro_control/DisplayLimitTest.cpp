@@ -1,5 +1,7 @@
 // How much of a text is laid out, in characters.
 #include "Ink.h"
+#include "TextLimits.h"
+#include "TextWork.h"
 
 #include <kestro_control/KestroControlManager.h>
 #include <kestro_control/KestroControlSupport.h>
@@ -9,6 +11,7 @@
 
 #include <QTextDocument>
 
+#include <algorithm>
 #include <ostream>
 #include <string>
 
@@ -86,7 +89,13 @@ INSTANTIATE_TEST_SUITE_P(
         LimitRow {"LoneSurrogates", QString(kMillion, QChar(0xD83D)), 1000, 16000},
         LimitRow {"LineEnds", QString(kMillion, QLatin1Char('\n')), 1700, 1800},
         LimitRow {"WindowsLineEnds", repeated("\r\n", kMillion), 800, 1800},
-        LimitRow {"Emoji", repeated("😀", kMillion), 10000, 16000}),
+        LimitRow {"Emoji", repeated("😀", kMillion), 740, 780},
+        LimitRow {"NewEmoji", repeated("\U0001F970", kMillion), 740, 780},
+        LimitRow {"EmojiOfOneUnit", repeated("⚽", kMillion), 380, 400},
+        LimitRow {"MadeEmoji", repeated("❤\uFE0F", kMillion), 380, 400},
+        LimitRow {"Keys", repeated("1\uFE0F\u20E3", kMillion), 60, 80},
+        LimitRow {"Flags", repeated("\U0001F1E9\U0001F1EA", kMillion), 1400, 1460},
+        LimitRow {"Thai", repeated("อาหารเย็น", kMillion), 15900, 16000}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(DisplayLimit, ShowsRealTextsInFull)
@@ -110,6 +119,40 @@ TEST(DisplayLimit, ShowsRealSpansInFull)
             item.InsertRichText(QString::fromUtf8(span), true);
         EXPECT_EQ(displayed(item), QString::fromUtf8(span).size() * 600) << span;
     }
+}
+
+TEST(DisplayLimit, ShowsRealEmojiInFull)
+{
+    const QString flags = repeated("\U0001F1E9\U0001F1EA", 4 * 250);
+    EXPECT_EQ(displayed(LimitItem(flags)), flags.size()) << "all flags of the world";
+    const QString smileys = repeated("😀", 2 * 300);
+    EXPECT_EQ(displayed(LimitItem(smileys)), smileys.size());
+}
+
+// One below, at, and one above each limit.
+TEST(DisplayLimit, IsExact)
+{
+    using namespace kestro::limits;
+    // The call, and the first letter of a script.
+    const int words = kTextCost - 2 * kRunCost;
+    const int word = kWordCost - kRunCost;
+    for (const int more : {-1, 0, 1}) {
+        EXPECT_EQ(displayed(LimitItem(repeated("a ", words + 1).left(words + more))),
+                  words + std::min(more, 0));
+        EXPECT_EQ(displayed(LimitItem(QString(word + more, QLatin1Char('a')))),
+                  word + std::min(more, 0));
+    }
+}
+
+// Searching all of it would take time that grows with the square of the length.
+TEST(DisplayLimit, SearchesOnlyWhatMayBeShown)
+{
+    const QString thai = repeated("อาหารเย็น", kMillion);
+    const kestro::TextWork before = kestro::WorkSoFar();
+    const LimitItem item(thai);
+    EXPECT_LE(kestro::WorkSoFar().searchedCharacters - before.searchedCharacters,
+              kestro::limits::kTextCost + kestro::limits::kWordCost);
+    EXPECT_EQ(item.toPlainText().size(), thai.size());
 }
 
 TEST(DisplayLimit, EndsTheTextInAnEllipsis)

@@ -2,6 +2,7 @@
 // have a background in their format.
 #include "HighlightWords.h"
 #include "Ink.h"
+#include "TextLimits.h"
 
 #include <kestro_control/TextItem.h>
 
@@ -71,7 +72,7 @@ TEST(HighlightWords, FindTheSameAsANaiveSearch)
 TEST(HighlightWords, HaveAMaximumNumber)
 {
     QStringList words;
-    for (std::size_t i = 0; i <= kestro::HighlightWords::kMaximumWords; ++i)
+    for (std::size_t i = 0; i <= kestro::limits::kHighlightWords; ++i)
         words.append(QStringLiteral("<%1>").arg(i));
     const kestro::HighlightWords kept(words);
     EXPECT_FALSE(kept.CoveredRanges(words.at(words.size() - 2)).empty());

@@ -64,7 +64,8 @@
 //   A character costs 1. It costs 8 more if it ends a line, if it follows text
 //   of another script or direction, or if it is the third combining mark or a
 //   later one on a letter. Each call of InsertRichText(), and each element in
-//   it, also costs 8. A zero width joiner, which joins emoji, costs 40 more.
+//   it, also costs 8. Emoji and other pictographs, and the zero width joiners
+//   between them, cost 40 more, and each half of a flag 20.
 //   The rest of the text is kept, but only as plain text. With SetElide(true) an
 //   ellipsis is shown in its place. Real messages are within the limit.
 //
