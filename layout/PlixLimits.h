@@ -35,4 +35,46 @@ constexpr int kMaximumLabelLength = 1000;
 // A float still counts single pixels up to there.
 constexpr double kMaximumStyleNumber = 1e6;
 
+// ----- Pictures. A card may name any picture, and a few bytes can make a decoder need
+// gigabytes or minutes.
+
+// The maximum for a picture file. It is read into memory as a whole.
+constexpr int kMaximumPictureFileBytes = 32 * 1024 * 1024;
+
+// The maximum for a picture. It takes 64 MiB and a fifth of a second, even if its file
+// has only 59 kB.
+constexpr int kMaximumPicturePixels = 4096 * 4096;
+
+// The maximum for the passes over the pixels of a JPEG file. It can have any number of
+// them, each of a few bytes.
+constexpr int kMaximumJpegScans = 64;
+
+// The maximum for what is done for pictures in one paint, in pixels that are read or
+// written: as much as one picture of the maximum size needs.
+constexpr int kMaximumPictureWork = 2 * kMaximumPicturePixels;
+
+// The maximum for a picture that is scaled to the size in which an item shows it. The
+// painter scales it up to more pixels. It is more than a card fills on any screen.
+constexpr int kMaximumScaledPixels = 2048 * 2048;
+
+// The maximum for the scaled pictures of all cards that are cached. A window full of cards
+// needs a tenth of it.
+constexpr int kMaximumCachedBytes = 128 * 1024 * 1024;
+
+// The maximum for the scaled pictures that the items of one card, and of all cards, keep
+// because the cache has lost them or they had to wait. No screen shows that many pixels.
+constexpr int kMaximumKeptBytesOfCard = 128 * 1024 * 1024;
+constexpr int kMaximumKeptBytes = 256 * 1024 * 1024;
+
+// The maximum for decoded pictures, until control returns to Qt: one picture of the
+// maximum size.
+constexpr int kMaximumDecodedBytes = 4 * kMaximumPicturePixels;
+
+// The maximum for the memory of an animation, with its file. Playing a larger one would
+// keep the GUI thread busy; its first frame is shown.
+constexpr int kMaximumMovieBytes = 32 * 1024 * 1024;
+
+// The maximum for all animations that play. A card may name thousands of them.
+constexpr int kMaximumMoviesBytes = 256 * 1024 * 1024;
+
 } // namespace plix

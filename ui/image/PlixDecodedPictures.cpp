@@ -1,29 +1,17 @@
 #include "ui/image/PlixDecodedPictures.h"
 
+#include "layout/PlixLimits.h"
+
 #include <QCache>
-#include <QCoreApplication>
-#include <QEvent>
-#include <QObject>
 
 namespace {
 
-class Cache : public QObject, public QCache<const PlixPicture*, QImage> {
-public:
-    Cache()
-        : QCache(PlixDecodedPictures::kMaximumBytes)
-    {
-    }
-
-    void ClearLater() { QCoreApplication::postEvent(this, new QEvent(QEvent::User)); }
-
-private:
-    void customEvent(QEvent*) override { clear(); }
-};
+using Cache = QCache<const PlixPicture*, QImage>;
 
 Cache& Instance()
 {
     // Never destroyed: the host may delete its scene after static objects.
-    static auto* const instance = new Cache;
+    static auto* const instance = new Cache(plix::kMaximumDecodedBytes);
     return *instance;
 }
 
@@ -37,13 +25,15 @@ QImage PlixDecodedPictures::Find(const PlixPicture& picture)
 
 void PlixDecodedPictures::Insert(const PlixPicture& picture, const QImage& decoded)
 {
-    Cache& cache = Instance();
-    if (cache.isEmpty())
-        cache.ClearLater();
-    cache.insert(&picture, new QImage(decoded), static_cast<int>(decoded.sizeInBytes()));
+    Instance().insert(&picture, new QImage(decoded), static_cast<int>(decoded.sizeInBytes()));
 }
 
 void PlixDecodedPictures::Remove(const PlixPicture& picture)
 {
     Instance().remove(&picture);
+}
+
+void PlixDecodedPictures::Clear()
+{
+    Instance().clear();
 }

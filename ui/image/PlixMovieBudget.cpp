@@ -1,5 +1,6 @@
 #include "ui/image/PlixMovieBudget.h"
 
+#include "layout/PlixLimits.h"
 #include "ui/image/PlixMovie.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ PlixMovieBudget& PlixMovieBudget::GetInstance()
 
 bool PlixMovieBudget::Join(PlixMovie& movie)
 {
-    if (movie.Bytes() > kMaximumMovieBytes || !MakeRoom(movie.Bytes()))
+    if (movie.Bytes() > plix::kMaximumMovieBytes || !MakeRoom(movie.Bytes()))
         return false;
     movies_.push_back(&movie);
     usedBytes_ += movie.Bytes();
@@ -22,7 +23,7 @@ bool PlixMovieBudget::Join(PlixMovie& movie)
 
 bool PlixMovieBudget::MakeRoom(qint64 bytes)
 {
-    while (usedBytes_ + bytes > kMaximumBytes) {
+    while (usedBytes_ + bytes > plix::kMaximumMoviesBytes) {
         const auto idle = std::find_if(movies_.begin(), movies_.end(),
                                        [](const PlixMovie* movie) { return !movie->IsPlaying(); });
         if (idle == movies_.end())

@@ -10,10 +10,6 @@ class PlixMovie;
 // thousands of them.
 class PlixMovieBudget {
 public:
-    static constexpr qint64 kMaximumBytes = qint64 {256} * 1024 * 1024;
-    // Playing a larger animation would keep the GUI thread busy.
-    static constexpr qint64 kMaximumMovieBytes = qint64 {32} * 1024 * 1024;
-
     static PlixMovieBudget& GetInstance();
 
     // Adds `movie`, which must call Leave() before it is deleted. False if there is

@@ -1,13 +1,17 @@
 #include "ui/image/PlixPicture.h"
 
+#include "layout/PlixLimits.h"
 #include "ui/image/PlixDecodedPictures.h"
 #include "ui/image/PlixMovie.h"
 #include "ui/image/PlixMovieBudget.h"
 #include "ui/image/PlixPictureFile.h"
+#include "ui/image/PlixPictureWork.h"
 #include "ui/image/PlixScaledPictures.h"
 
 #include <QFileInfo>
 #include <QHash>
+
+#include <algorithm>
 
 namespace {
 
@@ -46,7 +50,7 @@ QImage Scaled(const QImage& picture, const QSize& target)
     const QSize expanded = picture.size().scaled(target, Qt::KeepAspectRatioByExpanding);
     // In a long, thin item, only a line of the picture is left. To keep its
     // proportions, it would have to be as thick as it is long.
-    const bool isBounded = PixelsOf(expanded) <= 2 * PlixPicture::kMaximumScaledPixels;
+    const bool isBounded = PixelsOf(expanded) <= 2 * qint64 {plix::kMaximumScaledPixels};
     return picture.scaled(target,
                           isBounded ? Qt::KeepAspectRatioByExpanding : Qt::IgnoreAspectRatio,
                           Qt::SmoothTransformation);
@@ -104,22 +108,24 @@ void PlixPicture::OpenAgainIfChanged()
     OnFrameChanged();
 }
 
-QImage PlixPicture::Scaled(const Fit& fit)
+QImage PlixPicture::Scaled(const Fit& fit, PlixPictureWork& work)
 {
     QImage frame;
     if (size_.isEmpty())
-        frame = Open();
+        frame = Open(work);
     if (size_.isEmpty())
         return {};
     QImage image = PlixScaledPictures::Find(*this, fit(size_));
     if (image.isNull()) {
         if (frame.isNull())
-            frame = Frame();
+            frame = Frame(work);
         // size_ may have changed: the file may have been replaced.
         const QSize target = frame.isNull() ? QSize() : fit(size_);
         if (target.isEmpty())
             return {};
         image = ScaledMiddle(frame, target);
+        work.Add(PixelsOf(frame.size()) + PixelsOf(target));
+        ++PlixPictureWork::SoFar().scalings;
         PlixScaledPictures::Insert(*this, image);
     }
     if (movie_)
@@ -127,25 +133,42 @@ QImage PlixPicture::Scaled(const Fit& fit)
     return image;
 }
 
-QImage PlixPicture::Frame()
+QImage PlixPicture::Frame(PlixPictureWork& work)
 {
+    // The frames of an animation do not wait. PlixMovieBudget limits their size.
     if (movie_)
         return movie_->Frame();
     const QImage decoded = PlixDecodedPictures::Find(*this);
-    return decoded.isNull() ? Open() : decoded;
+    if (decoded.isNull())
+        return Open(work);
+    return work.MayStart(PixelsOf(decoded.size())) ? decoded : QImage();
 }
 
-QImage PlixPicture::Open()
+QImage PlixPicture::Open(PlixPictureWork& work)
 {
     const FileVersion version = CurrentVersion();
-    if (size_.isEmpty() && opened_ == version)
-        return {}; // unchanged, and it could not be read before
+    const bool wasUnreadable = size_.isEmpty() && opened_ == version;
+    const qint64 bytes = std::clamp<qint64>(version.bytes, 0, plix::kMaximumPictureFileBytes);
+    if (wasUnreadable || !work.MayStart(std::max(cost_, bytes)))
+        return {};
+    const auto file = plix::ReadPictureFile(fileName_);
+    work.Add(bytes);
+    // Each pixel is written by the decoder, and read to be scaled.
+    cost_ = file ? bytes + 2 * PixelsOf(file->size) : 0;
+    if (!work.MayStart(cost_ - bytes))
+        return {};
     opened_ = version;
     size_ = QSize();
-    const auto file = plix::ReadPictureFile(fileName_);
     if (!file)
         return {};
-    auto movie = std::make_unique<PlixMovie>(*file);
+    work.Add(PixelsOf(file->size));
+    return Decode(*file);
+}
+
+QImage PlixPicture::Decode(const PlixPictureFile& file)
+{
+    ++PlixPictureWork::SoFar().decodings;
+    auto movie = std::make_unique<PlixMovie>(file);
     QImage frame = movie->Frame();
     size_ = frame.size();
     if (movie->IsAnimated() && PlixMovieBudget::GetInstance().Join(*movie))

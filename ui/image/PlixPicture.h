@@ -11,6 +11,8 @@
 #include <optional>
 
 class PlixMovie;
+class PlixPictureWork;
+struct PlixPictureFile;
 
 // A picture file that items show. Still and animated pictures take one path: both
 // are opened as a QMovie; a still picture's is deleted once its frame is decoded. A
@@ -20,9 +22,6 @@ class PlixPicture : public QObject {
     Q_OBJECT
 
 public:
-    // The maximum for a scaled picture.
-    static constexpr qint64 kMaximumScaledPixels = qint64 {2048} * 2048;
-
     // The picture in this file, which need not exist yet. All items that show a file
     // share its picture: a card may name one a thousand times. If the file has changed
     // since it was opened, it is opened again.
@@ -30,12 +29,16 @@ public:
     ~PlixPicture() override;
 
     QString FileName() const { return fileName_; }
+    // Empty while there is no picture: before it was decoded, and if that failed.
+    QSize Size() const { return size_; }
+    bool IsAnimated() const { return movie_ != nullptr; }
 
     // Returns the size to which a picture of the size `picture` is scaled.
     using Fit = std::function<QSize(const QSize& picture)>;
     // The current frame in the size that `fit` returns. If it has other proportions,
-    // its middle is cut out. Null if there is no picture, or it cannot be decoded.
-    QImage Scaled(const Fit& fit);
+    // its middle is cut out. Null if there is no picture, if it cannot be decoded, or if
+    // `work` is refused.
+    QImage Scaled(const Fit& fit, PlixPictureWork& work);
 
 Q_SIGNALS:
     // Another frame is to be painted.
@@ -55,8 +58,9 @@ private:
     FileVersion CurrentVersion() const;
     void OpenAgainIfChanged();
     // Decoded now or, if it is a still picture that other items show, just before.
-    QImage Frame();
-    QImage Open();
+    QImage Frame(PlixPictureWork& work);
+    QImage Open(PlixPictureWork& work);
+    QImage Decode(const PlixPictureFile& file);
     // Whether several items show the picture.
     bool IsShared() const;
     void Play(std::unique_ptr<PlixMovie> movie);
@@ -66,6 +70,8 @@ private:
     const QString fileName_;
     // The version of the file when it was opened, or when opening it failed.
     std::optional<FileVersion> opened_;
-    QSize size_; // empty while there is no picture
+    QSize size_;
+    // Of reading and decoding the file, as far as it is known.
+    qint64 cost_ = 0;
     std::unique_ptr<PlixMovie> movie_;
 };

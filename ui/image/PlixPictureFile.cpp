@@ -1,5 +1,6 @@
 #include "ui/image/PlixPictureFile.h"
 
+#include "layout/PlixLimits.h"
 #include "ui/image/PlixJpegMetadata.h"
 #include "ui/image/PlixPictureHeader.h"
 #include "ui/image/PlixPngMetadata.h"

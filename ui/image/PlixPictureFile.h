@@ -15,16 +15,9 @@ struct PlixPictureFile {
 
 namespace plix {
 
-// A picture beyond these limits counts as unreadable: a card may name any picture,
-// and a few bytes can make the decoder need gigabytes or minutes.
-constexpr qint64 kMaximumPictureFileBytes = qint64 {32} * 1024 * 1024;
-constexpr qint64 kMaximumPicturePixels = qint64 {4096} * 4096;
-// A JPEG file can have any number of passes over its pixels, each of a few bytes.
-constexpr int kMaximumJpegScans = 64;
-
 // Reads the whole file and checks it, but does not decode it. Nothing if the file is
-// missing, is not a regular file, cannot be read, is of an unknown format or exceeds
-// the limits above. Waits for nothing but the disk.
+// missing, is not a regular file, cannot be read, is of an unknown format or exceeds the
+// limits of PlixLimits.h. Waits for nothing but the disk.
 std::optional<PlixPictureFile> ReadPictureFile(const QString& path);
 
 } // namespace plix

@@ -1,7 +1,7 @@
 #include "ui/image/PlixPicturePainter.h"
 
+#include "layout/PlixLimits.h"
 #include "ui/PlixPaths.h"
-#include "ui/image/PlixPicture.h"
 
 #include <QBrush>
 #include <QPainter>
@@ -40,8 +40,8 @@ PlixPictureTarget::PlixPictureTarget(const QRectF& area, double dpiFactor)
     // pixels, and the painter scales these up.
     const double width = area.width() * dpiFactor;
     const double height = area.height() * dpiFactor;
-    const double excess = std::sqrt(width * height / PlixPicture::kMaximumScaledPixels);
-    const double widest = PlixPicture::kMaximumScaledPixels;
+    const double excess = std::sqrt(width * height / plix::kMaximumScaledPixels);
+    const double widest = plix::kMaximumScaledPixels;
     const double factor = std::isfinite(excess) ? std::max(excess, 1.0) : 0;
     size_ = factor > 0 ? QSize(static_cast<int>(std::min(width / factor, widest)),
                                static_cast<int>(std::min(height / factor, widest)))

@@ -9,8 +9,8 @@
 #include "ui/PlixCardClip.h"
 #include "ui/PlixOffsets.h"
 #include "ui/PlixPaths.h"
-#include "ui/image/PlixPicture.h"
 #include "ui/image/PlixPicturePainter.h"
+#include "ui/image/PlixPictureWork.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -42,17 +42,20 @@ void PlixPictureUI::FileArrived(const std::string& path)
 
 void PlixPictureUI::OnFileArrived(const QString& path)
 {
-    if (picture_)
-        disconnect(picture_.get(), nullptr, this, nullptr);
-    picture_ = path.isEmpty() ? nullptr : PlixPicture::Get(path);
-    if (picture_)
-        connect(picture_.get(), &PlixPicture::FrameChanged, this, [this] { update(); });
+    if (picture_.Get())
+        disconnect(picture_.Get().get(), nullptr, this, nullptr);
+    picture_.Set(path.isEmpty() ? nullptr : PlixPicture::Get(path));
+    if (picture_.Get())
+        connect(picture_.Get().get(), &PlixPicture::FrameChanged, this, [this] {
+            picture_.Forget();
+            update();
+        });
     update();
 }
 
 QString PlixPictureUI::pictureFile() const
 {
-    return picture_ ? picture_->FileName() : QString();
+    return picture_.Get() ? picture_.Get()->FileName() : QString();
 }
 
 void PlixPictureUI::InitCommon(const PlixDataItemCommon& data)
@@ -79,14 +82,18 @@ double PlixPictureUI::DpiFactor() const
     return std::isfinite(dpi) && dpi > 0 ? dpi : 1;
 }
 
-void PlixPictureUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
+void PlixPictureUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget* widget)
 {
+    // Without a widget, the item is rendered to an image or a printer, and only once.
+    PlixPictureWork work(widget ? PlixPictureWork::Limit::OnePaint : PlixPictureWork::Limit::None);
     const PlixCardClip clip(*painter, plix::CutByCard(*this, rect()));
     painter->save();
     if (background_)
         PaintBackground(*painter);
-    PaintPicture(*painter);
+    PaintPicture(*painter, work);
     painter->restore();
+    if (work.IsRefused())
+        update();
 }
 
 void PlixPictureUI::PaintBackground(QPainter& painter) const
@@ -117,15 +124,14 @@ QRectF PlixPictureUI::DrawingArea(const QSize& picture) const
     return {corner, size};
 }
 
-void PlixPictureUI::PaintPicture(QPainter& painter)
+void PlixPictureUI::PaintPicture(QPainter& painter, PlixPictureWork& work)
 {
-    if (!picture_)
-        return;
     PlixPictureTarget target;
-    const QImage image = picture_->Scaled([&](const QSize& size) {
+    const auto fit = [&](const QSize& size) {
         target = PlixPictureTarget(DrawingArea(size), DpiFactor());
         return target.Size();
-    });
+    };
+    const QImage image = picture_.Scaled(fit, GetOwner(), work);
     if (image.isNull())
         return;
     if (cornerRadius_ < 1)

@@ -2,14 +2,14 @@
 
 #include "model/format/PlixWords.h"
 #include "ui/PlixWidgetUI.h"
+#include "ui/image/PlixShownPicture.h"
 
 #include <QBrush>
 
-#include <memory>
 #include <optional>
 
 class PlixDataItemCommon;
-class PlixPicture;
+class PlixPictureWork;
 
 // Base of images and icons: a picture from the web over a background, in the size
 // that the layout gives the item.
@@ -57,12 +57,12 @@ protected:
 
 private:
     void PaintBackground(QPainter& painter) const;
-    void PaintPicture(QPainter& painter);
+    void PaintPicture(QPainter& painter, PlixPictureWork& work);
     QRectF DrawingArea(const QSize& picture) const;
     double DpiFactor() const;
 
     DownloadFunc downloadFunc_;
-    std::shared_ptr<PlixPicture> picture_; // null before a file is named
+    PlixShownPicture picture_; // none before a file is named
     PlixAspectMode aspectMode_ = PlixAspectMode::Fit;
     Placement placement_;
     std::optional<QBrush> background_;

@@ -1,5 +1,7 @@
 #include "ui/image/PlixScaledPictures.h"
 
+#include "layout/PlixLimits.h"
+
 #include <QCache>
 
 #include <algorithm>
@@ -14,7 +16,7 @@ using Cache = QCache<const PlixPicture*, Sizes>;
 Cache& Instance()
 {
     // Never destroyed: the host may delete its scene after static objects.
-    static auto* const instance = new Cache(PlixScaledPictures::kMaximumBytes);
+    static auto* const instance = new Cache(plix::kMaximumCachedBytes);
     return *instance;
 }
 

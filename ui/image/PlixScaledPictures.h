@@ -9,8 +9,6 @@ class PlixPicture;
 // time is removed first, in all its sizes.
 class PlixScaledPictures {
 public:
-    static constexpr int kMaximumBytes = 128 * 1024 * 1024;
-
     // Null if it is not cached.
     static QImage Find(const PlixPicture& picture, const QSize& size);
     static void Insert(const PlixPicture& picture, const QImage& image);

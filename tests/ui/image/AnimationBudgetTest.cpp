@@ -1,4 +1,5 @@
 // The memory limit of all animations of the process.
+#include "layout/PlixLimits.h"
 #include "ui/image/AnimationFrames.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
@@ -45,7 +46,7 @@ TEST_F(AnimationBudget, HasNoRoomWhileAllAnimationsPlay)
     fill();
     const auto late = animationOf(25);
     EXPECT_FALSE(budget_.Join(*late));
-    EXPECT_LE(budget_.UsedBytes(), PlixMovieBudget::kMaximumBytes);
+    EXPECT_LE(budget_.UsedBytes(), kMaximumMoviesBytes);
     animations_.clear();
     EXPECT_EQ(budget_.UsedBytes(), 0);
     EXPECT_TRUE(budget_.Join(*late));
@@ -65,7 +66,7 @@ TEST_F(AnimationBudget, EvictsAnimationsThatAreNotPainted)
     EXPECT_TRUE(budget_.Join(*late));
     EXPECT_EQ(paused.count(), 1);
     EXPECT_EQ(playing.count(), 0);
-    EXPECT_LE(budget_.UsedBytes(), PlixMovieBudget::kMaximumBytes);
+    EXPECT_LE(budget_.UsedBytes(), kMaximumMoviesBytes);
 }
 
 TEST_F(AnimationBudget, LetsAnEvictedAnimationPlayAgainWhenItIsPainted)

@@ -1,4 +1,5 @@
 // Files that are made to cost much time or memory.
+#include "layout/PlixLimits.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
 #include "ui/image/PlixGifPixelCount.h"
@@ -7,6 +8,7 @@
 #include "ui/image/PlixPicture.h"
 #include "ui/image/PlixPictureFile.h"
 #include "ui/image/PlixPictureHeader.h"
+#include "ui/image/PlixPictureWork.h"
 #include "ui/image/PlixPngMetadata.h"
 
 #include <QDateTime>
@@ -317,8 +319,9 @@ TEST_F(HostileFile, IsNotEnlargedBeyondAThinItem)
     card.item().childItems().value(0)->paint(&painter, nullptr, nullptr);
     painter.end();
     EXPECT_EQ(canvas.pixelColor(25, 5), QColor(Qt::red));
+    PlixPictureWork work(PlixPictureWork::Limit::None);
     EXPECT_EQ(PlixPicture::Get(QString::fromStdString(path))
-                  ->Scaled([](const QSize&) { return QSize(100'000, 10); })
+                  ->Scaled([](const QSize&) { return QSize(100'000, 10); }, work)
                   .size(),
               QSize(100'000, 10));
 }
