@@ -147,9 +147,8 @@ bool MayHaveReals(std::string_view json)
     return HasPointInNumber(json) && HasPointOutsideOfStrings(json);
 }
 
-std::string WithoutDecimalPoints(const std::string& json)
+std::string WithoutDecimalPoints(std::string_view text)
 {
-    const std::string_view text = json;
     std::string result;
     result.reserve(text.size());
     for (std::size_t begin = 0; begin < text.size();) {

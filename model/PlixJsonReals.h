@@ -16,6 +16,6 @@ bool MayHaveReals(std::string_view json);
 //
 // Strings and comments stay as they are. If `json` is not valid JSON, the parser
 // rejects the result at the same place.
-std::string WithoutDecimalPoints(const std::string& json);
+std::string WithoutDecimalPoints(std::string_view json);
 
 } // namespace plix

@@ -58,5 +58,62 @@ TEST(PlixJsonText, TextBeforeAnErrorIsRead)
     EXPECT_FALSE(value.isMember("d"));
 }
 
+TEST(PlixJsonText, MayBeginWithOneByteOrderMark)
+{
+    const std::string mark = "\xEF\xBB\xBF";
+    EXPECT_EQ(ReadJsonText(mark + R"({"a": 1})")["a"].asInt(), 1);
+    EXPECT_EQ(ReadJsonText(mark + R"({"a": 1.5})")["a"].asDouble(), 1.5);
+    EXPECT_TRUE(ReadJsonText(mark + mark + R"({"a": 1})").isNull());
+    EXPECT_TRUE(ReadJsonText(mark).isNull());
+    EXPECT_TRUE(ReadJsonText(mark.substr(0, 2) + R"({"a": 1})").isNull());
+    EXPECT_EQ(ReadJsonText(R"({"a": ")" + mark + R"("})")["a"].asString(), mark);
+}
+
+TEST(PlixJsonText, EndsWithTheFirstValue)
+{
+    for (const char* more : {" {\"a\": 2}", "}", "]", ",", " text", "\"", "{", "[[[[", "// {"})
+        EXPECT_EQ(ReadJsonText(std::string(R"({"a": 1})") + more)["a"].asInt(), 1) << more;
+    EXPECT_EQ(ReadJsonText(std::string("{\"a\": 1}\0{", 10))["a"].asInt(), 1);
+}
+
+TEST(PlixJsonText, TakesTheLastOfTwoMembersWithOneName)
+{
+    const Json::Value value = ReadJsonText(R"({"a": 1, "b": {"c": 1}, "a": 2, "b": {"d": 1}})");
+    EXPECT_EQ(value["a"].asInt(), 2);
+    EXPECT_FALSE(value["b"].isMember("c"));
+    EXPECT_TRUE(value["b"].isMember("d"));
+}
+
+struct StringRow {
+    const char* name;
+    std::string json;
+    std::string value;
+};
+
+TEST(PlixJsonText, KeepsTheBytesOfStrings)
+{
+    const StringRow rows[] = {
+        {"control characters", "\x01\b\t\n\x1b\x7f", "\x01\b\t\n\x1b\x7f"},
+        {"zero", std::string("a\0b", 3), std::string("a\0b", 3)},
+        {"escaped zero", R"(a\u0000b)", std::string("a\0b", 3)},
+        {"byte of no character", "a\xff\xfe", "a\xff\xfe"},
+        {"unfinished character", "a\xe2\x82", "a\xe2\x82"},
+        {"longer than needed", "\xc0\xaf", "\xc0\xaf"},
+        {"surrogate as UTF-8", "\xed\xa0\xbd", "\xed\xa0\xbd"},
+        {"beyond Unicode", "\xf5\x90\x80\x80", "\xf5\x90\x80\x80"},
+        {"half a pair", R"(a\ud83d)", "a\xef\xbf\xbd"},
+        {"other half", R"(\ude00b)",
+         "\xef\xbf\xbd"
+         "b"},
+        {"pair", R"(\ud83d\ude00)", "\xf0\x9f\x98\x80"},
+        {"real number in front of half a pair", R"(", "c": 1.5, "a": "\ud83d)", "\xef\xbf\xbd"},
+    };
+    for (const StringRow& row : rows) {
+        const Json::Value value = ReadJsonText(R"({"a": ")" + row.json + R"(", "b": 1})");
+        EXPECT_EQ(value["a"].asString(), row.value) << row.name;
+        EXPECT_EQ(value["b"].asInt(), 1) << row.name;
+    }
+}
+
 } // namespace
 } // namespace plix::test
