@@ -4,6 +4,7 @@
 #include "support/PlixTest.h"
 #include "ui/CardWork.h"
 #include "ui/ExampleCards.h"
+#include "ui/Hazards.h"
 
 #include <algorithm>
 
@@ -32,6 +33,35 @@ TEST_P(AllocationWork, IsNotMoreThanItWas)
 
 INSTANTIATE_TEST_SUITE_P(Cards, AllocationWork, testing::ValuesIn(exampleNames()),
                          [](const auto& card) { return card.param; });
+
+std::int64_t allocationsOf(const Hazard& hazard, int n)
+{
+    const std::string json = hazard.json(n);
+    bench::setHeapCounting(true);
+    const bench::HeapCount before = bench::heapCount();
+    const TestCard card(json, [&](PlixDataController* controller) {
+        PlixDisplayParam param;
+        param.markupEnabled = hazard.hasMarkup;
+        Plix_SetDisplayParam(controller, param);
+    });
+    ignoreLog();
+    return (bench::heapCount() - before).allocations;
+}
+
+class HazardAllocations : public PlixTest, public testing::WithParamInterface<Hazard> { };
+
+TEST_P(HazardAllocations, GrowWithTheSizeOnly)
+{
+    std::int64_t half = allocationsOf(GetParam(), GetParam().n);
+    for (const int factor : {2, 4}) {
+        const std::int64_t whole = allocationsOf(GetParam(), factor * GetParam().n);
+        EXPECT_LE(whole, 2 * half + half / 5 + 100) << "x" << factor;
+        half = whole;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Cards, HazardAllocations, testing::ValuesIn(hazards()),
+                         [](const auto& hazard) { return hazard.param.name; });
 
 } // namespace
 } // namespace plix::test
