@@ -7,6 +7,7 @@
 #include "ItemText.h"
 #include "MarkupReader.h"
 #include "MentionAreas.h"
+#include "MentionName.h"
 #include "ParagraphText.h"
 #include "SharedFont.h"
 #include "ShownLines.h"
@@ -242,7 +243,9 @@ void TextItem::Private::InsertMention(const MarkupRun& run, QTextCharFormat form
     const bool isBot = run.kind == MarkupRun::Kind::BotMention;
     Mention {isBot, run.number, ++lastMentionId_}.WriteTo(format);
     format.setForeground(mentionColor);
-    InsertText(run.text, format);
+    const QString name = kestro::WithoutDirections(run.text);
+    // At the start, it is the name that sets the direction of the paragraph.
+    InsertText(text.IsEmpty() ? name : kestro::Isolated(name), format);
     ++mentionCount;
     item_.setAcceptHoverEvents(true);
 }

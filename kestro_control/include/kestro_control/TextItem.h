@@ -49,7 +49,10 @@
 //   A mention has the colour MentionColor() and otherwise the format of its
 //   text. The mouse cursor over it is a pointing hand. It is clicked when the
 //   left button is pressed and released on its glyphs. An ellipsis is not part
-//   of a mention. All other presses go to the items below.
+//   of a mention. All other presses go to the items below. A name changes the
+//   order of no text beside it: explicit directions are removed from it, and a
+//   name of right-to-left letters after other text is put between U+2068 and
+//   U+2069.
 //
 //   An emoji is shown as its Unicode characters, unless the application has a
 //   picture of it (see KestroControlSupport) when it is inserted. The picture is
