@@ -1,6 +1,7 @@
 #include "MentionAreas.h"
 
 #include "LaidOutText.h"
+#include "ParagraphText.h"
 #include "ShownLines.h"
 
 #include <algorithm>
@@ -42,6 +43,21 @@ std::optional<Mention> MentionAreas::At(const QPointF& point) const
     };
     const auto found = std::find_if(mentions_.begin(), mentions_.end(), isAt);
     return found == mentions_.end() ? std::nullopt : std::optional(found->mention);
+}
+
+QString TextOfMention(const LaidOutText& text, const Mention& mention)
+{
+    QString characters;
+    const int count = text.ParagraphCount();
+    for (int i = 0; i < count; ++i) {
+        const LaidOutParagraph paragraph = text.Paragraph(i);
+        for (const QTextLayout::FormatRange& range : paragraph.formats) {
+            const std::optional<Mention> part = Mention::ReadFrom(range.format);
+            if (part && part->id == mention.id)
+                characters += paragraph.text.midRef(range.start, range.length);
+        }
+    }
+    return AsPlainText(characters);
 }
 
 } // namespace kestro

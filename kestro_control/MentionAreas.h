@@ -3,6 +3,7 @@
 #include "Mention.h"
 
 #include <QRectF>
+#include <QString>
 
 #include <optional>
 #include <vector>
@@ -36,5 +37,8 @@ private:
 
     std::vector<ShownMention> mentions_;
 };
+
+// The characters of a mention.
+QString TextOfMention(const LaidOutText& text, const Mention& mention);
 
 } // namespace kestro

@@ -332,6 +332,19 @@ std::vector<QRectF> ShownLines::GlyphRects(int start, int end) const
     return rects;
 }
 
+std::optional<int> ShownLines::PositionAt(const QPointF& point) const
+{
+    const auto line = std::find_if(lines_.begin(), lines_.end(), [&point](const Line& each) {
+        return each.rect.contains(point) && each.Start() < each.End();
+    });
+    if (line == lines_.end())
+        return std::nullopt;
+    const int position =
+        line->line.xToCursor(point.x() - line->origin.x(), QTextLine::CursorOnCharacter);
+    // An ellipsis counts as the last character before it.
+    return std::clamp(line->layoutStart + position, line->Start(), line->End() - 1);
+}
+
 std::size_t ShownLines::FirstLineEndingAfter(int position) const
 {
     const auto first =

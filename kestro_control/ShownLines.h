@@ -7,6 +7,7 @@
 #include <QTextLayout>
 
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -47,6 +48,9 @@ public:
     // The rectangles of the shown glyphs between two positions in the text, each as high as the
     // ascent and descent of its font.
     std::vector<QRectF> GlyphRects(int start, int end) const;
+
+    // The position in the text of the shown character at a point.
+    std::optional<int> PositionAt(const QPointF& point) const;
 
     // Replaces the earlier highlight.
     void Highlight(const LaidOutText& text, const HighlightWords& words);

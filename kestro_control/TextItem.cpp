@@ -11,7 +11,10 @@
 #include "ParagraphText.h"
 #include "SharedFont.h"
 #include "ShownLines.h"
+#include "TextChangeUpdate.h"
+#include "TextCharacters.h"
 
+#include "kestro_control/AccessibilityUpdates.h"
 #include "kestro_control/KestroControlManager.h"
 #include "kestro_control/KestroControlSupport.h"
 
@@ -41,6 +44,7 @@ using kestro::Mention;
 using kestro::MentionAreas;
 using kestro::ShownLines;
 using kestro::ShownMention;
+using kestro::TextCharacters;
 
 namespace {
 
@@ -150,6 +154,8 @@ public:
 
     // Whether text would be drawn outside of the left and right edges.
     bool NeedsSideClip();
+
+    TextCharacters Characters() { return {text.LaidOut(), Shown()}; }
 
     // Null for another index.
     const ShownMention* MentionNumber(int index);
@@ -475,6 +481,7 @@ TextItem::~TextItem()
 
 void TextItem::InsertRichText(const QString& text, bool append, const QTextCharFormat* format)
 {
+    const kestro::TextChangeUpdate update(*this);
     QString earlierText;
     if (!append && !private_->IsWithinDisplayLimit(text)) {
         earlierText = toPlainText();
@@ -505,6 +512,7 @@ void TextItem::ClearText()
 
 void TextItem::setPlainText(const QString& text)
 {
+    const kestro::TextChangeUpdate update(*this);
     private_->ReplaceText(text);
 }
 
@@ -569,6 +577,20 @@ void TextItem::HighlightText(const QStringList& words, const QBrush& brush)
     private_->highlightBrush = brush;
     private_->isHighlightValid = false;
     update();
+    kestro::TellAccessibilityClients(*this, QAccessible::TextAttributeChanged);
+}
+
+QVector<QPair<int, int>> TextItem::HighlightedRanges() const
+{
+    QVector<QPair<int, int>> ranges;
+    for (const auto& [start, end] : private_->Characters().RangesOf(private_->highlightWords))
+        ranges.append({start, end});
+    return ranges;
+}
+
+QBrush TextItem::HighlightBrush() const
+{
+    return private_->highlightBrush;
 }
 
 void TextItem::SetWrapMode(QTextOption::WrapMode mode)
@@ -682,6 +704,22 @@ void TextItem::ClickMention(int index)
 {
     if (const ShownMention* mention = private_->MentionNumber(index))
         private_->Click(mention->mention);
+}
+
+QString TextItem::MentionText(int index) const
+{
+    const ShownMention* const mention = private_->MentionNumber(index);
+    return mention ? kestro::TextOfMention(private_->text.LaidOut(), mention->mention) : QString();
+}
+
+QRectF TextItem::CharacterRect(int index) const
+{
+    return private_->Characters().RectOf(index);
+}
+
+int TextItem::CharacterAt(const QPointF& point) const
+{
+    return private_->Characters().IndexAt(point);
 }
 
 int TextItem::ShownLineCount() const

@@ -81,6 +81,7 @@
 #include <QBrush>
 #include <QGraphicsLayoutItem>
 #include <QGraphicsTextItem>
+#include <QPair>
 #include <QStringList>
 #include <QTextCursor>
 #include <QTextOption>
@@ -226,6 +227,11 @@ public:
     // first 1,000 words count.
     void HighlightText(const QStringList& words, const QBrush& brush);
 
+    // The ranges of toPlainText() that the words cover, as pairs of start and end, and
+    // the brush behind them.
+    QVector<QPair<int, int>> HighlightedRanges() const;
+    QBrush HighlightBrush() const;
+
     // ----- Mentions
 
     // The number of mentions that were inserted, shown or not.
@@ -234,6 +240,9 @@ public:
     // The rectangle around the shown glyphs of a mention; empty if none is shown.
     // `index` counts the mentions from 0, in the order of the text.
     QRectF MentionRect(int index) const;
+
+    // The name that the mention shows; empty for another index.
+    QString MentionText(int index) const;
 
     // Emits the signal that a click on the mention emits. Does nothing for another
     // index.
@@ -250,6 +259,14 @@ public:
     // The distance from the top of boundingRect() to the baseline of the first
     // shown line; the font's ascent if no line is shown.
     qreal FirstLineAscent() const;
+
+    // The rectangle of a character. `index` counts the characters of toPlainText() from
+    // 0. Empty if the character is not shown.
+    QRectF CharacterRect(int index) const;
+
+    // The index of the shown character at a point; -1 if there is none. An ellipsis
+    // counts as the last character before it.
+    int CharacterAt(const QPointF& point) const;
 
     // ----- Editing
 
