@@ -11,6 +11,7 @@
 #include "model/PlixJsonDataParse.h"
 #include "ui/PlixBubbleUI.h"
 #include "ui/PlixUICreater.h"
+#include "ui/accessibility/PlixAccessibility.h"
 
 #include <QString>
 #include <QStringList>
@@ -91,6 +92,7 @@ QGraphicsItem* PlixDataMgr::GetRootItem() const
 
 void PlixDataMgr::CreateUI()
 {
+    plix::InstallAccessibility();
     // The host owns the item of an earlier build; this build may fail.
     rootItem_.clear();
     plix::CatchExceptions([this] { Build(); }, &plix::LogFailedBuild);

@@ -5,6 +5,7 @@
 #include "layout/YogaLayoutItem.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataItemCommon.h"
+#include "ui/PlixActionLabel.h"
 #include "ui/PlixLeadingMargin.h"
 #include "ui/PlixOffsets.h"
 
@@ -125,6 +126,13 @@ void PlixBaseUI::ReleaseMouse()
     QGraphicsItem* const grabber = scene ? scene->mouseGrabberItem() : nullptr;
     if (grabber)
         grabber->ungrabMouse();
+}
+
+QString PlixBaseUI::ActionLabel()
+{
+    const std::shared_ptr<PlixDataItem> data = FindDataItem();
+    const std::shared_ptr<ST_ACTION> action = data ? data->GetAction() : nullptr;
+    return action ? QString::fromStdString(plix::LabelOf(*action)) : QString();
 }
 
 void PlixBaseUI::DeliverClick()

@@ -57,6 +57,15 @@ public:
     // Whether a click on this item would reach the host.
     virtual bool HasAction();
 
+    // Whether a click on the item delivers its own action. A text without one may
+    // be clickable, too: then the click is that of the box around it.
+    bool HasOwnAction() const { return hasOwnAction_; }
+    // Hands the item's own action to the host, who may delete this item meanwhile:
+    // return at once.
+    void DeliverClick();
+    // The label of the item's action in the current language; empty without one.
+    QString ActionLabel();
+
     // The controller that built the item. It may be freed before the item.
     void SetOwner(PlixDataController* owner);
     PlixDataController* GetOwner() const { return owner_; }
@@ -82,11 +91,8 @@ protected:
     // The one rule for clicks. Accepts or ignores a press: Qt delivers the
     // release only to the item that accepted the press.
     void HandlePress(QGraphicsSceneMouseEvent& event) const;
-    // Hands the item's own action to the host if `event` ends a click. The host
-    // may delete this item meanwhile: return at once.
+    // DeliverClick(), if `event` ends a click.
     void HandleRelease(const QGraphicsSceneMouseEvent& event);
-    // Hands the item's own action to the host. The same holds as for HandleRelease().
-    void DeliverClick();
 
     // Gives the mouse grab back. Call it before the host learns of a mouse event:
     // the host may run an event loop, or throw, and the scene would go on sending
@@ -96,8 +102,6 @@ protected:
     bool actionSuppressed_ = false;
     bool clickable_ = false;
     ClickFunc clickFunc_;
-    // Whether a click on the item delivers its own action. A text without one may
-    // be clickable, too: then the click is that of the box around it.
     bool hasOwnAction_ = false;
 
 private:

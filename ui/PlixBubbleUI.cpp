@@ -8,6 +8,8 @@
 #include "ui/PlixFocusStop.h"
 #include "ui/PlixSeparatorUI.h"
 
+#include <kestro_control/AccessibilityUpdates.h>
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -177,6 +179,12 @@ QVariant PlixBubbleUI::itemChange(GraphicsItemChange change, const QVariant& val
     else if (change == ItemChildAddedChange && scene())
         LetQtClip(true); // the child may not be constructed yet
     return PlixWidgetUI::itemChange(change, value);
+}
+
+void PlixBubbleUI::resizeEvent(QGraphicsSceneResizeEvent* event)
+{
+    PlixWidgetUI::resizeEvent(event);
+    kestro::TellAccessibilityClients(*this, QAccessible::LocationChanged);
 }
 
 void PlixBubbleUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)

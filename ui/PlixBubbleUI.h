@@ -49,6 +49,7 @@ public:
 
 protected:
     QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;
+    void resizeEvent(QGraphicsSceneResizeEvent* event) override;
 
 private:
     void LetQtClip(bool on);

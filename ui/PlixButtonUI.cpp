@@ -1,6 +1,5 @@
 #include "ui/PlixButtonUI.h"
 
-#include "api/PlixCurrentLanguage.h"
 #include "api/PlixSettings.h"
 #include "layout/PlixKeywordTable.h"
 #include "layout/PlixLimits.h"
@@ -8,6 +7,7 @@
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataButton.h"
 #include "model/format/PlixWords.h"
+#include "ui/PlixActionLabel.h"
 #include "ui/PlixAlignmentWords.h"
 #include "ui/PlixButtonLine.h"
 #include "ui/PlixCardClip.h"
@@ -83,18 +83,10 @@ void PlixButtonUI::ApplyLabelWidth()
 void PlixButtonUI::InitLabel(const PlixDataButton& data)
 {
     std::string text;
-    if (actionUnavailable_) {
+    if (actionUnavailable_)
         text = PlixSettings::GetInstance().GetMultiLangText(plix::kCheckOnMobileKey);
-    } else if (const std::shared_ptr<ST_ACTION> action = data.GetAction()) {
-        text = action->label;
-        for (const std::string& language : {plix::GetCurrentLanguage(), std::string("default")}) {
-            const std::string variant = action->i18nLabels.Get(language);
-            if (!variant.empty()) {
-                text = variant;
-                break;
-            }
-        }
-    }
+    else if (const std::shared_ptr<ST_ACTION> action = data.GetAction())
+        text = plix::LabelOf(*action);
     label_ = WithoutLineBreaks(QString::fromStdString(text));
 }
 

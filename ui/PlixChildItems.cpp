@@ -36,4 +36,18 @@ QStringList ChildTexts(const YogaLayoutItem& parent)
     return texts;
 }
 
+QString FirstText(const YogaLayoutItem& parent)
+{
+    for (int i = 0; i < parent.childCount(); ++i) {
+        const YogaLayoutItem* const child = parent.childAt(i);
+        const auto* const ui = dynamic_cast<const PlixBaseUI*>(child);
+        if (!ui)
+            continue;
+        QString text = child->childCount() > 0 ? FirstText(*child) : ui->PlainText();
+        if (!text.trimmed().isEmpty())
+            return text;
+    }
+    return {};
+}
+
 } // namespace plix

@@ -18,4 +18,7 @@ int HighlightChildren(const YogaLayoutItem& parent, const QStringList& words);
 // What the children say, in their order, without those that say nothing.
 QStringList ChildTexts(const YogaLayoutItem& parent);
 
+// What the first of the items below says that is no box; empty if none says anything.
+QString FirstText(const YogaLayoutItem& parent);
+
 } // namespace plix

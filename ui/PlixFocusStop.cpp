@@ -2,6 +2,8 @@
 
 #include "ui/PlixFocusRing.h"
 
+#include <kestro_control/TextItem.h>
+
 #include <QKeyEvent>
 #include <QPainterPath>
 
@@ -18,8 +20,10 @@ constexpr std::array kClickKeys = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space,
 
 } // namespace
 
-PlixFocusStop::PlixFocusStop(QGraphicsItem* parent, ClickFunc click)
-    : QGraphicsWidget(parent)
+PlixFocusStop::PlixFocusStop(TextItem& text, std::optional<int> mention, ClickFunc click)
+    : QGraphicsWidget(text.parentItem())
+    , text_(text)
+    , mention_(mention)
     , click_(std::move(click))
 {
     setAcceptedMouseButtons(Qt::NoButton);
@@ -64,6 +68,11 @@ void PlixFocusStop::keyPressEvent(QKeyEvent* event)
         return;
     }
     event->accept();
+    Click();
+}
+
+void PlixFocusStop::Click()
+{
     const ClickFunc click = click_;
     click();
 }

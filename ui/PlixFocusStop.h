@@ -3,8 +3,10 @@
 #include <QGraphicsWidget>
 
 #include <functional>
+#include <optional>
 
 class QKeyEvent;
+class TextItem;
 
 // A stop of the Tab key on a clickable text, or on a mention in a text: Qt walks
 // widgets only, and a text is none. Draws nothing but the focus ring, and leaves
@@ -15,9 +17,16 @@ class PlixFocusStop : public QGraphicsWidget {
 public:
     using ClickFunc = std::function<void()>;
 
-    // `parent` is that of the text, and owns the stop. The Tab key walks in the order
-    // in which items are made. `click` may delete the stop.
-    PlixFocusStop(QGraphicsItem* parent, ClickFunc click);
+    // On `text` or, with its number, on a mention in it. The parent of the text owns the
+    // stop, and the text must live longer. The Tab key walks in the order in which items
+    // are made. `click` may delete the stop.
+    PlixFocusStop(TextItem& text, std::optional<int> mention, ClickFunc click);
+
+    TextItem& Text() const { return text_; }
+    std::optional<int> Mention() const { return mention_; }
+
+    // May delete the stop.
+    void Click();
 
     // Whether this key clicks what has the focus, as on any button: Enter or Space,
     // but not while it repeats.
@@ -37,5 +46,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    ClickFunc click_;
+    TextItem& text_;
+    const std::optional<int> mention_;
+    const ClickFunc click_;
 };

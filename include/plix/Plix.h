@@ -47,6 +47,10 @@
 //             never moves the keyboard focus into a card. To keep the focus in sight,
 //             connect QGraphicsScene::focusItemChanged() to
 //             QGraphicsView::ensureVisible().
+//  Screen     Every item of a card has an accessible interface (QAccessible), which Qt
+//  readers    makes when a client asks for it. To let clients find the items, call
+//             kestro::InstallGraphicsViewAccessibility() once. The root item's property
+//             "accessibleName", if it is set, is the name of the card.
 //  Locale     The library neither uses nor changes the process's locale:
 //             numbers are read and written the same way in every C and C++
 //             locale.

@@ -22,7 +22,8 @@ endif()
 # The other sources do not include its headers, and compiling them would take
 # most of the time of all tests.
 set(objects "")
-foreach(source IN ITEMS api/PlixExports ui/PlixButtonUI ui/PlixUICreater ui/text/PlixTextUI)
+foreach(source IN ITEMS api/PlixExports ui/PlixBubbleUI ui/PlixButtonUI ui/PlixUICreater
+        ui/accessibility/PlixAccessibility ui/text/PlixTextUI)
     list(APPEND objects CMakeFiles/plix_objects.dir/${source}.cpp${OBJECT_SUFFIX})
 endforeach()
 execute_process(

@@ -1,6 +1,7 @@
 // The Tab key walks through what can be clicked, and Enter and Space click it.
 #include "CardTree.h"
 #include "ClickHost.h"
+#include "ClickableCard.h"
 #include "ExampleCards.h"
 
 #include "layout/PlixLimits.h"
@@ -23,45 +24,9 @@
 namespace plix::test {
 namespace {
 
-constexpr char kSize[] = R"("width": "100px", "height": "40px",)";
-
-std::string joined(const std::vector<std::string>& items)
-{
-    std::string all;
-    for (const std::string& item : items)
-        all += (all.empty() ? "" : ",") + item;
-    return all;
-}
-
-std::string cardOf(const std::vector<std::string>& items, const std::string& more = {})
-{
-    return bubbleWithBody(box("vertical", joined(items), more));
-}
-
-std::string mention(const char* who)
-{
-    return "<m " + std::string(who) + R"(>@Ann Lee</m>)";
-}
-
-// One of each kind of item, with what can be clicked and what cannot.
-std::string cardOfAll()
-{
-    return cardOf({text("plain"), box("vertical", text("inside"), kSize + uriAction("box")),
-                   box("horizontal",
-                       text("no ") + ',' + text("words", uriAction("text")) + ','
-                           + component("image", R"("size": "xxs",)" + uriAction("image"))),
-                   text("To " + mention(R"(user=\"7\")") + " and " + mention(R"(bot=\"8\")")),
-                   text("app", appAction("app://a")), button(appAction("app://b")), button(""),
-                   text("odd", uriAction("its", "dance")),
-                   box("vertical", text(mention(R"(user=\"9\")")), uriAction("around")),
-                   button(uriAction("button"))});
-}
-
-const Arrived kAll = {"box", "text", "image", "user 7", "bot 8", "around", "button"};
-
 class Keyboard : public PlixTest {
 protected:
-    explicit Keyboard(const std::string& json = cardOfAll())
+    explicit Keyboard(const std::string& json = cardOfAllKinds())
         : card_(json, host_.setUp())
         , view_(*card_.root())
     {
@@ -128,19 +93,19 @@ protected:
 
 TEST_F(Keyboard, WalksThroughEverythingClickableInReadingOrder)
 {
-    EXPECT_EQ(walk(Qt::Key_Tab), kAll);
+    EXPECT_EQ(walk(Qt::Key_Tab), kClickableParts);
 }
 
 TEST_F(Keyboard, WalksBackwards)
 {
-    EXPECT_EQ(walk(Qt::Key_Backtab), Arrived(kAll.rbegin(), kAll.rend()));
+    EXPECT_EQ(walk(Qt::Key_Backtab), Arrived(kClickableParts.rbegin(), kClickableParts.rend()));
 }
 
 TEST_F(Keyboard, WalksFromCardToCard)
 {
-    const TestCard other(cardOf({button(uriAction("other"))}), host_.setUp());
+    const TestCard other(cardOfColumn({button(uriAction("other"))}), host_.setUp());
     view_.add(*other.root());
-    Arrived all = kAll;
+    Arrived all = kClickableParts;
     all.push_back("other");
     EXPECT_EQ(walk(Qt::Key_Tab), all);
 }
@@ -221,7 +186,7 @@ TEST_F(Keyboard, TellsTheViewWhereTheFocusIs)
 TEST_F(Keyboard, MayDeleteTheItemsOfTheCard)
 {
     for (const char* uri : {"box", "text", "image", "user 7", "bot 8", "button"}) {
-        const TestCard card(cardOfAll(), host_.setUp());
+        const TestCard card(cardOfAllKinds(), host_.setUp());
         CardView view(*card.root());
         host_.arrived = {"none"};
         while (host_.arrived.back() != uri) {
@@ -247,7 +212,7 @@ TEST(FocusRing, IsInFrontOfTheContent)
 {
     const std::string photo =
         box("vertical", "", R"("width": "100px", "height": "40px", "backgroundColor": "#F0F0F0",)");
-    const TestCard card(cardOf({box("vertical", photo, kSize + uriAction("box"))}));
+    const TestCard card(cardOfColumn({box("vertical", photo, kSmallSize + uriAction("box"))}));
     LiveView view(*card.root());
     const QImage before = view.shown();
     view.pressKey(Qt::Key_Tab);
@@ -261,9 +226,9 @@ TEST(FocusRing, IsInFrontOfTheContent)
 class KeyboardOfNarrowCard : public Keyboard {
 protected:
     KeyboardOfNarrowCard()
-        : Keyboard(cardOf({text("A text with the mention of " + mention(R"(user=\"7\")")),
-                           text(mention(R"(user=\"8\")"))},
-                          R"("width": "90px",)"))
+        : Keyboard(cardOfColumn({text("A text with the mention of " + mention(R"(user=\"7\")")),
+                                 text(mention(R"(user=\"8\")"))},
+                                R"("width": "90px",)"))
     {
     }
 };

@@ -2,9 +2,12 @@
 #include "CardTree.h"
 #include "layout/PlixLimits.h"
 #include "layout/YogaLayoutItem.h"
+#include "support/AccessibilityClient.h"
+#include "support/AccessibleTree.h"
 #include "support/PlixTest.h"
 
 #include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QImage>
 #include <QPainter>
 
@@ -210,6 +213,29 @@ void paintSmall(QGraphicsItem& root)
     scene.removeItem(&root);
 }
 
+// Asks as a screen reader does for all that the card says, and presses everything.
+void readAndPress(QGraphicsItem& root)
+{
+    QGraphicsScene scene;
+    const QGraphicsView view(&scene);
+    scene.addItem(&root);
+    forEachAccessible(accessible(root.toGraphicsObject()), [](QAccessibleInterface& found) {
+        EXPECT_FALSE(found.state().invalid);
+        const QPoint middle = found.rect().center();
+        found.childAt(middle.x(), middle.y());
+        if (QAccessibleTextInterface* const text = found.textInterface()) {
+            EXPECT_EQ(text->characterCount(), found.text(QAccessible::Name).size());
+            for (const int offset : {-1, 0, 1, 7, text->characterCount()}) {
+                const QRect rect = text->characterRect(offset);
+                EXPECT_LT(text->offsetAtPoint(rect.center()), text->characterCount());
+            }
+        }
+        if (canPress(found))
+            press(found);
+    });
+    scene.removeItem(&root);
+}
+
 void ignoreClick(PlixDataController*, ST_ACTION&, void*) { }
 
 std::string noFile(PlixDataController*, const std::string&, void*)
@@ -230,10 +256,13 @@ void useCard(const std::string& json, bool withCallbacks, bool itemFirst)
     ASSERT_NE(root, nullptr);
     expectFinite(*root);
     paintSmall(*root);
+    const AccessibilityClient client;
+    readAndPress(*root);
     Plix_SetHighLightText(controller, {"word", "", "\xff", std::string("a\0b", 3)});
     Plix_RefreshLayout(controller);
     Plix_ModifyHeight(controller, 700);
     expectFinite(*root);
+    readAndPress(*root);
     Plix_ModifyHeight(controller, -2147483647);
     Plix_SetHighLightText(controller, {});
     paintSmall(*root);

@@ -275,14 +275,13 @@ void PlixTextUI::InitFocus()
 {
     if (hasOwnAction_)
         focusStops_.emplace_back(
-            new PlixFocusStop(QGraphicsItem::parentItem(), [this] { DeliverClick(); }));
+            new PlixFocusStop(*this, std::nullopt, [this] { DeliverClick(); }));
     PlixDataMgr* const manager = Manager();
     if (!manager || clickable_ || unsupported_)
         return;
     const int mentions = manager->TakeMentionStops(MentionCount());
     for (int i = 0; i < mentions; ++i)
-        focusStops_.emplace_back(
-            new PlixFocusStop(QGraphicsItem::parentItem(), [this, i] { ClickMention(i); }));
+        focusStops_.emplace_back(new PlixFocusStop(*this, i, [this, i] { ClickMention(i); }));
 }
 
 void PlixTextUI::SetClickFunc(const ClickFunc& func)

@@ -33,6 +33,10 @@ public:
     void SetFrom(int from) override;
     QString PlainText() const override { return toPlainText(); }
 
+    // Where the Tab key stops. One for the text if it has an action, else one for each
+    // mention. A hidden one is skipped; the host may have deleted others.
+    const std::vector<QPointer<PlixFocusStop>>& FocusStops() const { return focusStops_; }
+
     // True shows the pointing-hand cursor; false changes nothing.
     void setClickable(bool on) override;
 
@@ -114,6 +118,5 @@ private:
     int textHeight_ = 0;
     // From the top of the item's rectangle down to the item.
     double topOffset_ = 0;
-    // One for the text if it has an action, else one for each mention.
     std::vector<QPointer<PlixFocusStop>> focusStops_;
 };

@@ -1,0 +1,7 @@
+#include "ui/accessibility/PlixAccessiblePicture.h"
+
+QString PlixAccessiblePicture::Name() const
+{
+    PlixBaseUI* const ui = Ui();
+    return ui ? ui->ActionLabel() : QString();
+}
