@@ -1,5 +1,6 @@
 #include "ChatWindow.h"
 
+#include <kestro_control/GraphicsViewAccessibility.h>
 #include <kestro_control/TextItem.h>
 
 #include <QtNetwork>
@@ -107,6 +108,10 @@ public:
         chat.view_->scene()->addItem(bubble);
         chat.view_->scene()->addItem(name_);
         highlight(chat.words_);
+        // For screen readers, which do not find the name above the bubble: it is no QObject.
+        const QString words = text().section(QLatin1Char('\n'), 0, message.isCard ? 0 : -1);
+        bubble->toGraphicsObject()->setProperty(
+            "accessibleName", QStringLiteral("%1: %2").arg(message.sender, words));
     }
 
     void release()
@@ -185,6 +190,8 @@ ChatWindow::ChatWindow(const QUrl& pictureServer)
     });
     // The only wording that the library needs.
     Plix_SetMultiLangGetCallback([](const char*) { return std::string("See your phone"); });
+    kestro::InstallGraphicsViewAccessibility();
+    view_->setAccessibleName(QStringLiteral("Messages"));
     view_->setFrameShape(QFrame::NoFrame);
     view_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     view_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

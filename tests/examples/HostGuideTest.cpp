@@ -4,6 +4,7 @@
 
 #include "PlatformMessages.h"
 
+#include "support/AccessibleTree.h"
 #include "support/ExpectedLog.h"
 #include "support/Keyboard.h"
 #include "support/LiveView.h"
@@ -478,6 +479,20 @@ TEST_F(HostGuide, TheTextOfACardHasALinePerRow)
     EXPECT_TRUE(highlight(card, {QStringLiteral("nothing"), QStringLiteral("THANK")}));
     EXPECT_FALSE(highlight(card, {QStringLiteral("nothing")}));
     EXPECT_FALSE(highlight(card, {}));
+}
+
+TEST_F(HostGuide, ScreenReadersReadCardsAndPressThem)
+{
+    letScreenReadersReadViews();
+    const HostCard card(bubble(text("Title") + "," + kClickable), &countClicks);
+    CardView view(*card.item());
+    QAccessibleInterface& found = *accessible(&view.view()).child(0);
+    EXPECT_EQ(treeOf(found),
+              "Grouping Title\n  Grouping\n    StaticText Title\n    Link Click me\n");
+    nameForScreenReaders(card, QStringLiteral("Ann"));
+    EXPECT_EQ(nameOf(found), "Ann: Title");
+    press(*found.child(0)->child(1));
+    EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(HostGuide, OnlyPagesOfTheWebAreOpened)
