@@ -1,9 +1,8 @@
 #include "ElidedLine.h"
 
 #include "EmojiPicture.h"
+#include "Graphemes.h"
 #include "TextWork.h"
-
-#include <QTextBoundaryFinder>
 
 #include <algorithm>
 
@@ -21,16 +20,6 @@ constexpr int kMaximumCharacters = 4096;
 
 // Wider than any line, and well within the text engine's number format.
 constexpr qreal kUnlimitedWidth = 1 << 22;
-
-// Where the text may be cut, in ascending order, including its start and end.
-std::vector<int> CutPositions(const QString& text)
-{
-    std::vector<int> positions {0};
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    for (int at = finder.toNextBoundary(); at > 0; at = finder.toNextBoundary())
-        positions.push_back(at);
-    return positions;
-}
 
 int LengthWithoutTrailingSpace(const QString& text, int length)
 {
@@ -109,6 +98,33 @@ QTextLine ElidedLine::Line() const
     return layout_.lineAt(0);
 }
 
+void ElidedLine::Draw(QPainter* painter, const QPointF& origin,
+                      const QTextLayout::FormatRange* format) const
+{
+    if (format)
+        DrawBesidePictures(painter, origin, *format);
+    else
+        Line().draw(painter, origin);
+    DrawPictures(painter, origin);
+}
+
+// The colour of a format would make the characters visible that keep the pictures' places.
+void ElidedLine::DrawBesidePictures(QPainter* painter, const QPointF& origin,
+                                    QTextLayout::FormatRange format) const
+{
+    const int end = format.start + format.length;
+    for (const QTextLayout::FormatRange& picture : pictures_) {
+        format.length = std::min(picture.start, end) - format.start;
+        if (format.length > 0)
+            Line().draw(painter, origin, &format);
+        format.start = picture.start + picture.length;
+    }
+    format.length = end - format.start;
+    if (format.length > 0)
+        Line().draw(painter, origin, &format);
+}
+
+// QTextLayout does not draw them.
 void ElidedLine::DrawPictures(QPainter* painter, const QPointF& origin) const
 {
     const QTextLine line = Line();
@@ -127,7 +143,7 @@ void ElidedLine::DrawPictures(QPainter* painter, const QPointF& origin) const
 // and kerning). So this is a binary search, which starts near the expected length.
 int ElidedLine::LongestFittingLength()
 {
-    const std::vector<int> cuts = CutPositions(source_.text.left(kMaximumCharacters));
+    const std::vector<int> cuts = GraphemeBoundaries(source_.text.left(kMaximumCharacters));
     const auto expected = std::lower_bound(cuts.begin(), cuts.end(), source_.expectedLength);
 
     std::size_t fitting = 0; // The ellipsis alone is always shown.

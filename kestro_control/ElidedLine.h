@@ -39,13 +39,18 @@ public:
     // How many characters of the text are shown.
     int Length() const { return laidOutLength_; }
 
-    // Draws the pictures in the text, which QTextLayout does not draw.
-    void DrawPictures(QPainter* painter, const QPointF& origin) const;
+    // Draws the line with its pictures. `format`, if not null, replaces the formats of the
+    // text; it is for the whole line.
+    void Draw(QPainter* painter, const QPointF& origin,
+              const QTextLayout::FormatRange* format) const;
 
 private:
     int LongestFittingLength();
     bool Fits(int length);
     void LayOut(int length);
+    void DrawBesidePictures(QPainter* painter, const QPointF& origin,
+                            QTextLayout::FormatRange format) const;
+    void DrawPictures(QPainter* painter, const QPointF& origin) const;
 
     const ElisionSource source_;
     const QVector<QTextLayout::FormatRange> pictures_;

@@ -44,6 +44,15 @@ public:
 
     virtual int ParagraphCount() const = 0;
     virtual LaidOutParagraph Paragraph(int index) const = 0;
+
+    // The paragraph that a position belongs to. There must be one.
+    LaidOutParagraph ParagraphAt(int position) const;
+
+    // There must be one at this position.
+    QChar CharacterAt(int position) const;
+
+    // The position at which the text ends.
+    int End() const;
 };
 
 } // namespace kestro

@@ -19,7 +19,7 @@ MentionAreas::MentionAreas(const LaidOutText& text, const ShownLines& shown)
             if (!mention)
                 continue;
             const int start = paragraph.position + range.start;
-            Add(*mention, shown.GlyphRects(start, start + range.length));
+            Add(*mention, shown.GlyphRects({start, start + range.length}));
         }
     }
 }

@@ -1,6 +1,8 @@
 #include "ParagraphText.h"
 
+#include "LaidOutText.h"
 #include "TextProperty.h"
+#include "TextRange.h"
 
 #include <QTextBlock>
 #include <QTextDocument>
@@ -34,6 +36,15 @@ ParagraphText::ParagraphText(QString text, const QVector<QTextLayout::FormatRang
 int ParagraphText::Position(int index) const
 {
     return start_ + (positions_.empty() ? index : positions_[static_cast<std::size_t>(index)]);
+}
+
+int ParagraphText::Index(int position) const
+{
+    const int inParagraph = position - start_;
+    if (positions_.empty())
+        return std::clamp(inParagraph, 0, characters_.size());
+    const auto found = std::lower_bound(positions_.begin(), positions_.end() - 1, inParagraph);
+    return static_cast<int>(found - positions_.begin());
 }
 
 bool EndsParagraph(QChar character)
@@ -71,6 +82,23 @@ QString PlainTextOf(const QTextDocument& document)
         text += ParagraphText(block.text(), block.textFormats(), block.position()).Characters();
     }
     return AsPlainText(text);
+}
+
+QString PlainTextOf(const LaidOutText& text, const TextRange& range)
+{
+    QString plain;
+    const int count = text.ParagraphCount();
+    for (int i = 0; i < count; ++i) {
+        const LaidOutParagraph paragraph = text.Paragraph(i);
+        if (paragraph.position > range.end)
+            break;
+        if (paragraph.position > range.start)
+            plain += QLatin1Char('\n');
+        const ParagraphText part(paragraph.text, paragraph.formats, paragraph.position);
+        const int start = part.Index(range.start);
+        plain += part.Characters().mid(start, part.Index(range.end) - start);
+    }
+    return AsPlainText(plain);
 }
 
 } // namespace kestro

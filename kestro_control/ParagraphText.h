@@ -10,6 +10,9 @@ class QTextDocument;
 
 namespace kestro {
 
+class LaidOutText;
+struct TextRange;
+
 // The text of a paragraph, in which every emoji picture is replaced with the
 // characters that it stands for.
 class ParagraphText {
@@ -22,6 +25,9 @@ public:
     // The position in the whole text of the character at `index`, which may be one
     // past the last.
     int Position(int index) const;
+
+    // The index of the character at `position`, or of the first one behind it.
+    int Index(int position) const;
 
 private:
     QString characters_;
@@ -39,5 +45,8 @@ QString AsPlainText(QString text);
 
 // QTextDocument::toPlainText(), with the characters of the emoji pictures.
 QString PlainTextOf(const QTextDocument& document);
+
+// The part of it that is in `range`.
+QString PlainTextOf(const LaidOutText& text, const TextRange& range);
 
 } // namespace kestro

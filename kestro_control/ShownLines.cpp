@@ -1,15 +1,10 @@
 #include "ShownLines.h"
 
-#include "ClipPath.h"
 #include "ElidedLine.h"
 #include "EmojiPicture.h"
 #include "HighlightWords.h"
 #include "LaidOutText.h"
 #include "ParagraphText.h"
-
-#include <QGlyphRun>
-#include <QPainter>
-#include <QRawFont>
 
 #include <algorithm>
 #include <cmath>
@@ -97,16 +92,9 @@ QColor TextColorOn(const QBrush& background)
     return light > 0.179 ? Qt::black : Qt::white;
 }
 
-// The format of highlighted text, for a whole line.
-QTextLayout::FormatRange HighlightFormat(const QBrush& background, const QTextLine& line)
+void Append(const LineIntervals& added, LineIntervals& intervals)
 {
-    QTextLayout::FormatRange range;
-    range.start = line.textStart();
-    range.length = line.textLength();
-    range.format.setForeground(TextColorOn(background));
-    // The backgrounds of spans would cover the highlight.
-    range.format.setBackground(Qt::NoBrush);
-    return range;
+    intervals.insert(intervals.end(), added.begin(), added.end());
 }
 
 } // namespace
@@ -115,7 +103,7 @@ QTextLayout::FormatRange HighlightFormat(const QBrush& background, const QTextLi
 class ShownLines::Builder {
 public:
     Builder(const LaidOutText& text, int maxCount, bool elide, bool hasMoreText,
-            std::vector<Line>& lines)
+            std::vector<ShownLine>& lines)
         : text_(text)
         , hasWidth_(text.Width() >= 0)
         , maxCount_(maxCount)
@@ -147,12 +135,13 @@ private:
 
     void AddLine(const QTextLine& line, const LaidOutParagraph& paragraph)
     {
-        Line shown;
+        ShownLine shown;
         shown.line = line;
         shown.origin = paragraph.origin + QPointF(0, shiftDown_);
         shown.rect = TextRect(line, shown.origin);
         shown.alignment = paragraph.layout->textOption().alignment();
         shown.layoutStart = paragraph.position;
+        shown.end = paragraph.position + line.textStart() + line.textLength();
         lines_.push_back(std::move(shown));
     }
 
@@ -176,7 +165,7 @@ private:
     // not shown. Otherwise the line is too wide.
     void Elide(const LaidOutParagraph& paragraph, bool isCut)
     {
-        Line& shown = lines_.back();
+        ShownLine& shown = lines_.back();
         const QTextLine line = shown.line;
         const int start = line.textStart();
         const int end = isCut ? ForcedLineEnd(paragraph.text, start) : start + line.textLength();
@@ -194,6 +183,8 @@ private:
         shown.elided = std::make_unique<ElidedLine>(std::move(source), width);
         shown.line = shown.elided->Line();
         shown.layoutStart += start;
+        if (isCut)
+            shown.end = text_.End();
         shown.origin += line.position();
         shown.rect = TextRect(shown.line, shown.origin);
         shiftDown_ += shown.line.height() - line.height();
@@ -227,18 +218,13 @@ private:
     const int maxCount_;
     const bool elide_;
     const bool hasMoreText_;
-    std::vector<Line>& lines_;
+    std::vector<ShownLine>& lines_;
     int paragraphIndex_ = 0;
     // How much lower the next line is than in the text's own layout. Elided lines can
     // be higher or lower than the lines there: an ellipsis can remove tall text from
     // its line or bring some in.
     qreal shiftDown_ = 0;
 };
-
-ShownLines::ShownLines() = default;
-ShownLines::~ShownLines() = default;
-ShownLines::ShownLines(ShownLines&&) noexcept = default;
-ShownLines& ShownLines::operator=(ShownLines&&) noexcept = default;
 
 ShownLines::ShownLines(const LaidOutText& text, int maxCount, bool elide, bool hasMoreText)
 {
@@ -257,7 +243,7 @@ ShownLines::ShownLines(const LaidOutText& text, int maxCount, bool elide, bool h
 qreal ShownLines::WidestLine() const
 {
     qreal width = 0;
-    for (const Line& line : lines_)
+    for (const ShownLine& line : lines_)
         width = std::max(width, line.rect.width());
     return width;
 }
@@ -265,7 +251,7 @@ qreal ShownLines::WidestLine() const
 // A text without a width does not align its lines.
 void ShownLines::AlignLinesIn(qreal width)
 {
-    for (Line& line : lines_) {
+    for (ShownLine& line : lines_) {
         const qreal free = width - line.rect.width();
         qreal left = 0;
         if (line.alignment & Qt::AlignRight)
@@ -285,7 +271,7 @@ int ShownLines::Count() const
 bool ShownLines::IsElided() const
 {
     return std::any_of(lines_.begin(), lines_.end(),
-                       [](const Line& line) { return line.elided != nullptr; });
+                       [](const ShownLine& line) { return line.elided != nullptr; });
 }
 
 QRectF ShownLines::BoundingRect() const
@@ -298,21 +284,29 @@ qreal ShownLines::FirstAscent() const
     return lines_.front().line.ascent();
 }
 
-void ShownLines::Draw(QPainter* painter, const QRectF& exposed, const QBrush& highlight) const
+void ShownLines::Draw(QPainter& painter, const QRectF& exposed, const QBrush& highlight,
+                      const SelectionLook& selection) const
 {
-    for (const Line& line : lines_) {
+    const LineIntervals none;
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        const ShownLine& line = lines_[i];
         // Ink may reach into the next line, but not beyond it.
         const qreal overhang = line.rect.height();
-        if (line.rect.top() - overhang <= exposed.bottom()
-            && line.rect.bottom() + overhang >= exposed.top())
-            line.Draw(painter, highlight);
+        if (line.rect.top() - overhang > exposed.bottom()
+            || line.rect.bottom() + overhang < exposed.top())
+            continue;
+        const LineIntervals& selected = i < selection.lines.size() ? selection.lines[i] : none;
+        const QColor onHighlight = line.highlighted.empty() ? QColor() : TextColorOn(highlight);
+        const LineMark marks[] = {{selected, selection.background, selection.textColor},
+                                  {line.highlighted, highlight, onHighlight}};
+        line.Draw(painter, marks);
     }
 }
 
 QRectF ShownLines::Ink() const
 {
     QRectF ink;
-    for (const Line& line : lines_)
+    for (const ShownLine& line : lines_)
         ink |= line.Ink();
     return ink;
 }
@@ -320,46 +314,46 @@ QRectF ShownLines::Ink() const
 bool ShownLines::HasInkOutside(qreal width) const
 {
     return std::any_of(lines_.begin(), lines_.end(),
-                       [width](const Line& line) { return line.HasInkOutside(width); });
+                       [width](const ShownLine& line) { return line.HasInkOutside(width); });
 }
 
-std::vector<QRectF> ShownLines::GlyphRects(int start, int end) const
+std::vector<QRectF> ShownLines::GlyphRects(const TextRange& range) const
 {
     std::vector<QRectF> rects;
-    for (auto line = FirstLineEndingAfter(start);
-         line < lines_.size() && lines_[line].Start() < end; ++line)
-        lines_[line].AddGlyphRects(start, end, rects);
+    for (auto line = FirstLineEndingAfter(range.start);
+         line < lines_.size() && lines_[line].Start() < range.end; ++line)
+        lines_[line].AddGlyphRects(range, rects);
     return rects;
 }
 
 std::optional<int> ShownLines::PositionAt(const QPointF& point) const
 {
-    const auto line = std::find_if(lines_.begin(), lines_.end(), [&point](const Line& each) {
-        return each.rect.contains(point) && each.Start() < each.End();
+    const auto line = std::find_if(lines_.begin(), lines_.end(), [&point](const ShownLine& each) {
+        return each.rect.contains(point) && each.Start() < each.ShownEnd();
     });
     if (line == lines_.end())
         return std::nullopt;
     const int position =
         line->line.xToCursor(point.x() - line->origin.x(), QTextLine::CursorOnCharacter);
     // An ellipsis counts as the last character before it.
-    return std::clamp(line->layoutStart + position, line->Start(), line->End() - 1);
+    return std::clamp(line->layoutStart + position, line->Start(), line->ShownEnd() - 1);
 }
 
 std::size_t ShownLines::FirstLineEndingAfter(int position) const
 {
     const auto first =
         std::partition_point(lines_.begin(), lines_.end(),
-                             [position](const Line& line) { return line.End() <= position; });
+                             [position](const ShownLine& line) { return line.end <= position; });
     return static_cast<std::size_t>(first - lines_.begin());
 }
 
 void ShownLines::Highlight(const LaidOutText& text, const HighlightWords& words)
 {
-    for (Line& line : lines_)
+    for (ShownLine& line : lines_)
         line.highlighted.clear();
     if (words.IsEmpty() || lines_.empty())
         return;
-    const int shownEnd = lines_.back().End();
+    const int shownEnd = lines_.back().ShownEnd();
     const int count = text.ParagraphCount();
     for (int i = 0; i < count; ++i) {
         const LaidOutParagraph paragraph = text.Paragraph(i);
@@ -368,170 +362,33 @@ void ShownLines::Highlight(const LaidOutText& text, const HighlightWords& words)
         const ParagraphText searched(paragraph.text, paragraph.formats, paragraph.position);
         const auto pictures = EmojiPicture::PicturesIn(paragraph.formats);
         for (const auto& [start, end] : words.CoveredRanges(searched.Characters()))
-            HighlightRange(searched.Position(start), searched.Position(end), pictures);
+            HighlightRange({searched.Position(start), searched.Position(end)}, pictures);
     }
-    for (Line& line : lines_)
-        line.MergeHighlights();
+    for (ShownLine& line : lines_)
+        Merge(line.highlighted);
 }
 
-void ShownLines::HighlightRange(int start, int end, const FormatRanges& pictures)
+void ShownLines::HighlightRange(const TextRange& range, const ShownLine::FormatRanges& pictures)
 {
-    for (auto i = FirstLineEndingAfter(start); i < lines_.size() && lines_[i].Start() < end; ++i) {
-        Line& line = lines_[i];
-        std::vector<QRectF> rects;
-        line.AddGlyphRects(start, end, rects);
-        if (!line.elided)
-            line.AddPictureRects(pictures, start, end, rects);
-        // In whole pixels, as the text engine draws the backgrounds of spans.
-        for (const QRectF& rect : rects)
-            line.highlighted.emplace_back(std::floor(rect.left()), std::ceil(rect.right()));
+    for (auto i = FirstLineEndingAfter(range.start);
+         i < lines_.size() && lines_[i].Start() < range.end; ++i)
+        Append(lines_[i].IntervalsOf(range, pictures), lines_[i].highlighted);
+}
+
+std::vector<LineIntervals> ShownLines::IntervalsOf(const LaidOutText& text,
+                                                   const TextRange& range) const
+{
+    std::vector<LineIntervals> all(lines_.size());
+    for (auto i = FirstLineEndingAfter(range.start);
+         i < lines_.size() && lines_[i].Start() < range.end; ++i) {
+        const ShownLine& line = lines_[i];
+        const auto formats = text.ParagraphAt(line.Start()).formats;
+        all[i] = line.IntervalsOf(range, EmojiPicture::PicturesIn(formats));
+        if (line.HidesPartOf(range))
+            Append(line.EllipsisIntervals(), all[i]);
+        Merge(all[i]);
     }
-}
-
-int ShownLines::Line::Start() const
-{
-    return layoutStart + line.textStart();
-}
-
-int ShownLines::Line::End() const
-{
-    return elided ? layoutStart + elided->Length()
-                  : layoutStart + line.textStart() + line.textLength();
-}
-
-void ShownLines::Line::AddGlyphRects(int start, int end, std::vector<QRectF>& rects) const
-{
-    const int first = std::max(start, Start());
-    const int last = std::min(end, End());
-    if (first >= last)
-        return;
-    // A glyph run has one direction, so that its text is in one rectangle.
-    for (const QGlyphRun& run : line.glyphRuns(first - layoutStart, last - first))
-        rects.push_back(run.boundingRect().translated(origin));
-}
-
-QRectF ShownLines::Line::Ink() const
-{
-    QRectF ink = rect;
-    for (const QGlyphRun& run : line.glyphRuns()) {
-        const QRawFont font = run.rawFont();
-        const QVector<quint32> glyphs = run.glyphIndexes();
-        const QVector<QPointF> positions = run.positions();
-        for (int i = 0; i < glyphs.size(); ++i)
-            ink |= font.boundingRect(glyphs[i]).translated(positions[i] + origin);
-    }
-    return ink;
-}
-
-bool ShownLines::Line::HasInkOutside(qreal width) const
-{
-    if (rect.left() < 0 || rect.right() > width)
-        return true;
-    const QList<QGlyphRun> runs = line.glyphRuns();
-    return std::any_of(runs.begin(), runs.end(),
-                       [&](const QGlyphRun& run) { return HasInkOutside(run, width); });
-}
-
-// Measuring the ink of a glyph takes time: that of a coloured emoji is decoded first. So
-// only glyphs near the edges are measured.
-bool ShownLines::Line::HasInkOutside(const QGlyphRun& run, qreal width) const
-{
-    // Ink never reaches farther out of the place of the glyph in the line.
-    const qreal reach = rect.height();
-    const auto isInside = [&](qreal one, qreal other) {
-        return std::min(one, other) >= reach && std::max(one, other) <= width - reach;
-    };
-    const QRectF place = run.boundingRect().translated(origin);
-    if (isInside(place.left(), place.right()))
-        return false;
-    const QVector<quint32> glyphs = run.glyphIndexes();
-    const QVector<QPointF> positions = run.positions();
-    for (int i = 0; i < glyphs.size(); ++i) {
-        const QPointF start = positions[i] + origin;
-        if (i + 1 < glyphs.size() && isInside(start.x(), positions[i + 1].x() + origin.x()))
-            continue;
-        const QRectF ink = run.rawFont().boundingRect(glyphs[i]).translated(start);
-        if (ink.left() < 0 || ink.right() > width)
-            return true;
-    }
-    return false;
-}
-
-// Pictures have no glyphs, but the zero width space after each of them has one, at
-// its edge.
-void ShownLines::Line::AddPictureRects(const FormatRanges& pictures, int start, int end,
-                                       std::vector<QRectF>& rects) const
-{
-    for (const QTextLayout::FormatRange& range : pictures) {
-        const int first = std::max({start, Start(), layoutStart + range.start}) - layoutStart;
-        const int last =
-            std::min({end, End(), layoutStart + range.start + range.length}) - layoutStart;
-        const qreal width = EmojiPicture::Width(range.format);
-        for (int at = first; at < last; ++at) {
-            for (const QGlyphRun& strut : line.glyphRuns(at + 1, 1)) {
-                const qreal x = strut.boundingRect().left();
-                const QRectF cell(strut.isRightToLeft() ? x : x - width, 0, width, rect.height());
-                rects.push_back(cell.translated(origin));
-            }
-        }
-    }
-}
-
-void ShownLines::Line::MergeHighlights()
-{
-    std::sort(highlighted.begin(), highlighted.end());
-    std::vector<Interval> merged;
-    for (const Interval& interval : highlighted) {
-        if (!merged.empty() && interval.first <= merged.back().second)
-            merged.back().second = std::max(merged.back().second, interval.second);
-        else
-            merged.push_back(interval);
-    }
-    highlighted = std::move(merged);
-}
-
-QPainterPath ShownLines::Line::HighlightedPath() const
-{
-    QPainterPath path;
-    const qreal top = std::floor(rect.top());
-    const qreal bottom = std::ceil(rect.bottom());
-    for (const auto& [left, right] : highlighted)
-        AddClipRectangle(path, QRectF(QPointF(left, top), QPointF(right, bottom)));
-    return path;
-}
-
-// Draws the highlighted text separately, so that it can have another colour without
-// a new layout.
-void ShownLines::Line::Draw(QPainter* painter, const QBrush& highlight) const
-{
-    if (highlighted.empty() || highlight.style() == Qt::NoBrush) {
-        DrawText(painter);
-        return;
-    }
-    const QPainterPath inside = HighlightedPath();
-    QPainterPath outside;
-    outside.addRect(
-        rect.adjusted(-kMaximumOverhang, -kMaximumOverhang, kMaximumOverhang, kMaximumOverhang));
-    outside.addPath(inside);
-
-    painter->save();
-    painter->setClipPath(outside, Qt::IntersectClip);
-    DrawText(painter);
-    painter->restore();
-
-    painter->save();
-    painter->setClipPath(inside, Qt::IntersectClip);
-    painter->fillRect(inside.boundingRect(), highlight);
-    const QTextLayout::FormatRange range = HighlightFormat(highlight, line);
-    DrawText(painter, &range);
-    painter->restore();
-}
-
-void ShownLines::Line::DrawText(QPainter* painter, const QTextLayout::FormatRange* format) const
-{
-    line.draw(painter, origin, format);
-    if (elided)
-        elided->DrawPictures(painter, origin);
+    return all;
 }
 
 } // namespace kestro

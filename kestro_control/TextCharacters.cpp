@@ -53,7 +53,7 @@ QRectF TextCharacters::RectOf(int index) const
         if (inside >= 0) {
             const int start = paragraph.text.Position(inside);
             const int end = std::max(paragraph.text.Position(inside + 1), start + 1);
-            for (const QRectF& part : shown_.GlyphRects(start, end))
+            for (const QRectF& part : shown_.GlyphRects({start, end}))
                 rect |= part;
         }
         return true;

@@ -4,6 +4,8 @@
 #include "DisplayBudget.h"
 #include "EmojiPicture.h"
 #include "HighlightWords.h"
+#include "InteractiveText.h"
+#include "ItemSelection.h"
 #include "ItemText.h"
 #include "MarkupReader.h"
 #include "MentionAreas.h"
@@ -13,15 +15,15 @@
 #include "ShownLines.h"
 #include "TextChangeUpdate.h"
 #include "TextCharacters.h"
+#include "TextInteraction.h"
+#include "TextMenu.h"
 
 #include "kestro_control/AccessibilityUpdates.h"
 #include "kestro_control/KestroControlManager.h"
 #include "kestro_control/KestroControlSupport.h"
 
-#include <QCursor>
 #include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneHoverEvent>
-#include <QGraphicsSceneMouseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -38,13 +40,18 @@
 using kestro::DisplayBudget;
 using kestro::EmojiPicture;
 using kestro::HighlightWords;
+using kestro::ItemSelection;
 using kestro::ItemText;
 using kestro::MarkupRun;
 using kestro::Mention;
 using kestro::MentionAreas;
+using kestro::SelectionLook;
+using kestro::ShownLine;
 using kestro::ShownLines;
 using kestro::ShownMention;
+using kestro::ShownText;
 using kestro::TextCharacters;
+using kestro::TextInteraction;
 
 namespace {
 
@@ -90,8 +97,8 @@ TextItem::NaturalSize NaturalSizeOf(const kestro::LaidOutText& text)
 // What is between the left and right edges of an item, rounded out to whole pixels.
 QRectF BetweenSides(const QRectF& item)
 {
-    return QRectF(0, item.top() - ShownLines::kMaximumOverhang, std::ceil(item.width()),
-                  item.height() + 2 * ShownLines::kMaximumOverhang);
+    return QRectF(0, item.top() - ShownLine::kMaximumOverhang, std::ceil(item.width()),
+                  item.height() + 2 * ShownLine::kMaximumOverhang);
 }
 
 void ClipSides(QPainter& painter, const QRectF& item)
@@ -125,7 +132,7 @@ bool IsWrapMode(QTextOption::WrapMode mode)
 // Owns the text and computes what is shown of it: ShownLines has the lines,
 // MentionAreas the places that can be clicked. Both are made when they are needed
 // and dropped by Invalidate().
-class TextItem::Private {
+class TextItem::Private : public kestro::InteractiveText {
 public:
     explicit Private(TextItem& textItem);
 
@@ -134,8 +141,6 @@ public:
 
     // `newText` has no format.
     void ReplaceText(const QString& newText);
-
-    QString PlainText();
 
     QTextDocument& Document();
 
@@ -159,14 +164,25 @@ public:
 
     // Null for another index.
     const ShownMention* MentionNumber(int index);
-    std::optional<Mention> MentionAt(const QPointF& point);
-    // Slots may delete the item, and `mention` with it.
-    void Click(const Mention& mention);
 
-    void Press(QGraphicsSceneMouseEvent* event);
-    void Release(QGraphicsSceneMouseEvent* event);
-    void Hover(QGraphicsSceneHoverEvent* event);
-    void ShowPointingHand(bool shown);
+    // Makes it when it is needed for the first time.
+    TextInteraction& Interaction();
+    // Null until somebody selects.
+    ItemSelection* Selection() const;
+    bool IsSelectable() const;
+    // How the selection looks in a view.
+    SelectionLook LookOfSelection(const QWidget* viewport);
+    void UpdateHoverEvents();
+    void EndHover();
+    // To be called when the text changes.
+    void ForgetSelection();
+
+    // ----- InteractiveText
+    Qt::TextInteractionFlags InteractionFlags() const override { return interactionFlags; }
+    ShownText Current() override;
+    QString PlainText() override;
+    std::optional<Mention> MentionAt(const QPointF& point) override;
+    void Click(const Mention& mention) override;
 
     // To be called before a change of what is shown, or after one in the document.
     void Invalidate();
@@ -183,8 +199,7 @@ public:
     HighlightWords highlightWords;
     QBrush highlightBrush;
     bool isHighlightValid = true;
-    // The id of the mention on which the left button was pressed.
-    std::optional<int> pressedMentionId;
+    Qt::TextInteractionFlags interactionFlags = Qt::NoTextInteraction;
 
 private:
     void InsertText(const QString& inserted, const QTextCharFormat& format);
@@ -207,8 +222,8 @@ private:
     bool hasPictures_ = false;
     int lastMentionId_ = 0;
 
-    // Set while a mention shows the pointing hand: the item's own cursor, if any.
-    std::optional<std::optional<QCursor>> cursorBeforeHand_;
+    // Null until the mouse is on the item, or somebody selects.
+    std::unique_ptr<TextInteraction> interaction_;
 };
 
 TextItem::Private::Private(TextItem& textItem)
@@ -253,7 +268,7 @@ void TextItem::Private::InsertMention(const MarkupRun& run, QTextCharFormat form
     // At the start, it is the name that sets the direction of the paragraph.
     InsertText(text.IsEmpty() ? name : kestro::Isolated(name), format);
     ++mentionCount;
-    item_.setAcceptHoverEvents(true);
+    UpdateHoverEvents();
 }
 
 void TextItem::Private::InsertEmoji(const MarkupRun& run, const QTextCharFormat& format)
@@ -288,7 +303,8 @@ void TextItem::Private::ReplaceText(const QString& newText)
     hiddenText_.clear();
     hasPictures_ = false;
     mentionCount = 0;
-    item_.setAcceptHoverEvents(!readOnly);
+    UpdateHoverEvents();
+    ForgetSelection();
 
     text.BeginInsertion(true);
     text.Clear();
@@ -392,27 +408,6 @@ std::optional<Mention> TextItem::Private::MentionAt(const QPointF& point)
     return Areas().At(point);
 }
 
-void TextItem::Private::Press(QGraphicsSceneMouseEvent* event)
-{
-    const std::optional<Mention> mention = MentionAt(event->pos());
-    if (event->button() == Qt::LeftButton && mention)
-        pressedMentionId = mention->id;
-    else
-        event->ignore();
-}
-
-void TextItem::Private::Release(QGraphicsSceneMouseEvent* event)
-{
-    if (event->button() != Qt::LeftButton || !pressedMentionId) {
-        event->ignore();
-        return;
-    }
-    const int pressed = *std::exchange(pressedMentionId, std::nullopt);
-    const std::optional<Mention> mention = MentionAt(event->pos());
-    if (mention && mention->id == pressed)
-        Click(*mention);
-}
-
 void TextItem::Private::Click(const Mention& mention)
 {
     const qint64 userNo = mention.userNo;
@@ -422,26 +417,57 @@ void TextItem::Private::Click(const Mention& mention)
         Q_EMIT item_.MentionClicked(userNo);
 }
 
-void TextItem::Private::Hover(QGraphicsSceneHoverEvent* event)
+TextInteraction& TextItem::Private::Interaction()
 {
-    ShowPointingHand(MentionAt(event->pos()).has_value());
-    event->ignore();
+    if (!interaction_)
+        interaction_ = std::make_unique<TextInteraction>(item_, *this);
+    return *interaction_;
 }
 
-void TextItem::Private::ShowPointingHand(bool shown)
+ItemSelection* TextItem::Private::Selection() const
 {
-    if (shown == cursorBeforeHand_.has_value())
-        return;
-    if (shown) {
-        cursorBeforeHand_.emplace(item_.hasCursor() ? std::optional(item_.cursor()) : std::nullopt);
-        item_.setCursor(Qt::PointingHandCursor);
-        return;
-    }
-    const std::optional<QCursor> before = *std::exchange(cursorBeforeHand_, std::nullopt);
-    if (before)
-        item_.setCursor(*before);
-    else
-        item_.unsetCursor();
+    return interaction_ ? interaction_->Selection() : nullptr;
+}
+
+bool TextItem::Private::IsSelectable() const
+{
+    return readOnly && interactionFlags.testFlag(Qt::TextSelectableByMouse);
+}
+
+SelectionLook TextItem::Private::LookOfSelection(const QWidget* viewport)
+{
+    const ItemSelection* const selection = Selection();
+    if (!selection || selection->IsEmpty())
+        return {};
+    const QPalette::ColorGroup group =
+        selection->HasFocus(viewport) ? QPalette::Active : QPalette::Inactive;
+    const QPalette palette = viewport ? viewport->palette() : QGuiApplication::palette();
+    return {Shown().IntervalsOf(text.LaidOut(), selection->Range()),
+            palette.brush(group, QPalette::Highlight),
+            palette.color(group, QPalette::HighlightedText)};
+}
+
+void TextItem::Private::UpdateHoverEvents()
+{
+    item_.setAcceptHoverEvents(!readOnly || mentionCount > 0
+                               || interactionFlags != Qt::NoTextInteraction);
+}
+
+void TextItem::Private::EndHover()
+{
+    if (interaction_)
+        interaction_->EndHover();
+}
+
+void TextItem::Private::ForgetSelection()
+{
+    if (ItemSelection* const selection = Selection())
+        selection->Forget();
+}
+
+ShownText TextItem::Private::Current()
+{
+    return {text.LaidOut(), Shown(), hiddenText_};
 }
 
 void TextItem::Private::Invalidate()
@@ -456,7 +482,7 @@ void TextItem::Private::Invalidate()
     shown_ = ShownLines();
     needsSideClip_.reset();
     mentions_.reset();
-    ShowPointingHand(false);
+    EndHover();
     item_.update();
     item_.updateGeometry();
 }
@@ -487,6 +513,7 @@ void TextItem::InsertRichText(const QString& text, bool append, const QTextCharF
         earlierText = toPlainText();
         ClearText();
     }
+    private_->ForgetSelection();
     const QTextCharFormat runFormat = format ? *format : QTextCharFormat();
     private_->text.BeginInsertion(append);
     if (private_->markupEnabled && kestro::MayHaveMarkup(text)) {
@@ -742,6 +769,7 @@ void TextItem::SetReadOnly(bool readOnly)
 {
     if (readOnly == IsReadOnly())
         return;
+    ClearSelection();
     prepareGeometryChange();
     private_->Invalidate();
     private_->readOnly = readOnly;
@@ -752,13 +780,50 @@ void TextItem::SetReadOnly(bool readOnly)
     QGraphicsTextItem::setDefaultTextColor(defaultTextColor());
     document()->setUndoRedoEnabled(!readOnly);
     setAcceptDrops(!readOnly);
-    setAcceptHoverEvents(!readOnly || private_->mentionCount > 0);
+    private_->UpdateHoverEvents();
     update();
 }
 
 bool TextItem::IsReadOnly() const
 {
     return private_->readOnly;
+}
+
+void TextItem::setTextInteractionFlags(Qt::TextInteractionFlags flags)
+{
+    private_->interactionFlags = flags & (Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    private_->EndHover();
+    private_->UpdateHoverEvents();
+    if (!private_->IsSelectable())
+        ClearSelection(); // last, because slots may delete the item
+}
+
+Qt::TextInteractionFlags TextItem::textInteractionFlags() const
+{
+    return private_->interactionFlags;
+}
+
+bool TextItem::HasSelection() const
+{
+    const ItemSelection* const selection = private_->Selection();
+    return selection && !selection->IsEmpty();
+}
+
+QString TextItem::SelectedText() const
+{
+    return HasSelection() ? private_->Selection()->Text() : QString();
+}
+
+void TextItem::SelectAll()
+{
+    if (private_->IsSelectable())
+        private_->Interaction().MakeSelection().SelectAll(nullptr);
+}
+
+void TextItem::ClearSelection()
+{
+    if (ItemSelection* const selection = private_->Selection())
+        selection->Clear();
 }
 
 void TextItem::FontChanged()
@@ -829,8 +894,8 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
     if (private_->NeedsSideClip())
         ClipSides(*painter, rect);
     const bool isPart = option && option->exposedRect.isValid();
-    private_->ShownHighlighted().Draw(painter, isPart ? option->exposedRect : rect,
-                                      private_->highlightBrush);
+    private_->ShownHighlighted().Draw(*painter, isPart ? option->exposedRect : rect,
+                                      private_->highlightBrush, private_->LookOfSelection(widget));
     painter->restore();
 }
 
@@ -846,44 +911,54 @@ bool TextItem::sceneEvent(QEvent* event)
 
 void TextItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
 {
-    IsReadOnly() ? private_->Press(event) : QGraphicsTextItem::mousePressEvent(event);
+    IsReadOnly() ? private_->Interaction().Press(*event)
+                 : QGraphicsTextItem::mousePressEvent(event);
 }
 
 void TextItem::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
 {
-    IsReadOnly() ? event->setAccepted(private_->pressedMentionId.has_value())
-                 : QGraphicsTextItem::mouseMoveEvent(event);
+    IsReadOnly() ? private_->Interaction().Move(*event) : QGraphicsTextItem::mouseMoveEvent(event);
 }
 
 void TextItem::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
-    IsReadOnly() ? private_->Release(event) : QGraphicsTextItem::mouseReleaseEvent(event);
+    IsReadOnly() ? private_->Interaction().Release(*event)
+                 : QGraphicsTextItem::mouseReleaseEvent(event);
 }
 
-// Replaces the second press of a double click, which counts as two clicks.
+// Replaces the second press of a double click.
 void TextItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
 {
-    IsReadOnly() ? private_->Press(event) : QGraphicsTextItem::mouseDoubleClickEvent(event);
+    IsReadOnly() ? private_->Interaction().Press(*event)
+                 : QGraphicsTextItem::mouseDoubleClickEvent(event);
 }
 
 void TextItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
 {
-    IsReadOnly() ? event->ignore() : QGraphicsTextItem::contextMenuEvent(event);
+    if (!IsReadOnly())
+        QGraphicsTextItem::contextMenuEvent(event);
+    else if (private_->interactionFlags == Qt::NoTextInteraction)
+        event->ignore();
+    else
+        kestro::ShowTextMenu(*this, *event, [this](QWidget* viewport) {
+            private_->Interaction().MakeSelection().SelectAll(viewport);
+        });
 }
 
 void TextItem::hoverEnterEvent(QGraphicsSceneHoverEvent* event)
 {
-    IsReadOnly() ? private_->Hover(event) : QGraphicsTextItem::hoverEnterEvent(event);
+    IsReadOnly() ? private_->Interaction().Hover(*event)
+                 : QGraphicsTextItem::hoverEnterEvent(event);
 }
 
 void TextItem::hoverMoveEvent(QGraphicsSceneHoverEvent* event)
 {
-    IsReadOnly() ? private_->Hover(event) : QGraphicsTextItem::hoverMoveEvent(event);
+    IsReadOnly() ? private_->Interaction().Hover(*event) : QGraphicsTextItem::hoverMoveEvent(event);
 }
 
 void TextItem::hoverLeaveEvent(QGraphicsSceneHoverEvent* event)
 {
-    private_->ShowPointingHand(false);
+    private_->EndHover();
     IsReadOnly() ? event->ignore() : QGraphicsTextItem::hoverLeaveEvent(event);
 }
 
@@ -895,4 +970,11 @@ void TextItem::keyPressEvent(QKeyEvent* event)
 void TextItem::keyReleaseEvent(QKeyEvent* event)
 {
     IsReadOnly() ? event->ignore() : QGraphicsTextItem::keyReleaseEvent(event);
+}
+
+QVariant TextItem::itemChange(GraphicsItemChange change, const QVariant& value)
+{
+    if (change == ItemSceneChange)
+        ClearSelection();
+    return QGraphicsTextItem::itemChange(change, value);
 }

@@ -39,6 +39,7 @@ public:
         : color_(isOwn ? 0xC0EAFC : 0xF1F3F7)
     {
         InsertRichText(text, true);
+        setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         if (TextItem::boundingRect().width() > kMaximumTextWidth)
             SetFixedItemWidth(kMaximumTextWidth);
     }
@@ -199,10 +200,11 @@ ChatWindow::ChatWindow(const QUrl& pictureServer)
     view_->setBackgroundRole(QPalette::Window);
     view_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(view_, &QWidget::customContextMenuRequested, this, &ChatWindow::showMenu);
-    connect(view_->scene(), &QGraphicsScene::focusItemChanged, this, [this](QGraphicsItem* item) {
-        if (item)
-            view_->ensureVisible(item); // what the Tab key has reached
-    });
+    connect(view_->scene(), &QGraphicsScene::focusItemChanged, this,
+            [this](QGraphicsItem* item, QGraphicsItem*, Qt::FocusReason reason) {
+                if (item && reason != Qt::MouseFocusReason)
+                    view_->ensureVisible(item); // what the Tab key has reached
+            });
     connect(scrollBar_, &QScrollBar::valueChanged, this, [this](int value) {
         if (!isArranging_)
             followsEnd_ = value == scrollBar_->maximum();

@@ -234,6 +234,9 @@ PLIX_API PlixDataController* PLIX_CALL Plix_CreateController();
 //
 //     const QString text = item->toGraphicsObject()->property("plainText").toString();
 //
+// Readers can select and copy texts that cannot be clicked. When a selection begins, the
+// view gets the keyboard focus.
+//
 // Returns null if not even an empty bubble can be built (logged), and for a bad
 // handle. A component that cannot be built is logged and left out.
 PLIX_API QGraphicsItem* PLIX_CALL Plix_CreateQGraphicsItem(PlixDataController* controller);

@@ -3,8 +3,8 @@
 #include "ChatWindow.h"
 #include "PictureServer.h"
 
-#include "PlatformMessages.h"
 #include "support/ExpectedLog.h"
+#include "support/PlatformMessages.h"
 
 #include <gtest/gtest.h>
 
@@ -219,6 +219,23 @@ TEST_F(Chat, CopiesAndDeletesAMessageByItsMenu)
 }
 
 // ----- Pictures
+
+class SelectionInChat : public Chat, public testing::WithParamInterface<const char*> { };
+
+TEST_P(SelectionInChat, IsCopied)
+{
+    show({plain(QStringLiteral("a plain message")), card("receipt.json")});
+    EXPECT_TRUE(input().hasFocus());
+    QGraphicsItem* const item = itemOf(QLatin1String(GetParam()));
+    ASSERT_NE(item, nullptr);
+    QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, pixelOf(*item));
+    EXPECT_TRUE(view().hasFocus());
+    press(Qt::Key_A);
+    press(Qt::Key_C);
+    EXPECT_EQ(QApplication::clipboard()->text(), QLatin1String(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, SelectionInChat, testing::Values("a plain message", "Subtotal"));
 
 TEST_F(Chat, ShowsPicturesThatArriveLateInPlace)
 {

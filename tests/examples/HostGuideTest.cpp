@@ -9,6 +9,7 @@
 #include "support/Keyboard.h"
 #include "support/LiveView.h"
 #include "support/Mouse.h"
+#include "support/PlatformMessages.h"
 
 #include <gtest/gtest.h>
 
@@ -412,14 +413,27 @@ TEST_F(HostGuide, LogLinesCanNameTheirMessage)
 
 // ----- Popups, texts, links
 
-void pressAndRelease(QGraphicsView& view, const QPointF& place)
+void sendMouse(QGraphicsView& view, QEvent::Type type, const QPointF& place)
 {
     const QPoint pixel = view.mapFromScene(place);
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent event(type, pixel, view.viewport()->mapToGlobal(pixel), Qt::LeftButton,
-                          Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(view.viewport(), &event);
-    }
+    const bool isDown = type != QEvent::MouseButtonRelease;
+    QMouseEvent event(type, pixel, view.viewport()->mapToGlobal(pixel),
+                      type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                      isDown ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(view.viewport(), &event);
+}
+
+void pressAndRelease(QGraphicsView& view, const QPointF& place)
+{
+    sendMouse(view, QEvent::MouseButtonPress, place);
+    sendMouse(view, QEvent::MouseButtonRelease, place);
+}
+
+void pressMoveAndRelease(QGraphicsView& view, const QPointF& from, const QPointF& to)
+{
+    sendMouse(view, QEvent::MouseButtonPress, from);
+    sendMouse(view, QEvent::MouseMove, to);
+    sendMouse(view, QEvent::MouseButtonRelease, to);
 }
 
 TEST_F(HostGuide, APopupOpensAtTheMouseOrBelowWhatTheKeyboardHasClicked)
@@ -469,6 +483,57 @@ TEST_F(HostGuide, TheFocusStaysInSight)
     EXPECT_TRUE(view.mapToScene(view.viewport()->rect())
                     .boundingRect()
                     .contains(scene.focusItem()->sceneBoundingRect()));
+}
+
+// Drags over the first text of a card, up to its end.
+void select(CardView& view, QGraphicsItem& card)
+{
+    const QRectF rect = leaf(card).sceneBoundingRect();
+    view.drag(rect.topLeft() + QPointF(1, 5), rect.bottomRight() + QPointF(9, 9));
+}
+
+TEST_F(HostGuide, ReadersSelectTextsAndAHostMaySwitchThatOff)
+{
+    const HostCard card(bubble(text("Order 4711")));
+    CardView view(*card.item());
+    EXPECT_EQ(selectedText(view.scene()), QString());
+    select(view, *card.item());
+    EXPECT_EQ(selectedText(view.scene()), QStringLiteral("Order 4711"));
+    disableSelection(*card.item());
+    EXPECT_EQ(selectedText(view.scene()), QString());
+    select(view, *card.item());
+    EXPECT_EQ(selectedText(view.scene()), QString());
+}
+
+TEST_F(HostGuide, ASelectionTakesTheFocusAndDoesNotScroll)
+{
+    const std::string column =
+        R"({"type": "box", "layout": "vertical", "height": "900px", "contents": []})";
+    const HostCard card(bubble(text("Order 4711") + ',' + column));
+    QGraphicsScene scene;
+    scene.addItem(card.item());
+    QWidget window;
+    QLineEdit input(&window);
+    HostView view(scene);
+    view.setParent(&window);
+    view.resize(300, 300);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    input.setFocus();
+    view.verticalScrollBar()->setValue(
+        leaf(*card.item()).sceneBoundingRect().center().toPoint().y());
+    const int scrolled = view.verticalScrollBar()->value();
+    ASSERT_GT(scrolled, 0);
+    const QRectF rect = leaf(*card.item()).sceneBoundingRect();
+    const QPointF from(rect.left() + 1, rect.bottom() - 3);
+    pressAndRelease(view, from);
+    EXPECT_TRUE(input.hasFocus());
+    pressMoveAndRelease(view, from, from + QPointF(40, 0));
+    EXPECT_FALSE(selectedText(scene).isEmpty());
+    EXPECT_TRUE(view.hasFocus());
+    EXPECT_EQ(view.verticalScrollBar()->value(), scrolled);
+    input.setFocus();
+    EXPECT_FALSE(selectedText(scene).isEmpty());
 }
 
 TEST_F(HostGuide, TheTextOfACardHasALinePerRow)

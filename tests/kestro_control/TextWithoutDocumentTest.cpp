@@ -39,7 +39,7 @@ public:
         QGraphicsSceneHoverEvent event(QEvent::GraphicsSceneHoverMove);
         event.setPos(point);
         hoverMoveEvent(&event);
-        return hasCursor();
+        return cursor().shape() == Qt::PointingHandCursor;
     }
 };
 
@@ -68,6 +68,7 @@ void expectSameMentions(Item& item, Item& expected)
 void expectSame(Item& item, Item& expected)
 {
     EXPECT_EQ(item.toPlainText(), expected.toPlainText());
+    EXPECT_EQ(item.SelectedText(), expected.SelectedText());
     EXPECT_EQ(item.textWidth(), expected.textWidth());
     EXPECT_EQ(item.font(), expected.font());
     EXPECT_EQ(item.TextAlignment(), expected.TextAlignment());
@@ -90,10 +91,11 @@ struct Twins {
     {
         expected.document();
         scene.addItem(&item);
-        scene.addItem(&expected);
+        sceneOfExpected.addItem(&expected);
         forBoth([](TextItem& both) {
             both.setFont(sans());
             both.SetMarkupEnabled(true);
+            both.setTextInteractionFlags(Qt::TextSelectableByMouse);
         });
     }
 
@@ -103,8 +105,9 @@ struct Twins {
         change(expected);
     }
 
-    // The items leave the scene before it ends.
+    // The items leave their scenes before these end. In one scene, only one can be selected.
     QGraphicsScene scene;
+    QGraphicsScene sceneOfExpected;
     Item item;
     Item expected;
 };
@@ -183,6 +186,12 @@ void setFrame(Twins& twins, RandomTexts& random)
     twins.forBoth([=](TextItem& item) { item.SetFrame(top > 0 ? top + 100 : 0, top); });
 }
 
+void select(Twins& twins, RandomTexts& random)
+{
+    const bool isSelected = random.oneIn(2);
+    twins.forBoth([=](TextItem& item) { isSelected ? item.SelectAll() : item.ClearSelection(); });
+}
+
 void replaceText(Twins& twins, RandomTexts& random)
 {
     const QString text = random.oneIn(3) ? QString() : random.text();
@@ -204,9 +213,9 @@ void askForDocument(Twins& twins, RandomTexts& random)
 }
 
 using Change = void (*)(Twins&, RandomTexts&);
-constexpr Change kChanges[] = {appendFormatted, append,      setWidth,      setWidth,   setWidth,
-                               setFont,         setLook,     limitLines,    limitLines, highlight,
-                               setFrame,        replaceText, askForDocument};
+constexpr Change kChanges[] = {appendFormatted, append,      setWidth,       setWidth,   setWidth,
+                               setFont,         setLook,     limitLines,     limitLines, highlight,
+                               setFrame,        replaceText, askForDocument, select};
 
 class TextWithoutDocument : public testing::TestWithParam<int> { };
 

@@ -3,7 +3,11 @@
 #include "support/Keyboard.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QMenu>
 #include <QMouseEvent>
+#include <QToolTip>
 
 #include <cmath>
 
@@ -57,6 +61,11 @@ void CardView::press(const QPointF& at, Qt::MouseButton button)
     press(QEvent::MouseButtonPress, at, button);
 }
 
+void CardView::pressAgain(const QPointF& at, Qt::MouseButton button)
+{
+    press(QEvent::MouseButtonDblClick, at, button);
+}
+
 void CardView::press(QEvent::Type type, const QPointF& at, Qt::MouseButton button)
 {
     moveTo(at);
@@ -80,8 +89,37 @@ void CardView::click(const QPointF& at, Qt::MouseButton button)
 void CardView::doubleClick(const QPointF& at, Qt::MouseButton button)
 {
     click(at, button);
-    press(QEvent::MouseButtonDblClick, at, button);
+    pressAgain(at, button);
     release(at, button);
+}
+
+void CardView::drag(const QPointF& from, const QPointF& to)
+{
+    press(from);
+    release(to);
+}
+
+QMenu* CardView::openMenu(const QPointF& at)
+{
+    click(at, Qt::RightButton);
+    QWidget* const viewport = view_.viewport();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, pixel_, viewport->mapToGlobal(pixel_));
+    QApplication::sendEvent(viewport, &event);
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+QString CardView::toolTipAt(const QPointF& at)
+{
+    moveTo(at);
+    QHelpEvent event(QEvent::ToolTip, pixel_, view_.viewport()->mapToGlobal(pixel_));
+    QApplication::sendEvent(view_.viewport(), &event);
+    const QString text = QToolTip::isVisible() ? QToolTip::text() : QString();
+    // Otherwise it would stay for a while.
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->windowType() == Qt::ToolTip)
+            window->close();
+    }
+    return text;
 }
 
 void CardView::pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers)
@@ -93,7 +131,7 @@ void CardView::send(QEvent::Type type, Qt::MouseButton button)
 {
     QWidget* const viewport = view_.viewport();
     QMouseEvent event(type, pixel_, viewport->mapTo(&view_, pixel_), viewport->mapToGlobal(pixel_),
-                      button, buttons_, Qt::NoModifier);
+                      button, buttons_, held_);
     QApplication::sendEvent(viewport, &event);
 }
 

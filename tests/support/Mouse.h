@@ -8,6 +8,8 @@
 
 #include <vector>
 
+class QMenu;
+
 namespace plix::test {
 
 // Cards in a host's view, and the user's mouse and keyboard. As from the platform, mouse events go
@@ -26,11 +28,23 @@ public:
 
     void moveTo(const QPointF& at);
     void press(const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
+    // A press that comes as a double click event.
+    void pressAgain(const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
     void release(const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
     // A press and a release.
     void click(const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
     // Two clicks; the second press is a double click event, as on all platforms.
     void doubleClick(const QPointF& at, Qt::MouseButton button = Qt::LeftButton);
+    // Presses the left button at one place and releases it at the other.
+    void drag(const QPointF& from, const QPointF& to);
+
+    // Holds keys such as Shift down while the mouse is used.
+    void hold(Qt::KeyboardModifiers keys) { held_ = keys; }
+
+    // What a right click opens: null if it is no menu. It is open until it is closed.
+    QMenu* openMenu(const QPointF& at);
+    // The tooltip at this place; empty for none.
+    QString toolTipAt(const QPointF& at);
 
     void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
@@ -52,6 +66,7 @@ private:
     std::vector<QPointer<QGraphicsObject>> roots_;
     QPoint pixel_ {-1, -1};
     Qt::MouseButtons buttons_ = Qt::NoButton;
+    Qt::KeyboardModifiers held_ = Qt::NoModifier;
 };
 
 // Shows the card in a view, clicks at `at` and closes the view.

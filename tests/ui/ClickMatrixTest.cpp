@@ -19,9 +19,12 @@ constexpr char kSmall[] = R"("size": "xxs", "flex": 0,)";
 // The expectations for an item in a box.
 struct Outcome {
     const char* arrives; // with a click; empty for nothing
-    bool hand;
+    Qt::CursorShape cursor;
     bool hasAction;
 };
+
+constexpr Qt::CursorShape kNone = Qt::ArrowCursor;
+constexpr Qt::CursorShape kHand = Qt::PointingHandCursor;
 
 struct Target {
     const char* name;
@@ -31,14 +34,16 @@ struct Target {
     Outcome inBoxWithAction;
 };
 
-constexpr Outcome kNothing {"", false, false};
-constexpr Outcome kClicksBox {kAround, true, false};
+constexpr Outcome kNothing {"", kNone, false};
+// A text without an action can be selected.
+constexpr Outcome kSelects {"", Qt::IBeamCursor, false};
+constexpr Outcome kClicksBox {kAround, kHand, false};
 // The item has an action that no click delivers; a click on it is one on the box.
-constexpr Outcome kClicksBoxDespiteItsAction {kAround, true, true};
+constexpr Outcome kClicksBoxDespiteItsAction {kAround, kHand, true};
 
 constexpr Outcome clicksItem(const char* uri)
 {
-    return {uri, true, true};
+    return {uri, kHand, true};
 }
 
 std::string imageOf(const std::string& members)
@@ -86,9 +91,9 @@ const std::vector<Target>& targets()
          {0},
          kNothing,
          // The button accepts the click and ignores it; the cursor is the box's.
-         {"", true, false}},
-        {"Text", text("words"), {}, kNothing, kClicksBox},
-        {"TextInABox", box("vertical", text("words")), {0}, kNothing, kClicksBox},
+         {"", kHand, false}},
+        {"Text", text("words"), {}, kSelects, kClicksBox},
+        {"TextInABox", box("vertical", text("words")), {0}, kSelects, kClicksBox},
         {"TextWithAction",
          text("words", uriAction("its")),
          {},
@@ -102,13 +107,13 @@ const std::vector<Target>& targets()
         {"TextWithUnknownAction",
          text("words", uriAction("its", "dance")),
          {},
-         kNothing,
+         kSelects,
          kClicksBoxDespiteItsAction},
         {"TextForApps", text("words", app), {}, kNothing, kClicksBoxDespiteItsAction},
-        {"Spans", spans(""), {}, kNothing, kClicksBox},
+        {"Spans", spans(""), {}, kSelects, kClicksBox},
         {"SpansWithAction", spans(uriAction("its")), {}, clicksItem("its"), clicksItem("its")},
-        {"Mention", mention("user"), {}, {"user -7", true, false}, kClicksBox},
-        {"MentionOfABot", mention("bot"), {}, {"bot -7", true, false}, kClicksBox},
+        {"Mention", mention("user"), {}, {"user -7", kHand, false}, kClicksBox},
+        {"MentionOfABot", mention("bot"), {}, {"bot -7", kHand, false}, kClicksBox},
         {"MentionInATextWithAction",
          mention("user", uriAction("its")),
          {},
@@ -120,14 +125,14 @@ const std::vector<Target>& targets()
         {"ImageForApps", imageOf(app), {}, kNothing, kClicksBox},
         {"Icon", component("icon"), {}, kNothing, kClicksBox},
         {"IconWithAction", component("icon", uriAction("its")), {}, kNothing, kClicksBox},
-        {"Button", button(""), {}, {"", true, false}, {"", true, false}},
+        {"Button", button(""), {}, {"", kHand, false}, {"", kHand, false}},
         {"ButtonWithAction", button(uriAction("its")), {}, clicksItem("its"), clicksItem("its")},
         {"ButtonWithUnknownAction",
          button(uriAction("its", "dance")),
          {},
          clicksItem("its"),
          clicksItem("its")},
-        {"ButtonForApps", button(app), {}, kNothing, {"", true, false}},
+        {"ButtonForApps", button(app), {}, kNothing, {"", kHand, false}},
         {"Separator", component("separator", uriAction("its")), {}, kNothing, kClicksBox},
         {"Spacer", component("spacer", uriAction("its")), {}, kNothing, kClicksBox},
         {"Filler", component("filler", uriAction("its")), {}, kNothing, kClicksBox},
@@ -313,13 +318,14 @@ INSTANTIATE_TEST_SUITE_P(Items, ClickMatrix,
 
 class Clickable : public ShownItem, public testing::WithParamInterface<Row> { };
 
-TEST_P(Clickable, ShowsAHandInTheView)
+TEST_P(Clickable, ShowsItsCursorInTheView)
 {
     const TestCard card(GetParam().card, ClickHost().setUp());
     CardView view(*card.root());
     const Qt::CursorShape elsewhere = view.cursor();
+    EXPECT_EQ(elsewhere, kNone);
     view.moveTo(card.item(GetParam().path)->sceneBoundingRect().center());
-    EXPECT_EQ(view.cursor(), GetParam().outcome.hand ? Qt::PointingHandCursor : elsewhere);
+    EXPECT_EQ(view.cursor(), GetParam().outcome.cursor);
     view.moveTo(view.nowhere());
     EXPECT_EQ(view.cursor(), elsewhere);
 }

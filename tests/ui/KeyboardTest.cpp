@@ -141,6 +141,21 @@ TEST_F(Keyboard, DoesNotGetTheFocusByAClick)
     EXPECT_NE(host_.arrived, Arrived());
 }
 
+TEST_F(Keyboard, LeavesTheCardFromASelectionAndWalksAsBefore)
+{
+    const QRectF rect = card_.item({0, 3})->sceneBoundingRect();
+    view_.drag(rect.topLeft() + QPointF(1, 5), rect.topLeft() + QPointF(15, 5));
+    ASSERT_TRUE(card_.ui<PlixTextUI>({0, 3})->HasSelection());
+    EXPECT_TRUE(view_.view().hasFocus());
+    EXPECT_EQ(ringRects(), Rects {}) << "a selection is seen without a ring";
+    pressTab(Qt::Key_Tab);
+    EXPECT_TRUE(input_.hasFocus());
+    EXPECT_EQ(walk(Qt::Key_Tab), kAll);
+    EXPECT_EQ(walk(Qt::Key_Backtab), Arrived(kAll.rbegin(), kAll.rend()));
+    view_.click(view_.nowhere());
+    EXPECT_EQ(walk(Qt::Key_Tab), kAll);
+}
+
 TEST_F(Keyboard, HasARingAroundTheItemWithTheFocus)
 {
     EXPECT_EQ(ringRects(), Rects {});

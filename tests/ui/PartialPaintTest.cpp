@@ -1,8 +1,10 @@
 // A view repaints parts of a card and keeps the rest. Both must show the same pixels.
+#include "CardTree.h"
 #include "ExampleCards.h"
 #include "PaintedCardWriter.h"
 #include "support/LiveView.h"
 #include "support/PlixTest.h"
+#include "ui/text/PlixTextUI.h"
 
 #include <QRegion>
 
@@ -69,6 +71,21 @@ void expectSamePixelsInParts(LiveView& view, unsigned seed, const char* when)
     expectSamePixels(view.shown(), whole, when);
 }
 
+// The longest text that can be selected.
+void selectOneText(QGraphicsItem& root)
+{
+    PlixTextUI* longest = nullptr;
+    forEachItem(root, [&longest](QGraphicsItem& item) {
+        auto* const text = dynamic_cast<PlixTextUI*>(&item);
+        const bool isLonger = text
+            && text->textInteractionFlags().testFlag(Qt::TextSelectableByMouse)
+            && (!longest || text->toPlainText().size() > longest->toPlainText().size());
+        longest = isLonger ? text : longest;
+    });
+    if (longest)
+        longest->SelectAll();
+}
+
 void expectPartsOfCard(const std::string& json, double scale, unsigned seed)
 {
     SCOPED_TRACE(testing::Message() << "scale " << scale);
@@ -83,8 +100,10 @@ void expectPartsOfCard(const std::string& json, double scale, unsigned seed)
     const QImage highlighted = view.shown();
     expectSamePixelsInParts(view, seed + 1, "highlighted");
     expectSamePixels(highlighted, view.shown(), "after the repaint of the highlight");
+    selectOneText(*card.root());
+    expectSamePixelsInParts(view, seed + 2, "with a selection");
     view.pressKey(Qt::Key_Tab);
-    expectSamePixelsInParts(view, seed + 2, "with the keyboard focus");
+    expectSamePixelsInParts(view, seed + 3, "with the keyboard focus");
 }
 
 using PartialPaint = PlixTest;

@@ -67,6 +67,7 @@ PlixTextUI::PlixTextUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout,
     setGeometryTarget(this);
     setHasMeasureFunc(true);
     SetMarkupEnabled(param.markupEnabled);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     connect(this, &TextItem::MentionClicked, this, &PlixTextUI::OnMentionClicked);
     connect(this, &TextItem::BotMentionClicked, this, &PlixTextUI::OnBotMentionClicked);
 }
@@ -125,6 +126,7 @@ void PlixTextUI::InitAction(const PlixDataText& data)
     if (data.IsAppOnlyAction()) {
         unsupported_ = true;
         setAcceptedMouseButtons(Qt::NoButton);
+        setTextInteractionFlags(Qt::NoTextInteraction);
     } else if (!unsupported_ && plix::HasKnownAction(data)) {
         hasOwnAction_ = true;
         setClickable(true);
@@ -301,6 +303,8 @@ void PlixTextUI::setClickable(bool on)
     clickable_ = true;
     setCursor(Qt::PointingHandCursor);
     SetReadOnly(true);
+    // The mouse clicks.
+    setTextInteractionFlags(textInteractionFlags() & ~Qt::TextSelectableByMouse);
 }
 
 void PlixTextUI::OnMentionClicked(qint64 userNo)

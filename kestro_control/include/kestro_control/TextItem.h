@@ -26,6 +26,23 @@
 //   draws and edits it, without line limit, elision, highlight and clicks on
 //   mentions. SetReadOnly(true) takes it back.
 //
+// Selection
+//
+//   setTextInteractionFlags() lets the user select in a read-only item: with the left
+//   button of the mouse; words by a double click, paragraphs by a triple click; more
+//   by Shift and a click, or an arrow, Home or End. Ctrl+C and the context menu copy.
+//   An ellipsis stands for the text that it hides: selected with it, that is copied, too.
+//   While the text is elided, a tooltip shows it whole.
+//
+//   At most one item of a scene has a selection. It lasts until another begins, the left
+//   button is pressed elsewhere in the scene, or the text changes. It has the colours of
+//   the palette of the view.
+//
+//   When a selection begins, a child of its item gets the keyboard focus of the scene, and
+//   the view that of the window, unless its focus policy is Qt::NoFocus. A click does not
+//   take the focus. It goes to the item below the text when the button is released: until then, it
+//   could become a selection.
+//
 // Markup
 //
 //   With SetMarkupEnabled(true), inserted text may contain elements:
@@ -49,7 +66,7 @@
 //   A mention has the colour MentionColor() and otherwise the format of its
 //   text. The mouse cursor over it is a pointing hand. It is clicked when the
 //   left button is pressed and released on its glyphs. An ellipsis is not part
-//   of a mention. All other presses go to the items below. A name changes the
+//   of a mention. All other presses go to the items below, or select. A name changes the
 //   order of no text beside it: explicit directions are removed from it, and a
 //   name of right-to-left letters after other text is put between U+2068 and
 //   U+2069.
@@ -100,6 +117,9 @@ class KESTRO_CONTROL_API TextItem : public QGraphicsTextItem,
     Q_PROPERTY(int shownLineCount READ ShownLineCount)
     Q_PROPERTY(bool elided READ IsElided)
     Q_PROPERTY(QFont font READ font)
+    Q_PROPERTY(Qt::TextInteractionFlags textInteractionFlags READ textInteractionFlags WRITE
+                   setTextInteractionFlags)
+    Q_PROPERTY(QString selectedText READ SelectedText)
 
 public:
     // `parent` owns the item, as with every graphics item. `parentLayout` does
@@ -268,10 +288,31 @@ public:
     // counts as the last character before it.
     int CharacterAt(const QPointF& point) const;
 
+    // ----- Selection
+
+    // What the user may do with a read-only text, apart from clicking mentions:
+    //   Qt::NoTextInteraction         nothing, as at first
+    //   Qt::TextSelectableByMouse     select, extend the selection by mouse or keys, copy
+    //   Qt::TextSelectableByKeyboard  alone: copy the whole text from the context menu
+    // Other flags are ignored: SetReadOnly() lets the user edit.
+    void setTextInteractionFlags(Qt::TextInteractionFlags flags);
+    Qt::TextInteractionFlags textInteractionFlags() const;
+
+    bool HasSelection() const;
+
+    // As a part of toPlainText(). Empty without a selection.
+    QString SelectedText() const;
+
+    // Selects the whole text, if the user may select. Leaves the keyboard focus where it
+    // is. The selection of another item of the scene ends.
+    void SelectAll();
+
+    void ClearSelection();
+
     // ----- Editing
 
     // Read-only items leave every mouse, hover and key event to the items below
-    // them, except clicks on mentions. Subclasses may override this.
+    // them, except clicks on mentions and what selects. Subclasses may override this.
     void SetReadOnly(bool readOnly);
     bool IsReadOnly() const;
 
@@ -304,11 +345,9 @@ public:
     bool contains(const QPointF& point) const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
-    // These would bypass the item's own document. Use document() and
-    // SetReadOnly().
+    // These would bypass the item's own document. Use document().
     void setHtml(const QString& html) = delete;
     void setDocument(QTextDocument* document) = delete;
-    void setTextInteractionFlags(Qt::TextInteractionFlags flags) = delete;
 
 Q_SIGNALS:
     // The user has clicked the mention of the user, or of the bot, with this
@@ -328,6 +367,7 @@ protected:
     void hoverLeaveEvent(QGraphicsSceneHoverEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;
 
 private:
     class Private;
