@@ -3,6 +3,7 @@
 #include "CardOptionParser.h"
 #include "ToolError.h"
 #include "check/CheckCommandLine.h"
+#include "schema/SchemaCommandLine.h"
 
 #include <QCoreApplication>
 
@@ -81,13 +82,15 @@ QString generalHelp()
                     .arg(QString(command.name).leftJustified(9), QString(command.summary));
     }
     text += QStringLiteral("  %1 %2\n").arg(QString(kCheckCommand).leftJustified(9), kCheckSummary);
+    text +=
+        QStringLiteral("  %1 %2\n").arg(QString(kSchemaCommand).leftJustified(9), kSchemaSummary);
     text += QStringLiteral("\nOptions:\n"
                            "  -h, --help     Shows this help, or the help for a command.\n"
                            "  -v, --version  Shows the version.\n"
                            "\nExamples:\n");
     for (const CommandDescription& command : kCommands)
         text += command.examples;
-    return text + kCheckExamples + kExitCodes;
+    return text + kCheckExamples + kSchemaExamples + kExitCodes;
 }
 
 class CommandParser {
@@ -187,7 +190,7 @@ Request parseCommandLine(const QStringList& arguments)
 {
     const QString first = arguments.value(1);
     if (first.isEmpty())
-        refuseUse(QStringLiteral("a command is missing: render, layout, gallery or check"));
+        refuseUse(QStringLiteral("a command is missing: render, layout, gallery, check or schema"));
     if (first == QLatin1String("--help") || first == QLatin1String("-h"))
         return Information {generalHelp()};
     if (first == QLatin1String("--version") || first == QLatin1String("-v"))
@@ -195,6 +198,8 @@ Request parseCommandLine(const QStringList& arguments)
 
     if (first == kCheckCommand)
         return parseCheckCommandLine(arguments);
+    if (first == kSchemaCommand)
+        return parseSchemaCommandLine(arguments);
     const auto* const description =
         std::find_if(kCommands.begin(), kCommands.end(),
                      [&](const CommandDescription& command) { return command.name == first; });

@@ -2,6 +2,7 @@
 
 #include "Options.h"
 #include "check/CheckOptions.h"
+#include "schema/SchemaOptions.h"
 
 #include <QString>
 #include <QStringList>
@@ -15,7 +16,7 @@ struct Information {
     QString text;
 };
 
-using Request = std::variant<Options, CheckOptions, Information>;
+using Request = std::variant<Options, CheckOptions, SchemaOptions, Information>;
 
 // Throws ToolError if the arguments are wrong. `arguments` starts with the name of
 // the program.

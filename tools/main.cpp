@@ -4,6 +4,7 @@
 #include "FontList.h"
 #include "ToolError.h"
 #include "check/CheckCommand.h"
+#include "schema/SchemaCommand.h"
 
 #include <QApplication>
 #include <QTextCodec>
@@ -24,6 +25,8 @@ ExitCode runTool(const QStringList& arguments)
         }
         if (const CheckOptions* check = std::get_if<CheckOptions>(&request))
             return CheckCommand(*check).run();
+        if (const SchemaOptions* schema = std::get_if<SchemaOptions>(&request))
+            return writeSchema(*schema);
         return run(std::get<Options>(request));
     } catch (const ToolError& error) {
         console::printError(error.message);

@@ -22,7 +22,8 @@ inline constexpr auto kBoxKeys = JoinKeys(
             {.name = "layout",
              .rule = PlixValueRule::Word,
              .words = Words<kBoxLayouts>(),
-             .description = "How its items are placed. Always give it."}),
+             .isRequired = true,
+             .description = "How its items are placed."}),
         StringKey<PlixDataBox, &PlixDataBox::SetSpacing>(
             {.name = "spacing",
              .rule = PlixValueRule::Word,

@@ -81,6 +81,7 @@ template <typename Item> constexpr auto CommonKeys()
             {.name = "margin",
              .rule = PlixValueRule::Length,
              .words = Words<kLengths>(),
+             .mayBeNegative = true,
              .description = "The distance to the item before it, instead of the box's "
                             "\"spacing\". The first item has none."}),
         StringKey<Item, &Item::SetPosition>({.name = "position",

@@ -42,6 +42,10 @@ struct PlixFormatKey {
     // What a missing key stands for, as JSON. Empty if that depends on other keys, or
     // if there is nothing then.
     std::string_view fallback = {};
+    // Whether authors must give it for a card that looks as meant.
+    bool isRequired = false;
+    // Whether a length may be below 0.
+    bool mayBeNegative = false;
     // One line for authors of cards.
     std::string_view description = {};
 };

@@ -30,6 +30,7 @@ inline constexpr auto kSeparatorKeys = std::to_array<PlixJsonKey<PlixDataSeparat
         {.name = "margin",
          .rule = PlixValueRule::Length,
          .words = Words<kLengths>(),
+         .mayBeNegative = true,
          .description = "The distance to the item before it, instead of the box's "
                         "\"spacing\". The first item has none."}),
     StringKey<PlixDataSeparator, &PlixDataSeparator::SetColor>({.name = "color",

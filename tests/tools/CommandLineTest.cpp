@@ -42,6 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
         HelpRow {"Gallery",
                  {"gallery", "-h"},
                  Arguments {"--scale", "OUTDIR/gallery.png"} + kCardOptions},
+        HelpRow {"Schema", {"schema", "--help"}, {"--output", "Examples:", "Exit codes:"}},
         HelpRow {"Version", {"--version"}, {"plix " PLIX_VERSION}}),
     [](const auto& row) { return row.param.name; });
 

@@ -1,5 +1,6 @@
 #include "check/AuthorCheck.h"
 
+#include "FormatText.h"
 #include "check/Excerpt.h"
 #include "check/ItemRules.h"
 #include "check/Speller.h"
@@ -7,11 +8,6 @@
 
 namespace plix::tool {
 namespace {
-
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 QStringList keysOf(const PlixFormatComponent& format)
 {

@@ -125,9 +125,8 @@ void ValueChecker::checkLength()
     const bool mayBePercent = key_.rule == PlixValueRule::LengthOrPercent;
     const std::optional<int> pixels = pixelsIn(value_.text);
     const std::optional<int> percent = mayBePercent ? percentIn(value_.text) : std::nullopt;
-    // Only a margin may be negative.
     const bool isNegative = pixels.value_or(0) < 0 || percent.value_or(0) < 0;
-    const bool isGood = !isNegative || (key_.name == "margin" && pixels);
+    const bool isGood = !isNegative || (key_.mayBeNegative && pixels);
     if (isWord() || value_.text == "none" || ((pixels || percent) && isGood))
         return;
     const QString word = probableWord(text(), wordsOf(key_));

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace plix::tool {
+
+struct SchemaOptions {
+    // Standard output if empty.
+    QString output;
+};
+
+} // namespace plix::tool
