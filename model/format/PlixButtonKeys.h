@@ -14,6 +14,7 @@ inline constexpr auto kButtonKeys = JoinKeys(
                                                               .rule = PlixValueRule::Word,
                                                               .words = Words<kButtonLooks>(),
                                                               .fallback = "\"link\"",
+                                                              .unknownWord = "a black label",
                                                               .description = "Its look."}),
         StringKey<PlixDataButton, &PlixDataButton::SetHeight>({.name = "height",
                                                                .rule = PlixValueRule::Word,

@@ -42,6 +42,8 @@ struct PlixFormatKey {
     // What a missing key stands for, as JSON. Empty if that depends on other keys, or
     // if there is nothing then.
     std::string_view fallback = {};
+    // What an unknown word stands for, if not for a missing key.
+    std::string_view unknownWord = {};
     // Whether authors must give it for a card that looks as meant.
     bool isRequired = false;
     // Whether a length may be below 0.
