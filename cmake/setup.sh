@@ -13,6 +13,9 @@ readonly PLIX_PACKAGES=(
 readonly PLIX_BENCH_PACKAGES=(
     libbenchmark-dev qtdeclarative5-dev qml-module-qtquick2 qml-module-qtquick-layouts)
 
+# What the page of all documents is made with.
+readonly PLIX_DOCS_PACKAGES=(python3 python3-markdown-it)
+
 say() { printf '%s\n' "$*" >&2; }
 
 # Prints those of the named packages that are not installed.
@@ -52,6 +55,12 @@ build_preset() {
     # Prints nothing when there is nothing to do.
     cmake --build "$dir" --target "$target" |
         sed -u -e '/Re-checking globbed/d' -e '/no work to do/d' >&2
+}
+
+# make_docs_page OUT.html: all documents as one page. Debian's Python has the packages.
+make_docs_page() {
+    install_packages "${PLIX_DOCS_PACKAGES[@]}"
+    /usr/bin/python3 "$root/docs/page/make_page.py" "$1"
 }
 
 # use_fixed_surroundings PRESET: with this environment, pictures and layouts are the same
