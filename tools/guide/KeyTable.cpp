@@ -52,12 +52,12 @@ constexpr std::array kPartNames = std::to_array<std::pair<PlixFormatPart, std::s
 
 QString kindOf(const PlixFormatKey& key)
 {
-    const QString part = textFor(key.part, kPartNames);
+    QString part = textFor(key.part, kPartNames);
     if (key.type == PlixJsonType::Array)
         return QStringLiteral("list of %1s").arg(part);
     if (!part.isEmpty())
         return part;
-    const QString rule = textFor(key.rule, kRuleNames);
+    QString rule = textFor(key.rule, kRuleNames);
     return rule.isEmpty() ? textFor(key.type, kTypeNames) : rule;
 }
 

@@ -3,10 +3,15 @@
 #include "CardFile.h"
 #include "CardHost.h"
 #include "CardPainter.h"
+#include "LayoutDump.h"
 
 #include "support/FormatPlaces.h"
 
 #include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <map>
 #include <optional>
@@ -178,6 +183,94 @@ TEST(GuideClaims, AMissingKeyIsItsDefault)
         EXPECT_TRUE(draw(cardOf(place, key.name, std::string(key.fallback)))
                     == draw(cardOf(place, key.name, std::nullopt)));
     });
+}
+
+QJsonObject layOut(const std::string& json)
+{
+    const tool::CardFile file(QStringLiteral("card.json"), QByteArray::fromStdString(json));
+    const tool::CardHost host(file, tool::CardOptions());
+    return QJsonDocument::fromJson(tool::dumpLayout(host.card())).object();
+}
+
+QJsonArray childrenOf(const QJsonValue& item)
+{
+    return item.toObject().value(QStringLiteral("children")).toArray();
+}
+
+double numberOf(const QJsonValue& item, const char* key)
+{
+    return item.toObject().value(QLatin1String(key)).toDouble();
+}
+
+// The padding of a box at its upper end, and at its lower end, by its only item.
+std::pair<double, double> paddingsOf(const QJsonValue& box)
+{
+    const QJsonValue item = childrenOf(box).at(0);
+    const double top = numberOf(item, "y");
+    return {top, numberOf(box, "height") - top - numberOf(item, "height")};
+}
+
+std::vector<double> widthsOf(const QJsonArray& items)
+{
+    std::vector<double> widths;
+    for (const QJsonValue& item : items)
+        widths.push_back(numberOf(item, "width"));
+    return widths;
+}
+
+TEST(GuideClaims, ZonesHaveThesePaddings)
+{
+    const struct {
+        const char* size;
+        double padding;
+        double lowerEnd;
+    } rows[] = {{"kilo", 13, 3},  {"micro", 10, 0}, {"nano", 10, 0},
+                {"giga", 20, 10}, {"mega", 20, 10}, {"autogiga", 20, 20}};
+    const std::string box =
+        R"({"type": "box", "layout": "vertical", "contents": [{"type": "text", "text": "a"}]})";
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.size);
+        const QJsonArray zones = childrenOf(
+            layOut(R"({"type": "bubble", "size": ")" + std::string(row.size) + R"(", "header": )"
+                   + box + R"(, "body": )" + box + R"(, "footer": )" + box + "}"));
+        EXPECT_EQ(paddingsOf(zones.at(0)), std::make_pair(row.padding, row.padding));
+        EXPECT_EQ(paddingsOf(zones.at(1)), std::make_pair(row.padding, row.lowerEnd));
+        EXPECT_EQ(paddingsOf(zones.at(2)), std::make_pair(10.0, 10.0));
+    }
+}
+
+// The items of a row of 300 pixels.
+QJsonArray rowOf(const std::string& items)
+{
+    const QJsonObject card = layOut(R"({"type": "bubble", "body": {"type": "box", "layout": )"
+                                    R"("horizontal", "paddingAll": "0px", "contents": [)"
+                                    + items + "]}}");
+    return childrenOf(childrenOf(card).at(0));
+}
+
+TEST(GuideClaims, ColumnsWithoutAWidthOfTheirOwnAreEven)
+{
+    const auto column = [](const char* width, const char* text) {
+        return R"({"type": "box", "layout": "vertical", )" + std::string(width)
+            + R"("flex": 1, "contents": [{"type": "text", "text": ")" + text + R"("}]})";
+    };
+    const char* const none = R"("width": "0px", )";
+    const auto even = widthsOf(rowOf(column(none, "a longer text") + ", " + column(none, "a")));
+    EXPECT_EQ(even, (std::vector<double> {150, 150}));
+    const auto uneven = widthsOf(rowOf(column("", "a longer text") + ", " + column("", "a")));
+    EXPECT_GT(uneven.at(0), uneven.at(1));
+}
+
+TEST(GuideClaims, TextsShareTheRowByTheirFlex)
+{
+    const char* const shares = R"({"type": "text", "text": "a longer text", "flex": 1},
+                                  {"type": "text", "text": "b", "flex": 3})";
+    EXPECT_EQ(widthsOf(rowOf(shares)), (std::vector<double> {75, 225}));
+    const char* const price = R"({"type": "text", "text": "a name"},
+                                 {"type": "text", "text": "1.00", "flex": 0})";
+    const QJsonValue last = rowOf(price).at(1);
+    EXPECT_EQ(numberOf(last, "x") + numberOf(last, "width"), 300);
+    EXPECT_LT(numberOf(last, "width"), 60);
 }
 
 } // namespace
