@@ -1,32 +1,15 @@
 #include "ImageFolder.h"
 
 #include "Console.h"
+#include "ImageFile.h"
 
 #include <plix/Plix.h>
 
 #include <QByteArray>
-#include <QFileInfo>
 #include <QUrl>
 
 namespace plix::tool {
 namespace {
-
-// URLs are untrusted: a name must not lead out of the folder, on any system, or to
-// a hidden file.
-bool isPlainName(const QString& name)
-{
-    static const QString separators = QStringLiteral("/\\:");
-    for (const QChar character : name) {
-        if (separators.contains(character) || character.isNull())
-            return false;
-    }
-    return !name.isEmpty() && !name.startsWith(QLatin1Char('.'));
-}
-
-QString lastSegment(const QString& url)
-{
-    return QUrl(url).fileName(QUrl::FullyDecoded);
-}
 
 // Without line ends and without control sequences for terminals.
 QString printable(const QString& url)
@@ -53,9 +36,8 @@ void ImageFolder::serve(PlixDataController* controller)
 
 QString ImageFolder::find(const QString& url)
 {
-    const QString name = lastSegment(url);
-    QString path = isPlainName(name) ? folder_.absoluteFilePath(name) : QString();
-    if (!path.isEmpty() && QFileInfo(path).isFile())
+    QString path = imageFile(folder_.path(), url);
+    if (!path.isEmpty())
         return path;
     if (missing_.insert(url).second) {
         console::warn(
