@@ -4,6 +4,7 @@
 #include "ToolError.h"
 #include "check/CheckCommandLine.h"
 #include "schema/SchemaCommandLine.h"
+#include "view/ViewCommandLine.h"
 
 #include <QCoreApplication>
 
@@ -84,13 +85,14 @@ QString generalHelp()
     text += QStringLiteral("  %1 %2\n").arg(QString(kCheckCommand).leftJustified(9), kCheckSummary);
     text +=
         QStringLiteral("  %1 %2\n").arg(QString(kSchemaCommand).leftJustified(9), kSchemaSummary);
+    text += QStringLiteral("  %1 %2\n").arg(QString(kViewCommand).leftJustified(9), kViewSummary);
     text += QStringLiteral("\nOptions:\n"
                            "  -h, --help     Shows this help, or the help for a command.\n"
                            "  -v, --version  Shows the version.\n"
                            "\nExamples:\n");
     for (const CommandDescription& command : kCommands)
         text += command.examples;
-    return text + kCheckExamples + kSchemaExamples + kExitCodes;
+    return text + kCheckExamples + kSchemaExamples + kViewExamples + kExitCodes;
 }
 
 class CommandParser {
@@ -190,7 +192,7 @@ Request parseCommandLine(const QStringList& arguments)
 {
     const QString first = arguments.value(1);
     if (first.isEmpty())
-        refuseUse(QStringLiteral("a command is missing: render, layout, gallery, check or schema"));
+        refuseUse(QStringLiteral("a command is missing: render, layout, gallery, check, schema or view"));
     if (first == QLatin1String("--help") || first == QLatin1String("-h"))
         return Information {generalHelp()};
     if (first == QLatin1String("--version") || first == QLatin1String("-v"))
@@ -200,6 +202,8 @@ Request parseCommandLine(const QStringList& arguments)
         return parseCheckCommandLine(arguments);
     if (first == kSchemaCommand)
         return parseSchemaCommandLine(arguments);
+    if (first == kViewCommand)
+        return parseViewCommandLine(arguments);
     const auto* const description =
         std::find_if(kCommands.begin(), kCommands.end(),
                      [&](const CommandDescription& command) { return command.name == first; });

@@ -3,6 +3,7 @@
 #include "Options.h"
 #include "check/CheckOptions.h"
 #include "schema/SchemaOptions.h"
+#include "view/ViewOptions.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,7 +17,7 @@ struct Information {
     QString text;
 };
 
-using Request = std::variant<Options, CheckOptions, SchemaOptions, Information>;
+using Request = std::variant<Options, CheckOptions, SchemaOptions, ViewOptions, Information>;
 
 // Throws ToolError if the arguments are wrong. `arguments` starts with the name of
 // the program.

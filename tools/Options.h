@@ -25,6 +25,8 @@ struct CardOptions {
     QMap<QString, QString> wordings;
     // The folder of the images; no images if empty.
     QString images;
+
+    bool operator==(const CardOptions&) const = default;
 };
 
 enum class Command { Render, Layout, Gallery };

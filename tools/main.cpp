@@ -1,3 +1,4 @@
+#include "CardOptionParser.h"
 #include "CommandLine.h"
 #include "Commands.h"
 #include "Console.h"
@@ -5,8 +6,11 @@
 #include "ToolError.h"
 #include "check/CheckCommand.h"
 #include "schema/SchemaCommand.h"
+#include "view/ViewCommand.h"
+#include "view/ViewCommandLine.h"
 
 #include <QApplication>
+#include <QLatin1String>
 #include <QTextCodec>
 
 #include <variant>
@@ -14,6 +18,15 @@
 namespace {
 
 using namespace plix::tool;
+
+const QLatin1String kOffscreen("offscreen");
+
+ExitCode showView(const ViewOptions& options)
+{
+    if (QGuiApplication::platformName() == kOffscreen)
+        refuseUse(QStringLiteral("the window needs a display"), kViewCommand);
+    return runView(options);
+}
 
 ExitCode runTool(const QStringList& arguments)
 {
@@ -27,6 +40,8 @@ ExitCode runTool(const QStringList& arguments)
             return CheckCommand(*check).run();
         if (const SchemaOptions* schema = std::get_if<SchemaOptions>(&request))
             return writeSchema(*schema);
+        if (const ViewOptions* view = std::get_if<ViewOptions>(&request))
+            return showView(*view);
         return run(std::get<Options>(request));
     } catch (const ToolError& error) {
         console::printError(error.message);
@@ -40,9 +55,19 @@ void printFailure(QtMsgType type, const QMessageLogContext&, const QString& text
         console::printError(QStringLiteral("plix: error: %1").arg(text));
 }
 
-void choosePlatform([[maybe_unused]] const QString& fontList)
+bool hasDisplay()
 {
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+    return true;
+#else
+    return !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#endif
+}
+
+void choosePlatform([[maybe_unused]] const QString& fontList, bool showsWindow)
+{
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || (showsWindow && hasDisplay()))
         return;
 #if defined(Q_OS_WIN)
     // Only the desktop's platform knows the system's fonts, and it always exists.
@@ -50,7 +75,7 @@ void choosePlatform([[maybe_unused]] const QString& fontList)
         return;
 #endif
     // Drawing needs no display, and a build machine has none.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", kOffscreen.data());
 }
 
 } // namespace
@@ -63,7 +88,7 @@ int main(int argc, char** argv)
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 #endif
     const QString fontList = qEnvironmentVariable("PLIX_FONTS");
-    choosePlatform(fontList);
+    choosePlatform(fontList, argc > 1 && QLatin1String(argv[1]) == kViewCommand);
 
     // Hides Qt's warnings about a missing runtime folder or font folder, which the
     // tool does not need.

@@ -43,6 +43,7 @@ INSTANTIATE_TEST_SUITE_P(
                  {"gallery", "-h"},
                  Arguments {"--scale", "OUTDIR/gallery.png"} + kCardOptions},
         HelpRow {"Schema", {"schema", "--help"}, {"--output", "Examples:", "Exit codes:"}},
+        HelpRow {"View", {"view", "--help"}, {"--images", "--lang", "plix view examples/cards"}},
         HelpRow {"Version", {"--version"}, {"plix " PLIX_VERSION}}),
     [](const auto& row) { return row.param.name; });
 
@@ -134,6 +135,10 @@ INSTANTIATE_TEST_SUITE_P(
         RefusalRow {"CardMissing", {"render", "-o", "out.png"}, "CARD.json is missing"},
         RefusalRow {"TwoCards", render({"other.json"}),
                     "only one CARD.json is allowed, but \"other.json\" follows"},
+        RefusalRow {"TwoCardsToView",
+                    {"view", "a.json", "b.json"},
+                    "only one card is allowed, but \"b.json\" follows"},
+        RefusalRow {"ViewWithoutADisplay", {"view"}, "the window needs a display"},
         RefusalRow {"RenderWithoutOutput", {"render", "card.json"}, "-o OUT.png is missing"},
         RefusalRow {"GalleryWithoutOutput", {"gallery", "."}, "-o OUTDIR is missing"},
         RefusalRow {
