@@ -2,7 +2,7 @@
 file(READ ${MAN_PAGE} page)
 # As they are written in the source of a man page.
 string(REPLACE "\\-" "-" page "${page}")
-foreach(command IN ITEMS render layout gallery check schema)
+foreach(command IN ITEMS render layout gallery check schema view)
     if(NOT page MATCHES "\n\\.SS[^\n]*${command}")
         message(SEND_ERROR "the man page does not have the command ${command}")
     endif()

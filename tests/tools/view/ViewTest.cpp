@@ -16,6 +16,10 @@ namespace {
 
 using namespace tool;
 
+// In milliseconds. Some programs need a while between two steps; a test that waits less
+// would find less, but not fail.
+constexpr int kLongReplacement = 60;
+
 // ----- The card
 
 TEST_F(View, ShowsTheCardOfAFile)
@@ -267,6 +271,7 @@ TEST_F(View, FollowsTheFile)
     for (const char* const text : {"three", "four"}) {
         write(QStringLiteral("other.json"), cardWith(textItem(QLatin1String(text))).toUtf8());
         ASSERT_TRUE(QFile::remove(path(QStringLiteral("card.json"))));
+        QTest::qWait(kLongReplacement);
         ASSERT_TRUE(
             QFile::rename(path(QStringLiteral("other.json")), path(QStringLiteral("card.json"))));
         EXPECT_TRUE(waitForText(QLatin1String(text)));
