@@ -17,6 +17,7 @@ TITLES = {
     "cards.md": "Cards",
     "check.md": "The check",
     "host.md": "Hosts",
+    "limits.md": "Limits",
     "architecture.md": "Architecture",
     "performance.md": "Performance",
     "windows.md": "Windows",
