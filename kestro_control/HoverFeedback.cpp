@@ -1,6 +1,7 @@
 #include "HoverFeedback.h"
 
 #include "DisplayBudget.h"
+#include "TextLimits.h"
 
 #include <QGraphicsItem>
 
@@ -8,13 +9,10 @@ namespace kestro {
 
 namespace {
 
-// A larger tooltip would not fit on a screen.
-constexpr int kMaximumToolTipLength = 2000;
-
 // As much of a text as can be laid out in a short time.
 QString Shortened(const QString& text)
 {
-    QString start = text.left(kMaximumToolTipLength);
+    QString start = text.left(limits::kToolTipCharacters);
     start.truncate(DisplayBudget().Spend(start));
     return start.size() < text.size() ? start + QChar(0x2026) : text;
 }

@@ -31,4 +31,7 @@ constexpr int kMarksOnALetter = 2;
 // How many words are highlighted. Each is searched in the whole text.
 constexpr int kHighlightWords = 1000;
 
+// How many characters a tooltip shows of an elided text. More would not fit on a screen.
+constexpr int kToolTipCharacters = 2000;
+
 } // namespace kestro::limits

@@ -2,7 +2,7 @@
 // around them.
 #include "HostGuide.inc" // generated from docs/host.md
 
-#include "PlatformMessages.h"
+#include "support/PlatformMessages.h"
 
 #include "support/AccessibleTree.h"
 #include "support/ExpectedLog.h"

@@ -9,7 +9,7 @@
 #include "view/SettingsPanel.h"
 #include "view/ViewWindow.h"
 
-#include "examples/PlatformMessages.h"
+#include "support/PlatformMessages.h"
 
 #include <gtest/gtest.h>
 
