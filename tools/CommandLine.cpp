@@ -192,7 +192,8 @@ Request parseCommandLine(const QStringList& arguments)
 {
     const QString first = arguments.value(1);
     if (first.isEmpty())
-        refuseUse(QStringLiteral("a command is missing: render, layout, gallery, check, schema or view"));
+        refuseUse(
+            QStringLiteral("a command is missing: render, layout, gallery, check, schema or view"));
     if (first == QLatin1String("--help") || first == QLatin1String("-h"))
         return Information {generalHelp()};
     if (first == QLatin1String("--version") || first == QLatin1String("-v"))
