@@ -21,9 +21,7 @@ const std::array<std::string, 5> kCards {
         "label": "Go", "text": "t"}}]}})",
     R"({"type": "bubble", "body": {"type": "box", "layout": "vertical", "action": {"type":
         "postback", "data": "d"}, "contents": [{"type": "text", "text": "a", "margin": 7}]}})",
-    R"({"type": "bubble"})",
-    "[",
-    ""};
+    R"({"type": "bubble"})", "[", ""};
 
 // A handle that the library did not make.
 class ForeignController : public PlixDataController { };
@@ -115,10 +113,7 @@ private:
         return input_.below(8) == 1 ? &foreign_ : card.controller;
     }
 
-    static void free(Card& card)
-    {
-        Plix_Free(std::exchange(card.controller, nullptr));
-    }
+    static void free(Card& card) { Plix_Free(std::exchange(card.controller, nullptr)); }
 
     FuzzInput input_;
     std::array<Card, 3> cards_;

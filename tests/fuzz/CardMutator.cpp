@@ -15,11 +15,20 @@ namespace {
 
 const char* const kContents = "contents";
 
-constexpr std::array kTexts {
-    "", "a", "two words", "WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW",
-    "one\ntwo\u2028three", "العشاء غدا", "晚上一起吃饭", "ราคาอาหารกลางวัน", "😀👨‍👩‍👧🇰🇷🇰🇷",
-    "<m user=\"7\">Ann</m> pays", "<e code=\"1F600\"/>", "a\xCC\x88\xCC\x88\xCC\x88",
-    "\u202e\u2067mirror", "soft\u00adhyphen\ttab"};
+constexpr std::array kTexts {"",
+                             "a",
+                             "two words",
+                             "WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW",
+                             "one\ntwo\u2028three",
+                             "العشاء غدا",
+                             "晚上一起吃饭",
+                             "ราคาอาหารกลางวัน",
+                             "😀👨‍👩‍👧🇰🇷🇰🇷",
+                             "<m user=\"7\">Ann</m> pays",
+                             "<e code=\"1F600\"/>",
+                             "a\xCC\x88\xCC\x88\xCC\x88",
+                             "\u202e\u2067mirror",
+                             "soft\u00adhyphen\ttab"};
 constexpr std::array kColors {"#FF0000", "#80FF0000", "red", "#F00", "transparent", "#12345"};
 constexpr std::array kLengths {"0", "1px", "13", "-1px", "2147483647px", "99999999999999", "px"};
 constexpr std::array kPercents {"50%", "100%", "-50%", "2147483647%", "%"};
@@ -59,9 +68,8 @@ void CardMutator::findPlaces(Json::Value& object, const PlixFormatComponent& for
         return;
     places_.push_back({&object, &format});
     for (const PlixFormatKey& key : format.keys) {
-        Json::Value* const value = object.isMember(std::string(key.name))
-            ? &object[std::string(key.name)]
-            : nullptr;
+        Json::Value* const value =
+            object.isMember(std::string(key.name)) ? &object[std::string(key.name)] : nullptr;
         if (!value || key.part == PlixFormatPart::None)
             continue;
         if (value->isArray()) {
@@ -89,8 +97,8 @@ void CardMutator::findPlacesBelow(Json::Value& value, PlixFormatPart part)
 void CardMutator::mutate()
 {
     static constexpr std::array kMutations {
-        &CardMutator::setKey,       &CardMutator::setKey,         &CardMutator::setKey,
-        &CardMutator::removeKey,    &CardMutator::addComponent,   &CardMutator::addComponent,
+        &CardMutator::setKey,         &CardMutator::setKey,       &CardMutator::setKey,
+        &CardMutator::removeKey,      &CardMutator::addComponent, &CardMutator::addComponent,
         &CardMutator::repeatElements, &CardMutator::wrapInBox};
     (this->*oneOf(kMutations))(oneOf(places_));
 }
@@ -144,14 +152,16 @@ Json::Value CardMutator::valueOf(const PlixFormatKey& key)
 {
     switch (key.type) {
     case PlixJsonType::Integer:
-        return below(3) == 0 ? Json::Value(std::numeric_limits<int>::max()) : Json::Value(below(9) - 2);
+        return below(3) == 0 ? Json::Value(std::numeric_limits<int>::max())
+                             : Json::Value(below(9) - 2);
     case PlixJsonType::Boolean:
         return below(2) == 0;
     case PlixJsonType::String:
         return textFor(key);
     case PlixJsonType::Array: {
         Json::Value array(Json::arrayValue);
-        array.append(key.part == PlixFormatPart::Component ? component() : Json::Value(Json::objectValue));
+        array.append(key.part == PlixFormatPart::Component ? component()
+                                                           : Json::Value(Json::objectValue));
         return array;
     }
     case PlixJsonType::Object:
@@ -185,10 +195,14 @@ Json::Value CardMutator::textFor(const PlixFormatKey& key)
 
 Json::Value CardMutator::wrongValue()
 {
-    static const std::vector<Json::Value> values {
-        Json::Value(),       Json::Value(7),     Json::Value(-1.5), Json::Value(1e300),
-        Json::Value(true),   Json::Value("huh"), Json::Value(Json::arrayValue),
-        Json::Value(Json::objectValue)};
+    static const std::vector<Json::Value> values {Json::Value(),
+                                                  Json::Value(7),
+                                                  Json::Value(-1.5),
+                                                  Json::Value(1e300),
+                                                  Json::Value(true),
+                                                  Json::Value("huh"),
+                                                  Json::Value(Json::arrayValue),
+                                                  Json::Value(Json::objectValue)};
     return oneOf(values);
 }
 

@@ -25,10 +25,21 @@ int FuzzInput::below(int limit)
 double FuzzInput::number()
 {
     using Limits = std::numeric_limits<double>;
-    static constexpr std::array kHardNumbers {
-        0.0,      -0.0,     0.5,   1e-30,           -1e-30,
-        1e30,     -1e30,    1e300, Limits::max(),   Limits::infinity(),
-        2147483647.0, -2147483648.0, 4294967296.0, Limits::lowest(), Limits::quiet_NaN()};
+    static constexpr std::array kHardNumbers {0.0,
+                                              -0.0,
+                                              0.5,
+                                              1e-30,
+                                              -1e-30,
+                                              1e30,
+                                              -1e30,
+                                              1e300,
+                                              Limits::max(),
+                                              Limits::infinity(),
+                                              2147483647.0,
+                                              -2147483648.0,
+                                              4294967296.0,
+                                              Limits::lowest(),
+                                              Limits::quiet_NaN()};
     const int kind = byte();
     if (kind < static_cast<int>(kHardNumbers.size()))
         return kHardNumbers[static_cast<std::size_t>(kind)];

@@ -14,8 +14,9 @@ const std::vector<FuzzTarget>& fuzzTargets()
 
 const FuzzTarget* findFuzzTarget(std::string_view name)
 {
-    const auto found = std::find_if(fuzzTargets().begin(), fuzzTargets().end(),
-                                    [name](const FuzzTarget& target) { return target.name == name; });
+    const auto found =
+        std::find_if(fuzzTargets().begin(), fuzzTargets().end(),
+                     [name](const FuzzTarget& target) { return target.name == name; });
     return found == fuzzTargets().end() ? nullptr : &*found;
 }
 

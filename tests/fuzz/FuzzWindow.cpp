@@ -68,8 +68,7 @@ void FuzzWindow::useMouse(FuzzInput& input)
     static constexpr std::array kTypes {QEvent::MouseMove, QEvent::MouseButtonPress,
                                         QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick,
                                         QEvent::ContextMenu};
-    static constexpr std::array kModifiers {Qt::NoModifier, Qt::ShiftModifier,
-                                            Qt::ControlModifier};
+    static constexpr std::array kModifiers {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier};
     const auto type = kTypes[static_cast<std::size_t>(input.below(kTypes.size()))];
     const auto modifiers = kModifiers[static_cast<std::size_t>(input.below(kModifiers.size()))];
     const auto button = input.below(8) == 0 ? Qt::RightButton : Qt::LeftButton;
@@ -101,14 +100,14 @@ void FuzzWindow::pressKey(FuzzInput& input)
         Qt::KeyboardModifiers modifiers;
     };
     static const std::array kKeys {
-        Key {Qt::Key_Tab, Qt::NoModifier},       Key {Qt::Key_Backtab, Qt::ShiftModifier},
-        Key {Qt::Key_Space, Qt::NoModifier},     Key {Qt::Key_Return, Qt::NoModifier},
-        Key {Qt::Key_C, Qt::ControlModifier},    Key {Qt::Key_A, Qt::ControlModifier},
-        Key {Qt::Key_Left, Qt::ShiftModifier},   Key {Qt::Key_Right, Qt::ShiftModifier},
-        Key {Qt::Key_Up, Qt::ShiftModifier},     Key {Qt::Key_Down, Qt::ShiftModifier},
-        Key {Qt::Key_End, Qt::ShiftModifier},    Key {Qt::Key_Home, Qt::ShiftModifier},
-        Key {Qt::Key_Escape, Qt::NoModifier},    Key {Qt::Key_Menu, Qt::NoModifier},
-        Key {Qt::Key_X, Qt::NoModifier},         Key {Qt::Key_Delete, Qt::NoModifier}};
+        Key {Qt::Key_Tab, Qt::NoModifier},     Key {Qt::Key_Backtab, Qt::ShiftModifier},
+        Key {Qt::Key_Space, Qt::NoModifier},   Key {Qt::Key_Return, Qt::NoModifier},
+        Key {Qt::Key_C, Qt::ControlModifier},  Key {Qt::Key_A, Qt::ControlModifier},
+        Key {Qt::Key_Left, Qt::ShiftModifier}, Key {Qt::Key_Right, Qt::ShiftModifier},
+        Key {Qt::Key_Up, Qt::ShiftModifier},   Key {Qt::Key_Down, Qt::ShiftModifier},
+        Key {Qt::Key_End, Qt::ShiftModifier},  Key {Qt::Key_Home, Qt::ShiftModifier},
+        Key {Qt::Key_Escape, Qt::NoModifier},  Key {Qt::Key_Menu, Qt::NoModifier},
+        Key {Qt::Key_X, Qt::NoModifier},       Key {Qt::Key_Delete, Qt::NoModifier}};
     const Key& key = kKeys[static_cast<std::size_t>(input.below(kKeys.size()))];
     view_.setFocus();
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {

@@ -2,9 +2,12 @@
 
 #include "FuzzInput.h"
 
+#include <QEvent>
 #include <QGraphicsScene>
 #include <QGraphicsView>
-#include <QPointF>
+#include <QImage>
+#include <QPoint>
+#include <QRect>
 
 namespace plix::test {
 

@@ -21,9 +21,10 @@ const std::string kCard = R"({"type": "bubble", "body": {"type": "box", "layout"
 // In memory where the system has such a folder.
 QString pictureFile()
 {
-    static const QTemporaryDir folder(
-        (QFile::exists(QStringLiteral("/dev/shm")) ? QStringLiteral("/dev/shm") : QStringLiteral("."))
-        + QStringLiteral("/fuzz-XXXXXX"));
+    static const QTemporaryDir folder((QFile::exists(QStringLiteral("/dev/shm"))
+                                           ? QStringLiteral("/dev/shm")
+                                           : QStringLiteral("."))
+                                      + QStringLiteral("/fuzz-XXXXXX"));
     return folder.filePath(QStringLiteral("picture"));
 }
 

@@ -44,8 +44,8 @@ void printDictionary()
     for (const auto part : {PlixFormatPart::Span, PlixFormatPart::Action, PlixFormatPart::Styles,
                             PlixFormatPart::ZoneStyle})
         printEntries(plix::PartFormat(part));
-    for (const char* text : {R"(<m user=\"7\">)", "</m>", R"(<e code=\"1F600\"/>)", R"(\u202e)",
-                             R"(\ud800)"})
+    for (const char* text :
+         {R"(<m user=\"7\">)", "</m>", R"(<e code=\"1F600\"/>)", R"(\u202e)", R"(\ud800)"})
         printEntry(text);
 }
 

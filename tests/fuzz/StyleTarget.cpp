@@ -12,7 +12,8 @@ namespace {
 
 using Setter = void (*)(YogaLayoutItem&, double);
 
-template <void (YogaLayoutItem::*Function)(double)> void callSetter(YogaLayoutItem& item, double value)
+template <void (YogaLayoutItem::*Function)(double)>
+void callSetter(YogaLayoutItem& item, double value)
 {
     (item.*Function)(value);
 }
@@ -67,7 +68,7 @@ constexpr std::array kSetters {
     }),
 };
 
-constexpr std::array kAlignments {Qt::AlignLeft,    Qt::AlignRight,  Qt::AlignHCenter, Qt::AlignTop,
+constexpr std::array kAlignments {Qt::AlignLeft,   Qt::AlignRight,   Qt::AlignHCenter, Qt::AlignTop,
                                   Qt::AlignBottom, Qt::AlignVCenter, Qt::AlignBaseline};
 
 void convertWords(const std::string& text)
@@ -111,8 +112,9 @@ void useNode(Nodes& nodes, FuzzInput& input)
         break;
     case 3:
         if (node)
-            node->setAlignment(kAlignments[static_cast<std::size_t>(input.below(kAlignments.size()))],
-                               input.flip());
+            node->setAlignment(
+                kAlignments[static_cast<std::size_t>(input.below(kAlignments.size()))],
+                input.flip());
         break;
     default:
         if (node)
