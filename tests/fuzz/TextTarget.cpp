@@ -83,6 +83,7 @@ void fuzzText(std::string_view bytes)
     auto* const item = new TextItem;
     window.show(*item);
     item->SetMarkupEnabled(true);
+    item->setTextInteractionFlags(Qt::TextSelectableByMouse);
     item->SetFixedItemWidth(200);
     item->InsertRichText(QString::fromStdString(input.line()), true);
     window.paint();
