@@ -41,7 +41,7 @@ public:
         FuzzWindow::instance().clear();
         Plix_SetMultiLangGetCallback(nullptr);
         Plix_SetWiteLogCallback(nullptr);
-        running_ = nullptr;
+        running = nullptr;
     }
 
     CallSequence(const CallSequence&) = delete;
@@ -49,7 +49,7 @@ public:
 
     void run()
     {
-        running_ = this;
+        running = this;
         while (call()) { }
     }
 
@@ -66,13 +66,13 @@ private:
     // sequence runs.
     static void callBack()
     {
-        if (!running_ || running_->depth_ >= kMaximumDepth)
+        if (!running || running->depth_ >= kMaximumDepth)
             return;
-        ++running_->depth_;
-        const int choice = running_->input_.below(6);
+        ++running->depth_;
+        const int choice = running->input_.below(6);
         if (choice < 3)
-            running_->call();
-        --running_->depth_;
+            running->call();
+        --running->depth_;
         if (choice == 3)
             throw std::runtime_error("the host's");
         if (choice == 4)
@@ -120,10 +120,10 @@ private:
     ForeignController foreign_;
     int calls_ = 0;
     int depth_ = 0;
-    static CallSequence* running_;
+    static CallSequence* running;
 };
 
-CallSequence* CallSequence::running_ = nullptr;
+CallSequence* CallSequence::running = nullptr;
 
 bool CallSequence::call()
 {
