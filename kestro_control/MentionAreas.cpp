@@ -1,6 +1,7 @@
 #include "MentionAreas.h"
 
 #include "LaidOutText.h"
+#include "MentionName.h"
 #include "ParagraphText.h"
 #include "ShownLines.h"
 
@@ -57,7 +58,7 @@ QString TextOfMention(const LaidOutText& text, const Mention& mention)
                 characters += paragraph.text.midRef(range.start, range.length);
         }
     }
-    return AsPlainText(characters);
+    return WithoutDirections(AsPlainText(characters));
 }
 
 } // namespace kestro

@@ -38,7 +38,7 @@ private:
     std::vector<ShownMention> mentions_;
 };
 
-// The characters of a mention.
+// The name that a mention shows.
 QString TextOfMention(const LaidOutText& text, const Mention& mention);
 
 } // namespace kestro

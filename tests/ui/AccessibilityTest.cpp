@@ -188,6 +188,13 @@ TEST_F(AccessibleCard, HasOnlyTheMentionsThatAreShown)
 )");
 }
 
+TEST_F(AccessibleCard, HasTheNamesOfMentionsAsTheyAreInTheCard)
+{
+    const TestCard card(cardOfColumn({text(R"(To <m user=\"7\">\u05D3\u05E0\u05D4</m>, thanks)")}),
+                        host_.setUp());
+    EXPECT_EQ(nameOf(*accessible(card.item({0, 0})->toGraphicsObject()).child(0)), "דנה");
+}
+
 TEST_F(AccessibleCard, HasTheCharactersOfATextAndTheirPlaces)
 {
     const PlixTextUI* const item = card_.ui<PlixTextUI>({0, 3});
