@@ -70,10 +70,7 @@ int TextCharacters::IndexAt(const QPointF& point) const
     FindParagraph(text_, [&](const Numbered& paragraph) {
         if (*position >= paragraph.text.Position(paragraph.Size()))
             return false;
-        int inside = 0;
-        while (paragraph.text.Position(inside) < *position)
-            ++inside;
-        index = paragraph.first + inside;
+        index = paragraph.first + paragraph.text.Index(*position);
         return true;
     });
     return index;

@@ -1,7 +1,7 @@
+# shellcheck shell=bash
 # Sourced by windows/build, windows/test and windows/package: makes the parts that the
 # Windows build needs and that take long to make. Each is made once and kept outside the
 # checkout.
-# shellcheck shell=bash
 : "${root:?the folder of the project, set by the script that sources this}"
 # shellcheck source=../cmake/setup.sh
 source "$root/cmake/setup.sh"

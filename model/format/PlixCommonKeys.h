@@ -70,6 +70,17 @@ template <typename Item> constexpr PlixJsonKey<Item> UrlsKey()
             }};
 }
 
+template <typename Item> constexpr PlixJsonKey<Item> MarginKey()
+{
+    return StringKey<Item, &Item::SetMargin>(
+        {.name = "margin",
+         .rule = PlixValueRule::Length,
+         .words = Words<kLengths>(),
+         .mayBeNegative = true,
+         .description = "The distance to the item before it, instead of the box's "
+                        "\"spacing\". The first item has none."});
+}
+
 template <typename Item> constexpr auto CommonKeys()
 {
     return std::to_array<PlixJsonKey<Item>>({
@@ -77,13 +88,7 @@ template <typename Item> constexpr auto CommonKeys()
             {.name = "flex",
              .description = "Its share of the free space. Without it, an item has a share of 1 "
                             "in a row, and none in a column."}),
-        StringKey<Item, &Item::SetMargin>(
-            {.name = "margin",
-             .rule = PlixValueRule::Length,
-             .words = Words<kLengths>(),
-             .mayBeNegative = true,
-             .description = "The distance to the item before it, instead of the box's "
-                            "\"spacing\". The first item has none."}),
+        MarginKey<Item>(),
         StringKey<Item, &Item::SetPosition>({.name = "position",
                                              .rule = PlixValueRule::Word,
                                              .words = Words<kPositions>(),

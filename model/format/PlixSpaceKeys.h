@@ -26,13 +26,7 @@ inline constexpr auto kFillerKeys = std::to_array<PlixJsonKey<PlixDataFiller>>({
 });
 
 inline constexpr auto kSeparatorKeys = std::to_array<PlixJsonKey<PlixDataSeparator>>({
-    StringKey<PlixDataSeparator, &PlixDataSeparator::SetMargin>(
-        {.name = "margin",
-         .rule = PlixValueRule::Length,
-         .words = Words<kLengths>(),
-         .mayBeNegative = true,
-         .description = "The distance to the item before it, instead of the box's "
-                        "\"spacing\". The first item has none."}),
+    MarginKey<PlixDataSeparator>(),
     StringKey<PlixDataSeparator, &PlixDataSeparator::SetColor>({.name = "color",
                                                                 .rule = PlixValueRule::Color,
                                                                 .fallback = "\"#1A222222\"",

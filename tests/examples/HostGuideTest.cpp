@@ -2,8 +2,6 @@
 // around them.
 #include "HostGuide.inc" // generated from docs/host.md
 
-#include "support/PlatformMessages.h"
-
 #include "support/AccessibleTree.h"
 #include "support/ExpectedLog.h"
 #include "support/Keyboard.h"

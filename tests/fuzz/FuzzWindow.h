@@ -34,11 +34,12 @@ public:
     // the item that is shown.
     void useMouse(FuzzInput& input);
     void pressKey(FuzzInput& input);
-    void sendMouse(QEvent::Type type, const QPoint& at, Qt::MouseButton button,
-                   Qt::KeyboardModifiers modifiers);
 
 private:
     FuzzWindow();
+
+    void sendMouse(QEvent::Type type, const QPoint& at, Qt::MouseButton button,
+                   Qt::KeyboardModifiers modifiers);
 
     QGraphicsScene scene_;
     QGraphicsView view_;
