@@ -28,6 +28,6 @@ plix_copy_changed_yoga(${PLIX_YOGA_SOURCES} ${yoga_copy})
 add_subdirectory(${yoga_copy}/yoga ${PROJECT_BINARY_DIR}/yoga EXCLUDE_FROM_ALL SYSTEM)
 # Yoga's own build uses link-time optimisation and treats warnings as errors. The first
 # would make linking our objects very slow, the second fails with new compilers.
-set_target_properties(yogacore PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF)
+set_target_properties(yogacore PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF UNITY_BUILD OFF)
 target_compile_options(yogacore PRIVATE $<IF:$<CXX_COMPILER_ID:MSVC>,/WX-,-Wno-error>)
 target_link_libraries(plix_yoga INTERFACE yogacore)

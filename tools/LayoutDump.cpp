@@ -16,7 +16,7 @@
 namespace plix::tool {
 namespace {
 
-QByteArray quoted(const QString& text)
+QByteArray jsonString(const QString& text)
 {
     const QByteArray array = QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact);
     return array.mid(1, array.size() - 2);
@@ -58,7 +58,7 @@ private:
 void LayoutWriter::write(const QGraphicsObject& item, int depth)
 {
     text_ += QByteArray(2 * depth, ' ')
-        + "{\"type\": " + quoted(QString::fromLatin1(item.metaObject()->className()));
+        + "{\"type\": " + jsonString(QString::fromLatin1(item.metaObject()->className()));
     writeRectangle(item);
     if (item.property("shownLineCount").isValid())
         writeText(item);
@@ -81,7 +81,7 @@ void LayoutWriter::writeRectangle(const QGraphicsObject& item)
 
 void LayoutWriter::writeText(const QGraphicsObject& item)
 {
-    member("text", quoted(item.property("plainText").toString()));
+    member("text", jsonString(item.property("plainText").toString()));
     member("fontSize", QByteArray::number(item.property("font").value<QFont>().pixelSize()));
     member("lines", QByteArray::number(item.property("shownLineCount").toInt()));
     if (item.property("elided").toBool())
@@ -91,7 +91,7 @@ void LayoutWriter::writeText(const QGraphicsObject& item)
 void LayoutWriter::writeLabel(const QGraphicsObject& item)
 {
     const QString label = item.property("label").toString();
-    member("label", quoted(label));
+    member("label", jsonString(label));
     member("fontSize", QByteArray::number(item.property("labelFont").value<QFont>().pixelSize()));
     if (item.property("shownLabel").toString() != label)
         member("elided", "true");
@@ -102,7 +102,7 @@ void LayoutWriter::writePicture(const QGraphicsObject& item)
 {
     const QString file = item.property("pictureFile").toString();
     if (!file.isEmpty())
-        member("picture", quoted(QFileInfo(file).fileName()));
+        member("picture", jsonString(QFileInfo(file).fileName()));
 }
 
 void LayoutWriter::writeChildren(const QGraphicsObject& item, int depth)

@@ -13,11 +13,11 @@
 //     file.write(writer.finish());
 class GifWriter {
 public:
-    static constexpr int endless = 0;
+    static constexpr int kEndless = 0;
 
     // `palette` has 2 to 256 colours; the first one is transparent. The animation
     // plays once and is repeated `repetitions` times, or endlessly.
-    GifWriter(const QSize& size, const QVector<QRgb>& palette, int repetitions = endless);
+    GifWriter(const QSize& size, const QVector<QRgb>& palette, int repetitions = kEndless);
 
     // `frame` must have the size of the animation. Each pixel gets the nearest
     // colour of the palette. `milliseconds` is rounded to a multiple of ten.

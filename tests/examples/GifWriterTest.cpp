@@ -55,13 +55,13 @@ TEST(GifWriter, WritesFramesWithTheirTimes)
 
 TEST(GifWriter, WritesTheNumberOfRepetitions)
 {
-    for (const int repetitions : {GifWriter::endless, 1, 300}) {
+    for (const int repetitions : {GifWriter::kEndless, 1, 300}) {
         GifWriter writer({1, 1}, kPalette, repetitions);
         writer.addFrame(filled({1, 1}, kPalette[1]), 100);
         ReadBack file(writer.finish());
         file.next();
         const int counted = file.reader().loopCount();
-        EXPECT_EQ(counted, repetitions == GifWriter::endless ? -1 : repetitions);
+        EXPECT_EQ(counted, repetitions == GifWriter::kEndless ? -1 : repetitions);
     }
 }
 

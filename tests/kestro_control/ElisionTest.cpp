@@ -2,6 +2,8 @@
 // cut. A second item, which has it as its whole text, draws the expected picture.
 #include "Ink.h"
 
+#include "support/RowName.h"
+
 #include <kestro_control/TextItem.h>
 
 #include <gtest/gtest.h>
@@ -81,11 +83,6 @@ QString longestElided(const QStringList& characters, qreal width)
             best = elided;
     }
     return best;
-}
-
-template <class Row> std::string rowName(const testing::TestParamInfo<Row>& row)
-{
-    return row.param.name;
 }
 
 struct ScriptRow {
@@ -230,7 +227,7 @@ INSTANTIATE_TEST_SUITE_P(
             "Emoji",
             "👨‍👩‍👧|👍🏽|🇩🇪|🇫🇷|😀|👩🏽‍🚒|1️⃣|❤️",
             Qt::LayoutDirectionAuto, Qt::AlignLeft, false}),
-    rowName<ScriptRow>);
+    plix::test::rowName<ScriptRow>);
 
 TEST(ElisionOfWrappedText, ContinuesTheLastLinePastItsBreak)
 {

@@ -20,24 +20,24 @@ namespace {
 
 constexpr int kMaximumSide = 256;
 
-const QString kSmile = QStringLiteral("<e code=\"1F600\"/>");
+const QString kSmileWithoutText = QStringLiteral("<e code=\"1F600\"/>");
 
 // An application with one picture for all emoji.
-class PictureSupport : public KestroControlSupport {
+class RedPictureSupport : public KestroControlSupport {
 public:
-    explicit PictureSupport(const QSize& size)
+    explicit RedPictureSupport(const QSize& size)
         : picture_(size, QImage::Format_ARGB32_Premultiplied)
     {
         picture_.fill(Qt::red);
         KestroControlManager::GetInstance()->SetKestroControlSupport(this);
     }
-    ~PictureSupport() override
+    ~RedPictureSupport() override
     {
         KestroControlManager::GetInstance()->SetKestroControlSupport(nullptr);
     }
 
-    PictureSupport(const PictureSupport&) = delete;
-    PictureSupport& operator=(const PictureSupport&) = delete;
+    RedPictureSupport(const RedPictureSupport&) = delete;
+    RedPictureSupport& operator=(const RedPictureSupport&) = delete;
 
     QString GetFontFamily() const override { return {}; }
     QImage GetEmojiImage(const QString&) const override { return picture_; }
@@ -98,7 +98,7 @@ struct EmojiItem : TextItem {
     EmojiItem()
     {
         SetMarkupEnabled(true);
-        InsertRichText(kSmile + kSmile, true);
+        InsertRichText(kSmileWithoutText + kSmileWithoutText, true);
     }
 };
 
@@ -113,7 +113,7 @@ std::set<qint64> keysOf(const std::vector<QImage>& images)
 
 TEST(EmojiPaint, DoesNotScaleAgainWhenRepeated)
 {
-    const PictureSupport support({100, 80});
+    const RedPictureSupport support({100, 80});
     EmojiItem item;
     EmojiItem other;
     RecordingDevice device;
@@ -127,7 +127,7 @@ TEST(EmojiPaint, DoesNotScaleAgainWhenRepeated)
 
 TEST(EmojiPaint, ScalesOnceForEachSize)
 {
-    const PictureSupport support({100, 100});
+    const RedPictureSupport support({100, 100});
     EmojiItem item;
     RecordingDevice device;
     for (int i = 0; i < 3; ++i) {
@@ -139,7 +139,7 @@ TEST(EmojiPaint, ScalesOnceForEachSize)
 
 TEST(EmojiPaint, ScalesToTheHeightOfTheLine)
 {
-    const PictureSupport support({100, 50});
+    const RedPictureSupport support({100, 50});
     EmojiItem item;
     RecordingDevice device;
     device.paint(item, 3);
@@ -149,7 +149,7 @@ TEST(EmojiPaint, ScalesToTheHeightOfTheLine)
 
 TEST(EmojiPaint, MakesNoLargePictureAtAnyZoom)
 {
-    const PictureSupport support({4000, 3000});
+    const RedPictureSupport support({4000, 3000});
     EmojiItem item;
     for (const double zoom : {10.0, 14.0, 50.0, 200.0, 1e6}) {
         RecordingDevice device;
@@ -164,7 +164,7 @@ TEST(EmojiPaint, MakesNoLargePictureAtAnyZoom)
 
 TEST(EmojiPaint, FillsItsSquareAtAnyZoom)
 {
-    const PictureSupport support({60, 60});
+    const RedPictureSupport support({60, 60});
     EmojiItem item;
     for (const double zoom : {1.0, 12.0, 20.0, 200.0}) {
         QImage image(40, 40, QImage::Format_ARGB32_Premultiplied);

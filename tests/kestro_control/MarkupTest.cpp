@@ -3,6 +3,8 @@
 #include "Ink.h"
 #include "MarkupReader.h"
 
+#include "support/RowName.h"
+
 #include <kestro_control/KestroControlManager.h>
 #include <kestro_control/KestroControlSupport.h>
 #include <kestro_control/TextItem.h>
@@ -57,11 +59,6 @@ struct MarkupRow {
     }
 };
 
-template <class Row> std::string rowName(const testing::TestParamInfo<Row>& info)
-{
-    return info.param.name;
-}
-
 class Markup : public testing::TestWithParam<MarkupRow> { };
 
 TEST_P(Markup, IsReadAsDocumented)
@@ -102,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
         MarkupRow {"Flag", R"(<e code="1F1E9-1F1EA"/>)", "emoji 1F1E9-1F1EA[🇩🇪]"},
         MarkupRow {"Keycap", R"(<e code="31-FE0F-20E3"/>)", "emoji 31-FE0F-20E3[1️⃣]"},
         MarkupRow {"SkinTone", R"(<e code="1F44D-1F3FD"/>)", "emoji 1F44D-1F3FD[👍🏽]"}),
-    rowName<MarkupRow>);
+    plix::test::rowName<MarkupRow>);
 
 INSTANTIATE_TEST_SUITE_P(
     InsideMalformedMarkup, Markup,
@@ -114,7 +111,7 @@ INSTANTIATE_TEST_SUITE_P(
                                R"(text[<m user="1">a]emoji 1F600[😀]text[</m>])"},
                     MarkupRow {"AnElementInATag", R"(<m <m user="2">b</m>)", "text[<m ]user 2[b]"},
                     MarkupRow {"AnEntity", R"(<m user="1">&lt;)", R"(text[<m user="1"><])"}),
-    rowName<MarkupRow>);
+    plix::test::rowName<MarkupRow>);
 
 class MalformedMarkup : public testing::TestWithParam<const char*> { };
 

@@ -18,13 +18,13 @@
 
 namespace {
 
-const QString kSentence = QStringLiteral("one two, three");
+const QString kOneTwoThree = QStringLiteral("one two, three");
 
 // A text in a window that also has an input line, as in a chat.
 class SelectionInWindow : public testing::Test {
 protected:
     SelectionInWindow()
-        : view_(kSentence)
+        : view_(kOneTwoThree)
     {
         view_.view().setParent(&window_);
         window_.show();
@@ -184,7 +184,7 @@ TEST_F(SelectionInScene, EndsWhenAnotherBegins)
     EXPECT_EQ(other->SelectedText(), QStringLiteral("other"));
     view_.item->SelectAll();
     EXPECT_FALSE(other->HasSelection());
-    EXPECT_EQ(view_.selected(), kSentence.toStdString());
+    EXPECT_EQ(view_.selected(), kOneTwoThree.toStdString());
     view_.hold(Qt::ShiftModifier);
     view_.click(place);
     EXPECT_EQ(view_.selected(), "");
@@ -196,7 +196,7 @@ TEST_F(SelectionInScene, EndsWithTheTextAndOutsideOfTheScene)
     view_.item->InsertRichText(QStringLiteral("!"), true);
     EXPECT_EQ(view_.selected(), "");
     select();
-    view_.item->setPlainText(kSentence);
+    view_.item->setPlainText(kOneTwoThree);
     EXPECT_EQ(view_.selected(), "");
     select();
     view_.scene().removeItem(view_.item.get());
@@ -212,13 +212,13 @@ TEST_F(SelectionInScene, StaysInAnotherLayout)
     view_.item->SetFixedItemWidth(60);
     view_.item->SetMaxLineCount(1);
     view_.item->SetElide(true);
-    EXPECT_EQ(view_.selected(), kSentence.toStdString());
+    EXPECT_EQ(view_.selected(), kOneTwoThree.toStdString());
     QFont large = view_.item->font();
     large.setPixelSize(40);
     view_.item->setFont(large);
     view_.item->document();
     view_.view().grab();
-    EXPECT_EQ(view_.copied(), kSentence.toStdString());
+    EXPECT_EQ(view_.copied(), kOneTwoThree.toStdString());
 }
 
 TEST_F(SelectionInScene, GoesOnInAnotherLayout)
@@ -255,7 +255,7 @@ TEST(SelectionOfDeletedItem, LeavesTheSceneUsable)
         QGraphicsView view(&scene);
         auto* const item = new TextItem;
         item->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        item->InsertRichText(kSentence, true);
+        item->InsertRichText(kOneTwoThree, true);
         plix::test::CardView card(*item);
         QApplication::setActiveWindow(&card.view());
         const QPointF place = item->sceneBoundingRect().center();
@@ -280,7 +280,7 @@ TEST(SelectionOfDeletedItem, MayBeDeletedByWhoFollowsTheFocus)
     for (const bool isAtStart : {true, false}) {
         QPointer<TextItem> item = new TextItem;
         item->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        item->InsertRichText(kSentence, true);
+        item->InsertRichText(kOneTwoThree, true);
         plix::test::CardView view(*item);
         QApplication::setActiveWindow(&view.view());
         const QPointF place = item->sceneBoundingRect().center();
@@ -483,7 +483,7 @@ TEST_F(SelectionMenu, CopiesAndSelectsAll)
     EXPECT_FALSE(actionOf(*menu, "edit-copy").isEnabled());
     actionOf(*menu, "select-all").trigger();
     menu->close();
-    EXPECT_EQ(view_.selected(), kSentence.toStdString());
+    EXPECT_EQ(view_.selected(), kOneTwoThree.toStdString());
     EXPECT_TRUE(view_.hasFocus());
 
     menu = view_.openMenu(view_.place(2));
@@ -491,7 +491,7 @@ TEST_F(SelectionMenu, CopiesAndSelectsAll)
     QApplication::clipboard()->clear();
     actionOf(*menu, "edit-copy").trigger();
     menu->close();
-    EXPECT_EQ(QApplication::clipboard()->text(), kSentence);
+    EXPECT_EQ(QApplication::clipboard()->text(), kOneTwoThree);
 }
 
 TEST_F(SelectionMenu, CopiesTheWholeTextWhereTheMouseDoesNotSelect)
@@ -503,7 +503,7 @@ TEST_F(SelectionMenu, CopiesTheWholeTextWhereTheMouseDoesNotSelect)
     QApplication::clipboard()->clear();
     actionOf(*menu, "edit-copy").trigger();
     menu->close();
-    EXPECT_EQ(QApplication::clipboard()->text(), kSentence);
+    EXPECT_EQ(QApplication::clipboard()->text(), kOneTwoThree);
     EXPECT_TRUE(input_.hasFocus());
 }
 
@@ -554,7 +554,7 @@ TEST_F(SelectionMenu, IsInTheLanguageOfTheHost)
 
 TEST(SelectionCursor, IsAnIBeamOverATextThatCanBeSelected)
 {
-    SelectionView view(kSentence);
+    SelectionView view(kOneTwoThree);
     const Qt::CursorShape elsewhere = view.cursor();
     view.moveTo(view.place(2));
     EXPECT_EQ(view.cursor(), Qt::IBeamCursor);
@@ -593,12 +593,12 @@ TEST(SelectionCursor, IsAHandOverAMention)
 
 TEST(SelectionCursor, IsThatOfTheItemAgainWhenItIsDeletedUnderTheMouse)
 {
-    SelectionView view(kSentence);
+    SelectionView view(kOneTwoThree);
     view.moveTo(view.place(2));
     view.item->InsertRichText(QStringLiteral("!"), true);
     EXPECT_FALSE(view.item->hasCursor());
     auto* const other = new TextItem;
-    other->InsertRichText(kSentence, true);
+    other->InsertRichText(kOneTwoThree, true);
     other->setTextInteractionFlags(Qt::TextSelectableByMouse);
     other->setPos(0, 100);
     view.add(*other);
@@ -628,7 +628,7 @@ TEST_F(SelectionToolTip, ShowsATextThatIsElided)
 
 TEST_F(SelectionToolTip, LeavesTheItemItsOwn)
 {
-    SelectionView view(kSentence);
+    SelectionView view(kOneTwoThree);
     view.item->SetElide(true);
     view.item->SetMaxLineCount(1);
     view.item->SetFixedItemWidth(60);

@@ -1,6 +1,7 @@
 // What a TextItem paints.
 #include "Ink.h"
 #include "support/ClipCounter.h"
+#include "support/RowName.h"
 
 #include <kestro_control/TextItem.h>
 
@@ -22,11 +23,6 @@ void useFont(TextItem& item, int pixelSize = 20)
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(pixelSize);
     item.setFont(font);
-}
-
-template <class Row> std::string rowName(const testing::TestParamInfo<Row>& row)
-{
-    return row.param.name;
 }
 
 struct ScriptRow {
@@ -68,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ScriptRow {"Emoji",
                                "👨‍👩‍👧👍🏽🇩🇪😀👨‍👩‍👧👍🏽"},
                     ScriptRow {"Mixed", "Dinner ארוחת הערב at 7"}),
-    rowName<ScriptRow>);
+    plix::test::rowName<ScriptRow>);
 
 TEST(TextItemRendering, DrawsOnlyTheLinesWithinTheLimit)
 {
@@ -209,7 +205,7 @@ INSTANTIATE_TEST_SUITE_P(
         AlignmentRow {"HebrewCentre", "םםם", Qt::AlignHCenter, Qt::LayoutDirectionAuto, 0.5},
         AlignmentRow {"HebrewEndsAtTheLeft", "םםם", Qt::AlignRight, Qt::LayoutDirectionAuto, 0},
         AlignmentRow {"HebrewInLeftToRightText", "םםם", Qt::AlignLeft, Qt::LeftToRight, 0}),
-    rowName<AlignmentRow>);
+    plix::test::rowName<AlignmentRow>);
 
 TEST(TextItemRendering, DrawsTheTextBelowTheFrameMargin)
 {
@@ -273,7 +269,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SideRow {"TwiceAsLarge", "jar", false, 0, 2, 1, 0},
                     SideRow {"BetweenPixels", "jar", false, 0.5, 1, 0, 1},
                     SideRow {"EmojiInside", "Dinner 😀 is ready", false, 0, 1, 0, 0}),
-    rowName<SideRow>);
+    plix::test::rowName<SideRow>);
 
 TEST(TextItemRendering, HasAnInkRectangleOfWhatItDraws)
 {

@@ -1,6 +1,8 @@
 // The text of a TextItem, and the lines and rectangle that it shows.
 #include "Ink.h"
 
+#include "support/RowName.h"
+
 #include <kestro_control/TextItem.h>
 
 #include <gtest/gtest.h>
@@ -211,11 +213,6 @@ struct NamedText {
     }
 };
 
-std::string rowName(const testing::TestParamInfo<NamedText>& info)
-{
-    return info.param.name;
-}
-
 // A text must not wrap at its own natural width.
 class TextItemNaturalWidth : public testing::TestWithParam<NamedText> { };
 
@@ -242,7 +239,7 @@ INSTANTIATE_TEST_SUITE_P(Scripts, TextItemNaturalWidth,
                                          NamedText {"Arabic", "مرحبا بكم جميعا"},
                                          NamedText {"Hebrew", "שלום לכולם"},
                                          NamedText {"Emoji", "👨‍👩‍👧👍🏽🇩🇪"}),
-                         rowName);
+                         plix::test::rowName<NamedText>);
 
 TEST(TextItemText, IsInsertedAtTheEndOrAtTheStart)
 {

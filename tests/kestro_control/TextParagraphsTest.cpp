@@ -20,8 +20,8 @@ using kestro::WorkSoFar;
 namespace {
 
 // The same text with and without a document.
-struct Twins {
-    Twins() { document.setDocumentMargin(0); }
+struct DocumentTwins {
+    DocumentTwins() { document.setDocumentMargin(0); }
 
     void append(const QString& text, const QTextCharFormat& format = {})
     {
@@ -95,7 +95,7 @@ void expectSameParagraph(const LaidOutParagraph& paragraph, const LaidOutParagra
     }
 }
 
-void expectSameLines(Twins& twins)
+void expectSameLines(DocumentTwins& twins)
 {
     twins.paragraphs.LayOut();
     const DocumentText document(twins.document);
@@ -120,7 +120,7 @@ QTextOption randomOption(RandomTexts& random)
     return option;
 }
 
-void changeAnything(Twins& twins, RandomTexts& random)
+void changeAnything(DocumentTwins& twins, RandomTexts& random)
 {
     switch (random.number(8)) {
     case 0:
@@ -148,7 +148,7 @@ TEST_P(TextParagraphsLikeDocument, HaveTheSameLinesAfterAnyChanges)
     RandomTexts random(static_cast<unsigned>(GetParam()));
     for (int text = 0; text < 40 && !HasFailure(); ++text) {
         SCOPED_TRACE("text " + std::to_string(text));
-        Twins twins;
+        DocumentTwins twins;
         twins.setFont(random.font());
         twins.append(random.text(), random.oneIn(2) ? random.format() : QTextCharFormat());
         for (int step = 0; step < 8 && !HasFailure(); ++step) {

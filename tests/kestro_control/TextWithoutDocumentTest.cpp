@@ -23,7 +23,8 @@ using kestro::WorkSoFar;
 
 namespace {
 
-const QString kSentence = QStringLiteral("Dinner is ready at seven, please bring some juice.");
+const QString kDinnerSentence =
+    QStringLiteral("Dinner is ready at seven, please bring some juice.");
 
 QFont sans()
 {
@@ -86,8 +87,8 @@ void expectSame(Item& item, Item& expected)
 }
 
 // Two items to which the same is done.
-struct Twins {
-    Twins()
+struct ItemTwins {
+    ItemTwins()
     {
         expected.document();
         scene.addItem(&item);
@@ -120,7 +121,7 @@ QString markup(RandomTexts& random)
                            : text + QStringLiteral("<m user=\"7\">Ann Lee</m> ") + random.text();
 }
 
-void appendFormatted(Twins& twins, RandomTexts& random)
+void appendFormatted(ItemTwins& twins, RandomTexts& random)
 {
     const QString text = markup(random);
     const QTextCharFormat format = random.format();
@@ -128,25 +129,25 @@ void appendFormatted(Twins& twins, RandomTexts& random)
     twins.forBoth([&](TextItem& item) { item.InsertRichText(text, append, &format); });
 }
 
-void append(Twins& twins, RandomTexts& random)
+void append(ItemTwins& twins, RandomTexts& random)
 {
     const QString text = markup(random);
     twins.forBoth([&](TextItem& item) { item.InsertRichText(text, true); });
 }
 
-void setWidth(Twins& twins, RandomTexts& random)
+void setWidth(ItemTwins& twins, RandomTexts& random)
 {
     const qreal width = random.width();
     twins.forBoth([=](TextItem& item) { item.SetFixedItemWidth(width); });
 }
 
-void setFont(Twins& twins, RandomTexts& random)
+void setFont(ItemTwins& twins, RandomTexts& random)
 {
     const QFont font = random.font();
     twins.forBoth([&](TextItem& item) { item.setFont(font); });
 }
 
-void setLook(Twins& twins, RandomTexts& random)
+void setLook(ItemTwins& twins, RandomTexts& random)
 {
     const QColor color = QColor::fromHsv(random.number(360), 255, 150);
     const auto wrapMode = random.wrapMode();
@@ -160,7 +161,7 @@ void setLook(Twins& twins, RandomTexts& random)
     });
 }
 
-void limitLines(Twins& twins, RandomTexts& random)
+void limitLines(ItemTwins& twins, RandomTexts& random)
 {
     const int count = random.number(5);
     const bool elide = random.oneIn(2);
@@ -170,7 +171,7 @@ void limitLines(Twins& twins, RandomTexts& random)
     });
 }
 
-void highlight(Twins& twins, RandomTexts& random)
+void highlight(ItemTwins& twins, RandomTexts& random)
 {
     const QStringList words = random.oneIn(3)
         ? QStringList()
@@ -180,25 +181,25 @@ void highlight(Twins& twins, RandomTexts& random)
     twins.forBoth([&](TextItem& item) { item.HighlightText(words, color); });
 }
 
-void setFrame(Twins& twins, RandomTexts& random)
+void setFrame(ItemTwins& twins, RandomTexts& random)
 {
     const qreal top = random.number(200) / 7.0;
     twins.forBoth([=](TextItem& item) { item.SetFrame(top > 0 ? top + 100 : 0, top); });
 }
 
-void select(Twins& twins, RandomTexts& random)
+void select(ItemTwins& twins, RandomTexts& random)
 {
     const bool isSelected = random.oneIn(2);
     twins.forBoth([=](TextItem& item) { isSelected ? item.SelectAll() : item.ClearSelection(); });
 }
 
-void replaceText(Twins& twins, RandomTexts& random)
+void replaceText(ItemTwins& twins, RandomTexts& random)
 {
     const QString text = random.oneIn(3) ? QString() : random.text();
     twins.forBoth([&](TextItem& item) { item.setPlainText(text); });
 }
 
-void askForDocument(Twins& twins, RandomTexts& random)
+void askForDocument(ItemTwins& twins, RandomTexts& random)
 {
     if (random.oneIn(2)) {
         twins.item.document();
@@ -212,7 +213,7 @@ void askForDocument(Twins& twins, RandomTexts& random)
     }
 }
 
-using Change = void (*)(Twins&, RandomTexts&);
+using Change = void (*)(ItemTwins&, RandomTexts&);
 constexpr Change kChanges[] = {appendFormatted, append,      setWidth,       setWidth,   setWidth,
                                setFont,         setLook,     limitLines,     limitLines, highlight,
                                setFrame,        replaceText, askForDocument, select};
@@ -223,7 +224,7 @@ TEST_P(TextWithoutDocument, IsShownLikeInADocumentAfterAnyChanges)
 {
     RandomTexts random(static_cast<unsigned>(GetParam()));
     for (int text = 0; text < 10 && !HasFailure(); ++text) {
-        Twins twins;
+        ItemTwins twins;
         append(twins, random);
         for (int step = 0; step < 12 && !HasFailure(); ++step) {
             SCOPED_TRACE("text " + std::to_string(text) + ", step " + std::to_string(step) + ": "
@@ -258,7 +259,7 @@ TEST(TextItemDocument, IsNotMadeForATextThatIsOnlyShown)
         QTextCharFormat bold;
         bold.setFontWeight(QFont::Bold);
         item.InsertRichText(QStringLiteral("Hello <m user=\"1\">Ann</m>\n"), true);
-        item.InsertRichText(kSentence, true, &bold);
+        item.InsertRichText(kDinnerSentence, true, &bold);
         item.SetTextAlignment(Qt::AlignRight);
         item.SetTextDirection(Qt::RightToLeft);
         item.SetFrame(200, 20);
@@ -268,7 +269,7 @@ TEST(TextItemDocument, IsNotMadeForATextThatIsOnlyShown)
         pictureOf(item, kPictureArea);
         item.showsHandAt(QPointF(60, 30));
         EXPECT_FALSE(item.toPlainText().isEmpty());
-        item.setPlainText(kSentence);
+        item.setPlainText(kDinnerSentence);
         item.ClearText();
     });
     EXPECT_EQ(work.documents, 0);
@@ -277,12 +278,12 @@ TEST(TextItemDocument, IsNotMadeForATextThatIsOnlyShown)
 TEST(TextItemDocument, IsMadeOnceWhenAskedForAndStaysTheSame)
 {
     Item item;
-    item.InsertRichText(kSentence, true);
+    item.InsertRichText(kDinnerSentence, true);
     const auto work = workIn([&] {
         QTextDocument* const document = item.document();
-        EXPECT_EQ(document->toPlainText(), kSentence);
-        item.InsertRichText(kSentence, true);
-        item.setPlainText(kSentence);
+        EXPECT_EQ(document->toPlainText(), kDinnerSentence);
+        item.InsertRichText(kDinnerSentence, true);
+        item.setPlainText(kDinnerSentence);
         EXPECT_EQ(item.document(), document);
         item.SetReadOnly(false);
         item.SetReadOnly(true);
@@ -334,7 +335,7 @@ TEST(TextItemShaping, HappensOnceForAllWidthsLimitsAndLooks)
 {
     Item item;
     item.setFont(sans());
-    item.InsertRichText(kSentence, true);
+    item.InsertRichText(kDinnerSentence, true);
     const auto work = workIn([&] {
         for (const qreal width : {-1.0, 180.0, 90.0, -1.0, 0.0, 300.0}) {
             item.SetFixedItemWidth(width);
@@ -353,7 +354,7 @@ TEST(TextItemShaping, HappensOnceForAllWidthsLimitsAndLooks)
 TEST(TextItemLineBreaking, IsNotRepeatedForTheSameWidthNorForColoursHighlightsAndMargins)
 {
     Item item;
-    item.InsertRichText(kSentence, true);
+    item.InsertRichText(kDinnerSentence, true);
     item.SetFixedItemWidth(180);
     EXPECT_GT(item.ShownLineCount(), 0);
     const auto work = workIn([&] {
@@ -371,7 +372,7 @@ TEST(TextItemShaping, HappensAgainForAnotherFont)
 {
     Item item;
     item.setFont(sans());
-    item.InsertRichText(kSentence, true);
+    item.InsertRichText(kDinnerSentence, true);
     EXPECT_EQ(item.ShownLineCount(), 1);
     const qreal height = item.boundingRect().height();
     QFont large = sans();

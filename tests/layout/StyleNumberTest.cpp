@@ -15,14 +15,14 @@ namespace plix::test {
 namespace {
 
 constexpr double kMaximum = kMaximumStyleNumber;
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kInfinite = std::numeric_limits<double>::infinity();
 
 TEST(StyleNumber, IsLimited)
 {
     for (const double sign : {1.0, -1.0}) {
         for (const double number : {0.0, 0.5, 12.0, kMaximum - 1, kMaximum})
             EXPECT_EQ(ToStyleNumber(sign * number), static_cast<float>(sign * number));
-        for (const double number : {kMaximum + 1, 2147483647.0, 2147483648.0, 1e300, kInfinity})
+        for (const double number : {kMaximum + 1, 2147483647.0, 2147483648.0, 1e300, kInfinite})
             EXPECT_EQ(ToStyleNumber(sign * number), static_cast<float>(sign * kMaximum));
     }
     EXPECT_TRUE(std::isnan(ToStyleNumber(std::numeric_limits<double>::quiet_NaN())));
@@ -41,12 +41,12 @@ TEST(StyleNumber, IsWhatARatioAndItsInverseAre)
 using Item = YogaLayoutItem;
 
 // A setter, and the number that it has set.
-struct SetterRow {
+struct NumberRow {
     const char* name;
     void (*set)(Item& item, double number);
     float (*read)(YGNodeConstRef node);
 
-    friend std::ostream& operator<<(std::ostream& out, const SetterRow& row)
+    friend std::ostream& operator<<(std::ostream& out, const NumberRow& row)
     {
         return out << row.name;
     }
@@ -77,11 +77,11 @@ float height(YGNodeConstRef node)
     return YGNodeStyleGetHeight(node).value;
 }
 
-class NumberSetter : public PlixTest, public testing::WithParamInterface<SetterRow> { };
+class NumberSetter : public PlixTest, public testing::WithParamInterface<NumberRow> { };
 
 TEST_P(NumberSetter, SetsALimitedNumber)
 {
-    for (const double number : {kMaximum - 1, kMaximum, kMaximum + 1, 2147483647.0, kInfinity}) {
+    for (const double number : {kMaximum - 1, kMaximum, kMaximum + 1, 2147483647.0, kInfinite}) {
         LayoutNode item;
         GetParam().set(item, number);
         EXPECT_EQ(GetParam().read(item.node()), ToStyleNumber(number)) << number;
@@ -91,76 +91,76 @@ TEST_P(NumberSetter, SetsALimitedNumber)
 INSTANTIATE_TEST_SUITE_P(
     Setters, NumberSetter,
     testing::Values(
-        SetterRow {"MarginsLeft", [](Item& i, double n) { i.setMargins(n, 0, 0, 0); },
+        NumberRow {"MarginsLeft", [](Item& i, double n) { i.setMargins(n, 0, 0, 0); },
                    &margin<YGEdgeLeft>},
-        SetterRow {"MarginsTop", [](Item& i, double n) { i.setMargins(0, n, 0, 0); },
+        NumberRow {"MarginsTop", [](Item& i, double n) { i.setMargins(0, n, 0, 0); },
                    &margin<YGEdgeTop>},
-        SetterRow {"MarginsRight", [](Item& i, double n) { i.setMargins(0, 0, n, 0); },
+        NumberRow {"MarginsRight", [](Item& i, double n) { i.setMargins(0, 0, n, 0); },
                    &margin<YGEdgeRight>},
-        SetterRow {"MarginsBottom", [](Item& i, double n) { i.setMargins(0, 0, 0, n); },
+        NumberRow {"MarginsBottom", [](Item& i, double n) { i.setMargins(0, 0, 0, n); },
                    &margin<YGEdgeBottom>},
-        SetterRow {"Margin", [](Item& i, double n) { i.setMargin(n); }, &margin<YGEdgeAll>},
-        SetterRow {"MarginTop", [](Item& i, double n) { i.setMarginTop(n); }, &margin<YGEdgeTop>},
-        SetterRow {"MarginLeft", [](Item& i, double n) { i.setMarginLeft(n); },
+        NumberRow {"Margin", [](Item& i, double n) { i.setMargin(n); }, &margin<YGEdgeAll>},
+        NumberRow {"MarginTop", [](Item& i, double n) { i.setMarginTop(n); }, &margin<YGEdgeTop>},
+        NumberRow {"MarginLeft", [](Item& i, double n) { i.setMarginLeft(n); },
                    &margin<YGEdgeLeft>},
-        SetterRow {"MarginBottom", [](Item& i, double n) { i.setMarginBottom(n); },
+        NumberRow {"MarginBottom", [](Item& i, double n) { i.setMarginBottom(n); },
                    &margin<YGEdgeBottom>},
-        SetterRow {"PaddingsLeft", [](Item& i, double n) { i.setPaddings(n, 0, 0, 0); },
+        NumberRow {"PaddingsLeft", [](Item& i, double n) { i.setPaddings(n, 0, 0, 0); },
                    &padding<YGEdgeLeft>},
-        SetterRow {"PaddingsTop", [](Item& i, double n) { i.setPaddings(0, n, 0, 0); },
+        NumberRow {"PaddingsTop", [](Item& i, double n) { i.setPaddings(0, n, 0, 0); },
                    &padding<YGEdgeTop>},
-        SetterRow {"PaddingsRight", [](Item& i, double n) { i.setPaddings(0, 0, n, 0); },
+        NumberRow {"PaddingsRight", [](Item& i, double n) { i.setPaddings(0, 0, n, 0); },
                    &padding<YGEdgeRight>},
-        SetterRow {"PaddingsBottom", [](Item& i, double n) { i.setPaddings(0, 0, 0, n); },
+        NumberRow {"PaddingsBottom", [](Item& i, double n) { i.setPaddings(0, 0, 0, n); },
                    &padding<YGEdgeBottom>},
-        SetterRow {"Padding", [](Item& i, double n) { i.setPadding(n); }, &padding<YGEdgeAll>},
-        SetterRow {"PaddingBottom", [](Item& i, double n) { i.setPaddingBottom(n); },
+        NumberRow {"Padding", [](Item& i, double n) { i.setPadding(n); }, &padding<YGEdgeAll>},
+        NumberRow {"PaddingBottom", [](Item& i, double n) { i.setPaddingBottom(n); },
                    &padding<YGEdgeBottom>},
-        SetterRow {"PaddingLeftPercent", [](Item& i, double n) { i.setPaddingLeftPercent(n); },
+        NumberRow {"PaddingLeftPercent", [](Item& i, double n) { i.setPaddingLeftPercent(n); },
                    &padding<YGEdgeLeft>},
-        SetterRow {"PaddingRightPercent", [](Item& i, double n) { i.setPaddingRightPercent(n); },
+        NumberRow {"PaddingRightPercent", [](Item& i, double n) { i.setPaddingRightPercent(n); },
                    &padding<YGEdgeRight>},
-        SetterRow {"PaddingTopPercent", [](Item& i, double n) { i.setPaddingTopPercent(n); },
+        NumberRow {"PaddingTopPercent", [](Item& i, double n) { i.setPaddingTopPercent(n); },
                    &padding<YGEdgeTop>},
-        SetterRow {"PaddingBottomPercent", [](Item& i, double n) { i.setPaddingBottomPercent(n); },
+        NumberRow {"PaddingBottomPercent", [](Item& i, double n) { i.setPaddingBottomPercent(n); },
                    &padding<YGEdgeBottom>},
-        SetterRow {"PaddingPercent", [](Item& i, double n) { i.setPaddingPercent(n); },
+        NumberRow {"PaddingPercent", [](Item& i, double n) { i.setPaddingPercent(n); },
                    &padding<YGEdgeAll>}),
     [](const auto& row) { return std::string(row.param.name); });
 
 INSTANTIATE_TEST_SUITE_P(
     SizeSetters, NumberSetter,
     testing::Values(
-        SetterRow {"Width", [](Item& i, double n) { i.setWidth(n); }, &width},
-        SetterRow {"WidthPercent", [](Item& i, double n) { i.setWidthPercent(n); }, &width},
-        SetterRow {"WidthOfAPass", [](Item& i, double n) { i.changeWidth(n); }, &width},
-        SetterRow {"Height", [](Item& i, double n) { i.setHeight(n); }, &height},
-        SetterRow {"HeightPercent", [](Item& i, double n) { i.setHeightPercent(n); }, &height},
-        SetterRow {"MaxWidthPercent", [](Item& i, double n) { i.setMaxWidthPercent(n); },
+        NumberRow {"Width", [](Item& i, double n) { i.setWidth(n); }, &width},
+        NumberRow {"WidthPercent", [](Item& i, double n) { i.setWidthPercent(n); }, &width},
+        NumberRow {"WidthOfAPass", [](Item& i, double n) { i.changeWidth(n); }, &width},
+        NumberRow {"Height", [](Item& i, double n) { i.setHeight(n); }, &height},
+        NumberRow {"HeightPercent", [](Item& i, double n) { i.setHeightPercent(n); }, &height},
+        NumberRow {"MaxWidthPercent", [](Item& i, double n) { i.setMaxWidthPercent(n); },
                    [](YGNodeConstRef node) { return YGNodeStyleGetMaxWidth(node).value; }},
-        SetterRow {"Border", [](Item& i, double n) { i.setBorder(n); },
+        NumberRow {"Border", [](Item& i, double n) { i.setBorder(n); },
                    [](YGNodeConstRef node) { return YGNodeStyleGetBorder(node, YGEdgeAll); }},
-        SetterRow {"GrowFactor", [](Item& i, double n) { i.setGrowFactor(n); },
+        NumberRow {"GrowFactor", [](Item& i, double n) { i.setGrowFactor(n); },
                    &YGNodeStyleGetFlexGrow},
-        SetterRow {"ShrinkFactor", [](Item& i, double n) { i.setShrinkFactor(n); },
+        NumberRow {"ShrinkFactor", [](Item& i, double n) { i.setShrinkFactor(n); },
                    &YGNodeStyleGetFlexShrink},
-        SetterRow {"AspectRatio", [](Item& i, double n) { i.setAspectRatio(n); },
+        NumberRow {"AspectRatio", [](Item& i, double n) { i.setAspectRatio(n); },
                    &YGNodeStyleGetAspectRatio},
-        SetterRow {"PositionStart", [](Item& i, double n) { i.setPositionStart(n); },
+        NumberRow {"PositionStart", [](Item& i, double n) { i.setPositionStart(n); },
                    &position<YGEdgeStart>},
-        SetterRow {"PositionEnd", [](Item& i, double n) { i.setPositionEnd(n); },
+        NumberRow {"PositionEnd", [](Item& i, double n) { i.setPositionEnd(n); },
                    &position<YGEdgeEnd>},
-        SetterRow {"PositionTop", [](Item& i, double n) { i.setPositionTop(n); },
+        NumberRow {"PositionTop", [](Item& i, double n) { i.setPositionTop(n); },
                    &position<YGEdgeTop>},
-        SetterRow {"PositionBottom", [](Item& i, double n) { i.setPositionBottom(n); },
+        NumberRow {"PositionBottom", [](Item& i, double n) { i.setPositionBottom(n); },
                    &position<YGEdgeBottom>},
-        SetterRow {"PositionStartPercent", [](Item& i, double n) { i.setPositionStartPercent(n); },
+        NumberRow {"PositionStartPercent", [](Item& i, double n) { i.setPositionStartPercent(n); },
                    &position<YGEdgeLeft>},
-        SetterRow {"PositionEndPercent", [](Item& i, double n) { i.setPositionEndPercent(n); },
+        NumberRow {"PositionEndPercent", [](Item& i, double n) { i.setPositionEndPercent(n); },
                    &position<YGEdgeEnd>},
-        SetterRow {"PositionTopPercent", [](Item& i, double n) { i.setPositionTopPercent(n); },
+        NumberRow {"PositionTopPercent", [](Item& i, double n) { i.setPositionTopPercent(n); },
                    &position<YGEdgeTop>},
-        SetterRow {"PositionBottomPercent",
+        NumberRow {"PositionBottomPercent",
                    [](Item& i, double n) { i.setPositionBottomPercent(n); },
                    &position<YGEdgeBottom>}),
     [](const auto& row) { return std::string(row.param.name); });

@@ -2,6 +2,8 @@
 #include "layout/PlixStyleValues.h"
 #include "model/PlixDataBubble.h"
 
+#include "support/RowName.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -17,11 +19,6 @@ template <typename Value> struct Row {
 
     friend std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.name; }
 };
-
-template <typename Row> std::string rowName(const testing::TestParamInfo<Row>& row)
-{
-    return row.param.name;
-}
 
 using PixelRow = Row<int>;
 
@@ -41,7 +38,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PixelRow {"LeadingBlankIsNoWord", " md", 0},
                     PixelRow {"TrailingBlankIsNoWord", "md ", 0},
                     PixelRow {"NulAfterTheWordIsNoWord", std::string("md\0", 3), 0}),
-    rowName<PixelRow>);
+    plix::test::rowName<PixelRow>);
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, LengthPixels,
@@ -57,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
                               "\xff\xfe"
                               "9px",
                               0}),
-    rowName<PixelRow>);
+    plix::test::rowName<PixelRow>);
 
 class Percent : public testing::TestWithParam<PixelRow> { };
 
@@ -72,7 +69,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, Percent,
                                          PixelRow {"Fraction", "50.5%", 0},
                                          PixelRow {"Negative", "-5%", -5},
                                          PixelRow {"Pixels", "5px", 0}, PixelRow {"Empty", "", 0}),
-                         rowName<PixelRow>);
+                         plix::test::rowName<PixelRow>);
 
 using LengthRow = Row<PlixLength>;
 
@@ -96,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ParsedLength,
                                          LengthRow {"NegativePixelsAreKept", "-4px", {-4, 0}},
                                          LengthRow {"BareZero", "0", {0, 0}},
                                          LengthRow {"Garbage", "wide", {0, 0}}),
-                         rowName<LengthRow>);
+                         plix::test::rowName<LengthRow>);
 
 TEST(ParseLength, KeepsAnEarlierPercentageWhenTheNewTextIsInPixels)
 {
@@ -131,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, Spacing,
                                          PixelRow {"NumbersAreZero", "8", 0},
                                          PixelRow {"Empty", "", 0},
                                          PixelRow {"OtherCase", "MD", 0}),
-                         rowName<PixelRow>);
+                         plix::test::rowName<PixelRow>);
 
 class SpacerSize : public testing::TestWithParam<PixelRow> { };
 
@@ -147,7 +144,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, SpacerSize,
                                          PixelRow {"Empty", "", 8},
                                          PixelRow {"UnknownWord", "huge", 8},
                                          PixelRow {"Pixels", "30px", 8}),
-                         rowName<PixelRow>);
+                         plix::test::rowName<PixelRow>);
 
 class CornerRadius : public testing::TestWithParam<PixelRow> { };
 
@@ -164,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PixelRow {"Pixels", "20px", 20}, PixelRow {"UpperCaseUnit", "20PX", 20},
                     PixelRow {"Number", "7", 7}, PixelRow {"None", "none", 0},
                     PixelRow {"OtherCase", "XL", 0}, PixelRow {"Negative", "-3px", -3}),
-    rowName<PixelRow>);
+    plix::test::rowName<PixelRow>);
 
 class BorderWidth : public testing::TestWithParam<PixelRow> { };
 
@@ -181,7 +178,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PixelRow {"None", "none", 0}, PixelRow {"Pixels", "9px", 9},
                     PixelRow {"UpperCaseUnit", "9Px", 9}, PixelRow {"LengthWord", "md", 0},
                     PixelRow {"OtherCase", "Bold", 0}),
-    rowName<PixelRow>);
+    plix::test::rowName<PixelRow>);
 
 using ImageRow = Row<float>;
 
@@ -201,7 +198,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ImageRow {"FourXl", "4xl", 200}, ImageRow {"FiveXl", "5xl", 220},
                     ImageRow {"FullIsASpecialValue", "full", -2}, ImageRow {"Empty", "", 100},
                     ImageRow {"Pixels", "70px", 100}, ImageRow {"OtherCase", "XL", 100}),
-    rowName<ImageRow>);
+    plix::test::rowName<ImageRow>);
 
 class BubbleWidth : public testing::TestWithParam<ImageRow> { };
 
@@ -217,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, BubbleWidth,
                                          ImageRow {"Giga", "giga", 500},
                                          ImageRow {"UnknownWord", "tiny", 300},
                                          ImageRow {"Empty", "", 300}),
-                         rowName<ImageRow>);
+                         plix::test::rowName<ImageRow>);
 
 using ColorRow = Row<QColor>;
 
@@ -247,7 +244,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ColorRow {"FiveDigits", "#22222", QColor()},
                     ColorRow {"NoHexDigit", "#22222G", QColor()}, ColorRow {"Empty", "", QColor()},
                     ColorRow {"BrokenUtf8", "#\xff\xfe", QColor()}),
-    rowName<ColorRow>);
+    plix::test::rowName<ColorRow>);
 
 using AlphaRow = Row<std::string>;
 
@@ -264,6 +261,6 @@ INSTANTIATE_TEST_SUITE_P(Texts, RgbaToArgb,
                                          AlphaRow {"Name", "red", "red"},
                                          AlphaRow {"NineLetters", "chocolate", "#tehocola"},
                                          AlphaRow {"Empty", "", ""}),
-                         rowName<AlphaRow>);
+                         plix::test::rowName<AlphaRow>);
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "layout/PlixLimits.h"
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <functional>
 #include <limits>
@@ -9,11 +10,6 @@
 
 namespace plix::test {
 namespace {
-
-template <typename Row> std::string rowName(const testing::TestParamInfo<Row>& row)
-{
-    return row.param.name;
-}
 
 using Item = YogaLayoutItem;
 

@@ -1,17 +1,13 @@
 // Items without a node: every operation does nothing or returns its default.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <functional>
 #include <ostream>
 
 namespace plix::test {
 namespace {
-
-template <typename Row> std::string rowName(const testing::TestParamInfo<Row>& row)
-{
-    return row.param.name;
-}
 
 struct SetterRow {
     const char* name;

@@ -12,7 +12,7 @@
 namespace plix::test {
 namespace {
 
-constexpr double kFreeSpace = 6;
+constexpr double kSpaceAroundRoot = 6;
 
 QSize wholePixels(const QSizeF& size)
 {
@@ -26,7 +26,7 @@ LiveView::LiveView(QGraphicsItem& root, double scale)
     , root_(root.toGraphicsObject())
 {
     scene_.addItem(&root);
-    const double space = kFreeSpace;
+    const double space = kSpaceAroundRoot;
     scene_.setSceneRect(root.sceneBoundingRect().adjusted(-space, -space, space, space));
     view_.setFrameStyle(QFrame::NoFrame);
     view_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -14,7 +14,7 @@
 namespace plix::test {
 namespace {
 
-constexpr double kFreeSpace = 40;
+constexpr double kSpaceAroundCard = 40;
 
 } // namespace
 
@@ -22,7 +22,7 @@ CardView::CardView(QGraphicsItem& root)
     : view_(&scene_)
 {
     add(root);
-    const double space = kFreeSpace;
+    const double space = kSpaceAroundCard;
     scene_.setSceneRect(root.sceneBoundingRect().adjusted(-space, -space, space, space));
     view_.setFrameStyle(QFrame::NoFrame);
     view_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

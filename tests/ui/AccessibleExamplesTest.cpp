@@ -66,7 +66,7 @@ private:
     Lines records_;
 };
 
-std::string wording(const char*)
+std::string phoneWording(const char*)
 {
     return "See your phone";
 }
@@ -101,7 +101,7 @@ protected:
     AccessibleExamples()
     {
         kestro::InstallGraphicsViewAccessibility();
-        Plix_SetMultiLangGetCallback(&wording);
+        Plix_SetMultiLangGetCallback(&phoneWording);
     }
 
     // Calls `check` with the name, the card and its interface, while a view shows it.

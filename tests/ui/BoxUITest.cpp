@@ -3,6 +3,7 @@
 
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <QCursor>
 
@@ -13,11 +14,6 @@ namespace {
 
 constexpr char kThreeTexts[] = R"({"type": "text", "text": "one"}, {"type": "text", "text": "two"},
                                   {"type": "text", "text": "three"})";
-
-template <typename Row> std::string rowName(const testing::TestParamInfo<Row>& row)
-{
-    return row.param.name;
-}
 
 // A card with a box inside a box, and the node of the inner one.
 class BoxInBox : public TestCard {

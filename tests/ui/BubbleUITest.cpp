@@ -108,18 +108,18 @@ TEST_F(Bubble, IsAColumn)
     EXPECT_EQ(card.ui<PlixBubbleUI>({})->YogaLayoutItem::layoutDirection(), Qt::LeftToRight);
 }
 
-struct DirectionRow {
+struct BubbleDirectionRow {
     const char* name;
     const char* direction;
     Qt::LayoutDirection expected;
 
-    friend std::ostream& operator<<(std::ostream& out, const DirectionRow& row)
+    friend std::ostream& operator<<(std::ostream& out, const BubbleDirectionRow& row)
     {
         return out << row.name;
     }
 };
 
-class BubbleDirection : public PlixTest, public testing::WithParamInterface<DirectionRow> { };
+class BubbleDirection : public PlixTest, public testing::WithParamInterface<BubbleDirectionRow> { };
 
 TEST_P(BubbleDirection, IsExactlyTheWord)
 {
@@ -128,10 +128,10 @@ TEST_P(BubbleDirection, IsExactlyTheWord)
 }
 
 INSTANTIATE_TEST_SUITE_P(Words, BubbleDirection,
-                         testing::Values(DirectionRow {"Rtl", "rtl", Qt::RightToLeft},
-                                         DirectionRow {"Ltr", "ltr", Qt::LeftToRight},
-                                         DirectionRow {"OtherCase", "RTL", Qt::LeftToRight},
-                                         DirectionRow {"Empty", "", Qt::LeftToRight}),
+                         testing::Values(BubbleDirectionRow {"Rtl", "rtl", Qt::RightToLeft},
+                                         BubbleDirectionRow {"Ltr", "ltr", Qt::LeftToRight},
+                                         BubbleDirectionRow {"OtherCase", "RTL", Qt::LeftToRight},
+                                         BubbleDirectionRow {"Empty", "", Qt::LeftToRight}),
                          [](const auto& row) { return std::string(row.param.name); });
 
 // ----- Background
@@ -237,9 +237,9 @@ TEST_F(Bubble, GrowsABodyOfAnyClass)
 
 // ----- Children
 
-class Child : public LayoutNode {
+class BubbleChild : public LayoutNode {
 public:
-    explicit Child(int result)
+    explicit BubbleChild(int result)
         : result_(result)
     {
     }
@@ -260,9 +260,9 @@ TEST_F(Bubble, HighlightsInEveryChild)
 {
     PlixBubbleUI bubble(nullptr);
     EXPECT_EQ(bubble.setHighlightText({}), -1);
-    Child withoutWord(-1);
-    Child withWord(0);
-    Child last(-1);
+    BubbleChild withoutWord(-1);
+    BubbleChild withWord(0);
+    BubbleChild last(-1);
     bubble.addChild(&withoutWord);
     EXPECT_EQ(bubble.setHighlightText({}), -1);
     bubble.addChild(&withWord);

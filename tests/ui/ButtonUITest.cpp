@@ -187,7 +187,7 @@ struct LookRow {
     }
 };
 
-const QColor kBackground(0xF1, 0xF3, 0xF7);
+const QColor kButtonBackground(0xF1, 0xF3, 0xF7);
 const QColor kNone;
 
 class ButtonLook : public PlixTest, public testing::WithParamInterface<LookRow> {
@@ -201,15 +201,16 @@ TEST_P(ButtonLook, IsPaintedInItsColors)
     const TestCard card(inBox(blocks()));
     const Picture picture(*card.root());
     const QRectF area = card.item({0, 0})->sceneBoundingRect();
-    const QColor expected = GetParam().background.isValid() ? GetParam().background : kBackground;
+    const QColor expected =
+        GetParam().background.isValid() ? GetParam().background : kButtonBackground;
     EXPECT_EQ(picture.at(area.center()), GetParam().label);
     EXPECT_EQ(picture.at({area.left() + 12, area.center().y()}), expected);
     EXPECT_EQ(picture.at({area.center().x(), area.top()}), expected) << "up to the edge";
     EXPECT_EQ(picture.at({area.center().x(), area.bottom() - 1}), expected);
-    EXPECT_EQ(picture.at(area.topLeft()), kBackground) << "the corners are round";
+    EXPECT_EQ(picture.at(area.topLeft()), kButtonBackground) << "the corners are round";
 }
 
-constexpr char kRed[] = R"("color": "#FF0000",)";
+constexpr char kRedText[] = R"("color": "#FF0000",)";
 
 std::string styled(const char* style, const char* color = "")
 {
@@ -217,16 +218,16 @@ std::string styled(const char* style, const char* color = "")
 }
 
 const std::string kStyles[] = {styled("link"),
-                               styled("link", kRed),
-                               styled("", kRed),
+                               styled("link", kRedText),
+                               styled("", kRedText),
                                styled("primary"),
-                               styled("primary", kRed),
+                               styled("primary", kRedText),
                                styled("secondary"),
-                               styled("secondary", kRed),
+                               styled("secondary", kRedText),
                                styled("automatic"),
-                               styled("automatic", kRed),
+                               styled("automatic", kRedText),
                                styled("Primary"),
-                               styled("flashy", kRed),
+                               styled("flashy", kRedText),
                                styled("primary", R"("color": "#80FF0000",)"),
                                styled("primary", R"("color": "reddish",)"),
                                styled("link", R"("color": "reddish",)")};
@@ -238,7 +239,7 @@ INSTANTIATE_TEST_SUITE_P(
         LookRow {"Link", kStyles[0].c_str(), kNone, QColor(0x15, 0x7E, 0xFB)},
         LookRow {"RedLink", kStyles[1].c_str(), kNone, Qt::red},
         LookRow {"RedEmpty", kStyles[2].c_str(), kNone, Qt::red},
-        LookRow {"RedNone", kRed, kNone, Qt::red},
+        LookRow {"RedNone", kRedText, kNone, Qt::red},
         LookRow {"Primary", kStyles[3].c_str(), QColor(0x0D, 0xC9, 0x50), Qt::white},
         LookRow {"RedPrimary", kStyles[4].c_str(), Qt::red, Qt::white},
         LookRow {"Secondary", kStyles[5].c_str(), QColor(0xD8, 0xDE, 0xE6), Qt::black},
@@ -260,7 +261,7 @@ TEST_F(Button, RoundsItsBackground)
     const QPointF corner = card.item({0, 0})->sceneBoundingRect().topLeft();
     const QColor color(0x0D, 0xC9, 0x50);
     // A circle of 6 pixels leaves 1.75 of them free along the diagonal.
-    EXPECT_EQ(picture.at(corner), kBackground);
+    EXPECT_EQ(picture.at(corner), kButtonBackground);
     EXPECT_EQ(picture.at(corner + QPointF(2, 2)), color);
     EXPECT_NE(picture.at(corner + QPointF(4, 0)), color);
     EXPECT_EQ(picture.at(corner + QPointF(6, 0)), color);
@@ -408,18 +409,18 @@ TEST_F(Button, HasItsMarginAndOffsetsInPixels)
     EXPECT_EQ(card.item({0, 2})->pos(), QPointF(9, 7));
 }
 
-struct OffsetRow {
+struct ButtonOffsetRow {
     const char* name;
     const char* members;
     QPointF place; // in a box of 200 x 160, with a width of 100
 
-    friend std::ostream& operator<<(std::ostream& out, const OffsetRow& row)
+    friend std::ostream& operator<<(std::ostream& out, const ButtonOffsetRow& row)
     {
         return out << row.name;
     }
 };
 
-class ButtonOffset : public PlixTest, public testing::WithParamInterface<OffsetRow> {
+class ButtonOffset : public PlixTest, public testing::WithParamInterface<ButtonOffsetRow> {
 protected:
     static std::string card()
     {
@@ -458,13 +459,14 @@ TEST_P(ButtonOffset, DoesNotChangeAfterTheFirstLayout)
 INSTANTIATE_TEST_SUITE_P(
     Shares, ButtonOffset,
     testing::Values(
-        OffsetRow {"Top", R"("offsetTop": "25%",)", {0, 40}},
-        OffsetRow {"Start", R"("offsetStart": "25%",)", {50, 0}},
-        OffsetRow {"Bottom", R"("offsetBottom": "25%",)", {0, 160 - 40 - 52}},
-        OffsetRow {"End", R"("offsetEnd": "25%",)", {200 - 50 - 30, 0}},
-        OffsetRow {"TopAndStart", R"("offsetTop": "10%", "offsetStart": "50%",)", {100, 16}},
-        OffsetRow {"PixelsAndShares", R"("offsetTop": "3px", "offsetStart": "50%",)", {100, 3}},
-        OffsetRow {"Negative", R"("offsetTop": "-25%",)", {0, 0}}),
+        ButtonOffsetRow {"Top", R"("offsetTop": "25%",)", {0, 40}},
+        ButtonOffsetRow {"Start", R"("offsetStart": "25%",)", {50, 0}},
+        ButtonOffsetRow {"Bottom", R"("offsetBottom": "25%",)", {0, 160 - 40 - 52}},
+        ButtonOffsetRow {"End", R"("offsetEnd": "25%",)", {200 - 50 - 30, 0}},
+        ButtonOffsetRow {"TopAndStart", R"("offsetTop": "10%", "offsetStart": "50%",)", {100, 16}},
+        ButtonOffsetRow {
+            "PixelsAndShares", R"("offsetTop": "3px", "offsetStart": "50%",)", {100, 3}},
+        ButtonOffsetRow {"Negative", R"("offsetTop": "-25%",)", {0, 0}}),
     [](const auto& row) { return std::string(row.param.name); });
 
 // ----- Font

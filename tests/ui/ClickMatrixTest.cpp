@@ -13,7 +13,7 @@ namespace {
 
 constexpr char kAround[] = "around";
 constexpr char kApp[] = "app://a";
-constexpr char kSize[] = R"("width": "60px", "height": "40px",)";
+constexpr char kFixedSize[] = R"("width": "60px", "height": "40px",)";
 constexpr char kSmall[] = R"("size": "xxs", "flex": 0,)";
 
 // The expectations for an item in a box.
@@ -65,17 +65,17 @@ std::string spans(const std::string& members)
 const std::vector<Target>& targets()
 {
     static const std::string app = appAction(kApp);
-    static const std::string appBox = std::string(kSize) + app;
+    static const std::string appBox = std::string(kFixedSize) + app;
     static const std::vector<Target> rows = {
-        {"Box", box("vertical", "", kSize), {}, kNothing, kClicksBox},
-        {"BoxInABox", box("vertical", box("vertical", "", kSize)), {0}, kNothing, kClicksBox},
+        {"Box", box("vertical", "", kFixedSize), {}, kNothing, kClicksBox},
+        {"BoxInABox", box("vertical", box("vertical", "", kFixedSize)), {0}, kNothing, kClicksBox},
         {"BoxWithAction",
-         box("vertical", "", kSize + uriAction("its")),
+         box("vertical", "", kFixedSize + uriAction("its")),
          {},
          clicksItem("its"),
          clicksItem("its")},
         {"BoxWithUnknownAction",
-         box("vertical", "", kSize + uriAction("its", "dance")),
+         box("vertical", "", kFixedSize + uriAction("its", "dance")),
          {},
          clicksItem("its"),
          clicksItem("its")},
@@ -140,18 +140,21 @@ const std::vector<Target>& targets()
     return rows;
 }
 
-struct Row {
+struct ClickRow {
     std::string name;
     std::string card;
     std::vector<int> path;
     Outcome outcome;
 
-    friend std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.name; }
+    friend std::ostream& operator<<(std::ostream& out, const ClickRow& row)
+    {
+        return out << row.name;
+    }
 };
 
-std::vector<Row> rows()
+std::vector<ClickRow> rows()
 {
-    std::vector<Row> all;
+    std::vector<ClickRow> all;
     for (const Target& target : targets()) {
         std::vector<int> path = {0, 0};
         path.insert(path.end(), target.path.begin(), target.path.end());
@@ -284,7 +287,7 @@ protected:
 };
 
 class ClickMatrix : public ShownItem,
-                    public testing::WithParamInterface<std::tuple<Row, Gesture>> { };
+                    public testing::WithParamInterface<std::tuple<ClickRow, Gesture>> { };
 
 TEST_P(ClickMatrix, ArrivesOnceForEachClick)
 {
@@ -316,7 +319,7 @@ INSTANTIATE_TEST_SUITE_P(Items, ClickMatrix,
 
 // ----- The cursor, and Plix_HasAction()
 
-class Clickable : public ShownItem, public testing::WithParamInterface<Row> { };
+class Clickable : public ShownItem, public testing::WithParamInterface<ClickRow> { };
 
 TEST_P(Clickable, ShowsItsCursorInTheView)
 {
@@ -352,9 +355,9 @@ std::string column()
         imageOf(uriAction("image")),
         button(uriAction("button")),
         button(appAction(kApp)),
-        box("vertical", "", kSize),
-        box("vertical", "", kSize + uriAction("inner")),
-        box("vertical", "", kSize + appAction(kApp)),
+        box("vertical", "", kFixedSize),
+        box("vertical", "", kFixedSize + uriAction("inner")),
+        box("vertical", "", kFixedSize + appAction(kApp)),
     };
     std::string all;
     for (const std::string& item : contents)
@@ -469,13 +472,13 @@ TEST_P(ActionForApps, IsOrdinaryWithoutTheMobileCheck)
     EXPECT_TRUE(Plix_HasAction(card.item({0, 0})));
 }
 
-INSTANTIATE_TEST_SUITE_P(Items, ActionForApps,
-                         testing::Values(AppItem {"Box",
-                                                  box("vertical", "", kSize + appAction(kApp))},
-                                         AppItem {"Text", text("words", appAction(kApp))},
-                                         AppItem {"Image", imageOf(appAction(kApp))},
-                                         AppItem {"Button", button(appAction(kApp))}),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Items, ActionForApps,
+    testing::Values(AppItem {"Box", box("vertical", "", kFixedSize + appAction(kApp))},
+                    AppItem {"Text", text("words", appAction(kApp))},
+                    AppItem {"Image", imageOf(appAction(kApp))},
+                    AppItem {"Button", button(appAction(kApp))}),
+    [](const auto& row) { return std::string(row.param.name); });
 
 } // namespace
 } // namespace plix::test

@@ -29,7 +29,7 @@ constexpr std::array kFormats = std::to_array<FormatName>({
     {"sarif", CheckFormat::Sarif},
 });
 
-const QString kText = QStringLiteral(
+const QString kCheckDescription = QStringLiteral(
     "\nFinds what is wrong with cards: errors (a part of the card is lost), warnings\n"
     "(something has no effect, or another one than it seems), and what looks wrong\n"
     "in the card as it is drawn. Each finding has its place, and a code, which\n"
@@ -60,7 +60,7 @@ CheckParser::CheckParser()
     : options_(kCheckCommand)
     , parser_(options_.parser())
 {
-    parser_.setApplicationDescription(kText);
+    parser_.setApplicationDescription(kCheckDescription);
     parser_.addPositionalArgument(kCheckCommand, kCheckSummary);
     parser_.addPositionalArgument(
         QStringLiteral("CARD.json"),

@@ -2,6 +2,7 @@
 
 #include "FormatText.h"
 #include "schema/KeySchema.h"
+#include "schema/SchemaWords.h"
 
 #include "model/format/PlixFormat.h"
 
@@ -10,8 +11,6 @@
 namespace plix::tool {
 namespace {
 
-const QString kType = QStringLiteral("type");
-const QString kProperties = QStringLiteral("properties");
 const QString kRequired = QStringLiteral("required");
 const QString kDescription = QStringLiteral("description");
 

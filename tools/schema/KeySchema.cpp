@@ -1,6 +1,7 @@
 #include "schema/KeySchema.h"
 
 #include "FormatText.h"
+#include "schema/SchemaWords.h"
 
 #include <QColor>
 #include <QJsonArray>
@@ -14,9 +15,7 @@
 namespace plix::tool {
 namespace {
 
-const QString kType = QStringLiteral("type");
 const QString kPattern = QStringLiteral("pattern");
-const QString kProperties = QStringLiteral("properties");
 const QString kColor = QStringLiteral("color");
 const QString kColorAlphaLast = QStringLiteral("colorAlphaLast");
 

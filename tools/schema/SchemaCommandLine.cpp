@@ -9,7 +9,7 @@ namespace {
 
 const QString kOutputOption = QStringLiteral("output");
 
-const QString kText = QStringLiteral(
+const QString kSchemaDescription = QStringLiteral(
     "\nWrites the card format as a JSON Schema (2020-12). Editors that know it complete\n"
     "keys and words, and underline what is wrong. docs/cards.md tells how.");
 
@@ -23,7 +23,7 @@ Request parseSchemaCommandLine(const QStringList& arguments)
 {
     CardOptionParser options(kSchemaCommand);
     QCommandLineParser& parser = options.parser();
-    parser.setApplicationDescription(kText);
+    parser.setApplicationDescription(kSchemaDescription);
     parser.addPositionalArgument(kSchemaCommand, kSchemaSummary);
     options.addOption({QStringLiteral("h"), QStringLiteral("help")},
                       QStringLiteral("Shows this help."));

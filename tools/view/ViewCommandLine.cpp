@@ -7,7 +7,7 @@
 namespace plix::tool {
 namespace {
 
-const QString kText = QStringLiteral(
+const QString kViewDescription = QStringLiteral(
     "\nOpens a window that shows a card beside its JSON, live as it is written or as\n"
     "another program changes the file, with its problems, its items, and controls\n"
     "for the settings below. It needs a display. The settings are remembered.");
@@ -18,7 +18,7 @@ Request parseViewCommandLine(const QStringList& arguments)
 {
     CardOptionParser options(kViewCommand);
     QCommandLineParser& parser = options.parser();
-    parser.setApplicationDescription(kText);
+    parser.setApplicationDescription(kViewDescription);
     parser.addPositionalArgument(kViewCommand, kViewSummary);
     parser.addPositionalArgument(
         QStringLiteral("CARD"),

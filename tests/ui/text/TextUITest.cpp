@@ -5,6 +5,7 @@
 #include "model/PlixDataText.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/text/PlixTextFont.h"
 
 #include <QCursor>
@@ -16,11 +17,6 @@
 
 namespace plix::test {
 namespace {
-
-template <typename Row> std::string rowName(const testing::TestParamInfo<Row>& row)
-{
-    return row.param.name;
-}
 
 // A card of a single text component, and its item.
 class OneText : public TestCard {

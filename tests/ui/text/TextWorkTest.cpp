@@ -1,15 +1,12 @@
 // How often the texts of a card are shaped and broken into lines. Counts, because times
 // say nothing on a busy machine.
 #include "kestro_control/TextWork.h"
+#include "support/Picture.h"
 #include "support/PlixTest.h"
 #include "ui/CardTree.h"
 #include "ui/ExampleCards.h"
 
 #include <kestro_control/TextItem.h>
-
-#include <QGraphicsScene>
-#include <QImage>
-#include <QPainter>
 
 #include <functional>
 #include <memory>
@@ -37,16 +34,6 @@ int paragraphsOf(QGraphicsItem& root)
     return count;
 }
 
-void paint(QGraphicsItem& root)
-{
-    QGraphicsScene scene;
-    scene.addItem(&root);
-    QImage image(600, 600, QImage::Format_ARGB32_Premultiplied);
-    QPainter painter(&image);
-    scene.render(&painter);
-    scene.removeItem(&root);
-}
-
 class TextWork : public PlixTest, public testing::WithParamInterface<std::string> { };
 
 TEST_P(TextWork, IsOneShapingForEachParagraphAndNoDocument)
@@ -61,9 +48,9 @@ TEST_P(TextWork, IsOneShapingForEachParagraphAndNoDocument)
     EXPECT_LE(building.lineBreakings, 2 * paragraphs);
 
     const auto showing = workIn([&card] {
-        paint(*card->root());
+        const Picture before(*card->root());
         Plix_RefreshLayout(card->controller());
-        paint(*card->root());
+        const Picture after(*card->root());
     });
     EXPECT_EQ(showing.documents, 0);
     EXPECT_EQ(showing.shapings, 0);
