@@ -1,13 +1,10 @@
 // A chat window with plain messages and cards: an example to copy from.
 #pragma once
 
-#include <plix/Plix.h>
+#include "MessageRow.h"
+#include "PictureStore.h"
 
 #include <QMainWindow>
-#include <QNetworkAccessManager>
-#include <QSet>
-#include <QTemporaryDir>
-#include <QUrl>
 
 #include <memory>
 #include <vector>
@@ -16,44 +13,33 @@ class QGraphicsView;
 class QLineEdit;
 class QScrollBar;
 
-// One message as the chat's server delivers it.
-struct ChatMessage {
-    QString sender;
-    QString content; // the JSON of a card, or the words of a plain message
-    bool isCard = false;
-    bool isOwn = false;
-};
-
 // Shows thousands of messages, because only those near the visible part have items.
-class ChatWindow : public QMainWindow {
+class ChatWindow : public QMainWindow, private CardClient {
     Q_OBJECT
 
 public:
-    // Senders of cards choose the URLs of pictures. They are not fetched from there, but
-    // from `pictureServer`, which gets the URL as its parameter "url". Otherwise senders
-    // would learn the addresses of their readers, and could reach into their networks.
+    // See PictureStore for `pictureServer`.
     explicit ChatWindow(const QUrl& pictureServer);
     ~ChatWindow() override;
 
     void add(const std::vector<ChatMessage>& messages);
-    bool isLoadingPictures() const { return !loading_.isEmpty(); }
-
-    // For the callbacks of cards. download() returns the path of a file, which does not
-    // exist before the download is complete.
-    QString download(const QString& url);
-    void act(const ST_ACTION& action);
-    void showStatus(const QString& text);
+    bool isLoadingPictures() const { return pictures_.isLoading(); }
 
 Q_SIGNALS:
     // The user has clicked a link of a card, which leads to a page on the web.
     void linkClicked(const QUrl& url);
 
 private:
-    class Row;
+    // ----- CardClient
+    QString download(const QString& url) override { return pictures_.fetch(url); }
+    void act(const ST_ACTION& action) override;
+    void showUser(std::int64_t number) override;
 
+    void initView();
     void addControls();
     void addShortcuts();
     void say(const QString& text);
+    void showStatus(const QString& text);
     void showMenu(const QPoint& place);
     void setLanguage(const QString& code);
     void highlight(const QString& words);
@@ -61,20 +47,19 @@ private:
     // Builds the rows that are near the visible part, and places all rows.
     void arrange();
     void place();
+    // Whether rows have been built.
     bool updateRows();
-    Row& rowAt(double y) const;
+    void build(MessageRow& row);
+    MessageRow& rowAt(double y) const;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
-    const QUrl pictureServer_;
-    QTemporaryDir pictures_;
-    QSet<QString> loading_;
-    QNetworkAccessManager network_;
+    PictureStore pictures_;
     QGraphicsView* view_;
     QScrollBar* scrollBar_;
     QLineEdit* search_;
     QLineEdit* input_;
-    std::vector<std::unique_ptr<Row>> rows_;
+    std::vector<std::unique_ptr<MessageRow>> rows_;
     QStringList words_;
     std::size_t found_ = 0; // where the search for older messages continues
     double zoom_ = 1;

@@ -65,7 +65,7 @@ protected:
     {
         window_.add(messages);
         window_.show();
-        QApplication::setActiveWindow(&window_);
+        window_.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
     }
 
