@@ -3,7 +3,6 @@
 #include "ClickBelow.h"
 #include "InteractiveText.h"
 #include "LaidOutText.h"
-#include "ParagraphText.h"
 #include "SelectionFocus.h"
 #include "TextHitTest.h"
 
@@ -78,12 +77,36 @@ ItemSelection::~ItemSelection()
     delete focus_;
 }
 
+CharacterRange ItemSelection::Characters() const
+{
+    if (IsEmpty())
+        return {};
+    const ShownText shown = text_.Current();
+    const TextCharacters characters(shown.text);
+    const int hidden = Range().end == shown.text.End() ? shown.hiddenText.size() : 0;
+    return {characters.IndexOf(Range().start), characters.IndexOf(Range().end) + hidden};
+}
+
 QString ItemSelection::Text() const
 {
+    const CharacterRange range = Characters();
+    return text_.PlainText().mid(range.start, range.end - range.start);
+}
+
+int ItemSelection::CursorPosition() const
+{
+    const CharacterRange range = Characters();
+    return selection_.Position() == Range().start ? range.start : range.end;
+}
+
+void ItemSelection::Select(const CharacterRange& range)
+{
     const ShownText shown = text_.Current();
-    const TextRange range = Range();
-    const QString text = PlainTextOf(shown.text, range);
-    return range.end == shown.text.End() ? text + shown.hiddenText : text;
+    const TextRange positions = TextCharacters(shown.text).PositionsOf(range);
+    if (positions.IsEmpty())
+        Clear();
+    else
+        Change(TextSelection(TextUnits(shown.text).Around(positions)), nullptr);
 }
 
 void ItemSelection::SelectAll(QWidget* viewport)
@@ -106,10 +129,16 @@ void ItemSelection::Clear()
 
 void ItemSelection::Forget()
 {
-    if (!IsEmpty())
-        item_.update();
+    const bool wasEmpty = IsEmpty();
     selection_ = TextSelection();
     isPressed_ = false;
+    if (!wasEmpty)
+        Announce();
+}
+
+void ItemSelection::Announce()
+{
+    item_.update();
 }
 
 bool ItemSelection::IsExtendedBy(const QGraphicsSceneMouseEvent& press) const
@@ -208,10 +237,11 @@ void ItemSelection::HandleKey(const QKeyEvent& event)
 
 void ItemSelection::Change(const TextSelection& selection, QWidget* viewport)
 {
-    if (selection.Range() != Range())
-        item_.update();
+    const TextRange before = Range();
     selection_ = selection;
     x_.reset();
+    if (Range() != before && !(IsEmpty() && before.IsEmpty()))
+        Announce();
     if (IsEmpty())
         return;
     hasSelected_ = true;

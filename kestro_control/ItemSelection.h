@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SelectionKeys.h"
+#include "TextCharacters.h"
 #include "TextSelection.h"
 #include "TextUnits.h"
 
@@ -42,9 +43,14 @@ public:
 
     bool IsEmpty() const { return selection_.Range().IsEmpty(); }
     TextRange Range() const { return selection_.Range(); }
-    // As QTextDocument::toPlainText() would return it.
+    // As a part of TextItem::toPlainText().
+    CharacterRange Characters() const;
     QString Text() const;
+    // The end of the selection that mouse and keys move; 0 without a selection.
+    int CursorPosition() const;
 
+    // Selects whole characters. The focus stays where it is.
+    void Select(const CharacterRange& range);
     // The view of `viewport` gets the keyboard focus; null: the focus stays where it is.
     void SelectAll(QWidget* viewport);
     void Clear();
@@ -78,6 +84,8 @@ public:
 
 private:
     void StartDrag(const QGraphicsSceneMouseEvent& press, TextUnit unit);
+    // Shows what is selected now.
+    void Announce();
     // The selection gets the keyboard focus in the view of `viewport`, if that is not null.
     void Change(const TextSelection& selection, QWidget* viewport);
     void WatchScene();

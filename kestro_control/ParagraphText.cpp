@@ -2,7 +2,6 @@
 
 #include "LaidOutText.h"
 #include "TextProperty.h"
-#include "TextRange.h"
 
 #include <QTextBlock>
 #include <QTextDocument>
@@ -31,6 +30,11 @@ ParagraphText::ParagraphText(QString text, const QVector<QTextLayout::FormatRang
         }
     }
     positions_.push_back(withObjects.size());
+}
+
+ParagraphText::ParagraphText(const LaidOutParagraph& paragraph)
+    : ParagraphText(paragraph.text, paragraph.formats, paragraph.position)
+{
 }
 
 int ParagraphText::Position(int index) const
@@ -82,23 +86,6 @@ QString PlainTextOf(const QTextDocument& document)
         text += ParagraphText(block.text(), block.textFormats(), block.position()).Characters();
     }
     return AsPlainText(text);
-}
-
-QString PlainTextOf(const LaidOutText& text, const TextRange& range)
-{
-    QString plain;
-    const int count = text.ParagraphCount();
-    for (int i = 0; i < count; ++i) {
-        const LaidOutParagraph paragraph = text.Paragraph(i);
-        if (paragraph.position > range.end)
-            break;
-        if (paragraph.position > range.start)
-            plain += QLatin1Char('\n');
-        const ParagraphText part(paragraph.text, paragraph.formats, paragraph.position);
-        const int start = part.Index(range.start);
-        plain += part.Characters().mid(start, part.Index(range.end) - start);
-    }
-    return AsPlainText(plain);
 }
 
 } // namespace kestro

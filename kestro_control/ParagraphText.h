@@ -10,8 +10,7 @@ class QTextDocument;
 
 namespace kestro {
 
-class LaidOutText;
-struct TextRange;
+struct LaidOutParagraph;
 
 // The text of a paragraph, in which every emoji picture is replaced with the
 // characters that it stands for.
@@ -19,6 +18,7 @@ class ParagraphText {
 public:
     // `start`: the position in the whole text of the paragraph.
     ParagraphText(QString text, const QVector<QTextLayout::FormatRange>& formats, int start);
+    explicit ParagraphText(const LaidOutParagraph& paragraph);
 
     const QString& Characters() const { return characters_; }
 
@@ -45,8 +45,5 @@ QString AsPlainText(QString text);
 
 // QTextDocument::toPlainText(), with the characters of the emoji pictures.
 QString PlainTextOf(const QTextDocument& document);
-
-// The part of it that is in `range`.
-QString PlainTextOf(const LaidOutText& text, const TextRange& range);
 
 } // namespace kestro

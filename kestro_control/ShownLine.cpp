@@ -140,13 +140,18 @@ bool ShownLine::HasInkOutside(const QGlyphRun& run, qreal width) const
     return false;
 }
 
-LineIntervals ShownLine::IntervalsOf(const TextRange& range, const FormatRanges& pictures) const
+std::vector<QRectF> ShownLine::RectsOf(const TextRange& range, const FormatRanges& pictures) const
 {
     std::vector<QRectF> rects;
     AddGlyphRects(range, rects);
     if (!elided)
         AddPictureRects(pictures, range, rects);
-    return ToIntervals(rects);
+    return rects;
+}
+
+LineIntervals ShownLine::IntervalsOf(const TextRange& range, const FormatRanges& pictures) const
+{
+    return ToIntervals(RectsOf(range, pictures));
 }
 
 LineIntervals ShownLine::EllipsisIntervals() const
@@ -170,9 +175,9 @@ void ShownLine::AddPictureRects(const FormatRanges& pictures, const TextRange& r
         const qreal width = EmojiPicture::Width(picture.format);
         for (int at = first; at < last; ++at) {
             for (const QGlyphRun& strut : line.glyphRuns(at + 1, 1)) {
-                const qreal x = strut.boundingRect().left();
-                const QRectF cell(strut.isRightToLeft() ? x : x - width, 0, width, rect.height());
-                rects.push_back(cell.translated(origin));
+                const qreal x = origin.x() + strut.boundingRect().left();
+                const qreal left = strut.isRightToLeft() ? x : x - width;
+                rects.emplace_back(left, rect.top(), width, rect.height());
             }
         }
     }

@@ -62,7 +62,9 @@ public:
     // Adds the rectangles of the shown glyphs in `range`.
     void AddGlyphRects(const TextRange& range, std::vector<QRectF>& rects) const;
 
-    // Where `range` is in the line, in any order. `pictures`: those of the line's paragraph.
+    // What is shown of `range`, in any order: glyphs, and pictures as high as the line.
+    // `pictures`: those of the line's paragraph.
+    std::vector<QRectF> RectsOf(const TextRange& range, const FormatRanges& pictures) const;
     LineIntervals IntervalsOf(const TextRange& range, const FormatRanges& pictures) const;
     // Where the ellipsis is. There must be one.
     LineIntervals EllipsisIntervals() const;

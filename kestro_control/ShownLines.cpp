@@ -326,19 +326,6 @@ std::vector<QRectF> ShownLines::GlyphRects(const TextRange& range) const
     return rects;
 }
 
-std::optional<int> ShownLines::PositionAt(const QPointF& point) const
-{
-    const auto line = std::find_if(lines_.begin(), lines_.end(), [&point](const ShownLine& each) {
-        return each.rect.contains(point) && each.Start() < each.ShownEnd();
-    });
-    if (line == lines_.end())
-        return std::nullopt;
-    const int position =
-        line->line.xToCursor(point.x() - line->origin.x(), QTextLine::CursorOnCharacter);
-    // An ellipsis counts as the last character before it.
-    return std::clamp(line->layoutStart + position, line->Start(), line->ShownEnd() - 1);
-}
-
 std::size_t ShownLines::FirstLineEndingAfter(int position) const
 {
     const auto first =
@@ -359,7 +346,7 @@ void ShownLines::Highlight(const LaidOutText& text, const HighlightWords& words)
         const LaidOutParagraph paragraph = text.Paragraph(i);
         if (paragraph.position >= shownEnd)
             break;
-        const ParagraphText searched(paragraph.text, paragraph.formats, paragraph.position);
+        const ParagraphText searched(paragraph);
         const auto pictures = EmojiPicture::PicturesIn(paragraph.formats);
         for (const auto& [start, end] : words.CoveredRanges(searched.Characters()))
             HighlightRange({searched.Position(start), searched.Position(end)}, pictures);

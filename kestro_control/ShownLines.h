@@ -8,7 +8,6 @@
 #include <QRectF>
 
 #include <memory>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -50,9 +49,6 @@ public:
     // The rectangles of the shown glyphs in a part of the text, each as high as the ascent and
     // descent of its font.
     std::vector<QRectF> GlyphRects(const TextRange& range) const;
-
-    // The position in the text of the shown character at a point.
-    std::optional<int> PositionAt(const QPointF& point) const;
 
     // Replaces the earlier highlight.
     void Highlight(const LaidOutText& text, const HighlightWords& words);

@@ -3,85 +3,72 @@
 #include "HighlightWords.h"
 #include "LaidOutText.h"
 #include "ParagraphText.h"
-#include "ShownLines.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace kestro {
 
 namespace {
 
-// A paragraph, and the index of its first character in the whole text.
-struct Numbered {
-    ParagraphText text;
-    int first;
-
-    int Size() const { return text.Characters().size(); }
-};
-
-// Calls `visit` for the paragraphs until it returns true.
+// Calls `visit` with the paragraphs, and the index of the first character of each, until it
+// returns true.
 template <typename Visit> void FindParagraph(const LaidOutText& text, const Visit& visit)
 {
     int first = 0;
     const int count = text.ParagraphCount();
     for (int i = 0; i < count; ++i) {
-        const LaidOutParagraph laidOut = text.Paragraph(i);
-        const Numbered paragraph {ParagraphText(laidOut.text, laidOut.formats, laidOut.position),
-                                  first};
-        if (visit(paragraph))
+        const ParagraphText paragraph(text.Paragraph(i));
+        if (visit(paragraph, first))
             return;
-        first += paragraph.Size() + 1; // the end of the paragraph
+        first += paragraph.Characters().size() + 1; // the end of the paragraph
     }
 }
 
 } // namespace
 
-TextCharacters::TextCharacters(const LaidOutText& text, const ShownLines& shown)
+TextCharacters::TextCharacters(const LaidOutText& text)
     : text_(text)
-    , shown_(shown)
 {
 }
 
-QRectF TextCharacters::RectOf(int index) const
+int TextCharacters::IndexOf(int position) const
 {
-    QRectF rect;
-    FindParagraph(text_, [&](const Numbered& paragraph) {
-        const int inside = index - paragraph.first;
-        if (inside >= paragraph.Size())
-            return false;
-        if (inside >= 0) {
-            const int start = paragraph.text.Position(inside);
-            const int end = std::max(paragraph.text.Position(inside + 1), start + 1);
-            for (const QRectF& part : shown_.GlyphRects({start, end}))
-                rect |= part;
-        }
-        return true;
-    });
-    return rect;
-}
-
-int TextCharacters::IndexAt(const QPointF& point) const
-{
-    const std::optional<int> position = shown_.PositionAt(point);
-    if (!position)
-        return -1;
-    int index = -1;
-    FindParagraph(text_, [&](const Numbered& paragraph) {
-        if (*position >= paragraph.text.Position(paragraph.Size()))
-            return false;
-        index = paragraph.first + paragraph.text.Index(*position);
-        return true;
+    int index = 0;
+    FindParagraph(text_, [&](const ParagraphText& paragraph, int first) {
+        index = first + paragraph.Index(position);
+        return position <= paragraph.Position(paragraph.Characters().size());
     });
     return index;
 }
 
-std::vector<std::pair<int, int>> TextCharacters::RangesOf(const HighlightWords& words) const
+int TextCharacters::PositionOf(int index) const
 {
-    std::vector<std::pair<int, int>> ranges;
-    FindParagraph(text_, [&](const Numbered& paragraph) {
-        for (const auto& [start, end] : words.CoveredRanges(paragraph.text.Characters()))
-            ranges.emplace_back(paragraph.first + start, paragraph.first + end);
+    int position = text_.End();
+    FindParagraph(text_, [&](const ParagraphText& paragraph, int first) {
+        const int inside = std::max(index, 0) - first;
+        const bool isHere = inside <= paragraph.Characters().size();
+        if (isHere)
+            position = paragraph.Position(inside);
+        return isHere;
+    });
+    return position;
+}
+
+TextRange TextCharacters::PositionsOf(const CharacterRange& range) const
+{
+    if (range.start >= range.end)
+        return {};
+    // The characters that a picture stands for are at one position.
+    const int behindLast = std::min(PositionOf(range.end - 1) + 1, text_.End());
+    return {PositionOf(range.start), std::max(PositionOf(range.end), behindLast)};
+}
+
+std::vector<CharacterRange> TextCharacters::RangesOf(const HighlightWords& words) const
+{
+    std::vector<CharacterRange> ranges;
+    FindParagraph(text_, [&](const ParagraphText& paragraph, int first) {
+        for (const auto& [start, end] : words.CoveredRanges(paragraph.Characters()))
+            ranges.push_back({first + start, first + end});
         return false;
     });
     return ranges;

@@ -1,34 +1,39 @@
 #pragma once
 
-#include <QRectF>
+#include "TextRange.h"
 
-#include <utility>
 #include <vector>
-
-class QPointF;
 
 namespace kestro {
 
 class HighlightWords;
 class LaidOutText;
-class ShownLines;
 
-// The characters of TextItem::toPlainText(): where they are shown. Counts them from 0.
-// Like ShownLines, it must not be used after the text's layout has changed.
+// A part of TextItem::toPlainText().
+struct CharacterRange {
+    int start = 0;
+    int end = 0;
+};
+
+// The characters of TextItem::toPlainText(), counted from 0, and their positions in the text
+// that is laid out. They differ, because a picture of an emoji stands for several characters.
+// TextHitTest knows where positions are shown, and TextUnits what readers see as one character.
 class TextCharacters {
 public:
-    TextCharacters(const LaidOutText& text, const ShownLines& shown);
+    // The text must live longer and must not change.
+    explicit TextCharacters(const LaidOutText& text);
 
-    // Empty if the character is not shown.
-    QRectF RectOf(int index) const;
-    // -1 if there is none.
-    int IndexAt(const QPointF& point) const;
-    // The ranges that occurrences of the words cover, as pairs of start and end.
-    std::vector<std::pair<int, int>> RangesOf(const HighlightWords& words) const;
+    // The index of the character at `position`, or of the first one behind it.
+    int IndexOf(int position) const;
+    // The end of the text if the character is beyond the display limit.
+    int PositionOf(int index) const;
+    TextRange PositionsOf(const CharacterRange& range) const;
+
+    // What occurrences of the words cover.
+    std::vector<CharacterRange> RangesOf(const HighlightWords& words) const;
 
 private:
     const LaidOutText& text_;
-    const ShownLines& shown_;
 };
 
 } // namespace kestro

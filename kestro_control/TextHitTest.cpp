@@ -1,14 +1,26 @@
 #include "TextHitTest.h"
 
+#include "EmojiPicture.h"
 #include "LaidOutText.h"
 #include "ShownLines.h"
 
 #include <QPointF>
+#include <QRectF>
 
 #include <algorithm>
 #include <vector>
 
 namespace kestro {
+
+namespace {
+
+// May be inside of a character.
+int CursorAt(const ShownLine& line, qreal x, QTextLine::CursorPosition kind)
+{
+    return line.layoutStart + line.line.xToCursor(x - line.origin.x(), kind);
+}
+
+} // namespace
 
 TextHitTest::TextHitTest(const LaidOutText& text, const ShownLines& shown)
     : text_(text)
@@ -39,16 +51,44 @@ int TextHitTest::PositionAt(const QPointF& point, QTextLine::CursorPosition kind
         return 0;
     if (point.y() >= lines.back().rect.bottom())
         return End();
-    const auto line =
-        std::partition_point(lines.begin(), lines.end() - 1, [&point](const ShownLine& other) {
-            return other.rect.bottom() <= point.y();
-        });
-    return PositionIn(*line, point.x(), kind);
+    return PositionIn(LineAt(point.y()), point.x(), kind);
+}
+
+std::optional<int> TextHitTest::ShownCharacterAt(const QPointF& point) const
+{
+    if (shown_.Lines().empty())
+        return std::nullopt;
+    const ShownLine& line = LineAt(point.y());
+    if (!line.rect.contains(point) || line.Start() >= line.ShownEnd())
+        return std::nullopt;
+    const int cursor = CursorAt(line, point.x(), QTextLine::CursorOnCharacter);
+    const int shown = std::clamp(cursor, line.Start(), line.ShownEnd() - 1);
+    return units_.At(shown, TextUnit::Character).start;
+}
+
+QRectF TextHitTest::RectOf(int position) const
+{
+    const TextRange character = units_.At(position, TextUnit::Character);
+    if (shown_.Lines().empty() || position >= character.end)
+        return {};
+    const ShownLine& line = shown_.Lines()[LineOf(position)];
+    const auto pictures = EmojiPicture::PicturesIn(text_.ParagraphAt(position).formats);
+    QRectF rect;
+    for (const QRectF& part : line.RectsOf(character, pictures))
+        rect |= part;
+    return rect;
+}
+
+const ShownLine& TextHitTest::LineAt(qreal y) const
+{
+    const std::vector<ShownLine>& lines = shown_.Lines();
+    return *std::partition_point(lines.begin(), lines.end() - 1,
+                                 [y](const ShownLine& other) { return other.rect.bottom() <= y; });
 }
 
 int TextHitTest::PositionIn(const ShownLine& line, qreal x, QTextLine::CursorPosition kind) const
 {
-    const int position = line.layoutStart + line.line.xToCursor(x - line.origin.x(), kind);
+    const int position = CursorAt(line, x, kind);
     const bool isBehindEllipsis = line.elided && position > line.ShownEnd();
     return isBehindEllipsis ? line.end : units_.Nearest(position);
 }

@@ -5,16 +5,19 @@
 #include <QTextLayout>
 
 #include <cstddef>
+#include <optional>
 
 class QPointF;
+class QRectF;
 
 namespace kestro {
 
 class ShownLine;
 class ShownLines;
 
-// Which position of a text is at a place of its lines, and where a position is. An ellipsis
-// counts as one character, which is the text that it stands for.
+// Which position of a text is at a place of its lines, and where a position is: for the mouse
+// and keys that select, and for screen readers. A character is what TextUnits says. An ellipsis
+// counts as one, which is the text that it stands for.
 class TextHitTest {
 public:
     // Both must live longer and must not change.
@@ -29,6 +32,11 @@ public:
     int PositionAt(const QPointF& point) const;
     // The position of the character at the point, or nearest to it.
     int CharacterAt(const QPointF& point) const;
+    // The position of the shown character at the point. Here, an ellipsis counts as the
+    // character before it, because what it stands for is not shown.
+    std::optional<int> ShownCharacterAt(const QPointF& point) const;
+    // The rectangle of the character at `position`; empty if it is not shown.
+    QRectF RectOf(int position) const;
 
     // The positions before and after the next step of a caret.
     int Next(int position, TextUnit unit) const;
@@ -47,6 +55,8 @@ public:
 private:
     // There must be a line.
     std::size_t LineOf(int position) const;
+    // The line at this height, or the nearest one.
+    const ShownLine& LineAt(qreal y) const;
     int PositionIn(const ShownLine& line, qreal x, QTextLine::CursorPosition kind) const;
     int CaretIn(std::size_t line, qreal x) const;
     // Whether the paragraph goes on in the next line.

@@ -15,6 +15,7 @@
 #include "ShownLines.h"
 #include "TextChangeUpdate.h"
 #include "TextCharacters.h"
+#include "TextHitTest.h"
 #include "TextInteraction.h"
 #include "TextMenu.h"
 
@@ -37,6 +38,7 @@
 #include <optional>
 #include <utility>
 
+using kestro::CharacterRange;
 using kestro::DisplayBudget;
 using kestro::EmojiPicture;
 using kestro::HighlightWords;
@@ -51,6 +53,7 @@ using kestro::ShownLines;
 using kestro::ShownMention;
 using kestro::ShownText;
 using kestro::TextCharacters;
+using kestro::TextHitTest;
 using kestro::TextInteraction;
 
 namespace {
@@ -160,7 +163,8 @@ public:
     // Whether text would be drawn outside of the left and right edges.
     bool NeedsSideClip();
 
-    TextCharacters Characters() { return {text.LaidOut(), Shown()}; }
+    TextCharacters Characters() { return TextCharacters(text.LaidOut()); }
+    TextHitTest HitTest() { return {text.LaidOut(), Shown()}; }
 
     // Null for another index.
     const ShownMention* MentionNumber(int index);
@@ -299,12 +303,12 @@ void TextItem::Private::AddHiddenText(const QString& hidden)
 
 void TextItem::Private::ReplaceText(const QString& newText)
 {
+    ForgetSelection();
     budget_ = DisplayBudget();
     hiddenText_.clear();
     hasPictures_ = false;
     mentionCount = 0;
     UpdateHoverEvents();
-    ForgetSelection();
 
     text.BeginInsertion(true);
     text.Clear();
@@ -741,12 +745,14 @@ QString TextItem::MentionText(int index) const
 
 QRectF TextItem::CharacterRect(int index) const
 {
-    return private_->Characters().RectOf(index);
+    return index < 0 ? QRectF()
+                     : private_->HitTest().RectOf(private_->Characters().PositionOf(index));
 }
 
 int TextItem::CharacterAt(const QPointF& point) const
 {
-    return private_->Characters().IndexAt(point);
+    const std::optional<int> position = private_->HitTest().ShownCharacterAt(point);
+    return position ? private_->Characters().IndexOf(*position) : -1;
 }
 
 int TextItem::ShownLineCount() const
@@ -812,6 +818,26 @@ bool TextItem::HasSelection() const
 QString TextItem::SelectedText() const
 {
     return HasSelection() ? private_->Selection()->Text() : QString();
+}
+
+QPair<int, int> TextItem::SelectedRange() const
+{
+    const ItemSelection* const selection = private_->Selection();
+    const CharacterRange range = selection ? selection->Characters() : CharacterRange();
+    return {range.start, range.end};
+}
+
+int TextItem::CursorPosition() const
+{
+    const ItemSelection* const selection = private_->Selection();
+    return selection ? selection->CursorPosition() : 0;
+}
+
+void TextItem::Select(int start, int end)
+{
+    if (private_->IsSelectable())
+        private_->Interaction().MakeSelection().Select(
+            {std::min(start, end), std::max(start, end)});
 }
 
 void TextItem::SelectAll()

@@ -39,21 +39,16 @@ Positions ToPositions(std::vector<int> boundaries, const ParagraphText& text)
     return boundaries;
 }
 
-ParagraphText CharactersOf(const LaidOutParagraph& paragraph)
-{
-    return ParagraphText(paragraph.text, paragraph.formats, paragraph.position);
-}
-
 Positions CharactersIn(const LaidOutParagraph& paragraph)
 {
-    const ParagraphText text = CharactersOf(paragraph);
+    const ParagraphText text(paragraph);
     return ToPositions(GraphemeBoundaries(text.Characters()), text);
 }
 
 // Words, and what is between them.
 Positions WordsIn(const LaidOutParagraph& paragraph)
 {
-    const ParagraphText text = CharactersOf(paragraph);
+    const ParagraphText text(paragraph);
     const auto all = ~QTextBoundaryFinder::BoundaryReasons();
     return ToPositions(WordBoundaries(text.Characters(), all), text);
 }
@@ -63,7 +58,7 @@ Positions StopsIn(const LaidOutParagraph& paragraph, TextUnit unit)
 {
     if (unit == TextUnit::Character)
         return CharactersIn(paragraph);
-    const ParagraphText text = CharactersOf(paragraph);
+    const ParagraphText text(paragraph);
     return ToPositions(WordBoundaries(text.Characters(), QTextBoundaryFinder::StartOfItem), text);
 }
 
@@ -92,7 +87,7 @@ TextUnits::TextUnits(const LaidOutText& text)
 
 int TextUnits::Nearest(int position) const
 {
-    const TextRange character = PartAt(position, CharactersIn(text_.ParagraphAt(position)));
+    const TextRange character = At(position, TextUnit::Character);
     const bool isEnd = position - character.start > character.end - position;
     return isEnd ? character.end : character.start;
 }
@@ -102,14 +97,24 @@ TextRange TextUnits::At(int position, TextUnit unit) const
     const LaidOutParagraph paragraph = text_.ParagraphAt(position);
     switch (unit) {
     case TextUnit::Character:
-        break;
+        return PartAt(position, CharactersIn(paragraph));
     case TextUnit::Word:
         return PartAt(position, WordsIn(paragraph));
     case TextUnit::Paragraph:
-        return RangeOf(paragraph);
+        break;
     }
-    const int nearest = Nearest(position);
-    return {nearest, nearest};
+    return RangeOf(paragraph);
+}
+
+TextRange TextUnits::Around(const TextRange& range) const
+{
+    if (range.IsEmpty())
+        return range;
+    const TextRange first = At(range.start, TextUnit::Character);
+    const TextRange last = At(range.end - 1, TextUnit::Character);
+    // The end of a paragraph is in no character.
+    const int start = first.end > range.start ? first.start : range.start;
+    return {start, std::max(range.end, last.end)};
 }
 
 int TextUnits::Next(int position, TextUnit unit) const

@@ -18,9 +18,10 @@ public:
     // The position nearest to `position` that is not inside of a character.
     int Nearest(int position) const;
 
-    // The unit that contains the character at `position`. For TextUnit::Character, the
-    // empty range at Nearest().
+    // The unit that contains `position`. At the end of a paragraph, the last one in it.
     TextRange At(int position, TextUnit unit) const;
+    // `range`, extended to whole characters.
+    TextRange Around(const TextRange& range) const;
 
     // Where the next character or word begins, or its paragraph ends; the end of the text
     // at the latest.

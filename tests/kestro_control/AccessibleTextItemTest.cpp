@@ -58,17 +58,23 @@ protected:
         return text().textAtOffset(offset, boundary, &start, &end).toStdString();
     }
 
+    void expectToFind(int index)
+    {
+        const QRect rect = text().characterRect(index);
+        EXPECT_FALSE(rect.isEmpty()) << index;
+        EXPECT_EQ(text().offsetAtPoint(rect.center()), index);
+        EXPECT_TRUE(accessible(item_).rect().contains(rect.center())) << index;
+    }
+
     // What a client finds at the middle of each character that is shown.
     void expectToFindEachCharacter()
     {
         int shown = 0;
         for (int i = 0; i < text().characterCount(); ++i) {
-            const QRect rect = text().characterRect(i);
-            if (rect.isEmpty())
+            if (text().characterRect(i).isEmpty())
                 continue;
             ++shown;
-            EXPECT_EQ(text().offsetAtPoint(rect.center()), i) << i;
-            EXPECT_TRUE(accessible(item_).rect().contains(rect.center())) << i;
+            expectToFind(i);
         }
         EXPECT_GT(shown, 3);
     }
@@ -140,8 +146,44 @@ TEST_F(AccessibleText, CountsTheCharactersThatAPictureStandsFor)
     item_->InsertRichText(QStringLiteral("ab <e code=\"1F469-200D-1F4BB\"/> cd"), true);
     EXPECT_EQ(text().characterCount(), 3 + 5 + 3);
     EXPECT_EQ(text().text(9, 11), QStringLiteral("cd"));
-    expectToFindEachCharacter();
-    EXPECT_LT(text().characterRect(2).right(), text().characterRect(9).left());
+    for (const int i : {0, 1, 2, 3, 8, 9, 10})
+        expectToFind(i);
+    const QRect picture = text().characterRect(3);
+    EXPECT_FALSE(picture.isEmpty());
+    EXPECT_GE(picture.left(), text().characterRect(2).right());
+    EXPECT_LE(picture.right(), text().characterRect(8).left());
+    for (int i = 4; i < 8; ++i)
+        EXPECT_EQ(text().characterRect(i), picture) << i;
+}
+
+TEST_F(AccessibleText, HasOnePlaceForAPictureInEachLineAndDirection)
+{
+    const EmojiPictures pictures;
+    item_->SetMarkupEnabled(true);
+    const QString woman = QStringLiteral("<e code=\"1F469-200D-1F4BB\"/>");
+    item_->InsertRichText(QStringLiteral("ab\n") + woman + QStringLiteral(" \u05d0") + woman, true);
+    for (const int i : {3, 9, 10})
+        expectToFind(i);
+    EXPECT_GT(text().characterRect(3).top(), text().characterRect(0).center().y());
+    EXPECT_TRUE(accessible(item_).rect().contains(text().characterRect(3)));
+    item_->SetElide(true);
+    item_->SetMaxLineCount(2);
+    item_->SetFixedItemWidth(40);
+    ASSERT_TRUE(item_->IsElided());
+    expectToFind(3);
+}
+
+TEST_F(AccessibleText, HasOnePlaceForWhatIsSeenAsOneCharacter)
+{
+    for (const char* one : {"e\u0301", "\U0001F600", "\U0001F44D\U0001F3FD"}) {
+        SCOPED_TRACE(one);
+        const QString character = QString::fromUtf8(one);
+        setText((std::string("a") + one + "b").c_str());
+        expectToFind(1);
+        expectToFind(1 + character.size());
+        for (int i = 2; i <= character.size(); ++i)
+            EXPECT_EQ(text().characterRect(i), text().characterRect(1)) << i;
+    }
 }
 
 TEST_F(AccessibleText, ScrollsToACharacter)
@@ -172,12 +214,6 @@ TEST_F(AccessibleText, HasTheHighlightAsAnAttribute)
     text().attributes(9, &start, &end);
     EXPECT_EQ(start, 0);
     EXPECT_EQ(end, 19);
-}
-
-TEST_F(AccessibleText, HasNoSelection)
-{
-    setText("Tea");
-    EXPECT_EQ(text().selectionCount(), 0);
 }
 
 TEST_F(AccessibleText, MayBeEdited)

@@ -281,11 +281,12 @@ public:
     qreal FirstLineAscent() const;
 
     // The rectangle of a character. `index` counts the characters of toPlainText() from
-    // 0. Empty if the character is not shown.
+    // 0. Empty if the character is not shown. If several of them are seen as one, such as
+    // those of an emoji, that one.
     QRectF CharacterRect(int index) const;
 
-    // The index of the shown character at a point; -1 if there is none. An ellipsis
-    // counts as the last character before it.
+    // The index of the shown character at a point, the first one if several are seen as one;
+    // -1 if there is none. An ellipsis counts as the last character before it.
     int CharacterAt(const QPointF& point) const;
 
     // ----- Selection
@@ -303,9 +304,22 @@ public:
     // As a part of toPlainText(). Empty without a selection.
     QString SelectedText() const;
 
+    // The selected characters of toPlainText(), as a pair of start and end. (0, 0) without
+    // a selection.
+    QPair<int, int> SelectedRange() const;
+
+    // The end of the selection that mouse and keys move, as a place in toPlainText(); 0
+    // without a selection.
+    int CursorPosition() const;
+
     // Selects the whole text, if the user may select. Leaves the keyboard focus where it
     // is. The selection of another item of the scene ends.
     void SelectAll();
+
+    // The same for a part of toPlainText(). It is extended to what readers see as whole
+    // characters: an emoji, or a letter with its accents. Nothing is selected if the part is
+    // empty.
+    void Select(int start, int end);
 
     void ClearSelection();
 
