@@ -1,6 +1,9 @@
 #include "kestro_control/AccessibleTextItem.h"
 
+#include "SelectionFocus.h"
+
 #include <QBrush>
+#include <QGraphicsObject>
 #include <QGraphicsView>
 
 #include <algorithm>
@@ -37,7 +40,18 @@ QAccessible::State AccessibleTextItem::state() const
     const bool isEditable = role() == QAccessible::EditableText;
     state.readOnly = !isEditable;
     state.editable = isEditable;
+    const TextItem* const item = Text();
+    state.selectableText = item && item->textInteractionFlags().testFlag(Qt::TextSelectableByMouse);
     return state;
+}
+
+QGraphicsItem* AccessibleTextItem::FocusItem() const
+{
+    const QList<QGraphicsItem*> children = Item() ? Item()->childItems() : QList<QGraphicsItem*>();
+    const auto focus = std::find_if(children.begin(), children.end(), [](QGraphicsItem* child) {
+        return qobject_cast<SelectionFocus*>(child->toGraphicsObject());
+    });
+    return focus == children.end() ? AccessibleGraphicsObject::FocusItem() : *focus;
 }
 
 void* AccessibleTextItem::interface_cast(QAccessible::InterfaceType type)
@@ -111,10 +125,43 @@ QString AccessibleTextItem::attributes(int offset, int* start, int* end) const
     return {};
 }
 
-void AccessibleTextItem::selection(int, int* start, int* end) const
+int AccessibleTextItem::selectionCount() const
 {
-    *start = 0;
-    *end = 0;
+    const TextItem* const item = Text();
+    return item && item->HasSelection() ? 1 : 0;
+}
+
+void AccessibleTextItem::selection(int index, int* start, int* end) const
+{
+    const TextItem* const item = Text();
+    const QPair<int, int> range = item && index == 0 ? item->SelectedRange() : QPair<int, int>();
+    *start = range.first;
+    *end = range.second;
+}
+
+void AccessibleTextItem::addSelection(int start, int end)
+{
+    setSelection(0, start, end);
+}
+
+void AccessibleTextItem::removeSelection(int index)
+{
+    TextItem* const item = Text();
+    if (item && index == 0)
+        item->ClearSelection();
+}
+
+void AccessibleTextItem::setSelection(int index, int start, int end)
+{
+    TextItem* const item = Text();
+    if (item && index == 0)
+        item->Select(start, end);
+}
+
+int AccessibleTextItem::cursorPosition() const
+{
+    const TextItem* const item = Text();
+    return item ? item->CursorPosition() : 0;
 }
 
 } // namespace kestro

@@ -3,6 +3,8 @@
 #include "AccessibleGraphicsTextItem.h"
 #include "AccessibleGraphicsView.h"
 #include "AccessibleProxyWidget.h"
+#include "AccessibleSelectionFocus.h"
+#include "SelectionFocus.h"
 
 #include "kestro_control/AccessibleGraphicsObject.h"
 #include "kestro_control/AccessibleTextItem.h"
@@ -36,6 +38,7 @@ constexpr Row kRows[] = {
     {"QGraphicsProxyWidget", &Create<AccessibleProxyWidget, QGraphicsProxyWidget>},
     {"QGraphicsTextItem", &Create<AccessibleGraphicsTextItem, QGraphicsTextItem>},
     {"TextItem", &Create<AccessibleTextItem, TextItem>},
+    {"kestro::SelectionFocus", &Create<AccessibleSelectionFocus, SelectionFocus>},
 };
 
 // Qt calls this for the class of an object and then for its base classes, until a factory

@@ -4,6 +4,7 @@
 #include "InteractiveText.h"
 #include "LaidOutText.h"
 #include "SelectionFocus.h"
+#include "SelectionUpdate.h"
 #include "TextHitTest.h"
 
 #include <QClipboard>
@@ -139,6 +140,7 @@ void ItemSelection::Forget()
 void ItemSelection::Announce()
 {
     item_.update();
+    TellOfSelection(*this, item_);
 }
 
 bool ItemSelection::IsExtendedBy(const QGraphicsSceneMouseEvent& press) const

@@ -84,7 +84,7 @@ public:
 
 private:
     void StartDrag(const QGraphicsSceneMouseEvent& press, TextUnit unit);
-    // Shows what is selected now.
+    // Shows what is selected now, and tells clients of QAccessible.
     void Announce();
     // The selection gets the keyboard focus in the view of `viewport`, if that is not null.
     void Change(const TextSelection& selection, QWidget* viewport);

@@ -12,6 +12,17 @@ namespace {
 
 std::vector<std::string> updates;
 
+// What is selected, if the update is about that: " start-end".
+std::string selectionIn(const QAccessibleEvent& event)
+{
+    if (event.type() != QAccessible::TextSelectionChanged)
+        return {};
+    const auto& change = static_cast<const QAccessibleTextSelectionEvent&>(event);
+    const int start = change.selectionStart();
+    return start < 0 ? " none"
+                     : ' ' + std::to_string(start) + '-' + std::to_string(change.selectionEnd());
+}
+
 // What Qt calls a bridge takes updates to clients.
 class TestBridge : public QAccessibleBridge {
 public:
@@ -24,7 +35,7 @@ public:
             return;
         const std::string name = changed->text(QAccessible::Name).toStdString();
         updates.push_back(QMetaEnum::fromType<QAccessible::Event>().valueToKey(event->type())
-                          + (": " + name));
+                          + (": " + name) + selectionIn(*event));
     }
 };
 

@@ -18,7 +18,8 @@ public:
     AccessibilityClient(const AccessibilityClient&) = delete;
     AccessibilityClient& operator=(const AccessibilityClient&) = delete;
 
-    // The updates since the last call, such as "Focus: name", without those of widgets.
+    // The updates since the last call, such as "Focus: name", without those of widgets. What is
+    // selected follows the name: "TextSelectionChanged: name 4-7", or "none".
     static std::vector<std::string> takeUpdates();
 };
 

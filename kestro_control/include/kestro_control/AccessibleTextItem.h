@@ -5,7 +5,8 @@
 
 namespace kestro {
 
-// What clients of QAccessible see of a TextItem: its text, and where each character is.
+// What clients of QAccessible see of a TextItem: its text, where each character is, and what is
+// selected. It has the keyboard focus while something is selected and keys reach the selection.
 class KESTRO_CONTROL_API AccessibleTextItem : public AccessibleGraphicsObject,
                                               public QAccessibleTextInterface {
 public:
@@ -27,19 +28,23 @@ public:
     // The background of highlighted words.
     QString attributes(int offset, int* start, int* end) const override;
 
-    // ----- QAccessibleTextInterface: the selection and the cursor, of which there is none
-    int selectionCount() const override { return 0; }
+    // ----- QAccessibleTextInterface: the selection of a read-only text, if the user may select.
+    // There is at most one; another replaces it. The cursor is its end that keys move, and does
+    // not move by itself.
+    int selectionCount() const override;
     void selection(int index, int* start, int* end) const override;
-    void addSelection(int, int) override { }
-    void removeSelection(int) override { }
-    void setSelection(int, int, int) override { }
-    int cursorPosition() const override { return 0; }
+    void addSelection(int start, int end) override;
+    void removeSelection(int index) override;
+    void setSelection(int index, int start, int end) override;
+    int cursorPosition() const override;
     void setCursorPosition(int) override { }
 
 protected:
     // Null while the item is being deleted.
     TextItem* Text() const;
     QString Name() const override;
+    // A child of the item, while something is selected.
+    QGraphicsItem* FocusItem() const override;
 };
 
 } // namespace kestro
