@@ -5,7 +5,8 @@
 #include "layout/YogaLayoutItem.h"
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataItemCommon.h"
-#include "ui/PlixActionLabel.h"
+#include "ui/PlixActionName.h"
+#include "ui/PlixActionWords.h"
 #include "ui/PlixLeadingMargin.h"
 #include "ui/PlixOffsets.h"
 
@@ -128,11 +129,13 @@ void PlixBaseUI::ReleaseMouse()
         grabber->ungrabMouse();
 }
 
-QString PlixBaseUI::ActionLabel()
+QString PlixBaseUI::ActionName()
 {
     const std::shared_ptr<PlixDataItem> data = FindDataItem();
     const std::shared_ptr<ST_ACTION> action = data ? data->GetAction() : nullptr;
-    return action ? QString::fromStdString(plix::LabelOf(*action)) : QString();
+    if (!action)
+        return {};
+    return hasOwnAction_ ? plix::NameOf(*action) : QString::fromStdString(plix::LabelOf(*action));
 }
 
 void PlixBaseUI::DeliverClick()

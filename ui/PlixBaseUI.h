@@ -63,8 +63,9 @@ public:
     // Hands the item's own action to the host, who may delete this item meanwhile:
     // return at once.
     void DeliverClick();
-    // The label of the item's action in the current language; empty without one.
-    QString ActionLabel();
+    // What screen readers call an item that has no words: a name of its action. Not empty if the
+    // item has an action of its own.
+    QString ActionName();
 
     // The controller that built the item. It may be freed before the item.
     void SetOwner(PlixDataController* owner);

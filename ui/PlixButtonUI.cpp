@@ -7,7 +7,7 @@
 #include "model/PlixDataAncestors.h"
 #include "model/PlixDataButton.h"
 #include "model/format/PlixWords.h"
-#include "ui/PlixActionLabel.h"
+#include "ui/PlixActionWords.h"
 #include "ui/PlixAlignmentWords.h"
 #include "ui/PlixButtonLine.h"
 #include "ui/PlixCardClip.h"

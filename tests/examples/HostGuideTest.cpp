@@ -558,6 +558,22 @@ TEST_F(HostGuide, ScreenReadersReadCardsAndPressThem)
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(HostGuide, ScreenReadersNameWhatHasNoLabelAndSelectTexts)
+{
+    letScreenReadersReadViews();
+    const HostCard card(bubble(text("Title") + R"(, {"type": "image", "url": "a", "size": "xxs",
+        "action": {"type": "uri", "uri": "https://example.com/a"}})"));
+    CardView view(*card.item());
+    QAccessibleInterface& body = *accessible(&view.view()).child(0)->child(0);
+    EXPECT_EQ(treeOf(body), "Grouping\n  StaticText Title\n  Graphic example.com\n");
+    body.child(0)->textInterface()->setSelection(0, 0, 3);
+    EXPECT_EQ(selectedText(view.scene()), QStringLiteral("Tit"));
+    QApplication::setActiveWindow(&view.view());
+    view.doubleClick(card.item()->mapToScene(QPointF(30, 25)));
+    EXPECT_EQ(selectedText(view.scene()), QStringLiteral("Title"));
+    EXPECT_EQ(accessible(&view.view()).focusChild(), body.child(0));
+}
+
 TEST_F(HostGuide, OnlyPagesOfTheWebAreOpened)
 {
     ST_ACTION action;

@@ -173,6 +173,46 @@ TEST_F(AccessibleCard, NamesAnImageInTheCurrentLanguage)
     EXPECT_EQ(nameOf(image), "지도");
 }
 
+TEST_F(AccessibleCard, NamesWhatHasNoLabelByWhatItsActionDoes)
+{
+    const struct {
+        const char* action;
+        const char* name;
+    } rows[] = {
+        {R"("type": "uri", "uri": "https://example.com/a/b.html?c=d")", "example.com"},
+        {R"("type": "uri", "uri": "a", "pcUri": "http://user@pc.example/")", "pc.example"},
+        {R"("type": "uri", "label": " ", "uri": "https://b\u00fccher.example/")",
+         "xn--bcher-kva.example"},
+        {R"("type": "uri", "uri": "tel:123")", "tel:123"},
+        {R"("type": "message", "text": "I shall come")", "I shall come"},
+        {R"("type": "message", "text": "yes", "i18nTexts": {"en": "Yes", "ko": "a"})", "Yes"},
+        {R"("type": "postback", "data": "a=1", "displayText": "Buy", "text": "b")", "Buy"},
+        {R"("type": "postback", "data": "a=1")", "action"},
+        {R"("type": "uri")", "action"},
+    };
+    for (const auto& row : rows) {
+        const std::string action = std::string(R"("action": {)") + row.action + "},";
+        const TestCard card(
+            cardOfColumn({component("image", R"("size": "xxs",)" + action),
+                          box("vertical", component("separator"), kSmallSize + action)}),
+            host_.setUp());
+        for (const int item : {0, 1}) {
+            QAccessibleInterface& each = accessible(card.item({0, item})->toGraphicsObject());
+            EXPECT_TRUE(canPress(each)) << row.action;
+            EXPECT_EQ(nameOf(each), row.name);
+        }
+    }
+}
+
+TEST_F(AccessibleCard, NamesAnImageThatCannotBePressedByItsLabelOnly)
+{
+    const TestCard card(cardOfColumn(
+        {component("image", uriAction("https://example.com", "dance")),
+         component("image", R"("action": {"type": "dance", "uri": "https://example.com"},)")}));
+    EXPECT_EQ(treeOf(accessible(card.item({0})->toGraphicsObject())),
+              "Grouping\n  Graphic Press\n  Graphic\n");
+}
+
 TEST_F(AccessibleCard, HasOnlyTheMentionsThatAreShown)
 {
     const TestCard card(
@@ -303,6 +343,42 @@ TEST_F(AccessibleCard, FollowsTheKeyboardFocus)
               (Lines {"Button inside", "Link words", "Graphic Press", "Link @Ann Lee",
                       "Link @Ann Lee", "Button @Ann Lee", "Button Press"}));
     EXPECT_FALSE(found({0, 2, 1}).state().focused);
+}
+
+TEST_F(AccessibleCard, HasTheFocusInTheTextThatIsSelected)
+{
+    const std::string tree = treeOf(root());
+    view_.doubleClick(card_.item({0, 0})->sceneBoundingRect().center());
+    QAccessibleTextInterface& text = *found({0, 0}).textInterface();
+    ASSERT_EQ(text.selectionCount(), 1);
+    EXPECT_EQ(text.cursorPosition(), 5);
+    EXPECT_EQ(treeOf(root()), tree);
+    EXPECT_EQ(root().focusChild(), &found({0, 0}));
+    EXPECT_EQ(accessible(&view_.view()).focusChild(), &found({0, 0}));
+    EXPECT_TRUE(found({0, 0}).state().focused);
+    found({0, 2, 1}).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_FALSE(found({0, 0}).state().focused);
+    EXPECT_EQ(root().focusChild(), &found({0, 2, 1}));
+}
+
+TEST_F(AccessibleCard, LetsAClientSelectWhatTheMouseSelects)
+{
+    forEachAccessible(root(), [](QAccessibleInterface& each) {
+        if (QAccessibleTextInterface* const text = each.textInterface())
+            text->setSelection(0, 0, 2);
+    });
+    const std::vector<std::vector<int>> texts = {{0, 0}, {0, 1, 0}, {0, 2, 0}, {0, 2, 1},
+                                                 {0, 3}, {0, 4},    {0, 7},    {0, 8, 0}};
+    std::vector<std::vector<int>> selected;
+    std::vector<std::vector<int>> selectable;
+    for (const std::vector<int>& path : texts) {
+        if (found(path).textInterface()->selectionCount() > 0)
+            selected.push_back(path);
+        if (found(path).state().selectableText)
+            selectable.push_back(path);
+    }
+    EXPECT_EQ(selectable, (std::vector<std::vector<int>> {{0, 0}, {0, 2, 0}, {0, 3}, {0, 7}}));
+    EXPECT_EQ(selected, (std::vector<std::vector<int>> {{0, 7}})) << "the last one";
 }
 
 TEST_F(AccessibleCard, LetsAClientMoveTheFocus)

@@ -14,5 +14,5 @@ QString PlixAccessibleButton::Name() const
     if (!ui)
         return {};
     const QString text = ui->PlainText();
-    return text.trimmed().isEmpty() ? ui->ActionLabel() : text;
+    return text.trimmed().isEmpty() ? ui->ActionName() : text;
 }

@@ -3,5 +3,5 @@
 QString PlixAccessiblePicture::Name() const
 {
     PlixBaseUI* const ui = Ui();
-    return ui ? ui->ActionLabel() : QString();
+    return ui ? ui->ActionName() : QString();
 }

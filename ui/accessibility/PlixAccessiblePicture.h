@@ -4,7 +4,7 @@
 
 #include <kestro_control/AccessibleGraphicsObject.h>
 
-// An image or an icon. Its name is the label of its action, the only words about it.
+// An image or an icon. Its name is that of its action: the card has no other words about it.
 class PlixAccessiblePicture : public PlixPressable<kestro::AccessibleGraphicsObject> {
 public:
     using PlixPressable::PlixPressable;
