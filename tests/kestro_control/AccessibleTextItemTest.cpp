@@ -161,7 +161,8 @@ TEST_F(AccessibleText, HasOnePlaceForAPictureInEachLineAndDirection)
     const EmojiPictures pictures;
     item_->SetMarkupEnabled(true);
     const QString woman = QStringLiteral("<e code=\"1F469-200D-1F4BB\"/>");
-    item_->InsertRichText(QStringLiteral("ab\n") + woman + QStringLiteral(" \u05d0") + woman, true);
+    item_->InsertRichText(QStringLiteral("ab\u2028") + woman + QStringLiteral("\n\u05d0") + woman,
+                          true);
     for (const int i : {3, 9, 10})
         expectToFind(i);
     EXPECT_GT(text().characterRect(3).top(), text().characterRect(0).center().y());

@@ -407,6 +407,12 @@ TEST(SelectedCharacters, ArePicturesAsAWhole)
     view.extend(Qt::Key_Left);
     view.extend(Qt::Key_Left);
     EXPECT_EQ(view.item->SelectedText(), QStringLiteral("a"));
+    for (int i = 3; i < 8; ++i) {
+        view.item->Select(i, i + 1);
+        EXPECT_EQ(view.item->SelectedRange(), (QPair<int, int>(3, 8))) << i;
+    }
+    view.item->Select(2, 4);
+    EXPECT_EQ(QLatin1Char('a') + view.item->SelectedText(), woman);
 }
 
 // ----- What is not shown
