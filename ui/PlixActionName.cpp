@@ -28,7 +28,7 @@ QString LinkOf(const ST_ACTION& action)
         const QUrl url(QString::fromStdString(action.*link));
         // Encoded, because letters of other scripts can look like Latin ones.
         const QString host = url.host(QUrl::FullyEncoded);
-        const QString name =
+        QString name =
             host.isEmpty() ? url.toString(QUrl::FullyEncoded).left(kMaximumLinkLength) : host;
         if (!name.isEmpty())
             return name;
@@ -41,7 +41,7 @@ QString LinkOf(const ST_ACTION& action)
 QString plix::NameOf(const ST_ACTION& action)
 {
     for (const std::string& words : {LabelOf(action), DisplayTextOf(action), TextOf(action)}) {
-        const QString name = QString::fromStdString(words);
+        QString name = QString::fromStdString(words);
         if (!name.trimmed().isEmpty())
             return name;
     }
