@@ -9,22 +9,27 @@ namespace {
 
 const QString kFolder = QStringLiteral(":/plix/templates");
 
-QString titleOf(const QString& file)
+// Of a file or a folder.
+QString titleOf(const QFileInfo& file)
 {
-    QString title = QFileInfo(file).completeBaseName();
-    title.replace(QLatin1Char('_'), QLatin1Char(' '));
+    QString title = file.completeBaseName();
+    title.replace(QLatin1Char('_'), QLatin1Char(' ')).replace(QLatin1Char('-'), QLatin1Char(' '));
     title[0] = title.at(0).toUpper();
     return title;
 }
 
 } // namespace
 
-std::vector<CardTemplate> cardTemplates()
+std::vector<TemplateGroup> templateGroups()
 {
-    std::vector<CardTemplate> templates;
-    for (const QString& file : QDir(kFolder).entryList(QDir::Files, QDir::Name))
-        templates.push_back({titleOf(file), kFolder + QLatin1Char('/') + file});
-    return templates;
+    std::vector<TemplateGroup> groups;
+    for (const QFileInfo& folder : QDir(kFolder).entryInfoList(QDir::Dirs, QDir::Name)) {
+        TemplateGroup group {titleOf(folder), {}};
+        for (const QFileInfo& file : QDir(folder.filePath()).entryInfoList(QDir::Files, QDir::Name))
+            group.cards.push_back({titleOf(file), file.filePath()});
+        groups.push_back(group);
+    }
+    return groups;
 }
 
 QString templateText(const CardTemplate& card)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <vector>
@@ -13,8 +12,13 @@ struct CardTemplate {
     QString resource; // its file
 };
 
-// The example cards, which are part of the program.
-std::vector<CardTemplate> cardTemplates();
+struct TemplateGroup {
+    QString title;
+    std::vector<CardTemplate> cards;
+};
+
+// The cards of the guide for authors, and the example cards. They are part of the program.
+std::vector<TemplateGroup> templateGroups();
 
 QString templateText(const CardTemplate& card);
 

@@ -74,8 +74,11 @@ void ViewMenus::addFileMenu()
 void ViewMenus::addTemplates(QMenu& menu)
 {
     ViewFiles* const files = &window_.files();
-    for (const CardTemplate& card : cardTemplates()) {
-        addAction(menu, card.title, {}, [files, card] { files->startWith(templateText(card)); });
+    for (const TemplateGroup& group : templateGroups()) {
+        QMenu& cards = *menu.addMenu(QLatin1Char('&') + group.title);
+        for (const CardTemplate& card : group.cards)
+            addAction(cards, card.title, {},
+                      [files, card] { files->startWith(templateText(card)); });
     }
 }
 
