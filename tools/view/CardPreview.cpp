@@ -85,6 +85,11 @@ void CardPreview::setPixelRatio(double ratio)
         shown_->card.setPixelRatio(ratio);
 }
 
+double CardPreview::pixelRatio() const
+{
+    return shown_ ? shown_->card.pixelRatio() : 1;
+}
+
 QGraphicsObject* CardPreview::card() const
 {
     return shown_ ? shown_->card.item() : nullptr;

@@ -44,7 +44,9 @@ public:
     // Reads the text that was set last now.
     void refresh();
     void setSettings(const ViewSettings& settings);
+    // Of the card that is shown.
     void setPixelRatio(double ratio);
+    double pixelRatio() const;
 
     const QByteArray& text() const { return text_; }
     const Findings& findings() const { return findings_; }

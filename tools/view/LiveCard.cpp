@@ -110,6 +110,7 @@ void LiveCard::setBackground(const QString& color)
 
 void LiveCard::setPixelRatio(double ratio)
 {
+    pixelRatio_ = ratio;
     Plix_SetDpi(controller_.get(), static_cast<float>(ratio));
     if (item_)
         item_->update();

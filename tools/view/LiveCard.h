@@ -35,6 +35,7 @@ public:
     void setBackground(const QString& color);
     // Device pixels per logical pixel, for pictures.
     void setPixelRatio(double ratio);
+    double pixelRatio() const { return pixelRatio_; }
 
 private:
     struct Free {
@@ -46,6 +47,7 @@ private:
 
     std::unique_ptr<PlixDataController, Free> controller_;
     QPointer<QGraphicsObject> item_;
+    double pixelRatio_ = 1;
 };
 
 } // namespace plix::tool

@@ -2,6 +2,7 @@
 
 #include "view/CardEditor.h"
 #include "view/CardView.h"
+#include "view/EventPane.h"
 #include "view/SettingsPanel.h"
 #include "view/Templates.h"
 #include "view/ViewWindow.h"
@@ -66,7 +67,7 @@ void ViewMenus::addFileMenu()
     addAction(menu, QStringLiteral("Save &as…"), QKeySequence(QStringLiteral("Ctrl+Shift+S")),
               [files] { files->saveAs(); });
     addAction(menu, QStringLiteral("&Export picture…"), QKeySequence(QStringLiteral("Ctrl+E")),
-              [window] { window->askForPicture(); });
+              [window] { window->cardExport().askForPicture(window->files().path()); });
     menu.addSeparator();
     addAction(menu, QStringLiteral("&Quit"), QKeySequence::Quit, [window] { window->close(); });
 }
@@ -84,8 +85,9 @@ void ViewMenus::addTemplates(QMenu& menu)
 
 void ViewMenus::addEditMenu()
 {
-    ViewWindow* const window = &window_;
-    CardEditor* const editor = &window_.editor();
+    CardExport* const card = &window_.cardExport();
+    CardEditor* const editor = window_.widgets().editor;
+    EventPane* const events = window_.widgets().events;
     QMenu& menu = *window_.menuBar()->addMenu(QStringLiteral("&Edit"));
     addAction(menu, QStringLiteral("&Undo"), {}, [editor] { editor->undo(); });
     addAction(menu, QStringLiteral("&Redo"), {}, [editor] { editor->redo(); });
@@ -93,17 +95,17 @@ void ViewMenus::addEditMenu()
               QKeySequence(QStringLiteral("Ctrl+Space")), [editor] { editor->complete(); });
     menu.addSeparator();
     addAction(menu, QStringLiteral("Copy &picture"), QKeySequence(QStringLiteral("Ctrl+Shift+C")),
-              [window] { window->copyPicture(); });
+              [card] { card->copyPicture(); });
     addAction(menu, QStringLiteral("Copy &text of the card"),
-              QKeySequence(QStringLiteral("Ctrl+Shift+T")), [window] { window->copyText(); });
+              QKeySequence(QStringLiteral("Ctrl+Shift+T")), [card] { card->copyText(); });
     addAction(menu, QStringLiteral("C&lear the events"), QKeySequence(QStringLiteral("Ctrl+L")),
-              [window] { window->clearEvents(); });
+              [events] { events->clearAll(); });
 }
 
 void ViewMenus::addViewMenu()
 {
-    CardView* const view = &window_.view();
-    SettingsPanel* const settings = &window_.settingsPanel();
+    CardView* const view = window_.widgets().view;
+    SettingsPanel* const settings = window_.widgets().settings;
     QMenu& menu = *window_.menuBar()->addMenu(QStringLiteral("&View"));
     addAction(menu, QStringLiteral("Zoom &in"), QKeySequence::ZoomIn, [view] { view->zoomIn(); });
     addAction(menu, QStringLiteral("Zoom &out"), QKeySequence::ZoomOut,
@@ -113,7 +115,7 @@ void ViewMenus::addViewMenu()
     addAction(menu, QStringLiteral("&Dark or light chat"), QKeySequence(QStringLiteral("Ctrl+D")),
               [settings] { settings->toggleDark(); });
     menu.addSeparator();
-    for (QDockWidget* pane : window_.panes())
+    for (QDockWidget* pane : window_.panes().docks())
         menu.addAction(pane->toggleViewAction());
 }
 
@@ -121,6 +123,7 @@ void ViewMenus::addGoMenu()
 {
     ViewFiles* const files = &window_.files();
     ViewWindow* const window = &window_;
+    const ViewWidgets widgets = window_.widgets();
     QMenu& menu = *window_.menuBar()->addMenu(QStringLiteral("&Go"));
     addAction(menu, QStringLiteral("&Next problem"), QKeySequence(Qt::Key_F8),
               [window] { window->goToProblem(true); });
@@ -137,9 +140,9 @@ void ViewMenus::addGoMenu()
                   QKeySequence(QStringLiteral("Ctrl+%1").arg(number)), function);
         ++number;
     };
-    addPlace(QStringLiteral("JSON"), [window] { window->editor().setFocus(); });
-    addPlace(QStringLiteral("Card"), [window] { window->view().setFocus(); });
-    for (QDockWidget* pane : window_.panes())
+    addPlace(QStringLiteral("JSON"), [widgets] { widgets.editor->setFocus(); });
+    addPlace(QStringLiteral("Card"), [widgets] { widgets.view->setFocus(); });
+    for (QDockWidget* pane : window_.panes().docks())
         addPlace(pane->windowTitle(), [pane] { goTo(*pane); });
 }
 

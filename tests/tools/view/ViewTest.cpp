@@ -396,7 +396,7 @@ TEST_F(View, ExportsThePictureInItsOwnSize)
 {
     showCard(cardWith(textItem(QStringLiteral("Lunch"))));
     choose(QStringLiteral("Zoom in"));
-    ASSERT_TRUE(window().exportPicture(path(QStringLiteral("out.png"))));
+    ASSERT_TRUE(window().cardExport().savePicture(path(QStringLiteral("out.png"))));
     CardHost host(CardFile(path(QStringLiteral("card.json"))), CardOptions());
     const QImage expected = paintCard(host.scene(), host.card(), 2).image;
     const QImage exported(path(QStringLiteral("out.png")));
