@@ -1,5 +1,5 @@
-#include "CardOptionParser.h"
 #include "CommandLine.h"
+#include "CommandParser.h"
 #include "Commands.h"
 #include "Console.h"
 #include "FontList.h"
@@ -21,7 +21,28 @@ using namespace plix::tool;
 
 const QLatin1String kOffscreen("offscreen");
 
-ExitCode showView(const ViewOptions& options)
+ExitCode execute(const Information& information)
+{
+    console::print(information.text);
+    return ExitCode::Done;
+}
+
+ExitCode execute(const Options& options)
+{
+    return run(options);
+}
+
+ExitCode execute(const CheckOptions& options)
+{
+    return CheckCommand(options).run();
+}
+
+ExitCode execute(const SchemaOptions& options)
+{
+    return writeSchema(options);
+}
+
+ExitCode execute(const ViewOptions& options)
 {
     if (QGuiApplication::platformName() == kOffscreen)
         refuseUse(QStringLiteral("the window needs a display"), kViewCommand);
@@ -31,18 +52,8 @@ ExitCode showView(const ViewOptions& options)
 ExitCode runTool(const QStringList& arguments)
 {
     try {
-        const Request request = parseCommandLine(arguments);
-        if (const Information* information = std::get_if<Information>(&request)) {
-            console::print(information->text);
-            return ExitCode::Done;
-        }
-        if (const CheckOptions* check = std::get_if<CheckOptions>(&request))
-            return CheckCommand(*check).run();
-        if (const SchemaOptions* schema = std::get_if<SchemaOptions>(&request))
-            return writeSchema(*schema);
-        if (const ViewOptions* view = std::get_if<ViewOptions>(&request))
-            return showView(*view);
-        return run(std::get<Options>(request));
+        return std::visit([](const auto& options) { return execute(options); },
+                          parseCommandLine(arguments));
     } catch (const ToolError& error) {
         console::printError(error.message);
         return error.code;

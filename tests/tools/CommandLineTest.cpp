@@ -137,7 +137,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "only one CARD.json is allowed, but \"other.json\" follows"},
         RefusalRow {"TwoCardsToView",
                     {"view", "a.json", "b.json"},
-                    "only one card is allowed, but \"b.json\" follows"},
+                    "only one CARD is allowed, but \"b.json\" follows"},
         RefusalRow {"ViewWithoutADisplay", {"view"}, "the window needs a display"},
         RefusalRow {"RenderWithoutOutput", {"render", "card.json"}, "-o OUT.png is missing"},
         RefusalRow {"GalleryWithoutOutput", {"gallery", "."}, "-o OUTDIR is missing"},

@@ -1,46 +1,41 @@
 #include "schema/SchemaCommandLine.h"
 
-#include "CardOptionParser.h"
-
-#include <QCommandLineParser>
+#include "CommandParser.h"
 
 namespace plix::tool {
 namespace {
 
-const QString kOutputOption = QStringLiteral("output");
+constexpr QLatin1String
+    kText("Writes the card format as a JSON Schema (2020-12). Editors that know it complete\n"
+          "keys and words, and underline what is wrong. docs/cards.md tells how.");
 
-const QString kSchemaDescription = QStringLiteral(
-    "\nWrites the card format as a JSON Schema (2020-12). Editors that know it complete\n"
-    "keys and words, and underline what is wrong. docs/cards.md tells how.");
+constexpr QLatin1String kExitCodes("\nExit codes:\n"
+                                   "  0  done\n"
+                                   "  2  wrong usage, or a file that cannot be written");
 
-const QString kExitCodes = QStringLiteral("\nExit codes:\n"
-                                          "  0  done\n"
-                                          "  2  wrong usage, or a file that cannot be written");
+void addArguments(CommandParser& parser)
+{
+    parser.addOutput(QStringLiteral("OUT.json"),
+                     QStringLiteral("The file to write instead of standard output."));
+}
+
+SchemaOptions readArguments(const CommandParser& parser)
+{
+    parser.refuseInput();
+    return {parser.output()};
+}
 
 } // namespace
 
-Request parseSchemaCommandLine(const QStringList& arguments)
+ToolCommand schemaCommand()
 {
-    CardOptionParser options(kSchemaCommand);
-    QCommandLineParser& parser = options.parser();
-    parser.setApplicationDescription(kSchemaDescription);
-    parser.addPositionalArgument(kSchemaCommand, kSchemaSummary);
-    options.addOption({QStringLiteral("h"), QStringLiteral("help")},
-                      QStringLiteral("Shows this help."));
-    options.addOption({QStringLiteral("o"), kOutputOption},
-                      QStringLiteral("The file to write instead of standard output."),
-                      QStringLiteral("OUT.json"));
-    if (!parser.parse(arguments))
-        options.refuse(parser.errorText());
-    if (parser.isSet(QStringLiteral("help")))
-        return Information {parser.helpText() + QStringLiteral("\nExamples:\n") + kSchemaExamples
-                            + kExitCodes};
-    const QStringList more = parser.positionalArguments().mid(1);
-    if (!more.isEmpty())
-        options.refuse(QStringLiteral("\"%1\" is not expected").arg(more.front()));
-    if (parser.isSet(kOutputOption) && parser.value(kOutputOption).isEmpty())
-        options.refuse(QStringLiteral("-o OUT.json is missing"));
-    return SchemaOptions {parser.value(kOutputOption)};
+    return {QLatin1String("schema"),
+            QLatin1String("writes the card format as a JSON Schema"),
+            kText,
+            QLatin1String("  plix schema -o card.schema.json\n"),
+            kExitCodes,
+            &addArguments,
+            &readArguments};
 }
 
 } // namespace plix::tool

@@ -1,16 +1,10 @@
 #pragma once
 
-#include "CommandLine.h"
-
-#include <QLatin1String>
+#include "ToolCommand.h"
 
 namespace plix::tool {
 
-inline const QLatin1String kSchemaCommand("schema");
-inline const QLatin1String kSchemaSummary("writes the card format as a JSON Schema");
-inline const QLatin1String kSchemaExamples("  plix schema -o card.schema.json\n");
-
-// Throws ToolError if the arguments are wrong.
-Request parseSchemaCommandLine(const QStringList& arguments);
+// "plix schema".
+ToolCommand schemaCommand();
 
 } // namespace plix::tool
