@@ -3,9 +3,11 @@
 #include "Console.h"
 #include "OutputFile.h"
 #include "check/CardCheck.h"
+#include "check/CheckCommandLine.h"
 #include "check/ProgressLine.h"
 #include "check/WorkerPool.h"
 
+#include <QCoreApplication>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
@@ -85,7 +87,10 @@ void CheckCommand::checkHere(const QStringList& files)
 void CheckCommand::checkInWorkers(const QStringList& files)
 {
     ProgressLine progress(files.size());
-    WorkerPool pool(files, options_.arguments, [&](const Report& report) {
+    const WorkerProgram worker {QCoreApplication::applicationFilePath(),
+                                QStringList {kCheckCommand, QStringLiteral("--") + kWorkerOption}
+                                    + options_.arguments};
+    WorkerPool pool(files, worker, [&](const Report& report) {
         progress.clear();
         take(report);
         progress.advance();

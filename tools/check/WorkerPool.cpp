@@ -1,8 +1,5 @@
 #include "check/WorkerPool.h"
 
-#include "check/CheckCommandLine.h"
-
-#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QThread>
@@ -25,9 +22,9 @@ struct WorkerPool::Worker {
     int checked = 0;
 };
 
-WorkerPool::WorkerPool(const QStringList& files, const QStringList& arguments, Receiver receiver)
+WorkerPool::WorkerPool(const QStringList& files, const WorkerProgram& program, Receiver receiver)
     : files_(files)
-    , arguments_(QStringList {kCheckCommand, QStringLiteral("--worker")} + arguments)
+    , program_(program)
     , receiver_(std::move(receiver))
 {
 }
@@ -68,7 +65,7 @@ void WorkerPool::start(Worker& worker)
                 handleEnd(worker);
         },
         Qt::QueuedConnection);
-    process.start(QCoreApplication::applicationFilePath(), arguments_);
+    process.start(program_.path, program_.arguments);
     giveFile(worker);
 }
 

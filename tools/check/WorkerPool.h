@@ -15,6 +15,13 @@ class QProcess;
 
 namespace plix::tool {
 
+// Checks files. Reads their names from standard input, in percent encoding and one per
+// line, and writes a report for each as a line of JSON. Ends with its input.
+struct WorkerProgram {
+    QString path;
+    QStringList arguments;
+};
+
 // Checks files in processes of their own. What the library has built stays in memory
 // until its process ends, so each of them checks some files only. A card that crashes
 // its process fails alone.
@@ -23,7 +30,7 @@ public:
     // Gets the reports in the order of the files.
     using Receiver = std::function<void(const Report& report)>;
 
-    WorkerPool(const QStringList& files, const QStringList& arguments, Receiver receiver);
+    WorkerPool(const QStringList& files, const WorkerProgram& program, Receiver receiver);
     ~WorkerPool();
 
     WorkerPool(const WorkerPool&) = delete;
@@ -41,7 +48,7 @@ private:
     void deliver(int index, const Report& report);
 
     QStringList files_;
-    QStringList arguments_;
+    WorkerProgram program_;
     Receiver receiver_;
     std::vector<std::unique_ptr<Worker>> workers_;
     // Those that wait for the reports of files before them.
