@@ -76,7 +76,10 @@ CommonColor letterColor(const QImage& letters, const QRect& word)
         }
     });
     const CommonColor common = mostCommon(counts);
-    const bool isOneColor = common.count * 2 > covered && maximum > 0;
+    // Spans may have colours of their own, but a picture has many.
+    constexpr int kMaximumColors = 4;
+    const bool isOneColor =
+        common.count * 2 > covered && counts.size() <= kMaximumColors && maximum > 0;
     return isOneColor ? common : CommonColor();
 }
 

@@ -13,6 +13,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <cmath>
 
 namespace plix::tool {
 namespace {
@@ -227,7 +228,7 @@ void LookCheck::checkItemContrast(const ShownItem& item, const TextContrast& con
     if (result && result->ratio < result->needed)
         note(Rule::LowContrast, item,
              QStringLiteral("the contrast with what lies behind it is %1:1, but %2:1 is needed")
-                 .arg(QString::number(result->ratio, 'f', 1),
+                 .arg(QString::number(std::floor(result->ratio * 10) / 10, 'f', 1),
                       QString::number(result->needed, 'f', 1)),
              result->isOnDark ? QStringLiteral("a lighter \"color\", or a darker background")
                               : QStringLiteral("a darker \"color\", or a lighter background"));

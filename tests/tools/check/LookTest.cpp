@@ -97,6 +97,23 @@ TEST(LookOptions, EachLanguageIsDrawn)
     EXPECT_EQ(checkCard(card, {"--lang", "ko", "--no-look"}).exitCode, 0);
 }
 
+// Their colours are not the author's.
+TEST(LookContrast, IsNotThatOfEmoji)
+{
+    const ToolResult result = checkCard(
+        cardOf(R"({"type": "text", "text": "✨ Lunch ⭐ is ready 🎉💛", "color": "#1F2A37"})"));
+    EXPECT_EQ(result.output, "");
+}
+
+// It is rounded down: a ratio of 4.47 is too small.
+TEST(LookContrast, IsSmallerThanWhatIsNeeded)
+{
+    const ToolResult result =
+        checkCard(cardOf(R"({"type": "box", "layout": "vertical", "backgroundColor": "#FFFFFF",
+                "contents": [{"type": "text", "text": "Due today", "color": "#A8691A"}]})"));
+    EXPECT_TRUE(contains(result.output, "is 4.4:1, but 4.5:1 is needed")) << result.output;
+}
+
 // A text that lies over a light and a dark part of its background.
 TEST(LookContrast, IsMeasuredWordByWord)
 {
