@@ -1,36 +1,14 @@
 #include "CardFile.h"
 
-#include "JsonPosition.h"
-#include "JsonText.h"
 #include "ToolError.h"
+#include "check/CardText.h"
+#include "check/TextPlaces.h"
 
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace plix::tool {
-namespace {
-
-// Qt's parser reports the offset after the token that it cannot use. For the
-// errors listed here it reports the offset of a character.
-int errorOffset(const QJsonParseError& error, int size)
-{
-    switch (error.error) {
-    case QJsonParseError::GarbageAtEnd:
-    case QJsonParseError::IllegalNumber:
-    case QJsonParseError::IllegalUTF8String:
-    case QJsonParseError::TerminationByNumber:
-    case QJsonParseError::UnterminatedString:
-        return std::min(error.offset, size);
-    default:
-        return std::clamp(error.offset - 1, 0, size);
-    }
-}
-
-} // namespace
 
 QByteArray readCardText(const QString& path)
 {
@@ -60,33 +38,16 @@ CardFile::CardFile(const QString& path, const QByteArray& json)
 
 void CardFile::check() const
 {
-    const QByteArray plain = withoutComments(json_);
-    const JsonPosition position(plain);
-    if (position.start() == plain.size() || plain.at(position.start()) != '{')
-        refuse(position.start(), QStringLiteral("a card must be a JSON object"));
-
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(plain, &error);
-    if (error.error != QJsonParseError::NoError)
-        refuse(errorOffset(error, plain.size()), error.errorString());
-
-    const QString key = QStringLiteral("type");
-    const QJsonValue type = document.object().value(key);
-    if (type.isUndefined())
-        refuse(position.start(), QStringLiteral("the card has no \"type\""));
-    if (type != QJsonValue(QStringLiteral("bubble"))) {
-        refuse(position.rootMember(key).value_or(position.start()),
-               QStringLiteral("the \"type\" of a card must be \"bubble\""));
-    }
-}
-
-void CardFile::refuse(int offset, const QString& reason) const
-{
-    const TextPlace place = placeAt(json_, offset);
-    throw ToolError {
-        ExitCode::NotACard,
-        QStringLiteral("%1:%2:%3: error: %4")
-            .arg(path_, QString::number(place.line), QString::number(place.column), reason)};
+    Findings findings;
+    readCard(json_, findings);
+    const Finding* const refusal = findRefusal(findings);
+    if (!refusal)
+        return;
+    const TextPlace place = TextPlaces(json_).at(refusal->range.begin);
+    throw ToolError {ExitCode::NotACard,
+                     QStringLiteral("%1:%2:%3: error: %4")
+                         .arg(path_, QString::number(place.line), QString::number(place.column),
+                              refusal->message)};
 }
 
 } // namespace plix::tool

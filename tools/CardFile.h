@@ -22,7 +22,6 @@ public:
 
 private:
     void check() const;
-    [[noreturn]] void refuse(int offset, const QString& reason) const;
 
     QString path_;
     QByteArray json_;

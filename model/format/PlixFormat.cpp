@@ -94,6 +94,16 @@ const PlixFormatKey* FindKeyFormat(const PlixFormatComponent& component, std::st
     return found == component.keys.end() ? nullptr : &*found;
 }
 
+int MaximumMessageBytes()
+{
+    return kMaximumMessageBytes;
+}
+
+int MaximumItems()
+{
+    return kMaximumItems;
+}
+
 int MaximumNestedBoxes()
 {
     return kMaximumNestedBoxes;

@@ -35,7 +35,10 @@ const PlixFormatComponent* FindComponentFormat(std::string_view type);
 // The key of this name; null if there is none.
 const PlixFormatKey* FindKeyFormat(const PlixFormatComponent& component, std::string_view name);
 
-// The maximum depth of nested boxes in a zone.
+// The bounds of a card: the bytes of its JSON, its items, and the depth of nested boxes in
+// a zone.
+int MaximumMessageBytes();
+int MaximumItems();
 int MaximumNestedBoxes();
 
 // Whether what goes wrong in a part stays there. If not, what contains it is not read

@@ -32,17 +32,13 @@ ErrorRow notAnObject(const char* name, const QByteArray& card, const char* place
     return {name, card, place + std::string(": error: a card must be a JSON object")};
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Root, CardError,
-    testing::Values(notAnObject("Array", "[1]", "1:1"), notAnObject("String", "\"bubble\"", "1:1"),
-                    notAnObject("Number", "42", "1:1"),
-                    notAnObject("Words", "no card at all", "1:1"), notAnObject("Empty", "", "1:1"),
-                    notAnObject("Blank", " \n\t", "2:2"),
-                    notAnObject("AfterBlankLines", "\n\n  []", "3:3"),
-                    notAnObject("AfterComments", "// a\n/* b */ []", "2:9"),
-                    notAnObject("OnlyComments", "/* b */", "1:8"),
-                    notAnObject("Binary", QByteArray("\x00\xff\xfe", 3), "1:1")),
-    [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Root, CardError,
+                         testing::Values(notAnObject("Array", "[1]", "1:1"),
+                                         notAnObject("String", "\"bubble\"", "1:1"),
+                                         notAnObject("Number", "42", "1:1"),
+                                         notAnObject("AfterBlankLines", "\n\n  []", "3:3"),
+                                         notAnObject("AfterComments", "// a\n/* b */ []", "2:9")),
+                         [](const auto& row) { return row.param.name; });
 
 ErrorRow type(const char* name, const QByteArray& card, const char* place)
 {
@@ -76,39 +72,66 @@ INSTANTIATE_TEST_SUITE_P(
                     type("AfterAComment", "{/* 日本 */ \"type\": 1}", "1:19")),
     [](const auto& row) { return row.param.name; });
 
-ErrorRow syntax(const char* name, const QByteArray& card, const char* error)
+ErrorRow syntax(const char* name, const QByteArray& card, const char* place, const char* error)
 {
-    return {name, card, error};
+    return {name, card, place + std::string(": error: ") + error};
 }
+
+const char* const kColonNeeded = "a colon after the key is needed here";
+const char* const kValueNeeded = "a value is needed here";
+const char* const kValueMissing = "the text ends, but a value is needed";
 
 INSTANTIATE_TEST_SUITE_P(
     Syntax, CardError,
     testing::Values(
-        syntax("MissingColon", "{\"type\":\n \"bubble\", \"size\" \"mega\"}",
-               "2:19: error: missing name separator"),
-        syntax("MissingComma", "{\"type\": \"bubble\"\n \"size\": 1}",
-               "2:2: error: unterminated object"),
-        syntax("CommaAtTheEnd", "{\"type\": \"bubble\",}",
-               "1:19: error: object is missing after a comma"),
-        syntax("NameWithoutQuotes", "{type: 1}", "1:2: error: unterminated object"),
-        syntax("SingleQuotes", "{\"type\": 'bubble'}", "1:10: error: illegal number"),
-        syntax("UnknownWord", "{\"type\": tru}", "1:10: error: illegal value"),
-        syntax("OpenString", "{\"type\": \"bub", "1:14: error: unterminated string"),
-        syntax("OpenObject", "{\"type\": \"bubble\"\n\n", "2:1: error: unterminated object"),
-        syntax("OpenComment", "{\"type\": \"bubble\"} /* never closed",
-               "1:20: error: garbage at the end of the document"),
-        syntax("TextAfterTheCard", "{\"type\": \"bubble\"}\n x",
-               "2:2: error: garbage at the end of the document"),
-        syntax("NotUtf8", "{\"type\": \"b\xff\"}", "1:12: error: invalid UTF8 string"),
-        syntax("CharactersNotBytes", "{\"日本\": é}", "1:8: error: illegal number"),
-        syntax("WindowsLines", "{\r\n\"a\": 1,\r\n\"b\" 2}", "3:5: error: missing name separator"),
-        syntax("CommentBefore", "{ // ünïcode\n /* two\nlines */ \"a\" 1}",
-               "3:14: error: missing name separator"),
-        syntax("CommentSignsInStrings", R"({"a": "// no /* comment", "b" 1})",
-               "1:31: error: missing name separator"),
-        syntax("TooDeep", "{\"a\":" + QByteArray(1100, '['),
-               "1:1029: error: too deeply nested document")),
+        syntax("Words", "no card at all", "1:1", kValueNeeded),
+        syntax("Binary", QByteArray("\x00\xff\xfe", 3), "1:1", kValueNeeded),
+        syntax("Empty", "", "1:1", kValueMissing), syntax("Blank", " \n\t", "2:2", kValueMissing),
+        syntax("OnlyComments", "/* b */", "1:8", kValueMissing),
+        syntax("MissingColon", "{\"type\":\n \"bubble\", \"size\" \"mega\"}", "2:19", kColonNeeded),
+        syntax("MissingComma", "{\"type\": \"bubble\"\n \"size\": 1}", "2:2",
+               "a comma is missing before this"),
+        syntax("CommaAtTheEnd", "{\"type\": \"bubble\",}", "1:18",
+               "this comma is too many: nothing follows it"),
+        syntax("NameWithoutQuotes", "{type: 1}", "1:2", "a key in double quotes is needed here"),
+        syntax("SingleQuotes", "{\"type\": 'bubble'}", "1:10", kValueNeeded),
+        syntax("UnknownWord", "{\"type\": tru}", "1:10", kValueNeeded),
+        syntax("OpenString", "{\"type\": \"bub", "1:10", "the closing quote is missing"),
+        syntax("OpenObject", "{\"type\": \"bubble\"\n\n", "3:1",
+               "the text ends, but a comma or \"}\" is needed"),
+        syntax("OpenComment", "{\"type\": \"bubble\"} /* never closed", "1:20",
+               "this comment does not end"),
+        syntax("TextAfterTheCard", "{\"type\": \"bubble\"}\n x", "2:2",
+               "the card ends before this text"),
+        syntax("NotUtf8", "{\"type\": \"bubble\", \"a\": \"b\xff\"}", "1:27",
+               "the byte 0xff is not UTF-8; save the file as UTF-8"),
+        syntax("CharactersNotBytes", "{\"日本\": é}", "1:8", kValueNeeded),
+        syntax("WindowsLines", "{\r\n\"a\": 1,\r\n\"b\" 2}", "3:5", kColonNeeded),
+        syntax("CommentBefore", "{ // ünïcode\n /* two\nlines */ \"a\" 1}", "3:14", kColonNeeded),
+        syntax("CommentSignsInStrings", R"({"a": "// no /* comment", "b" 1})", "1:31",
+               kColonNeeded),
+        syntax("TooDeep", "{\"a\":" + QByteArray(1100, '['), "1:1005",
+               "the JSON is nested deeper than 1000 levels")),
     [](const auto& row) { return row.param.name; });
+
+// The first slip in the text is reported, whatever else is found before it.
+TEST(CardFile, ThatHasSeveralSlipsIsRefusedForTheFirstOne)
+{
+    const ToolFolder folder;
+    folder.write("card.json", "{\"type\": \"bubble\",, \"a\": \"\xff\"}");
+    EXPECT_EQ(folder.run(kLayOut).errors,
+              "card.json:1:19: error: a key in double quotes is needed here\n");
+}
+
+// The library reads them as other parsers do.
+TEST(CardFile, MayHaveAKeyTwiceAndHalfACharacter)
+{
+    const ToolFolder folder;
+    folder.write(
+        "card.json",
+        R"({"type": "box", "type": "bubble", "body": {"type": "text", "text": "\ud83d"}})");
+    EXPECT_EQ(folder.run(kLayOut).exitCode, 0);
+}
 
 TEST(CardFile, MayHaveCommentsAndAByteOrderMark)
 {
@@ -194,6 +217,34 @@ TEST(CardWarnings, ReportThatACardWithoutBodyCannotGrow)
     const ToolResult result = folder.run(kLayOut + Arguments {"--height", "50"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "card.json: warning: the card has no body that can grow\n");
+}
+
+// The box of the body is an item, too.
+TEST(CardWarnings, NameTheFirstItemThatIsLeftOut)
+{
+    const QByteArray separators = QByteArray("{\"type\": \"separator\"},\n").repeated(2499);
+    const ToolFolder folder;
+    folder.write("card.json",
+                 R"({"type": "bubble", "styles": 1, "body": {"type": "box", "contents": [)"
+                 "\n" + separators
+                     + R"({"type": "text", "size": 5}, {"type": "icon", "size": 5}]}})");
+    const std::vector<std::string> lines = linesOf(folder.run(kLayOut).errors);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0],
+              "card.json:2501:1: warning: body.contents[2499]: call PlixJsonDataParse::ParseBox "
+              "failed. The card has more than 2500 items.");
+    EXPECT_TRUE(lines[1].starts_with("card.json:1:30: warning: styles: ")) << lines[1];
+}
+
+TEST(CardFile, ThatIsTooLargeIsRefused)
+{
+    const ToolFolder folder;
+    folder.write("card.json", R"({"type": "bubble"})" + QByteArray(2097152, ' '));
+    const ToolResult result = folder.run(kLayOut);
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.errors,
+              "card.json:1:1: error: the card has 2097170 bytes, but at most 2097152 are read; "
+              "lost: the whole card\n");
 }
 
 QByteArray nestedBoxes(int depth)

@@ -1,10 +1,12 @@
 #include "check/AuthorCheck.h"
 
 #include "FormatText.h"
+#include "check/ActionRules.h"
 #include "check/Excerpt.h"
 #include "check/ItemRules.h"
 #include "check/Speller.h"
 #include "check/ValueCheck.h"
+#include "check/ZoneStyleRules.h"
 
 namespace plix::tool {
 namespace {

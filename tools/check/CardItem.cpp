@@ -1,5 +1,7 @@
 #include "check/CardItem.h"
 
+#include "check/ValueKind.h"
+
 namespace plix::tool {
 
 std::string_view textOf(const JsonNode& object, std::string_view key)
@@ -17,24 +19,7 @@ std::string_view CardItem::text(std::string_view key) const
 bool CardItem::flag(std::string_view key) const
 {
     const JsonMember* const member = node.find(key);
-    if (!member)
-        return false;
-    const JsonNode& value = member->value;
-    switch (value.kind) {
-    case JsonNode::Kind::Null:
-        return false;
-    case JsonNode::Kind::Boolean:
-        return value.boolean;
-    case JsonNode::Kind::Number:
-        return value.number != 0;
-    case JsonNode::Kind::String:
-        return !value.text.empty();
-    case JsonNode::Kind::Array:
-        return !value.elements.empty();
-    case JsonNode::Kind::Object:
-        return !value.members.empty();
-    }
-    return false;
+    return member && flagOf(member->value);
 }
 
 double CardItem::number(std::string_view key) const

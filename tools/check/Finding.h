@@ -1,8 +1,8 @@
 #pragma once
 
-#include "JsonPosition.h"
 #include "check/JsonNode.h"
 #include "check/Rule.h"
+#include "check/TextPlaces.h"
 
 #include <QString>
 

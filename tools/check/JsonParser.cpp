@@ -1,5 +1,8 @@
 #include "check/JsonParser.h"
 
+#include "check/JsonString.h"
+#include "check/Utf8Check.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -8,8 +11,6 @@
 
 namespace plix::tool {
 namespace {
-
-constexpr char32_t kReplacement = 0xFFFD;
 
 bool isDigit(char c)
 {
@@ -21,26 +22,11 @@ bool isWordCharacter(char c)
     return isDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
 }
 
-bool isHighSurrogate(char32_t c)
-{
-    return c >= 0xD800 && c < 0xDC00;
-}
-
-bool isLowSurrogate(char32_t c)
-{
-    return c >= 0xDC00 && c < 0xE000;
-}
-
-void append(std::string& text, char32_t character)
-{
-    text += QString::fromUcs4(&character, 1).toStdString();
-}
-
 } // namespace
 
 JsonParser::JsonParser(const QByteArray& text, Findings& findings)
     : text_(text)
-    , findings_(findings)
+    , scanner_(text, findings)
 {
 }
 
@@ -48,21 +34,34 @@ std::optional<JsonNode> JsonParser::parse()
 {
     checkUtf8();
     try {
-        skipBlanksAndComments();
+        scanner_.skipBlanksAndComments();
         JsonNode root = value();
-        skipBlanksAndComments();
-        if (!atEnd())
-            note(Rule::TextAfterCard, {offset_, text_.size()},
-                 QStringLiteral("the card ends before this text"));
+        scanner_.skipBlanksAndComments();
+        if (!scanner_.atEnd())
+            scanner_.note(Rule::TextAfterCard, {scanner_.offset(), text_.size()},
+                          QStringLiteral("the card ends before this text"));
         return root;
-    } catch (const Stop&) {
+    } catch (const JsonScanner::Stop&) {
         return std::nullopt;
     }
 }
 
+// Comments and names count, too: editors and parsers disagree about such files.
+void JsonParser::checkUtf8()
+{
+    const std::optional<int> bad = findBadUtf8(text_);
+    if (!bad)
+        return;
+    const auto byte = static_cast<unsigned char>(text_.at(*bad));
+    scanner_.note(Rule::InvalidUtf8, {*bad, *bad + 1},
+                  QStringLiteral("the byte 0x%1 is not UTF-8; save the file as UTF-8")
+                      .arg(static_cast<unsigned>(byte), 2, 16, QLatin1Char('0')));
+}
+
 JsonNode JsonParser::value()
 {
-    switch (current()) {
+    const char c = scanner_.current();
+    switch (c) {
     case '{':
         return object();
     case '[':
@@ -70,215 +69,158 @@ JsonNode JsonParser::value()
     case '"':
         return string();
     default:
-        return current() == '-' || isDigit(current()) ? number() : word();
+        return c == '-' || isDigit(c) ? number() : word();
     }
+}
+
+JsonNode JsonParser::begin(JsonNode::Kind kind) const
+{
+    JsonNode node;
+    node.kind = kind;
+    node.range.begin = scanner_.offset();
+    return node;
 }
 
 JsonNode JsonParser::object()
 {
-    JsonNode node {JsonNode::Kind::Object, {offset_, offset_}, false, 0, {}, {}, {}};
-    if (++depth_ > kMaximumDepth)
-        stop({offset_, offset_ + 1},
-             QStringLiteral("the JSON is nested deeper than %1 levels").arg(kMaximumDepth));
-    ++offset_;
-    skipBlanksAndComments();
-    if (!skip('}')) {
+    JsonNode node = begin(JsonNode::Kind::Object);
+    enter();
+    if (!scanner_.skip('}')) {
         do {
             node.members.push_back(member());
         } while (nextFollows('}'));
     }
-    --depth_;
-    node.range.end = offset_;
+    leave(node);
     checkNames(node);
     return node;
 }
 
 JsonNode JsonParser::array()
 {
-    JsonNode node {JsonNode::Kind::Array, {offset_, offset_}, false, 0, {}, {}, {}};
-    if (++depth_ > kMaximumDepth)
-        stop({offset_, offset_ + 1},
-             QStringLiteral("the JSON is nested deeper than %1 levels").arg(kMaximumDepth));
-    ++offset_;
-    skipBlanksAndComments();
-    if (!skip(']')) {
+    JsonNode node = begin(JsonNode::Kind::Array);
+    enter();
+    if (!scanner_.skip(']')) {
         do {
             node.elements.push_back(value());
         } while (nextFollows(']'));
     }
-    --depth_;
-    node.range.end = offset_;
+    leave(node);
     return node;
+}
+
+void JsonParser::enter()
+{
+    const int begin = scanner_.offset();
+    if (++depth_ > kMaximumDepth)
+        scanner_.stop(
+            {begin, begin + 1},
+            QStringLiteral("the JSON is nested deeper than %1 levels").arg(kMaximumDepth));
+    scanner_.advance();
+    scanner_.skipBlanksAndComments();
+}
+
+void JsonParser::leave(JsonNode& node)
+{
+    --depth_;
+    node.range.end = scanner_.offset();
 }
 
 JsonMember JsonParser::member()
 {
-    if (current() != '"')
-        stopHere(QStringLiteral("a key in double quotes"));
+    if (scanner_.current() != '"')
+        scanner_.stopHere(QStringLiteral("a key in double quotes"));
     JsonMember member;
-    member.nameRange.begin = offset_;
-    member.name = stringText();
-    member.nameRange.end = offset_;
-    skipBlanksAndComments();
-    if (!skip(':'))
-        stopHere(QStringLiteral("a colon after the key"));
-    skipBlanksAndComments();
+    member.nameRange.begin = scanner_.offset();
+    member.name = readJsonString(scanner_);
+    member.nameRange.end = scanner_.offset();
+    scanner_.skipBlanksAndComments();
+    if (!scanner_.skip(':'))
+        scanner_.stopHere(QStringLiteral("a colon after the key"));
+    scanner_.skipBlanksAndComments();
     member.value = value();
     return member;
 }
 
 bool JsonParser::nextFollows(char closing)
 {
-    skipBlanksAndComments();
-    if (skip(closing))
+    scanner_.skipBlanksAndComments();
+    if (scanner_.skip(closing))
         return false;
-    const int comma = offset_;
-    if (!skip(',')) {
-        if (atEnd() || !startsValue())
-            stopHere(QStringLiteral("a comma or \"%1\"").arg(QLatin1Char(closing)));
-        note(Rule::Syntax, {offset_, offset_ + 1},
-             QStringLiteral("a comma is missing before this"));
+    const int comma = scanner_.offset();
+    if (!scanner_.skip(',')) {
+        if (scanner_.atEnd() || !startsValue())
+            scanner_.stopHere(QStringLiteral("a comma or \"%1\"").arg(QLatin1Char(closing)));
+        scanner_.note(Rule::Syntax, {comma, comma + 1},
+                      QStringLiteral("a comma is missing before this"));
         return true;
     }
-    skipBlanksAndComments();
-    if (!skip(closing))
+    scanner_.skipBlanksAndComments();
+    if (!scanner_.skip(closing))
         return true;
-    note(Rule::Syntax, {comma, comma + 1},
-         QStringLiteral("this comma is too many: nothing follows it"));
+    scanner_.note(Rule::Syntax, {comma, comma + 1},
+                  QStringLiteral("this comma is too many: nothing follows it"));
     return false;
 }
 
 bool JsonParser::startsValue() const
 {
-    const char c = current();
+    const char c = scanner_.current();
     return c == '"' || c == '{' || c == '[';
 }
 
 JsonNode JsonParser::string()
 {
-    JsonNode node {JsonNode::Kind::String, {offset_, offset_}, false, 0, {}, {}, {}};
-    node.text = stringText();
-    node.range.end = offset_;
+    JsonNode node = begin(JsonNode::Kind::String);
+    node.text = readJsonString(scanner_);
+    node.range.end = scanner_.offset();
     return node;
-}
-
-std::string JsonParser::stringText()
-{
-    const int begin = offset_++;
-    std::string text;
-    while (!skip('"')) {
-        if (atEnd() || current() == '\n')
-            stop({begin, offset_}, QStringLiteral("the closing quote is missing"));
-        if (current() == '\\')
-            escape(text);
-        else if (static_cast<unsigned char>(current()) < 0x20) {
-            note(Rule::Syntax, {offset_, offset_ + 1},
-                 QStringLiteral("a control character must be written as \\u%1")
-                     .arg(static_cast<int>(current()), 4, 16, QLatin1Char('0')));
-            text += text_.at(offset_++);
-        } else
-            text += text_.at(offset_++);
-    }
-    return text;
-}
-
-void JsonParser::escape(std::string& text)
-{
-    static constexpr std::string_view kLetters = "\"\\/bfnrt";
-    static constexpr std::string_view kCharacters = "\"\\/\b\f\n\r\t";
-    const int begin = offset_++;
-    if (skip('u')) {
-        offset_ = begin;
-        append(text, unicodeEscape());
-        return;
-    }
-    const std::size_t letter = kLetters.find(current());
-    if (atEnd() || letter == std::string_view::npos)
-        stop({begin, offset_ + 1},
-             QStringLiteral("no such escape; a backslash is written \"\\\\\""));
-    text += kCharacters[letter];
-    ++offset_;
-}
-
-char32_t JsonParser::unicodeEscape()
-{
-    const int begin = offset_;
-    const std::optional<char32_t> first = hexDigits();
-    if (!first)
-        stop({begin, offset_}, QStringLiteral("four hexadecimal digits must follow \"\\u\""));
-    if (!isHighSurrogate(*first) && !isLowSurrogate(*first))
-        return *first;
-    const int middle = offset_;
-    const std::optional<char32_t> second = isHighSurrogate(*first) ? hexDigits() : std::nullopt;
-    if (second && isLowSurrogate(*second))
-        return 0x10000 + ((*first - 0xD800) << 10) + (*second - 0xDC00);
-    offset_ = middle;
-    note(Rule::LoneSurrogate, {begin, offset_},
-         QStringLiteral("this is half of a character; the other half is missing"));
-    return kReplacement;
-}
-
-// Of "\uXXXX".
-std::optional<char32_t> JsonParser::hexDigits()
-{
-    constexpr int kLength = 6;
-    const QByteArray escape = text_.mid(offset_, kLength);
-    const QByteArray digits = escape.mid(2);
-    const bool hasDigits = std::all_of(digits.begin(), digits.end(), [](char c) {
-        return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
-    });
-    if (escape.size() != kLength || !escape.startsWith("\\u") || !hasDigits)
-        return std::nullopt;
-    offset_ += kLength;
-    return static_cast<char32_t>(digits.toUInt(nullptr, 16));
 }
 
 JsonNode JsonParser::number()
 {
-    JsonNode node {JsonNode::Kind::Number, {offset_, offset_}, false, 0, {}, {}, {}};
-    skip('-');
-    const int first = offset_;
+    JsonNode node = begin(JsonNode::Kind::Number);
+    scanner_.skip('-');
+    const int first = scanner_.offset();
     skipDigits();
-    const bool hasZeroInFront = offset_ - first > 1 && text_.at(first) == '0';
-    if (skip('.'))
+    const bool hasZeroInFront = scanner_.offset() - first > 1 && text_.at(first) == '0';
+    if (scanner_.skip('.'))
         skipDigits();
-    if (skip('e') || skip('E')) {
-        if (!skip('+'))
-            skip('-');
+    if (scanner_.skip('e') || scanner_.skip('E')) {
+        if (!scanner_.skip('+'))
+            scanner_.skip('-');
         skipDigits();
     }
-    node.range.end = offset_;
+    node.range.end = scanner_.offset();
     bool isNumber = false;
-    node.number = text_.mid(node.range.begin, offset_ - node.range.begin).toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(node.number) || isWordCharacter(current()))
-        stop(node.range, QStringLiteral("this is no number"));
+    node.number = scanner_.since(node.range.begin).toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(node.number) || isWordCharacter(scanner_.current()))
+        scanner_.stop(node.range, QStringLiteral("this is no number"));
     if (hasZeroInFront)
-        note(Rule::Syntax, node.range, QStringLiteral("a number must not begin with 0"));
+        scanner_.note(Rule::Syntax, node.range, QStringLiteral("a number must not begin with 0"));
     return node;
 }
 
 void JsonParser::skipDigits()
 {
-    if (!isDigit(current()))
-        stopHere(QStringLiteral("a digit"));
-    while (isDigit(current()))
-        ++offset_;
+    if (!isDigit(scanner_.current()))
+        scanner_.stopHere(QStringLiteral("a digit"));
+    while (isDigit(scanner_.current()))
+        scanner_.advance();
 }
 
 JsonNode JsonParser::word()
 {
-    JsonNode node;
-    node.range.begin = offset_;
-    while (isWordCharacter(current()))
-        ++offset_;
-    node.range.end = offset_;
-    const QByteArray word = text_.mid(node.range.begin, offset_ - node.range.begin);
+    JsonNode node = begin(JsonNode::Kind::Null);
+    while (isWordCharacter(scanner_.current()))
+        scanner_.advance();
+    node.range.end = scanner_.offset();
+    const QByteArray word = scanner_.since(node.range.begin);
     if (word == "true" || word == "false") {
         node.kind = JsonNode::Kind::Boolean;
         node.boolean = word == "true";
     } else if (word != "null") {
-        offset_ = node.range.begin;
-        stopHere(QStringLiteral("a value"));
+        scanner_.goTo(node.range.begin);
+        scanner_.stopHere(QStringLiteral("a value"));
     }
     return node;
 }
@@ -294,76 +236,10 @@ void JsonParser::checkNames(JsonNode& object)
         const JsonMember& last = *members[i];
         members[i - 1]->isReplaced = members[i - 1]->name == last.name;
         if (members[i - 1]->isReplaced)
-            note(Rule::DuplicateKey, last.nameRange,
-                 QStringLiteral("\"%1\" is there twice; only the last one counts")
-                     .arg(QString::fromStdString(last.name)));
+            scanner_.note(Rule::DuplicateKey, last.nameRange,
+                          QStringLiteral("\"%1\" is there twice; only the last one counts")
+                              .arg(QString::fromStdString(last.name)));
     }
-}
-
-// Comments and names count, too: editors and parsers disagree about such files.
-void JsonParser::checkUtf8()
-{
-    for (int i = 0; i < text_.size();) {
-        const auto lead = static_cast<unsigned char>(text_.at(i));
-        if (lead < 0x80) {
-            ++i;
-            continue;
-        }
-        const int length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-        const QByteArray bytes = text_.mid(i, length);
-        if (bytes.size() != length || QString::fromUtf8(bytes).toUtf8() != bytes
-            || QString::fromUtf8(bytes).contains(QChar::ReplacementCharacter)
-                != (bytes == "\xEF\xBF\xBD")) {
-            note(Rule::InvalidUtf8, {i, i + 1},
-                 QStringLiteral("the byte 0x%1 is not UTF-8; save the file as UTF-8")
-                     .arg(static_cast<unsigned>(lead), 2, 16, QLatin1Char('0')));
-            return;
-        }
-        i += length;
-    }
-}
-
-void JsonParser::skipBlanksAndComments()
-{
-    static const QByteArray blanks = " \t\r\n";
-    for (;;) {
-        while (!atEnd() && blanks.contains(current()))
-            ++offset_;
-        const QByteArray start = current() == '/' ? text_.mid(offset_, 2) : QByteArray();
-        const bool isBlock = start == "/*";
-        if (!isBlock && start != "//")
-            return;
-        const int closing = text_.indexOf(isBlock ? "*/" : "\n", offset_ + 2);
-        if (closing < 0 && isBlock)
-            stop({offset_, offset_ + 2}, QStringLiteral("this comment does not end"));
-        offset_ = closing < 0 ? text_.size() : closing + (isBlock ? 2 : 1);
-    }
-}
-
-bool JsonParser::skip(char c)
-{
-    if (atEnd() || current() != c)
-        return false;
-    ++offset_;
-    return true;
-}
-
-void JsonParser::note(Rule rule, TextRange range, const QString& message)
-{
-    findings_.push_back({rule, range, {}, message, {}, {}, {}});
-}
-
-void JsonParser::stop(TextRange range, const QString& message)
-{
-    note(Rule::Syntax, range, message);
-    throw Stop();
-}
-
-void JsonParser::stopHere(const QString& needed)
-{
-    if (atEnd())
-        stop({offset_, offset_}, QStringLiteral("the text ends, but %1 is needed").arg(needed));
-    stop({offset_, offset_ + 1}, QStringLiteral("%1 is needed here").arg(needed));
 }
 
 } // namespace plix::tool

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "check/Finding.h"
 #include "check/JsonNode.h"
+#include "check/JsonScanner.h"
 
 #include <QByteArray>
 
 #include <optional>
-#include <string>
 
 namespace plix::tool {
 
@@ -23,8 +22,7 @@ public:
     std::optional<JsonNode> parse();
 
 private:
-    struct Stop { }; // thrown at an error that makes the rest unreadable
-
+    void checkUtf8();
     JsonNode value();
     JsonNode object();
     JsonNode array();
@@ -33,30 +31,18 @@ private:
     JsonNode word();
     JsonMember member();
 
+    JsonNode begin(JsonNode::Kind kind) const;
+    // Into an object or array at its bracket, and out of it behind the other one.
+    void enter();
+    void leave(JsonNode& node);
     // After a value: whether another one follows before `closing`, which is skipped.
     bool nextFollows(char closing);
     bool startsValue() const;
-    void checkNames(JsonNode& object);
-    void checkUtf8();
-
-    std::string stringText();
-    void escape(std::string& text);
-    char32_t unicodeEscape();
-    std::optional<char32_t> hexDigits();
     void skipDigits();
-
-    void skipBlanksAndComments();
-    char current() const { return atEnd() ? '\0' : text_.at(offset_); }
-    bool atEnd() const { return offset_ >= text_.size(); }
-    bool skip(char c);
-
-    void note(Rule rule, TextRange range, const QString& message);
-    [[noreturn]] void stop(TextRange range, const QString& message);
-    [[noreturn]] void stopHere(const QString& needed);
+    void checkNames(JsonNode& object);
 
     const QByteArray& text_;
-    Findings& findings_;
-    int offset_ = 0;
+    JsonScanner scanner_;
     int depth_ = 0;
 };
 

@@ -2,14 +2,14 @@
 
 #include "check/Finding.h"
 #include "check/JsonNode.h"
+#include "check/Losses.h"
 
 #include "model/format/PlixFormat.h"
 
 #include <QByteArray>
-#include <QStringList>
+#include <QString>
 
 #include <cstddef>
-#include <map>
 #include <optional>
 #include <span>
 #include <vector>
@@ -32,11 +32,7 @@ private:
     using Failure = std::optional<std::size_t>;
     using Keys = std::span<const PlixFormatKey>;
 
-    // What a finding costs.
-    struct Loss {
-        int count = 0;
-        QStringList names; // the most important ones first
-    };
+    class Sequence;
 
     // A member, and what the format says about it.
     struct Entry {
@@ -56,21 +52,23 @@ private:
     void readComponent(const JsonNode& node, const QString& path);
     void readBox(const JsonNode& node, const PlixFormatComponent& format, const QString& path);
 
+    Failure countItem(const JsonNode& item, const QString& path);
+    Failure checkNesting(const JsonNode& box, const QString& path);
     Failure checkKind(const PlixFormatKey& key, const JsonNode& value, const QString& path);
     void checkConversion(const PlixFormatKey& key, const JsonNode& value, const QString& path);
     std::size_t fail(Rule rule, const JsonNode& value, const QString& path, const QString& message);
-    void lose(const Failure& failure, const QString& name, bool isImportant);
-    void describeLosses(std::size_t index);
     QString found(const JsonNode& value) const;
 
     const QByteArray& text_;
     Findings& findings_;
     Findings logged_;
     std::vector<std::size_t> loggedIndexes_;
-    std::map<std::size_t, Loss> losses_;
+    Losses losses_;
     // In what is lost, the reader finds nothing.
     int lost_ = 0;
     int nestedBoxes_ = 0;
+    int items_ = 0;
+    Failure tooManyItems_;
 };
 
 } // namespace plix::tool

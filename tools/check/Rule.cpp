@@ -27,6 +27,8 @@ constexpr std::array<RuleDescription, kRuleCount> kRules {
     error(Rule::InvalidUtf8, "invalid-utf8", "Bytes are not UTF-8"),
     error(Rule::NotACard, "not-a-card", "The JSON is not a card"),
     error(Rule::WrongKind, "wrong-kind", "A value is of the wrong kind"),
+    error(Rule::TooLarge, "too-large", "The JSON has too many bytes"),
+    error(Rule::TooManyItems, "too-many-items", "The card has too many items"),
     warning(Rule::ConvertedKind, "converted-kind", "A value of another kind is converted"),
     warning(Rule::UnknownKey, "unknown-key", "A key is unknown"),
     warning(Rule::UnknownType, "unknown-type", "A \"type\" is unknown"),

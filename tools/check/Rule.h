@@ -19,6 +19,8 @@ enum class Rule {
     InvalidUtf8,
     NotACard,
     WrongKind,
+    TooLarge,
+    TooManyItems,
     // Warnings: something has another effect than its author may think.
     ConvertedKind,
     UnknownKey,

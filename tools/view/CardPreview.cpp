@@ -1,35 +1,16 @@
 #include "view/CardPreview.h"
 
 #include "CardFile.h"
-#include "ToolError.h"
+#include "check/CardText.h"
 #include "check/CheckOptions.h"
 #include "check/LookCheck.h"
 #include "check/TextCheck.h"
 #include "view/PictureSource.h"
 #include "view/ViewFonts.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace plix::tool {
-namespace {
-
-// Why the text is no card; empty if it is one.
-QString failureOf(const QByteArray& json, const Findings& findings)
-{
-    try {
-        const CardFile file(QString(), json);
-        return {};
-    } catch (const ToolError& error) {
-        const auto found =
-            std::find_if(findings.begin(), findings.end(), [](const Finding& finding) {
-                return description(finding.rule).severity == Severity::Error;
-            });
-        return found == findings.end() ? error.message : found->message;
-    }
-}
-
-} // namespace
 
 // The card that is shown, with its text and what was read of it.
 struct CardPreview::Shown {
@@ -113,7 +94,8 @@ void CardPreview::refresh()
     TextCheck check = checkText(text_);
     textFindings_ = std::move(check.findings);
     findings_ = textFindings_;
-    failure_ = failureOf(text_, textFindings_);
+    const Finding* const refusal = findRefusal(textFindings_);
+    failure_ = refusal ? refusal->message : QString();
     if (failure_.isEmpty() && check.card)
         build(std::move(*check.card));
     Q_EMIT checked();

@@ -52,8 +52,13 @@ std::vector<Section> sections()
     return sections;
 }
 
-QByteArray toBytes(const QString& card)
+// Writes out what stands in the document for something that it cannot contain.
+QByteArray toBytes(QString card)
 {
+    static const QRegularExpression repeated(QStringLiteral("⟨(\\d+) times (.*?)⟩"));
+    const auto match = repeated.match(card);
+    if (match.hasMatch())
+        card.replace(match.captured(0), match.captured(2).repeated(match.captured(1).toInt()));
     return card.toUtf8().replace("⟨E9⟩", "\xE9");
 }
 
