@@ -76,6 +76,26 @@ INSTANTIATE_TEST_SUITE_P(
                          {"type": "text", "text": "a", "position": "absolute",
                           "offsetEnd": "9px"}]})",
                      {}},
+        NoEffectRow {"EndBesideStart",
+                     R"({"type": "box", "layout": "vertical", "paddingAll": "0px", "contents": [
+                         {"type": "text", "text": "a", "position": "absolute",
+                          "offsetStart": "9px", "offsetEnd": "9px"}]})",
+                     {"body.contents[0].offsetEnd"}},
+        NoEffectRow {"EndBesideAStartOfNothing",
+                     R"({"type": "box", "layout": "vertical", "paddingAll": "0px", "contents": [
+                         {"type": "text", "text": "a", "position": "absolute",
+                          "offsetStart": "0px", "offsetEnd": "9px"}]})",
+                     {}},
+        NoEffectRow {"BottomBesideTop",
+                     R"({"type": "box", "layout": "vertical", "paddingAll": "0px", "contents": [
+                         {"type": "box", "layout": "vertical", "position": "absolute",
+                          "height": "20px", "offsetTop": "9px", "offsetBottom": "9px"}]})",
+                     {"body.contents[0].offsetBottom"}},
+        NoEffectRow {"BottomOfAStretchedBox",
+                     R"({"type": "box", "layout": "vertical", "paddingAll": "0px", "contents": [
+                         {"type": "box", "layout": "vertical", "position": "absolute",
+                          "offsetTop": "9px", "offsetBottom": "9px"}]})",
+                     {}},
         NoEffectRow {"GravityOfAnAbsoluteText",
                      R"({"type": "box", "layout": "vertical", "contents": [
                          {"type": "text", "text": "a", "position": "absolute",
