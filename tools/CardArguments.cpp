@@ -12,17 +12,17 @@
 namespace plix::tool {
 namespace {
 
-constexpr QLatin1String kDpi("dpi");
-constexpr QLatin1String kImages("images");
-constexpr QLatin1String kLanguage("lang");
-constexpr QLatin1String kFrom("from");
-constexpr QLatin1String kHeight("height");
-constexpr QLatin1String kHighlight("highlight");
-constexpr QLatin1String kBackground("background");
-constexpr QLatin1String kMarkup("markup");
-constexpr QLatin1String kNoMobileCheck("no-mobile-check");
-constexpr QLatin1String kWrapMode("wrap-mode");
-constexpr QLatin1String kText("text");
+const QLatin1String kDpi("dpi");
+const QLatin1String kImages("images");
+const QLatin1String kLanguage("lang");
+const QLatin1String kFrom("from");
+const QLatin1String kHeight("height");
+const QLatin1String kHighlight("highlight");
+const QLatin1String kBackground("background");
+const QLatin1String kMarkup("markup");
+const QLatin1String kNoMobileCheck("no-mobile-check");
+const QLatin1String kWrapMode("wrap-mode");
+const QLatin1String kText("text");
 
 struct OptionRow {
     QLatin1String name;
@@ -30,7 +30,7 @@ struct OptionRow {
     const char* text;
 };
 
-constexpr std::array kOptions = std::to_array<OptionRow>({
+const std::array kOptions = std::to_array<OptionRow>({
     {kDpi, "F",
      "Device pixels per logical pixel that images are\n"
      "scaled for, 0.01 to 16 (default: that of --scale,\n"

@@ -8,7 +8,7 @@
 namespace plix::tool {
 namespace {
 
-constexpr QLatin1String kScaleOption("scale");
+const QLatin1String kScaleOption("scale");
 
 struct DrawCommand {
     Command command;
@@ -24,7 +24,7 @@ struct DrawCommand {
     QLatin1String examples;
 };
 
-constexpr std::array kCommands {
+const std::array kCommands {
     DrawCommand {
         Command::Render, QLatin1String("render"), QLatin1String("CARD.json"),
         QLatin1String("The card message; it may contain // and /* */ comments."),

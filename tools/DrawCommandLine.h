@@ -8,7 +8,7 @@
 
 namespace plix::tool {
 
-inline constexpr QLatin1String
+inline const QLatin1String
     kDrawExitCodes("\nExit codes:\n"
                    "  0  done, with or without warnings\n"
                    "  1  a file is not a card: not a JSON object of the \"type\" \"bubble\"\n"

@@ -9,10 +9,10 @@
 namespace plix::tool {
 namespace {
 
-constexpr QLatin1String kFormatOption("format");
-constexpr QLatin1String kAllowOption("allow");
-constexpr QLatin1String kStrictOption("strict");
-constexpr QLatin1String kNoLookOption("no-look");
+const QLatin1String kFormatOption("format");
+const QLatin1String kAllowOption("allow");
+const QLatin1String kStrictOption("strict");
+const QLatin1String kNoLookOption("no-look");
 
 const QString kPhoneWording = QStringLiteral("chat_room_check_on_mobile");
 
@@ -27,7 +27,7 @@ constexpr std::array kFormats = std::to_array<FormatName>({
     {"sarif", CheckFormat::Sarif},
 });
 
-constexpr QLatin1String
+const QLatin1String
     kText("Finds what is wrong with cards: errors (a part of the card is lost), warnings\n"
           "(something has no effect, or another one than it seems), and what looks wrong\n"
           "in the card as it is drawn. Each finding has its place, and a code, which\n"
@@ -36,15 +36,15 @@ constexpr QLatin1String
           "--lang and --height may be given several times: each card is drawn for each of\n"
           "them.");
 
-constexpr QLatin1String kExamples("  plix check receipt.json\n"
-                                  "  plix check cards --strict --allow low-contrast\n"
-                                  "  plix check cards --format sarif > cards.sarif\n"
-                                  "  plix check receipt.json --lang en --lang ko --height 400\n");
+const QLatin1String kExamples("  plix check receipt.json\n"
+                              "  plix check cards --strict --allow low-contrast\n"
+                              "  plix check cards --format sarif > cards.sarif\n"
+                              "  plix check receipt.json --lang en --lang ko --height 400\n");
 
-constexpr QLatin1String kExitCodes("\nExit codes:\n"
-                                   "  0  no errors; with --strict: no findings at all\n"
-                                   "  1  errors; with --strict: any findings\n"
-                                   "  2  wrong usage, or a file that cannot be read");
+const QLatin1String kExitCodes("\nExit codes:\n"
+                               "  0  no errors; with --strict: no findings at all\n"
+                               "  1  errors; with --strict: any findings\n"
+                               "  2  wrong usage, or a file that cannot be read");
 
 void addArguments(CommandParser& parser)
 {

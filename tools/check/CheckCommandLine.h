@@ -6,9 +6,9 @@
 
 namespace plix::tool {
 
-inline constexpr QLatin1String kCheckCommand("check");
+inline const QLatin1String kCheckCommand("check");
 // Checks the files whose names come from standard input. Not for users.
-inline constexpr QLatin1String kWorkerOption("worker");
+inline const QLatin1String kWorkerOption("worker");
 
 // "plix check".
 ToolCommand checkCommand();

@@ -47,7 +47,7 @@ struct FlagWord {
     bool flag;
 };
 
-constexpr std::array kFlagWords = std::to_array<FlagWord>({
+const std::array kFlagWords = std::to_array<FlagWord>({
     {QLatin1String("true"), true},
     {QLatin1String("yes"), true},
     {QLatin1String("on"), true},

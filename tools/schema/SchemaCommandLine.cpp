@@ -5,13 +5,13 @@
 namespace plix::tool {
 namespace {
 
-constexpr QLatin1String
+const QLatin1String
     kText("Writes the card format as a JSON Schema (2020-12). Editors that know it complete\n"
           "keys and words, and underline what is wrong. docs/cards.md tells how.");
 
-constexpr QLatin1String kExitCodes("\nExit codes:\n"
-                                   "  0  done\n"
-                                   "  2  wrong usage, or a file that cannot be written");
+const QLatin1String kExitCodes("\nExit codes:\n"
+                               "  0  done\n"
+                               "  2  wrong usage, or a file that cannot be written");
 
 void addArguments(CommandParser& parser)
 {

@@ -6,13 +6,13 @@
 namespace plix::tool {
 namespace {
 
-constexpr QLatin1String
+const QLatin1String
     kText("Opens a window that shows a card beside its JSON, live as it is written or as\n"
           "another program changes the file, with its problems, its items, and controls\n"
           "for the settings below. It needs a display. The settings are remembered.");
 
-constexpr QLatin1String kExamples("  plix view receipt.json --images images\n"
-                                  "  plix view examples/cards --lang ko\n");
+const QLatin1String kExamples("  plix view receipt.json --images images\n"
+                              "  plix view examples/cards --lang ko\n");
 
 void addArguments(CommandParser& parser)
 {

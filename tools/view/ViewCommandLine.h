@@ -6,7 +6,7 @@
 
 namespace plix::tool {
 
-inline constexpr QLatin1String kViewCommand("view");
+inline const QLatin1String kViewCommand("view");
 
 // "plix view".
 ToolCommand viewCommand();
