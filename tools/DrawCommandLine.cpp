@@ -59,7 +59,7 @@ const std::array kCommands {
                       "  plix gallery examples/cards -o gallery-ko --lang ko --scale 1\n")},
 };
 
-void addArguments(const DrawCommand& command, CommandParser& parser)
+void addDrawArguments(const DrawCommand& command, CommandParser& parser)
 {
     parser.addInput(command.input, command.inputText);
     parser.addOutput(command.output, command.outputText);
@@ -70,7 +70,7 @@ void addArguments(const DrawCommand& command, CommandParser& parser)
     addCardOptions(parser);
 }
 
-Options readArguments(const DrawCommand& command, const CommandParser& parser)
+Options readDrawArguments(const DrawCommand& command, const CommandParser& parser)
 {
     Options options;
     options.command = command.command;
@@ -92,8 +92,10 @@ std::vector<ToolCommand> drawCommands()
     for (const DrawCommand& command : kCommands) {
         commands.push_back(
             {command.name, command.summary, command.text, command.examples, kDrawExitCodes,
-             [&command](CommandParser& parser) { addArguments(command, parser); },
-             [&command](const CommandParser& parser) { return readArguments(command, parser); }});
+             [&command](CommandParser& parser) { addDrawArguments(command, parser); },
+             [&command](const CommandParser& parser) {
+                 return readDrawArguments(command, parser);
+             }});
     }
     return commands;
 }

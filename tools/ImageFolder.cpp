@@ -12,7 +12,7 @@ namespace plix::tool {
 namespace {
 
 // Without line ends and without control sequences for terminals.
-QString printable(const QString& url)
+QString printableUrl(const QString& url)
 {
     static const QByteArray kept = " !\"#$%&'()*+,/:;<=>?@[\\]^`{|}";
     return QString::fromLatin1(QUrl::toPercentEncoding(url, kept));
@@ -42,7 +42,7 @@ QString ImageFolder::find(const QString& url)
     if (missing_.insert(url).second) {
         console::warn(
             cardPath_,
-            QStringLiteral("no image in %1 for \"%2\"").arg(folder_.path(), printable(url)));
+            QStringLiteral("no image in %1 for \"%2\"").arg(folder_.path(), printableUrl(url)));
     }
     return {};
 }

@@ -28,25 +28,25 @@ constexpr std::array kFormats = std::to_array<FormatName>({
 });
 
 const QLatin1String
-    kText("Finds what is wrong with cards: errors (a part of the card is lost), warnings\n"
-          "(something has no effect, or another one than it seems), and what looks wrong\n"
-          "in the card as it is drawn. Each finding has its place, and a code, which\n"
-          "docs/check.md explains. Looks are checked once a card has no errors.\n"
-          "\n"
-          "--lang and --height may be given several times: each card is drawn for each of\n"
-          "them.");
+    kCheckText("Finds what is wrong with cards: errors (a part of the card is lost), warnings\n"
+               "(something has no effect, or another one than it seems), and what looks wrong\n"
+               "in the card as it is drawn. Each finding has its place, and a code, which\n"
+               "docs/check.md explains. Looks are checked once a card has no errors.\n"
+               "\n"
+               "--lang and --height may be given several times: each card is drawn for each of\n"
+               "them.");
 
-const QLatin1String kExamples("  plix check receipt.json\n"
-                              "  plix check cards --strict --allow low-contrast\n"
-                              "  plix check cards --format sarif > cards.sarif\n"
-                              "  plix check receipt.json --lang en --lang ko --height 400\n");
+const QLatin1String kCheckExamples("  plix check receipt.json\n"
+                                   "  plix check cards --strict --allow low-contrast\n"
+                                   "  plix check cards --format sarif > cards.sarif\n"
+                                   "  plix check receipt.json --lang en --lang ko --height 400\n");
 
-const QLatin1String kExitCodes("\nExit codes:\n"
-                               "  0  no errors; with --strict: no findings at all\n"
-                               "  1  errors; with --strict: any findings\n"
-                               "  2  wrong usage, or a file that cannot be read");
+const QLatin1String kCheckExitCodes("\nExit codes:\n"
+                                    "  0  no errors; with --strict: no findings at all\n"
+                                    "  1  errors; with --strict: any findings\n"
+                                    "  2  wrong usage, or a file that cannot be read");
 
-void addArguments(CommandParser& parser)
+void addCheckArguments(CommandParser& parser)
 {
     parser.addInput(QStringLiteral("CARD.json"),
                     QStringLiteral("Cards, folders with *.json files, or - for standard input."),
@@ -98,7 +98,7 @@ CardOptions readCard(const CommandParser& parser)
     return card;
 }
 
-CheckOptions readArguments(const CommandParser& parser)
+CheckOptions readCheckArguments(const CommandParser& parser)
 {
     CheckOptions options;
     options.isWorker = parser.isSet(kWorkerOption);
@@ -118,10 +118,10 @@ CheckOptions readArguments(const CommandParser& parser)
 
 ToolCommand checkCommand()
 {
-    return {kCheckCommand, QLatin1String("finds what is wrong with cards"),
-            kText,         kExamples,
-            kExitCodes,    &addArguments,
-            &readArguments};
+    return {kCheckCommand,      QLatin1String("finds what is wrong with cards"),
+            kCheckText,         kCheckExamples,
+            kCheckExitCodes,    &addCheckArguments,
+            &readCheckArguments};
 }
 
 } // namespace plix::tool

@@ -11,7 +11,7 @@ namespace plix::tool {
 namespace {
 
 // An editor that is handed more stops to answer.
-constexpr qint64 kMaximumBytes = 8'388'608;
+constexpr qint64 kMaximumCardBytes = 8'388'608;
 // Programs write a file in several steps.
 constexpr int kSettleMilliseconds = 30;
 
@@ -20,7 +20,7 @@ QByteArray readText(const QString& path)
     const QFileInfo file(path);
     if (file.exists() && !file.isFile())
         throw fileError(path, QStringLiteral("This is no file"));
-    if (file.size() > kMaximumBytes)
+    if (file.size() > kMaximumCardBytes)
         throw fileError(path, QStringLiteral("A card has less than 8 MiB"));
     return readCardText(path);
 }

@@ -15,8 +15,8 @@ constexpr double kMinimumZoom = 0.25;
 constexpr double kMaximumZoom = 8;
 
 // The backgrounds of a light and of a dark chat.
-const QColor kLight(0xFF, 0xFF, 0xFF);
-const QColor kDark(0x2B, 0x30, 0x38);
+const QColor kLightChat(0xFF, 0xFF, 0xFF);
+const QColor kDarkChat(0x2B, 0x30, 0x38);
 
 const QColor kOutline(0xE6, 0x00, 0x7A);
 constexpr double kInsideOpacity = 0.05;
@@ -68,7 +68,7 @@ void CardView::setOutlined(QGraphicsObject* item)
 
 void CardView::setDark(bool isDark)
 {
-    setBackgroundBrush(isDark ? kDark : kLight);
+    setBackgroundBrush(isDark ? kDarkChat : kLightChat);
 }
 
 void CardView::setWindowWidth(int width)

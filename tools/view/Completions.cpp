@@ -1,16 +1,13 @@
 #include "view/Completions.h"
 
+#include "FormatText.h"
+
 #include "model/format/PlixFormat.h"
 
 #include <array>
 
 namespace plix::tool {
 namespace {
-
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 std::string asText(const QString& word)
 {

@@ -11,7 +11,7 @@ namespace plix::tool {
 namespace {
 
 // A long session must not fill the memory.
-constexpr int kMaximumRows = 500;
+constexpr int kMaximumEvents = 500;
 
 struct TextField {
     const char* name;
@@ -80,7 +80,7 @@ QTreeWidget* EventPane::addList(const QString& title, const QStringList& columns
 
 void EventPane::addRow(QTreeWidget& list, QTreeWidgetItem* row)
 {
-    if (list.topLevelItemCount() >= kMaximumRows)
+    if (list.topLevelItemCount() >= kMaximumEvents)
         delete list.takeTopLevelItem(0);
     list.addTopLevelItem(row);
     list.scrollToItem(row);

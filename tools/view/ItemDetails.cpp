@@ -1,5 +1,7 @@
 #include "view/ItemDetails.h"
 
+#include "FormatText.h"
+
 #include <QFileInfo>
 #include <QFont>
 #include <QGraphicsObject>
@@ -10,11 +12,6 @@
 
 namespace plix::tool {
 namespace {
-
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 void addRow(QTreeWidgetItem& group, const QString& name, const QString& value)
 {

@@ -13,7 +13,7 @@
 namespace plix::tool {
 namespace {
 
-constexpr int kMaximumBytes = 32 * 1024 * 1024;
+constexpr int kMaximumPictureBytes = 32 * 1024 * 1024;
 constexpr int kMilliseconds = 30'000;
 
 bool isOfTheWeb(const QUrl& url)
@@ -58,7 +58,7 @@ void NetworkDownloads::start(const QString& url, const QString& path)
                          QNetworkRequest::NoLessSafeRedirectPolicy);
     QNetworkReply* const reply = network_.get(request);
     connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 bytes) {
-        if (bytes > kMaximumBytes)
+        if (bytes > kMaximumPictureBytes)
             reply->abort();
     });
     connect(reply, &QNetworkReply::finished, this, [this, reply, url, path] {

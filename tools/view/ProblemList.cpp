@@ -11,7 +11,7 @@ namespace plix::tool {
 namespace {
 
 // More than anybody reads.
-constexpr std::size_t kMaximumRows = 500;
+constexpr std::size_t kMaximumProblems = 500;
 
 QString placeOf(const Finding& finding)
 {
@@ -40,7 +40,7 @@ ProblemList::ProblemList(QWidget* parent)
 void ProblemList::setFindings(const Findings& findings)
 {
     clear();
-    const std::size_t count = std::min(findings.size(), kMaximumRows);
+    const std::size_t count = std::min(findings.size(), kMaximumProblems);
     for (std::size_t i = 0; i < count; ++i) {
         const Finding& finding = findings[i];
         const RuleDescription& rule = description(finding.rule);

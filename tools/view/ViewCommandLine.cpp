@@ -7,14 +7,14 @@ namespace plix::tool {
 namespace {
 
 const QLatin1String
-    kText("Opens a window that shows a card beside its JSON, live as it is written or as\n"
-          "another program changes the file, with its problems, its items, and controls\n"
-          "for the settings below. It needs a display. The settings are remembered.");
+    kViewText("Opens a window that shows a card beside its JSON, live as it is written or as\n"
+              "another program changes the file, with its problems, its items, and controls\n"
+              "for the settings below. It needs a display. The settings are remembered.");
 
-const QLatin1String kExamples("  plix view receipt.json --images images\n"
-                              "  plix view examples/cards --lang ko\n");
+const QLatin1String kViewExamples("  plix view receipt.json --images images\n"
+                                  "  plix view examples/cards --lang ko\n");
 
-void addArguments(CommandParser& parser)
+void addViewArguments(CommandParser& parser)
 {
     parser.addInput(QStringLiteral("CARD"),
                     QStringLiteral("A card, or a folder of cards (default: a new card)."),
@@ -22,7 +22,7 @@ void addArguments(CommandParser& parser)
     addCardOptions(parser);
 }
 
-ViewOptions readArguments(const CommandParser& parser)
+ViewOptions readViewArguments(const CommandParser& parser)
 {
     return {parser.input(), readCardOptions(parser)};
 }
@@ -31,10 +31,10 @@ ViewOptions readArguments(const CommandParser& parser)
 
 ToolCommand viewCommand()
 {
-    return {kViewCommand,    QLatin1String("opens a window to write cards in"),
-            kText,           kExamples,
-            QLatin1String(), &addArguments,
-            &readArguments};
+    return {kViewCommand,      QLatin1String("opens a window to write cards in"),
+            kViewText,         kViewExamples,
+            QLatin1String(),   &addViewArguments,
+            &readViewArguments};
 }
 
 } // namespace plix::tool

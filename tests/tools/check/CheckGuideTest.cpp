@@ -18,7 +18,7 @@
 namespace plix::test {
 namespace {
 
-QString guide()
+QString guideText()
 {
     QFile file(QStringLiteral(PLIX_CHECK_GUIDE));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
@@ -37,7 +37,7 @@ std::vector<Section> sections()
                                      QRegularExpression::MultilineOption);
     const QRegularExpression card(QStringLiteral("```json\n(.*?)```"),
                                   QRegularExpression::DotMatchesEverythingOption);
-    const QString text = guide();
+    const QString text = guideText();
     auto match = heading.match(text);
     while (match.hasMatch()) {
         const auto next = heading.match(text, match.capturedEnd());

@@ -5,7 +5,8 @@
 namespace plix::test {
 namespace {
 
-using namespace tool;
+using tool::Report;
+using tool::WorkerPool;
 
 const QString kCrash = QStringLiteral("The check of this card crashed");
 

@@ -142,7 +142,7 @@ std::vector<SameValues> wrongValues(const PlixFormatKey& key)
     return {};
 }
 
-template <typename Function> void forEachKey(const Function& function)
+template <typename Function> void forEachPlacedKey(const Function& function)
 {
     for (const Place& place : places()) {
         for (const PlixFormatKey& key : place.card.format->keys) {
@@ -154,7 +154,7 @@ template <typename Function> void forEachKey(const Function& function)
 
 TEST(GuideClaims, WrongValuesCountAsTheTableSays)
 {
-    forEachKey([](const Place& place, const PlixFormatKey& key) {
+    forEachPlacedKey([](const Place& place, const PlixFormatKey& key) {
         for (const SameValues& row : wrongValues(key)) {
             // Only a filler of 0 has a length of its own.
             if (place.card.format->type == "filler" && row.same == "0")
@@ -177,7 +177,7 @@ TEST(GuideClaims, AnUnknownStyleOfAButtonIsABlackLabel)
 
 TEST(GuideClaims, AMissingKeyIsItsDefault)
 {
-    forEachKey([](const Place& place, const PlixFormatKey& key) {
+    forEachPlacedKey([](const Place& place, const PlixFormatKey& key) {
         if (key.fallback.empty())
             return;
         EXPECT_TRUE(draw(cardOf(place, key.name, std::string(key.fallback)))
