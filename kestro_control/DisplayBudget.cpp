@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace kestro {
 
@@ -15,7 +16,7 @@ namespace {
 
 constexpr uint kZeroWidthJoiner = 0x200D;
 
-// Texts up to this length are fast to lay out, whatever their characters are.
+// In texts up to this length, no word can be too long.
 constexpr int kHarmlessLength = limits::kWordCost / (limits::kCharacterCost + limits::kRunCost);
 
 struct Range {
@@ -65,6 +66,36 @@ QChar::Script ScriptOf(uint character)
                                                                                 : script;
 }
 
+bool SplitsLineEnd(const QString& text, int at)
+{
+    return at > 0 && at < text.size() && text.at(at - 1) == QLatin1Char('\r')
+        && text.at(at) == QLatin1Char('\n');
+}
+
+// Where the words of a text end, which is where a line can break.
+class WordEnds {
+public:
+    explicit WordEnds(const QString& text)
+        : finder_(QTextBoundaryFinder::Line, text)
+        , next_(finder_.toNextBoundary())
+    {
+        WorkSoFar().searchedCharacters += text.size();
+    }
+
+    // To be called with ascending positions.
+    bool IsAt(int position)
+    {
+        if (position != next_)
+            return false;
+        next_ = finder_.toNextBoundary();
+        return true;
+    }
+
+private:
+    QTextBoundaryFinder finder_;
+    int next_;
+};
+
 } // namespace
 
 DisplayBudget::Direction DisplayBudget::DirectionOf(uint character)
@@ -96,49 +127,58 @@ DisplayBudget::Direction DisplayBudget::DirectionOf(uint character)
 int DisplayBudget::Spend(const QString& text)
 {
     used_ += limits::kRunCost;
-    if (used_ + text.size() <= kHarmlessLength) {
-        used_ += text.size();
-        usedByWord_ += text.size();
-        return text.size();
-    }
-
-    // Cut first: in Thai and the like, the time of the finder grows with the square of the
-    // length. The words at the cut are longer than what may be shown of one.
-    const int shown = std::max(0, limits::kTextCost - used_);
-    const QString searched = text.left(shown + limits::kWordCost);
-    WorkSoFar().searchedCharacters += searched.size();
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, searched);
-    int wordEnd = finder.toNextBoundary();
+    length_ += limits::kRunCost + text.size();
+    std::optional<WordEnds> words;
+    if (length_ > kHarmlessLength)
+        words.emplace(Searched(text));
     int at = 0;
     while (at < text.size()) {
-        if (at == wordEnd) {
+        if (words && words->IsAt(at))
             usedByWord_ = 0;
-            wordEnd = finder.toNextBoundary();
-        }
         const uint character = CodePointAt(text, at);
         const int length = QChar::requiresSurrogates(character) ? 2 : 1;
-        const int cost = CostOfNext(character) + length - 1;
-        if (used_ + cost > limits::kTextCost || usedByWord_ + cost > limits::kWordCost)
+        const Price price = PriceOfNext(character);
+        if (!Has(price) || (words && usedByWord_ + price.inText > limits::kWordCost))
             break;
-        used_ += cost;
-        usedByWord_ += cost;
+        used_ += price.inText;
+        pictures_ += price.ofPictures;
+        usedByWord_ += words ? price.inText : length;
         at += length;
     }
-    if (at == text.size() && text.back().isSpace())
+    if (at == text.size() && !text.isEmpty() && text.back().isSpace())
         usedByWord_ = 0;
-    const bool splitsLineEnd = at > 0 && at < text.size() && text.at(at - 1) == QLatin1Char('\r')
-        && text.at(at) == QLatin1Char('\n');
-    return splitsLineEnd ? at - 1 : at;
+    return SplitsLineEnd(text, at) ? at - 1 : at;
 }
 
-int DisplayBudget::CostOfNext(uint character)
+// Cut first: in Thai and the like, the time of the finder grows with the square of the
+// length. The words at the cut are longer than what may be shown of one.
+QString DisplayBudget::Searched(const QString& text) const
+{
+    const int shown = std::max(0, std::min(maximum_, limits::kTextCost) - used_);
+    return text.left(shown + limits::kWordCost);
+}
+
+bool DisplayBudget::Has(const Price& price)
+{
+    isExceeded_ = isExceeded_ || Cost() + price.inText + price.ofPictures > maximum_;
+    return !isExceeded_ && used_ + price.inText <= limits::kTextCost;
+}
+
+DisplayBudget::Price DisplayBudget::PriceOfNext(uint character)
 {
     marksInARow_ = IsMark(character) ? marksInARow_ + 1 : 0;
-    if (character == kZeroWidthJoiner)
-        return limits::kCharacterCost + limits::kJoinerCost;
-    const bool isRun =
-        StartsRun(character) || marksInARow_ > limits::kMarksOnALetter || EndsLine(character);
-    return limits::kCharacterCost + (isRun ? limits::kRunCost : 0) + PictureCost(character);
+    Price price;
+    price.inText = limits::kCharacterCost * (QChar::requiresSurrogates(character) ? 2 : 1);
+    if (character == kZeroWidthJoiner) {
+        price.inText += limits::kJoinerCost;
+        return price;
+    }
+    if (StartsRun(character) || marksInARow_ > limits::kMarksOnALetter || EndsLine(character))
+        price.inText += limits::kRunCost;
+    const int picture = PictureCost(character);
+    price.inText += picture;
+    price.ofPictures = picture * (limits::kPicturesInSum - 1);
+    return price;
 }
 
 // Whether the text engine starts a new run of text at the character, because it

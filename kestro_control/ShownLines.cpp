@@ -228,7 +228,7 @@ private:
 
 ShownLines::ShownLines(const LaidOutText& text, int maxCount, bool elide, bool hasMoreText)
 {
-    if (!text.IsEmpty())
+    if (!text.IsEmpty() || hasMoreText)
         Builder(text, maxCount, elide, hasMoreText, lines_).AddLines();
 
     const bool hasWidth = text.Width() >= 0;

@@ -200,6 +200,7 @@ public:
     bool readOnly = true;
     bool markupEnabled = false;
     int mentionCount = 0;
+    DisplayBudget budget;
     HighlightWords highlightWords;
     QBrush highlightBrush;
     bool isHighlightValid = true;
@@ -220,7 +221,6 @@ private:
     std::optional<bool> needsSideClip_;
     std::optional<MentionAreas> mentions_;
 
-    DisplayBudget budget_;
     // The text beyond the display limit.
     QString hiddenText_;
     bool hasPictures_ = false;
@@ -256,7 +256,7 @@ void TextItem::Private::InsertText(const QString& inserted, const QTextCharForma
 {
     if (inserted.isEmpty())
         return;
-    const int shown = hiddenText_.isEmpty() ? budget_.Spend(inserted) : 0;
+    const int shown = hiddenText_.isEmpty() ? budget.Spend(inserted) : 0;
     if (shown > 0)
         text.Insert(inserted.left(shown), format);
     if (shown < inserted.size())
@@ -283,7 +283,7 @@ void TextItem::Private::InsertEmoji(const MarkupRun& run, const QTextCharFormat&
     const QString object(QChar::ObjectReplacementCharacter);
     if (picture.isNull())
         InsertText(run.text, format);
-    else if (!hiddenText_.isEmpty() || budget_.Spend(object) == 0)
+    else if (!hiddenText_.isEmpty() || budget.Spend(object) == 0)
         AddHiddenText(run.text);
     else
         InsertPicture(run, format, picture);
@@ -304,7 +304,7 @@ void TextItem::Private::AddHiddenText(const QString& hidden)
 void TextItem::Private::ReplaceText(const QString& newText)
 {
     ForgetSelection();
-    budget_ = DisplayBudget();
+    budget = DisplayBudget(budget.Maximum());
     hiddenText_.clear();
     hasPictures_ = false;
     mentionCount = 0;
@@ -337,7 +337,7 @@ QTextDocument& TextItem::Private::Document()
 
 bool TextItem::Private::IsWithinDisplayLimit(const QString& inserted) const
 {
-    return hiddenText_.isEmpty() && DisplayBudget(budget_).Spend(inserted) == inserted.size();
+    return hiddenText_.isEmpty() && DisplayBudget(budget).Spend(inserted) == inserted.size();
 }
 
 void TextItem::Private::UseApplicationFontFamily()
@@ -714,6 +714,21 @@ void TextItem::SetElide(bool elide)
         return;
     private_->Invalidate();
     private_->elide = elide;
+}
+
+void TextItem::SetMaximumCost(int cost)
+{
+    private_->budget.SetMaximum(cost);
+}
+
+int TextItem::Cost() const
+{
+    return private_->budget.Cost();
+}
+
+bool TextItem::ExceedsMaximumCost() const
+{
+    return private_->budget.IsExceeded();
 }
 
 int TextItem::MentionCount() const

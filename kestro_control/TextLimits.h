@@ -23,6 +23,9 @@ constexpr int kJoinerCost = 40;
 constexpr int kPictographCost = 40;
 // The same for a regional indicator. Two of them are one picture, that of a flag.
 constexpr int kFlagHalfCost = 20;
+// How many times the pictures of emoji count in TextItem::Cost(). In a single text they cost
+// less than their time, so that it may have hundreds of them, as people send.
+constexpr int kPicturesInSum = 5;
 
 // The number of marks on one letter that is usual in living languages. Each further one
 // costs as much as a run.

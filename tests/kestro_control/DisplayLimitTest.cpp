@@ -144,6 +144,108 @@ TEST(DisplayLimit, IsExact)
     }
 }
 
+// ----- A maximum cost
+
+constexpr int kStartOfText = 2 * kestro::limits::kRunCost;
+
+TEST(MaximumCost, IsExact)
+{
+    for (const int length : {50, 5000}) {
+        const QString text = repeated("a ", length);
+        const int cost = kStartOfText + length;
+        EXPECT_EQ(LimitItem(text).Cost(), cost);
+        for (const int more : {-1, 0, 1}) {
+            LimitItem item;
+            item.SetMaximumCost(cost + more);
+            item.InsertRichText(text, true);
+            EXPECT_EQ(displayed(item), length + std::min(more, 0)) << more;
+            EXPECT_EQ(item.Cost(), cost + std::min(more, 0)) << more;
+            EXPECT_EQ(item.ExceedsMaximumCost(), more < 0) << more;
+            EXPECT_EQ(item.toPlainText(), text);
+        }
+    }
+}
+
+struct PriceRow {
+    const char* name;
+    const char* text;
+    int cost;
+
+    friend std::ostream& operator<<(std::ostream& out, const PriceRow& row)
+    {
+        return out << row.name;
+    }
+};
+
+class PriceOfAText : public testing::TestWithParam<PriceRow> { };
+
+TEST_P(PriceOfAText, IsThatOfItsCharacters)
+{
+    using namespace kestro::limits;
+    const QString text = QString::fromUtf8(GetParam().text);
+    EXPECT_EQ(LimitItem(text).Cost(), kRunCost + GetParam().cost);
+    // Long texts are searched for words, and have the same price.
+    EXPECT_EQ(LimitItem(text + repeated("a ", 400)).Cost()
+                  - LimitItem(text + QLatin1Char('a')).Cost(),
+              399);
+}
+
+using namespace kestro::limits;
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, PriceOfAText,
+    testing::Values(PriceRow {"Empty", "", -kRunCost}, PriceRow {"Letters", "ab", kRunCost + 2},
+                    PriceRow {"TwoScripts", "aя", 2 * kRunCost + 2},
+                    PriceRow {"LineEnd", "a\n", 2 * kRunCost + 2},
+                    PriceRow {"Emoji", "😀", 2 + kPicturesInSum* kPictographCost},
+                    PriceRow {"Flag", "\U0001F1E9\U0001F1EA",
+                              4 + 2 * kPicturesInSum* kFlagHalfCost},
+                    PriceRow {"Joiner", "\u200d", 1 + kJoinerCost}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(MaximumCost, LeavesAnEllipsisOfATextThatHasNothingLeft)
+{
+    for (const char* text : {"words", "😀", "two\nlines", "שלום"}) {
+        LimitItem item;
+        item.SetElide(true);
+        item.SetMaximumCost(0);
+        item.InsertRichText(QString::fromUtf8(text), true);
+        LimitItem ellipsis(QStringLiteral("…"));
+        EXPECT_TRUE(item.IsElided());
+        EXPECT_EQ(item.ShownLineCount(), 1);
+        EXPECT_EQ(item.boundingRect().size(), ellipsis.boundingRect().size());
+        EXPECT_EQ(item.NaturalLines().width, ellipsis.NaturalLines().width);
+        EXPECT_EQ(item.toPlainText(), QString::fromUtf8(text));
+        item.SetFixedItemWidth(100);
+        EXPECT_TRUE(item.IsElided());
+        item.HighlightText({QString::fromUtf8(text)}, Qt::yellow);
+        EXPECT_EQ(item.CharacterAt({2, 5}), -1);
+        EXPECT_TRUE(item.CharacterRect(0).isEmpty());
+    }
+}
+
+TEST(MaximumCost, StaysWhenTheTextIsReplaced)
+{
+    LimitItem item;
+    item.SetMaximumCost(kStartOfText + 10);
+    for (int i = 0; i < 2; ++i) {
+        item.setPlainText(repeated("a ", 100));
+        EXPECT_EQ(displayed(item), 10);
+        EXPECT_TRUE(item.ExceedsMaximumCost());
+    }
+    item.setPlainText(QStringLiteral("a"));
+    EXPECT_FALSE(item.ExceedsMaximumCost());
+}
+
+TEST(MaximumCost, DoesNotCountWhatOnlyTheDisplayLimitCuts)
+{
+    LimitItem item;
+    item.SetMaximumCost(kTextCost + 1);
+    item.InsertRichText(repeated("some words ", kMillion), true);
+    EXPECT_FALSE(item.ExceedsMaximumCost());
+    EXPECT_LE(displayed(item), kTextCost);
+}
+
 // Searching all of it would take time that grows with the square of the length.
 TEST(DisplayLimit, SearchesOnlyWhatMayBeShown)
 {

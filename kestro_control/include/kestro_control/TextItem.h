@@ -89,6 +89,10 @@
 //   The rest of the text is kept, but only as plain text. With SetElide(true) an
 //   ellipsis is shown in its place. Real messages are within the limit.
 //
+//   SetMaximumCost() sets a limit for Cost(), for texts that share one. In Cost(), emoji,
+//   pictographs and flags count five times. A text that has nothing left of its maximum
+//   shows the ellipsis only.
+//
 //   Text that is inserted into document() directly has no limit.
 #pragma once
 
@@ -235,6 +239,16 @@ public:
     // and every line that is wider than the fixed width. Off at first: the text
     // is then cut off without one.
     void SetElide(bool elide);
+
+    // The maximum of Cost(). There is none at first. Applies to text that is inserted from
+    // now on.
+    void SetMaximumCost(int cost);
+
+    // What the shown part of the text costs (see "Display limit").
+    int Cost() const;
+
+    // Whether a part of the text is not shown because of SetMaximumCost().
+    bool ExceedsMaximumCost() const;
 
     // ----- Highlight
 
