@@ -103,6 +103,7 @@ void PlixDataMgr::Build()
     sideInset_ = bubble_->GetSizeSpacing();
     bodyBottomInset_ = bubble_->GetFooterSpacing();
     mentionStopsLeft_ = plix::kMaximumMentionStops;
+    textBudget_ = PlixTextBudget();
     PlixBaseUI* root = CreateUIItem(bubble_, nullptr, nullptr);
     if (!root)
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "api/PlixTextBudget.h"
 #include "layout/PlixLink.h"
 
 #include <plix/Plix.h>
@@ -86,6 +87,8 @@ public:
     // limited number of them (plix::kMaximumMentionStops).
     int TakeMentionStops(int wanted);
 
+    PlixTextBudget& TextBudget() { return textBudget_; }
+
     // Events of the graphics items. Each calls the callback that is set when the
     // event happens, and does nothing without one.
     void OnClick(ST_ACTION& action);
@@ -128,6 +131,7 @@ private:
     void* downloadUserData_ = nullptr;
     int from_ = 0;
     int mentionStopsLeft_ = 0;
+    PlixTextBudget textBudget_;
     PlixMentionCallback mentionCallBack_ = nullptr;
     PlixBotMentionCallback botMentionCallBack_ = nullptr;
     void* mentionUserData_ = nullptr;

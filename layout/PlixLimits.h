@@ -24,6 +24,10 @@ constexpr int kMaximumItems = 2500;
 // item. The mouse reaches the other mentions, too.
 constexpr int kMaximumMentionStops = 500;
 
+// The maximum for what all texts and labels of a card cost, as TextItem::Cost(). That is
+// 64,000 letters or 300 emoji, which take a tenth of a second. Our largest example costs 1,500.
+constexpr int kMaximumTextCost = 64'000;
+
 // What is shown of the label of a button, in characters. No button is wide enough to show
 // more, and shaping a very long label would keep the GUI thread busy.
 constexpr int kMaximumLabelLength = 1000;

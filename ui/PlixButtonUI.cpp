@@ -1,5 +1,6 @@
 #include "ui/PlixButtonUI.h"
 
+#include "api/PlixDataMgr.h"
 #include "api/PlixSettings.h"
 #include "layout/PlixKeywordTable.h"
 #include "layout/PlixLimits.h"
@@ -12,6 +13,8 @@
 #include "ui/PlixButtonLine.h"
 #include "ui/PlixCardClip.h"
 #include "ui/text/PlixTextFont.h"
+
+#include <kestro_control/TextCut.h>
 
 #include <QCursor>
 #include <QFontMetrics>
@@ -76,8 +79,7 @@ bool PlixButtonUI::Init()
 void PlixButtonUI::ApplyLabelWidth()
 {
     if (hasLabelWidth_)
-        setWidth(QFontMetrics(font_).horizontalAdvance(label_.left(plix::kMaximumLabelLength))
-                 + kLabelPadding);
+        setWidth(QFontMetrics(font_).horizontalAdvance(shownPart_) + kLabelPadding);
 }
 
 void PlixButtonUI::InitLabel(const PlixDataButton& data)
@@ -88,6 +90,20 @@ void PlixButtonUI::InitLabel(const PlixDataButton& data)
     else if (const std::shared_ptr<ST_ACTION> action = data.GetAction())
         text = plix::LabelOf(*action);
     label_ = WithoutLineBreaks(QString::fromStdString(text));
+    InitShownPart();
+}
+
+void PlixButtonUI::InitShownPart()
+{
+    shownPart_ = label_.left(plix::kMaximumLabelLength);
+    PlixDataMgr* const manager = Manager();
+    if (!manager)
+        return;
+    PlixTextBudget& budget = manager->TextBudget();
+    const kestro::TextCut cut = kestro::CutText(shownPart_, budget.Left());
+    if (cut.length < shownPart_.size())
+        shownPart_ = shownPart_.left(cut.length) + QChar(0x2026);
+    budget.Spend(cut.cost, cut.exceedsMaximum);
 }
 
 void PlixButtonUI::InitMouse()
@@ -151,12 +167,11 @@ void PlixButtonUI::FontChanged()
 
 QString PlixButtonUI::shownLabel() const
 {
-    QString label = label_.left(plix::kMaximumLabelLength);
     const QFontMetrics metrics(font_);
     const double available = size().width() - kLabelPadding;
-    if (metrics.horizontalAdvance(label) <= available)
-        return label;
-    return metrics.elidedText(label, Qt::ElideRight, static_cast<int>(available));
+    if (metrics.horizontalAdvance(shownPart_) <= available)
+        return shownPart_;
+    return metrics.elidedText(shownPart_, Qt::ElideRight, static_cast<int>(available));
 }
 
 double PlixButtonUI::CornerRadius() const

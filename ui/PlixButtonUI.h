@@ -54,6 +54,7 @@ protected:
 
 private:
     void InitLabel(const PlixDataButton& data);
+    void InitShownPart();
     void InitMouse();
     void InitLook(const PlixDataButton& data);
     void InitFont(PlixDataButton& data);
@@ -62,6 +63,8 @@ private:
 
     bool actionUnavailable_ = false;
     QString label_;
+    // What is shown of it, if the button is wide enough.
+    QString shownPart_;
     QPen textPen_ {Qt::black};
     QFont font_;
     // The shown label. Made by the first paint after a change.

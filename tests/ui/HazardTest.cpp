@@ -7,6 +7,8 @@
 #include "layout/PlixLimits.h"
 #include "support/PlixTest.h"
 
+#include <kestro_control/TextItem.h>
+
 #include <QGraphicsScene>
 #include <QImage>
 #include <QPainter>
@@ -23,7 +25,7 @@ struct Count {
     long allowance;
 };
 
-using Counts = std::array<Count, 6>;
+using Counts = std::array<Count, 7>;
 
 void paint(QGraphicsItem& root)
 {
@@ -40,6 +42,16 @@ long itemsOf(QGraphicsItem& root)
     long count = 0;
     forEachItem(root, [&count](QGraphicsItem&) { ++count; });
     return count;
+}
+
+long costOfTexts(QGraphicsItem& root)
+{
+    long cost = 0;
+    forEachItem(root, [&cost](QGraphicsItem& item) {
+        if (const auto* const text = dynamic_cast<const TextItem*>(&item))
+            cost += text->Cost();
+    });
+    return cost;
 }
 
 Counts workOf(const Hazard& hazard, int n)
@@ -59,6 +71,7 @@ Counts workOf(const Hazard& hazard, int n)
     constexpr long kEllipsis = 17'000;
     return {{{"items", itemsOf(*card.root()), 10},
              {"visits", costs.visits(), 50},
+             {"cost of texts", costOfTexts(*card.root()), 0},
              {"measured texts", costs.measureCalls(), 10},
              {"shaped characters", after.shapedCharacters - before.shapedCharacters, kEllipsis},
              {"broken paragraphs", after.lineBreakings - before.lineBreakings, 10},
@@ -93,6 +106,8 @@ TEST_P(HazardWork, IsBoundedInTheLargestCard)
     const Counts counts = workOf(hazard, n);
     EXPECT_LE(counts[0].value, 2 * kMaximumItems + kMaximumMentionStops + 2);
     EXPECT_LE(counts[1].value, 48L * 3 * (kMaximumItems + 2));
+    // The start of a text costs, too, if nothing of it is shown.
+    EXPECT_LE(counts[2].value, kMaximumTextCost + 8L * kMaximumItems);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cards, HazardWork, testing::ValuesIn(hazards()),

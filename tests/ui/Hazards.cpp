@@ -34,6 +34,19 @@ std::function<std::string(int)> lineOfText(const std::string& part)
     return [=](int n) { return bubbleWithBody(box("vertical", text(times(n, part)))); };
 }
 
+// A card of `n` texts in one box, each of so many times this part.
+std::function<std::string(int)> texts(const std::string& part, int parts)
+{
+    return siblings(text(times(parts, part), R"("wrap": true,)"), "vertical");
+}
+
+std::function<std::string(int)> buttons(const std::string& label)
+{
+    return siblings(
+        component("button", R"("action": {"type": "uri", "label": ")" + label + R"("},)"),
+        "vertical");
+}
+
 std::string nestedBoxes(int n)
 {
     std::string card = text("deep", R"("wrap": true,)");
@@ -107,6 +120,12 @@ const std::vector<Hazard>& hazards()
         {"FlagLine", lineOfText("\U0001F1E9\U0001F1EA"), 1000},
         {"JoinedEmoji", wrappedText("👩‍👩‍👧‍👦"), 200},
         {"Emoji", wrappedText("😀"), 4000},
+        {"TextsOfEmoji", texts("🚀", 50), 5},
+        {"TextsOfFlags", texts("\U0001F1E9\U0001F1EA", 50), 5},
+        {"TextsOfOneEmoji", texts("🚀", 1), 100},
+        {"TextsOfWords", texts("some words ", 500), 8},
+        {"LabelsOfEmoji", buttons(times(50, "🚀")), 5},
+        {"LabelsOfWords", buttons(times(90, "some words ")), 20},
         {"AlternatingDirections", wrappedText("aש"), 1000},
         {"ExplicitDirections", wrappedText("\u202e\u2066"), 1000},
         {"Marks", wrappedText("\u0301"), 1000},

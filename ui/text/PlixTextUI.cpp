@@ -94,7 +94,7 @@ bool PlixTextUI::Init()
     wrap_ = data->GetWrap();
     InitAlignment(*data, place);
     InitGravity(*data, place);
-    InsertContent(*data);
+    InsertWithinBudget(*data);
     KeepSides(*data, place);
     InitWidth(*data, place);
     if (data->HasAbsolutePosition())
@@ -158,6 +158,18 @@ void PlixTextUI::InitGravity(const PlixDataText& data, const Place& place)
         YogaLayoutItem::setAlignment(gravity->flag, place.isInRow);
         shareAbove_ = gravity->shareBefore;
     }
+}
+
+void PlixTextUI::InsertWithinBudget(const PlixDataText& data)
+{
+    PlixDataMgr* const manager = Manager();
+    if (!manager) {
+        InsertContent(data);
+        return;
+    }
+    SetMaximumCost(manager->TextBudget().Left());
+    InsertContent(data);
+    manager->TextBudget().Spend(Cost(), ExceedsMaximumCost());
 }
 
 void PlixTextUI::InsertContent(const PlixDataText& data)

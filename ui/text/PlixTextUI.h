@@ -81,6 +81,8 @@ private:
     void InitFont(PlixDataText& data);
     void InitAlignment(const PlixDataText& data, const Place& place);
     void InitGravity(const PlixDataText& data, const Place& place);
+    // Within what the texts of the card may cost together.
+    void InsertWithinBudget(const PlixDataText& data);
     void InsertContent(const PlixDataText& data);
     void InitWidth(const PlixDataText& data, const Place& place);
     void InitLines(const PlixDataText& data);
