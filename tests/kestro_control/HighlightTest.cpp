@@ -71,12 +71,14 @@ TEST(HighlightWords, FindTheSameAsANaiveSearch)
 
 TEST(HighlightWords, HaveAMaximumNumber)
 {
-    QStringList words;
-    for (std::size_t i = 0; i <= kestro::limits::kHighlightWords; ++i)
-        words.append(QStringLiteral("<%1>").arg(i));
-    const kestro::HighlightWords kept(words);
-    EXPECT_FALSE(kept.CoveredRanges(words.at(words.size() - 2)).empty());
-    EXPECT_TRUE(kept.CoveredRanges(words.last()).empty());
+    for (const int more : {-1, 0, 1}) {
+        QStringList words;
+        for (int i = 0; i < kestro::limits::kHighlightWords + more; ++i)
+            words.append(QStringLiteral("<%1>").arg(i));
+        const kestro::HighlightWords kept(words);
+        EXPECT_FALSE(kept.CoveredRanges(words.at(words.size() - 2)).empty()) << more;
+        EXPECT_EQ(kept.CoveredRanges(words.last()).empty(), more > 0) << more;
+    }
 }
 
 TEST(HighlightWords, AreFoundInALongTextOfOneLetter)

@@ -1,6 +1,7 @@
 // Buttons: their label, look, size and position.
 #include "ui/PlixButtonUI.h"
 
+#include "layout/PlixLimits.h"
 #include "support/FontFamilyHost.h"
 #include "support/LayoutNode.h"
 #include "support/Picture.h"
@@ -13,6 +14,7 @@
 #include <QPainter>
 #include <QTextOption>
 
+#include <algorithm>
 #include <cmath>
 #include <ostream>
 
@@ -721,6 +723,16 @@ INSTANTIATE_TEST_SUITE_P(Labels, HostileLabel,
                                          HostileRow {"Embeddings", repeated("\u202E", 300000)},
                                          HostileRow {"Emoji", repeated("\U0001F600", 200000)}),
                          [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Button, ShowsALabelUpToTheMaximumLength)
+{
+    for (const int more : {-1, 0, 1}) {
+        const std::string label(static_cast<std::size_t>(kMaximumLabelLength + more), 'i');
+        const TestCard card(inBox(labelled(label, R"("position": "absolute",)")));
+        EXPECT_EQ(card.ui<PlixButtonUI>({0, 0})->shownLabel().size(),
+                  kMaximumLabelLength + std::min(more, 0));
+    }
+}
 
 TEST_F(Button, ShowsRightToLeftScripts)
 {

@@ -5,6 +5,7 @@
 #include "ui/image/PictureCard.h"
 #include "ui/image/PlixKeptPictures.h"
 #include "ui/image/PlixPictureWork.h"
+#include "ui/image/PlixShownPicture.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -80,6 +81,18 @@ TEST_F(PictureWork, InOnePaintIsLimited)
     const auto half = static_cast<int>(std::sqrt(kMaximumPictureWork / 4));
     EXPECT_EQ(workOfFirstPaint(PictureCard(icons(3, {half - 8, half}))).decodings, 2);
     EXPECT_EQ(workOfFirstPaint(PictureCard(icons(3, {half + 8, half}))).decodings, 1);
+}
+
+TEST_F(PictureWork, IsLimitedExactly)
+{
+    for (const int more : {-1, 0, 1}) {
+        PlixPictureWork first(PlixPictureWork::Limit::OnePaint);
+        first.Add(1000);
+        PlixPictureWork second(PlixPictureWork::Limit::OnePaint);
+        EXPECT_EQ(second.MayStart(kMaximumPictureWork - 1000 + more), more <= 0) << more;
+        EXPECT_EQ(second.IsRefused(), more > 0) << more;
+        deliverEvents();
+    }
 }
 
 TEST_F(PictureWork, ContinuesInFurtherPaintsUntilAllIsShown)
@@ -191,6 +204,56 @@ TEST_F(PictureWork, IsBoundedByWhatOneCardMayKeep)
             EXPECT_EQ(workIn([&] { view.view().viewport()->repaint(); }).decodings, 0);
         }
         EXPECT_EQ(card.at(100, 8 * kPictures + 10), QColor(Qt::black)) << "without a widget";
+    }
+    EXPECT_EQ(PlixKeptPictures::UsedBytes(), 0);
+}
+
+// A picture of so many bytes, a multiple of 4. Nobody writes to it, so it takes no memory.
+QImage pictureOfBytes(int bytes)
+{
+    return QImage(bytes, 1, QImage::Format_Alpha8);
+}
+
+// What an item keeps, as long as it lives.
+struct KeptPicture {
+    KeptPicture(const void* card, int bytes)
+        : isKept(PlixKeptPictures::Insert(item, card, pictureOfBytes(bytes)))
+    {
+    }
+    ~KeptPicture() { PlixKeptPictures::Remove(item); }
+
+    KeptPicture(const KeptPicture&) = delete;
+    KeptPicture& operator=(const KeptPicture&) = delete;
+
+    const PlixShownPicture item;
+    const bool isKept;
+};
+
+TEST_F(PictureWork, IsKeptUpToTheBytesOfACard)
+{
+    constexpr int kFirst = 4000;
+    const int card = 0;
+    for (const int more : {-4, 0, 4}) {
+        const KeptPicture first(&card, kFirst);
+        const KeptPicture second(&card, kMaximumKeptBytesOfCard - kFirst + more);
+        EXPECT_TRUE(first.isKept);
+        EXPECT_EQ(second.isKept, more <= 0) << more;
+    }
+    EXPECT_EQ(PlixKeptPictures::UsedBytes(), 0);
+}
+
+TEST_F(PictureWork, IsKeptUpToTheBytesOfTheProcess)
+{
+    constexpr int kFirst = 4000;
+    const int cards[3] = {};
+    for (const int more : {-4, 0, 4}) {
+        const KeptPicture first(&cards[0], kFirst);
+        const KeptPicture second(&cards[1], kMaximumKeptBytesOfCard);
+        const KeptPicture third(&cards[2],
+                                kMaximumKeptBytes - kMaximumKeptBytesOfCard - kFirst + more);
+        EXPECT_TRUE(third.isKept);
+        EXPECT_EQ(PlixKeptPictures::Find(first.item).isNull(), more > 0) << more;
+        EXPECT_FALSE(PlixKeptPictures::Find(second.item).isNull());
     }
     EXPECT_EQ(PlixKeptPictures::UsedBytes(), 0);
 }
