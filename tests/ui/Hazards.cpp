@@ -122,7 +122,6 @@ const std::vector<Hazard>& hazards()
         {"Emoji", wrappedText("😀"), 4000},
         {"TextsOfEmoji", texts("🚀", 50), 5},
         {"TextsOfFlags", texts("\U0001F1E9\U0001F1EA", 50), 5},
-        {"TextsOfOneEmoji", texts("🚀", 1), 100},
         {"TextsOfWords", texts("some words ", 500), 8},
         {"LabelsOfEmoji", buttons(times(50, "🚀")), 5},
         {"LabelsOfWords", buttons(times(90, "some words ")), 20},

@@ -9,7 +9,7 @@
 
 #include <json/writer.h>
 
-#include <QFile>
+#include <algorithm>
 
 namespace plix::test {
 namespace {
@@ -59,6 +59,7 @@ std::vector<const TextItem*> textsOf(const TestCard& card)
         if (const auto* const text = dynamic_cast<const TextItem*>(&item))
             texts.push_back(text);
     });
+    std::reverse(texts.begin(), texts.end()); // the last one was visited first
     return texts;
 }
 
