@@ -199,7 +199,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PriceRow {"LineEnd", "a\n", 2 * kRunCost + 2},
                     PriceRow {"Emoji", "😀", 2 + kPicturesInSum* kPictographCost},
                     PriceRow {"Flag", "\U0001F1E9\U0001F1EA",
-                              4 + 2 * kPicturesInSum* kFlagHalfCost},
+                              kRunCost + 4 + kPicturesInSum * 2 * kFlagHalfCost},
                     PriceRow {"Joiner", "\u200d", 1 + kJoinerCost}),
     [](const auto& row) { return std::string(row.param.name); });
 
