@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <ostream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -190,18 +191,22 @@ TEST_P(PriceOfAText, IsThatOfItsCharacters)
               399);
 }
 
-using namespace kestro::limits;
+std::vector<PriceRow> prices()
+{
+    using namespace kestro::limits;
+    constexpr int kPicture = kPicturesInSum * kPictographCost;
+    constexpr int kFlagHalf = kPicturesInSum * kFlagHalfCost;
+    return {{"Empty", "", -kRunCost},
+            {"Letters", "ab", kRunCost + 2},
+            {"TwoScripts", "aя", 2 * kRunCost + 2},
+            {"LineEnd", "a\n", 2 * kRunCost + 2},
+            {"Emoji", "😀", 2 + kPicture},
+            {"Flag", "\U0001F1E9\U0001F1EA", kRunCost + 4 + 2 * kFlagHalf},
+            {"Joiner", "\u200d", 1 + kJoinerCost}};
+}
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, PriceOfAText,
-    testing::Values(PriceRow {"Empty", "", -kRunCost}, PriceRow {"Letters", "ab", kRunCost + 2},
-                    PriceRow {"TwoScripts", "aя", 2 * kRunCost + 2},
-                    PriceRow {"LineEnd", "a\n", 2 * kRunCost + 2},
-                    PriceRow {"Emoji", "😀", 2 + kPicturesInSum* kPictographCost},
-                    PriceRow {"Flag", "\U0001F1E9\U0001F1EA",
-                              kRunCost + 4 + kPicturesInSum * 2 * kFlagHalfCost},
-                    PriceRow {"Joiner", "\u200d", 1 + kJoinerCost}),
-    [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Texts, PriceOfAText, testing::ValuesIn(prices()),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(MaximumCost, LeavesAnEllipsisOfATextThatHasNothingLeft)
 {
@@ -240,10 +245,10 @@ TEST(MaximumCost, StaysWhenTheTextIsReplaced)
 TEST(MaximumCost, DoesNotCountWhatOnlyTheDisplayLimitCuts)
 {
     LimitItem item;
-    item.SetMaximumCost(kTextCost + 1);
+    item.SetMaximumCost(kestro::limits::kTextCost + 1);
     item.InsertRichText(repeated("some words ", kMillion), true);
     EXPECT_FALSE(item.ExceedsMaximumCost());
-    EXPECT_LE(displayed(item), kTextCost);
+    EXPECT_LE(displayed(item), kestro::limits::kTextCost);
 }
 
 // Searching all of it would take time that grows with the square of the length.
