@@ -4,26 +4,30 @@
 
 namespace plix {
 
-// Calls `body` and catches every exception. After an exception, calls `report`
-// with its what(), or with "" if it is not a std::exception. Returns whether
-// `body` ended without an exception.
-template <typename Body, typename Report> bool CatchExceptions(Body body, Report report)
+// Calls `body` and catches every exception. Returns whether there was none.
+template <typename Body> bool CatchExceptions(Body body) noexcept
+{
+    try {
+        body();
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+// The same. After an exception, calls `report` with its what(), or with "" if it is not a
+// std::exception. A report that fails itself, such as for lack of memory, is left out.
+template <typename Body, typename Report> bool CatchExceptions(Body body, Report report) noexcept
 {
     try {
         body();
         return true;
     } catch (const std::exception& error) {
-        report(error.what());
+        CatchExceptions([&] { report(error.what()); });
     } catch (...) {
-        report("");
+        CatchExceptions([&] { report(""); });
     }
     return false;
-}
-
-// The same without a report.
-template <typename Body> bool CatchExceptions(Body body) noexcept
-{
-    return CatchExceptions(body, [](const char*) {});
 }
 
 } // namespace plix

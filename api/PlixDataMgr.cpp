@@ -149,10 +149,10 @@ PlixBaseUI* PlixDataMgr::CreateUIItem(const std::shared_ptr<PlixDataItem>& data,
                                                          displayParam_);
     if (!ui)
         return nullptr;
-    const qlonglong key = PlixItemRegistry::GetInstance().Add(data);
-    ui->GetGraphicsItem()->setData(plix::kDataItemRole, key);
     // Deletes the item if something throws before it is complete.
     std::unique_ptr<QGraphicsItem> unfinished(ui->GetGraphicsItem());
+    const qlonglong key = PlixItemRegistry::GetInstance().Add(data);
+    ui->GetGraphicsItem()->setData(plix::kDataItemRole, key);
     ui->SetOwner(this);
     ui->SetClickFunc(clickFunc_);
     ui->SetDownloadFunc(downloadFunc_);

@@ -7,13 +7,6 @@ namespace {
 
 constexpr float kDefaultWidth = PlixBubbleSize().width;
 
-template <typename Zone> std::shared_ptr<Zone> MakeZone(const std::shared_ptr<PlixDataItem>& owner)
-{
-    auto zone = std::make_shared<Zone>();
-    zone->SetOwner(owner);
-    return zone;
-}
-
 } // namespace
 
 PlixDataBubble::PlixDataBubble()
@@ -25,10 +18,13 @@ PlixDataBubble::PlixDataBubble()
 void PlixDataBubble::InitZones()
 {
     const std::shared_ptr<PlixDataItem> self = shared_from_this();
-    header_ = MakeZone<PlixDataHeader>(self);
-    hero_ = MakeZone<PlixDataHero>(self);
-    body_ = MakeZone<PlixDataBody>(self);
-    footer_ = MakeZone<PlixDataFooter>(self);
+    header_ = std::make_shared<PlixDataHeader>();
+    hero_ = std::make_shared<PlixDataHero>();
+    body_ = std::make_shared<PlixDataBody>();
+    footer_ = std::make_shared<PlixDataFooter>();
+    // Not before all are there: a zone that owns the bubble keeps it alive.
+    for (const Zone& zone : GetZones())
+        zone.container->SetOwner(self);
 }
 
 std::array<PlixDataBubble::Zone, 4> PlixDataBubble::GetZones() const

@@ -3,36 +3,52 @@
 #include "model/PlixDataBox.h"
 #include "model/PlixDataBubble.h"
 
-#include <cstddef>
-#include <vector>
+#include <utility>
 
 namespace plix {
 
+namespace {
+
+// Items that are out of their containers. Each holds the next one as its parent, so that
+// the list takes no memory.
+class DiscardedItems {
+public:
+    void Take(PlixDataContainer& container)
+    {
+        for (const auto& child : container.GetChildren()) {
+            child->SetParent(std::move(first_));
+            first_ = child;
+        }
+        container.Clear();
+    }
+
+    // Null if there is none.
+    std::shared_ptr<PlixDataItem> Pop()
+    {
+        if (!first_)
+            return nullptr;
+        std::shared_ptr<PlixDataItem> item = std::exchange(first_, first_->GetParent());
+        item->SetParent(nullptr);
+        return item;
+    }
+
+private:
+    std::shared_ptr<PlixDataItem> first_;
+};
+
+} // namespace
+
 void DiscardDataTree(const std::shared_ptr<PlixDataBubble>& bubble)
 {
-    std::vector<std::shared_ptr<PlixDataContainer>> containers;
-    for (const auto& zone : bubble->GetZones())
-        containers.push_back(zone.container);
-
-    // Holds every item until the tree is taken apart. Then the items are freed one
-    // after the other; no destructor frees another item.
-    std::vector<std::shared_ptr<PlixDataItem>> items;
-    for (std::size_t i = 0; i < containers.size(); ++i) {
-        const std::shared_ptr<PlixDataContainer> container = containers[i];
-        if (!container)
-            continue;
-        for (const auto& child : container->GetChildren()) {
-            items.push_back(child);
-            if (const auto* box = dynamic_cast<const PlixDataBox*>(child.get()))
-                containers.push_back(box->GetContainer());
-        }
+    DiscardedItems items;
+    for (const auto& zone : bubble->GetZones()) {
+        if (zone.container)
+            items.Take(*zone.container);
     }
-    for (const auto& container : containers) {
-        if (container)
-            container->Clear();
+    while (const std::shared_ptr<PlixDataItem> item = items.Pop()) {
+        if (const auto* box = dynamic_cast<const PlixDataBox*>(item.get()))
+            items.Take(*box->GetContainer());
     }
-    for (const auto& item : items)
-        item->SetParent(nullptr);
 }
 
 } // namespace plix

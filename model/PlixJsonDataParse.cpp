@@ -101,8 +101,12 @@ int PlixJsonDataParse::ParseBubble(const Json::Value& node,
 int PlixJsonDataParse::ParseZone(const PlixJsonMember& zone,
                                  const std::shared_ptr<PlixDataContainer>& container)
 {
-    return RunOperation("ParseZone",
-                        [&] { AddComponent(plix::RequireObject(zone), 0, *container); });
+    return RunOperation("ParseZone", [&] {
+        const Json::Value& node = plix::RequireObject(zone);
+        // Before the component is read: a box that is not added would own itself.
+        container->Reserve(container->GetChildren().size() + 1);
+        AddComponent(node, 0, *container);
+    });
 }
 
 void PlixJsonDataParse::AddComponent(const Json::Value& node, int index,

@@ -1,5 +1,6 @@
 #include "ui/PlixButtonUI.h"
 
+#include "api/PlixCatchExceptions.h"
 #include "api/PlixDataMgr.h"
 #include "api/PlixSettings.h"
 #include "layout/PlixKeywordTable.h"
@@ -183,17 +184,23 @@ void PlixButtonUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWi
 {
     const PlixCardClip clip(*painter, plix::CutByCard(*this, rect()));
     painter->save();
+    // An exception in the middle of a paint would confuse Qt.
+    plix::CatchExceptions([&] { PaintPlateAndLabel(*painter); });
+    painter->restore();
+}
+
+void PlixButtonUI::PaintPlateAndLabel(QPainter& painter)
+{
     if (!plateColor_.empty()) {
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(QBrush(plix::ToColor(plateColor_), Qt::SolidPattern));
-        painter->drawRoundedRect(rect(), kPlateRadius, kPlateRadius, Qt::AbsoluteSize);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QBrush(plix::ToColor(plateColor_), Qt::SolidPattern));
+        painter.drawRoundedRect(rect(), kPlateRadius, kPlateRadius, Qt::AbsoluteSize);
     }
-    painter->setPen(textPen_);
+    painter.setPen(textPen_);
     if (!line_)
         line_ = std::make_unique<PlixButtonLine>(shownLabel(), font_);
-    line_->Draw(*painter, rect());
-    painter->restore();
+    line_->Draw(painter, rect());
 }
 
 void PlixButtonUI::resizeEvent(QGraphicsSceneResizeEvent* event)

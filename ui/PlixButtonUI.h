@@ -60,6 +60,7 @@ private:
     void InitFont(PlixDataButton& data);
     void InitSize(const PlixDataButton& data, bool isInRow);
     void ApplyLabelWidth();
+    void PaintPlateAndLabel(QPainter& painter);
 
     bool actionUnavailable_ = false;
     QString label_;

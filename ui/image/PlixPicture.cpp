@@ -157,12 +157,15 @@ QImage PlixPicture::Open(PlixPictureWork& work)
     cost_ = file ? bytes + 2 * PixelsOf(file->size) : 0;
     if (!work.MayStart(cost_ - bytes))
         return {};
-    opened_ = version;
     size_ = QSize();
-    if (!file)
-        return {};
-    work.Add(PixelsOf(file->size));
-    return Decode(*file);
+    QImage frame;
+    if (file) {
+        work.Add(PixelsOf(file->size));
+        frame = Decode(*file);
+    }
+    // Not before: without the memory to decode it, the file would count as unreadable.
+    opened_ = version;
+    return frame;
 }
 
 QImage PlixPicture::Decode(const PlixPictureFile& file)

@@ -90,7 +90,8 @@ void PlixPictureUI::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QW
     painter->save();
     if (background_)
         PaintBackground(*painter);
-    PaintPicture(*painter, work);
+    // An exception in the middle of a paint would confuse Qt.
+    plix::CatchExceptions([&] { PaintPicture(*painter, work); });
     painter->restore();
     if (work.IsRefused())
         update();
