@@ -3,6 +3,7 @@
 #include "model/format/PlixFormat.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 // Where the keys of the card format stand in a card, for tests of every key.
@@ -63,5 +64,24 @@ struct JsonSample {
 inline constexpr JsonSample kSamples[] = {
     {"null", "null"},   {"boolean", "true"}, {"number", "7"}, {"large number", "1e15"},
     {"string", "\"\""}, {"array", "[]"},     {"object", "{}"}};
+
+// Whether the reader takes a value of this kind for a key of this type.
+inline bool takesKind(PlixJsonType type, std::string_view kind)
+{
+    const bool isPlain = kind == "null" || kind == "boolean";
+    switch (type) {
+    case PlixJsonType::String:
+        return isPlain || kind == "string";
+    case PlixJsonType::Integer:
+        return isPlain || kind == "number";
+    case PlixJsonType::Boolean:
+        return true;
+    case PlixJsonType::Object:
+        return kind == "null" || kind == "object";
+    case PlixJsonType::Array:
+        return kind == "null" || kind == "array";
+    }
+    return false;
+}
 
 } // namespace plix::test
