@@ -13,6 +13,7 @@
 #include <list>
 #include <optional>
 #include <ostream>
+#include <span>
 #include <utility>
 
 namespace plix::test {
@@ -167,6 +168,8 @@ constexpr Step kSteps[] = {
     {"select", &Life::select, true}, {"change", &Life::change},
     {"free item", &Life::freeItem},  {"free controller", &Life::freeController}};
 
+constexpr std::size_t kStepsToAPicture = 5;
+
 class AllocationFault : public PlixTest, public testing::WithParamInterface<CardRow> {
 protected:
     AllocationFault()
@@ -177,11 +180,11 @@ protected:
 
     // Leads a life in which the n-th allocation of this step fails. Returns whether there
     // were that many.
-    bool fail(const Step& step, int n, Kind kind)
+    bool fail(std::span<const Step> steps, const Step& step, int n, Kind kind)
     {
         Life life(json_, pictures_);
         bool hasThrown = false;
-        for (const Step& each : kSteps) {
+        for (const Step& each : steps) {
             if (&each == &step)
                 hasThrown = runWithFault(life, step, n, kind);
             else
@@ -191,12 +194,12 @@ protected:
         return hasThrown;
     }
 
-    QImage pictureOfANewCard()
+    // Leads a life in which nothing fails. Returns the picture of the card.
+    QImage lead(std::span<const Step> steps)
     {
         Life life(json_, pictures_);
-        for (const auto step :
-             {&Life::create, &Life::read, &Life::build, &Life::show, &Life::paint})
-            (life.*step)();
+        for (const Step& step : steps)
+            (life.*step.run)();
         return life.picture();
     }
 
@@ -248,9 +251,9 @@ TEST_P(AllocationFault, LeavesAllOtherCardsAsTheyAre)
             continue;
         for (const Kind kind : {Kind::Single, Kind::Lasting}) {
             SCOPED_TRACE(std::string(step.name) + (kind == Kind::Lasting ? ", lasting" : ""));
-            for (int n = 1; fail(step, n, kind); ++n) {
+            for (int n = 1; fail(kSteps, step, n, kind); ++n) {
                 ++faults;
-                const QImage next = pictureOfANewCard();
+                const QImage next = lead(std::span(kSteps).first(kStepsToAPicture));
                 if (picture_.isNull())
                     picture_ = next;
                 ASSERT_EQ(next, picture_) << "after the fault " << n;
@@ -258,6 +261,24 @@ TEST_P(AllocationFault, LeavesAllOtherCardsAsTheyAre)
         }
     }
     RecordProperty("faults", faults);
+}
+
+// A card that is read only keeps nothing.
+TEST_P(AllocationFault, LeavesNothingBehindWithoutABuild)
+{
+    static constexpr Step kUnbuilt[] = {
+        {"create", &Life::create}, {"read", &Life::read}, {"free", &Life::freeController}};
+    lead(kUnbuilt);
+    const int before = liveBlocks();
+    for (const Step& step : kUnbuilt) {
+        for (const Kind kind : {Kind::Single, Kind::Lasting}) {
+            SCOPED_TRACE(std::string(step.name) + (kind == Kind::Lasting ? ", lasting" : ""));
+            int n = 1;
+            while (fail(kUnbuilt, step, n, kind))
+                ++n;
+            EXPECT_EQ(liveBlocks(), before) << "after " << n << " faults";
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,6 +1,7 @@
 #include "api/AllocationFaults.h"
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -87,12 +88,22 @@ bool failsFor(const void* caller)
     return true;
 }
 
+std::atomic<int> blocks {0};
+
 void* allocate(std::size_t size, const void* caller)
 {
     void* const block = failsFor(caller) ? nullptr : std::malloc(size);
     if (!block)
         throw std::bad_alloc();
+    ++blocks;
     return block;
+}
+
+void release(void* block)
+{
+    if (block)
+        --blocks;
+    std::free(block);
 }
 
 } // namespace
@@ -109,22 +120,22 @@ void* operator new[](std::size_t size)
 
 void operator delete(void* block) noexcept
 {
-    std::free(block);
+    release(block);
 }
 
 void operator delete[](void* block) noexcept
 {
-    std::free(block);
+    release(block);
 }
 
 void operator delete(void* block, std::size_t) noexcept
 {
-    std::free(block);
+    release(block);
 }
 
 void operator delete[](void* block, std::size_t) noexcept
 {
-    std::free(block);
+    release(block);
 }
 
 namespace plix::test {
@@ -144,6 +155,11 @@ AllocationFaults::~AllocationFaults()
 bool AllocationFaults::hasThrown() const
 {
     return fault.hasThrown;
+}
+
+int liveBlocks()
+{
+    return blocks;
 }
 
 } // namespace plix::test

@@ -25,4 +25,7 @@ public:
     bool hasThrown() const;
 };
 
+// How many blocks of operator new, of whoever's code, are not deleted yet.
+int liveBlocks();
+
 } // namespace plix::test
