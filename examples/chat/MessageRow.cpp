@@ -53,6 +53,13 @@ void PLIX_CALL logLine(const char* line)
     std::clog << "A card of " << currentSender << ": " << line << std::endl;
 }
 
+// Deleting an item that is in a scene takes the longer, the more items there are.
+void removeFromScene(QGraphicsItem* item)
+{
+    if (item && item->scene())
+        item->scene()->removeItem(item);
+}
+
 void PLIX_CALL onClick(PlixDataController*, ST_ACTION& action, void* client)
 {
     static_cast<CardClient*>(client)->act(action);
@@ -129,6 +136,8 @@ void MessageRow::nameForScreenReaders()
 
 void MessageRow::release()
 {
+    removeFromScene(bubble_.get());
+    removeFromScene(name_.get());
     bubble_.reset();
     name_.reset();
     Plix_Free(std::exchange(card_, nullptr));
