@@ -14,7 +14,7 @@
 namespace plix::test {
 namespace {
 
-constexpr char kCard[] = R"({"type": "bubble", "size": "kilo", "body": {"type": "box",
+constexpr char kSmallCard[] = R"({"type": "bubble", "size": "kilo", "body": {"type": "box",
     "layout": "vertical", "contents": [
       {"type": "text", "text": "Dinner is ready at seven."},
       {"type": "button", "action": {"type": "message", "label": "Yes", "text": "y"}}]}})";
@@ -27,7 +27,7 @@ struct LiveCard {
 LiveCard addCard(QGraphicsScene& scene, double y)
 {
     PlixDataController* const controller = Plix_CreateController();
-    Plix_InitData(controller, kCard);
+    Plix_InitData(controller, kSmallCard);
     QGraphicsItem* const item = Plix_CreateQGraphicsItem(controller);
     item->setPos(0, y);
     scene.addItem(item);

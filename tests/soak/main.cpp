@@ -65,7 +65,7 @@ bool check(bool holds, const char* failure)
 // Half as many cards and all of them: freeing must not take more per card.
 bool soakScene(int cards)
 {
-    constexpr double kMaximumSlowdown = 1.5;
+    constexpr double kSlower = 1.5;
     constexpr int kShort = 1000;
     const int all = cards / 5;
     std::vector<SceneTimes> times;
@@ -75,7 +75,7 @@ bool soakScene(int cards)
         std::printf("%d alive in one scene: %.1f us per card to build, %.1f to free\n", count,
                     last.build, last.free);
     }
-    const bool isFlat = all < kShort || times.back().free <= kMaximumSlowdown * times.front().free;
+    const bool isFlat = all < kShort || times.back().free <= kSlower * times.front().free;
     return check(isFlat, "freeing cards of one scene takes longer for more of them");
 }
 

@@ -95,7 +95,7 @@ std::string validValue(const PlixFormatKey& key)
     return "null";
 }
 
-std::string member(const PlixFormatKey& key, const std::string& value)
+std::string jsonMember(const PlixFormatKey& key, const std::string& value)
 {
     return '"' + std::string(key.name) + "\": " + value + ", ";
 }
@@ -108,7 +108,7 @@ std::string cardWithWrong(const FormatPlace& place, const PlixFormatKey& wrong,
 {
     std::string members;
     for (const PlixFormatKey& key : place.format->keys)
-        members += member(key, &key == &wrong ? value : validValue(key));
+        members += jsonMember(key, &key == &wrong ? value : validValue(key));
     return place.before + members + place.after;
 }
 
@@ -119,9 +119,9 @@ std::string cardThatIsLeft(const FormatPlace& place, const PlixFormatKey& wrong)
     std::string members;
     for (const PlixFormatKey& key : place.format->keys) {
         if (&key != &wrong)
-            members += member(key, validValue(key));
+            members += jsonMember(key, validValue(key));
         else if (key.part == PlixFormatPart::Action)
-            members += member(key, "{}");
+            members += jsonMember(key, "{}");
         else if (!IsReadByItself(key.part))
             break;
     }
