@@ -1,5 +1,6 @@
 #include "ElidedLine.h"
 
+#include "DirectionControls.h"
 #include "EmojiPicture.h"
 #include "Graphemes.h"
 #include "TextWork.h"
@@ -11,8 +12,6 @@ namespace kestro {
 namespace {
 
 constexpr QChar kEllipsis(0x2026);
-constexpr QChar kPopDirectionalFormatting(0x202C);
-constexpr QChar kPopDirectionalIsolate(0x2069);
 
 // More characters than any line shows. Without a maximum, a long text of marks
 // without width would be laid out in full several times.

@@ -1,15 +1,13 @@
 #include "MentionName.h"
 
 #include "CodePoint.h"
+#include "DirectionControls.h"
 
 #include <algorithm>
 
 namespace kestro {
 
 namespace {
-
-constexpr QChar kFirstStrongIsolate(0x2068);
-constexpr QChar kPopDirectionalIsolate(0x2069);
 
 bool SetsDirection(QChar character)
 {

@@ -6,6 +6,7 @@
 #include "ui/PlixCardOutline.h"
 #include "ui/PlixChildItems.h"
 #include "ui/PlixFocusStop.h"
+#include "ui/PlixSender.h"
 #include "ui/PlixSeparatorUI.h"
 
 #include <kestro_control/AccessibilityUpdates.h>
@@ -18,16 +19,15 @@
 
 namespace {
 
-constexpr char kOthersColor[] = "#F1F3F7";
-constexpr char kOwnColor[] = "#C0EAFC";
-constexpr int kFromMyself = 1;
+constexpr char kOthersBackground[] = "#F1F3F7";
+constexpr char kOwnBackground[] = "#C0EAFC";
 constexpr char kZoneSeparatorColor[] = "#CCCCCC";
 
 } // namespace
 
 PlixBubbleUI::PlixBubbleUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout)
     : PlixWidgetUI(parent, parentLayout)
-    , background_(plix::ToColor(kOthersColor), Qt::SolidPattern)
+    , background_(plix::ToColor(kOthersBackground), Qt::SolidPattern)
 {
     setOrientation(Qt::Vertical);
 }
@@ -47,8 +47,8 @@ bool PlixBubbleUI::Init()
 void PlixBubbleUI::SetFrom(int from)
 {
     from_ = from;
-    if (from_ == kFromMyself)
-        setBackgroundColor(kOwnColor);
+    if (from_ == plix::kFromMyself)
+        setBackgroundColor(kOwnBackground);
 }
 
 void PlixBubbleUI::addChild(YogaLayoutItem* child)
@@ -128,7 +128,7 @@ void PlixBubbleUI::setBackgroundColor(const std::string& color)
 
 void PlixBubbleUI::resumeBackgroundColor()
 {
-    setBackgroundColor(from_ == kFromMyself ? kOwnColor : kOthersColor);
+    setBackgroundColor(from_ == plix::kFromMyself ? kOwnBackground : kOthersBackground);
 }
 
 int PlixBubbleUI::modifyHeight(int height)

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kUnlimitedWidth = 1 << 22;
 // Glyphs are drawn at whole pixels.
-constexpr double kRounding = 2;
+constexpr double kLineRounding = 2;
 
 QRectF InkOf(const QTextLine& line)
 {
@@ -22,7 +22,7 @@ QRectF InkOf(const QTextLine& line)
         for (int i = 0; i < glyphs.size(); ++i)
             ink |= font.boundingRect(glyphs[i]).translated(positions[i]);
     }
-    return ink.adjusted(-kRounding, -kRounding, kRounding, kRounding);
+    return ink.adjusted(-kLineRounding, -kLineRounding, kLineRounding, kLineRounding);
 }
 
 } // namespace

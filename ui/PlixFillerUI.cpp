@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr double kThickness = 5;
+constexpr double kFillerSize = 5;
 constexpr double kCollapsed = 1;
 
 } // namespace
@@ -28,11 +28,11 @@ bool PlixFillerUI::Init()
     if (inColumn) {
         if (grow == 0)
             setHeight(kCollapsed);
-        setWidth(kThickness);
+        setWidth(kFillerSize);
     } else if (box && box->IsHorizontal()) {
         if (grow == 0)
             setWidth(kCollapsed);
-        setHeight(kThickness);
+        setHeight(kFillerSize);
     }
     setGrowFactor(grow);
     return true;

@@ -14,14 +14,14 @@
 namespace {
 
 template <typename Item>
-PlixBaseUI* CreateItem(QGraphicsItem* parentItem, QGraphicsLayoutItem* parentLayout,
-                       const PlixDisplayParam&)
+PlixBaseUI* CreateUI(QGraphicsItem* parentItem, QGraphicsLayoutItem* parentLayout,
+                     const PlixDisplayParam&)
 {
     return new Item(parentItem, parentLayout);
 }
 
-PlixBaseUI* CreateText(QGraphicsItem* parentItem, QGraphicsLayoutItem* parentLayout,
-                       const PlixDisplayParam& param)
+PlixBaseUI* CreateTextUI(QGraphicsItem* parentItem, QGraphicsLayoutItem* parentLayout,
+                         const PlixDisplayParam& param)
 {
     return new PlixTextUI(parentItem, parentLayout, param);
 }
@@ -29,15 +29,15 @@ PlixBaseUI* CreateText(QGraphicsItem* parentItem, QGraphicsLayoutItem* parentLay
 } // namespace
 
 PlixUICreater::PlixUICreater()
-    : creators_ {{PlixKindBubble, &CreateItem<PlixBubbleUI>},
-                 {PlixKindImage, &CreateItem<PlixImageUI>},
-                 {PlixKindBox, &CreateItem<PlixBoxUI>},
-                 {PlixKindText, &CreateText},
-                 {PlixKindIcon, &CreateItem<PlixIconUI>},
-                 {PlixKindButton, &CreateItem<PlixButtonUI>},
-                 {PlixKindSpacer, &CreateItem<PlixSpacerUI>},
-                 {PlixKindFiller, &CreateItem<PlixFillerUI>},
-                 {PlixKindSeparator, &CreateItem<PlixSeparatorUI>}}
+    : creators_ {{PlixKindBubble, &CreateUI<PlixBubbleUI>},
+                 {PlixKindImage, &CreateUI<PlixImageUI>},
+                 {PlixKindBox, &CreateUI<PlixBoxUI>},
+                 {PlixKindText, &CreateTextUI},
+                 {PlixKindIcon, &CreateUI<PlixIconUI>},
+                 {PlixKindButton, &CreateUI<PlixButtonUI>},
+                 {PlixKindSpacer, &CreateUI<PlixSpacerUI>},
+                 {PlixKindFiller, &CreateUI<PlixFillerUI>},
+                 {PlixKindSeparator, &CreateUI<PlixSeparatorUI>}}
 {
 }
 

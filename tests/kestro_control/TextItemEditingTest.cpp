@@ -58,7 +58,7 @@ void type(QGraphicsScene& scene, TextItem& item, char key)
     scene.sendEvent(&item, &press);
 }
 
-class PressCounter : public QGraphicsRectItem {
+class SinglePressCounter : public QGraphicsRectItem {
 public:
     using QGraphicsRectItem::QGraphicsRectItem;
 
@@ -133,7 +133,7 @@ TEST(TextItemReadOnly, AcceptsNoMouseHoverOrKeyEvent)
 TEST(TextItemReadOnly, LeavesClicksToTheItemBelow)
 {
     QGraphicsScene scene;
-    PressCounter below(0, 0, 200, 200);
+    SinglePressCounter below(0, 0, 200, 200);
     scene.addItem(&below);
     TextItem item;
     item.InsertRichText(kText, true);

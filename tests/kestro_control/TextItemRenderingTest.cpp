@@ -25,17 +25,17 @@ void useFont(TextItem& item, int pixelSize = 20)
     item.setFont(font);
 }
 
-struct ScriptRow {
+struct RenderedScriptRow {
     const char* name;
     const char* text;
 
-    friend std::ostream& operator<<(std::ostream& out, const ScriptRow& row)
+    friend std::ostream& operator<<(std::ostream& out, const RenderedScriptRow& row)
     {
         return out << row.name;
     }
 };
 
-class TextItemInk : public testing::TestWithParam<ScriptRow> { };
+class TextItemInk : public testing::TestWithParam<RenderedScriptRow> { };
 
 TEST_P(TextItemInk, IsInsideTheBoundingRect)
 {
@@ -57,14 +57,15 @@ TEST_P(TextItemInk, IsInsideTheBoundingRect)
 
 INSTANTIATE_TEST_SUITE_P(
     Scripts, TextItemInk,
-    testing::Values(ScriptRow {"Latin", "Dinner is ready, come over"},
-                    ScriptRow {"Chinese", "晚上一起吃饭吗我们等你"},
-                    ScriptRow {"Arabic", "العشاء جاهز تعالوا إلينا"},
-                    ScriptRow {"Hebrew", "ארוחת הערב מוכנה בואו"},
-                    ScriptRow {"Emoji",
-                               "👨‍👩‍👧👍🏽🇩🇪😀👨‍👩‍👧👍🏽"},
-                    ScriptRow {"Mixed", "Dinner ארוחת הערב at 7"}),
-    plix::test::rowName<ScriptRow>);
+    testing::Values(RenderedScriptRow {"Latin", "Dinner is ready, come over"},
+                    RenderedScriptRow {"Chinese", "晚上一起吃饭吗我们等你"},
+                    RenderedScriptRow {"Arabic", "العشاء جاهز تعالوا إلينا"},
+                    RenderedScriptRow {"Hebrew", "ארוחת הערב מוכנה בואו"},
+                    RenderedScriptRow {
+                        "Emoji",
+                        "👨‍👩‍👧👍🏽🇩🇪😀👨‍👩‍👧👍🏽"},
+                    RenderedScriptRow {"Mixed", "Dinner ארוחת הערב at 7"}),
+    plix::test::rowName<RenderedScriptRow>);
 
 TEST(TextItemRendering, DrawsOnlyTheLinesWithinTheLimit)
 {

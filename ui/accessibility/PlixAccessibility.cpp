@@ -24,7 +24,7 @@
 
 namespace {
 
-using Creator = QAccessibleInterface* (*)(QObject*);
+using AccessibleCreator = QAccessibleInterface* (*)(QObject*);
 
 template <typename Interface, typename Item> QAccessibleInterface* Create(QObject* object)
 {
@@ -47,7 +47,7 @@ QAccessibleInterface* CreateForStop(QObject* object)
 }
 
 // By the names of classes.
-constexpr std::array kCreators = std::to_array<PlixKeyword<Creator>>({
+constexpr std::array kAccessibleCreators = std::to_array<PlixKeyword<AccessibleCreator>>({
     {"PlixBoxUI", &CreateForBox},
     {"PlixBubbleUI", &Create<PlixAccessibleCard, PlixBubbleUI>},
     {"PlixButtonUI", &Create<PlixAccessibleButton, PlixButtonUI>},
@@ -64,7 +64,7 @@ constexpr std::array kCreators = std::to_array<PlixKeyword<Creator>>({
 // knows one.
 QAccessibleInterface* CreateInterface(const QString& className, QObject* object)
 {
-    const auto create = plix::FindKeyword(kCreators, className.toStdString());
+    const auto create = plix::FindKeyword(kAccessibleCreators, className.toStdString());
     return create ? (*create)(object) : nullptr;
 }
 

@@ -6,12 +6,12 @@
 
 namespace {
 
-using Cache = QCache<const PlixPicture*, QImage>;
+using DecodedCache = QCache<const PlixPicture*, QImage>;
 
-Cache& Instance()
+DecodedCache& DecodedPictures()
 {
     // Never destroyed: the host may delete its scene after static objects.
-    static auto* const instance = new Cache(plix::kMaximumDecodedBytes);
+    static auto* const instance = new DecodedCache(plix::kMaximumDecodedBytes);
     return *instance;
 }
 
@@ -19,21 +19,22 @@ Cache& Instance()
 
 QImage PlixDecodedPictures::Find(const PlixPicture& picture)
 {
-    const QImage* decoded = Instance().object(&picture);
+    const QImage* decoded = DecodedPictures().object(&picture);
     return decoded ? *decoded : QImage();
 }
 
 void PlixDecodedPictures::Insert(const PlixPicture& picture, const QImage& decoded)
 {
-    Instance().insert(&picture, new QImage(decoded), static_cast<int>(decoded.sizeInBytes()));
+    DecodedPictures().insert(&picture, new QImage(decoded),
+                             static_cast<int>(decoded.sizeInBytes()));
 }
 
 void PlixDecodedPictures::Remove(const PlixPicture& picture)
 {
-    Instance().remove(&picture);
+    DecodedPictures().remove(&picture);
 }
 
 void PlixDecodedPictures::Clear()
 {
-    Instance().clear();
+    DecodedPictures().clear();
 }

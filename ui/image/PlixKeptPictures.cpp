@@ -40,11 +40,11 @@ private:
     const QImage image_;
 };
 
-using Cache = QCache<const PlixShownPicture*, Kept>;
+using KeptCache = QCache<const PlixShownPicture*, Kept>;
 
-Cache& Instance()
+KeptCache& KeptPictures()
 {
-    static auto* const instance = new Cache(plix::kMaximumKeptBytes);
+    static auto* const instance = new KeptCache(plix::kMaximumKeptBytes);
     return *instance;
 }
 
@@ -52,7 +52,7 @@ Cache& Instance()
 
 QImage PlixKeptPictures::Find(const PlixShownPicture& item)
 {
-    const Kept* const kept = Instance().object(&item);
+    const Kept* const kept = KeptPictures().object(&item);
     return kept ? kept->Image() : QImage();
 }
 
@@ -61,15 +61,16 @@ bool PlixKeptPictures::Insert(const PlixShownPicture& item, const void* card, co
     Remove(item);
     if (BytesOfCards().value(card) + image.sizeInBytes() > plix::kMaximumKeptBytesOfCard)
         return false;
-    return Instance().insert(&item, new Kept(card, image), static_cast<int>(image.sizeInBytes()));
+    return KeptPictures().insert(&item, new Kept(card, image),
+                                 static_cast<int>(image.sizeInBytes()));
 }
 
 void PlixKeptPictures::Remove(const PlixShownPicture& item)
 {
-    Instance().remove(&item);
+    KeptPictures().remove(&item);
 }
 
 qint64 PlixKeptPictures::UsedBytes()
 {
-    return Instance().totalCost();
+    return KeptPictures().totalCost();
 }

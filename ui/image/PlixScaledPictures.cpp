@@ -11,12 +11,12 @@
 namespace {
 
 using Sizes = std::vector<QImage>;
-using Cache = QCache<const PlixPicture*, Sizes>;
+using ScaledCache = QCache<const PlixPicture*, Sizes>;
 
-Cache& Instance()
+ScaledCache& ScaledPictures()
 {
     // Never destroyed: the host may delete its scene after static objects.
-    static auto* const instance = new Cache(plix::kMaximumCachedBytes);
+    static auto* const instance = new ScaledCache(plix::kMaximumCachedBytes);
     return *instance;
 }
 
@@ -32,7 +32,7 @@ int BytesOf(const Sizes& sizes)
 
 QImage PlixScaledPictures::Find(const PlixPicture& picture, const QSize& size)
 {
-    const Sizes* sizes = Instance().object(&picture);
+    const Sizes* sizes = ScaledPictures().object(&picture);
     if (!sizes)
         return {};
     const auto found = std::find_if(sizes->begin(), sizes->end(),
@@ -42,15 +42,15 @@ QImage PlixScaledPictures::Find(const PlixPicture& picture, const QSize& size)
 
 void PlixScaledPictures::Insert(const PlixPicture& picture, const QImage& image)
 {
-    std::unique_ptr<Sizes> sizes(Instance().take(&picture));
+    std::unique_ptr<Sizes> sizes(ScaledPictures().take(&picture));
     if (!sizes)
         sizes = std::make_unique<Sizes>();
     sizes->push_back(image);
     const int bytes = BytesOf(*sizes);
-    Instance().insert(&picture, sizes.release(), bytes);
+    ScaledPictures().insert(&picture, sizes.release(), bytes);
 }
 
 void PlixScaledPictures::Remove(const PlixPicture& picture)
 {
-    Instance().remove(&picture);
+    ScaledPictures().remove(&picture);
 }

@@ -15,6 +15,7 @@
 #include "ui/PlixCardClip.h"
 #include "ui/PlixFocusStop.h"
 #include "ui/PlixOffsets.h"
+#include "ui/PlixSender.h"
 #include "ui/text/PlixTextFont.h"
 #include "ui/text/PlixTextMarkup.h"
 
@@ -32,7 +33,6 @@ namespace {
 
 constexpr QColor kOthersColor(0x76, 0x76, 0x76);
 constexpr QColor kOwnColor(0x00, 0x87, 0xEE);
-constexpr int kFromMyself = 1;
 // Yoga rounds rectangles outwards to whole pixels, by less than this on each side. A
 // text keeps the exact width that it was measured with: in another one, it may break
 // into other lines.
@@ -118,7 +118,7 @@ void PlixTextUI::InitColor(const PlixDataText& data)
     if (!data.GetColor().empty())
         setDefaultTextColor(plix::ToColor(data.GetColor()));
     else
-        setDefaultTextColor(colorMode_ == kFromMyself ? kOwnColor : kOthersColor);
+        setDefaultTextColor(colorMode_ == plix::kFromMyself ? kOwnColor : kOthersColor);
 }
 
 void PlixTextUI::InitAction(const PlixDataText& data)
