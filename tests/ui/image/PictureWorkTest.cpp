@@ -86,12 +86,12 @@ TEST_F(PictureWork, InOnePaintIsLimited)
 TEST_F(PictureWork, IsLimitedExactly)
 {
     for (const int more : {-1, 0, 1}) {
+        deliverEvents(); // ends the turn
         PlixPictureWork first(PlixPictureWork::Limit::OnePaint);
         first.Add(1000);
         PlixPictureWork second(PlixPictureWork::Limit::OnePaint);
         EXPECT_EQ(second.MayStart(kMaximumPictureWork - 1000 + more), more <= 0) << more;
         EXPECT_EQ(second.IsRefused(), more > 0) << more;
-        deliverEvents();
     }
 }
 
