@@ -3,6 +3,7 @@
 #include "HighlightWords.h"
 #include "LaidOutText.h"
 #include "ParagraphText.h"
+#include "ShownLines.h"
 
 #include <algorithm>
 
@@ -61,6 +62,20 @@ TextRange TextCharacters::PositionsOf(const CharacterRange& range) const
     // The characters that a picture stands for are at one position.
     const int behindLast = std::min(PositionOf(range.end - 1) + 1, text_.End());
     return {PositionOf(range.start), std::max(PositionOf(range.end), behindLast)};
+}
+
+QVector<int> TextCharacters::LineStarts(const ShownLines& shown) const
+{
+    QVector<int> starts;
+    auto line = shown.Lines().begin();
+    const auto end = shown.Lines().end();
+    FindParagraph(text_, [&](const ParagraphText& paragraph, int first) {
+        const int last = paragraph.Position(paragraph.Characters().size());
+        for (; line != end && line->Start() <= last; ++line)
+            starts.append(first + paragraph.Index(line->Start()));
+        return line == end;
+    });
+    return starts;
 }
 
 std::vector<CharacterRange> TextCharacters::RangesOf(const HighlightWords& words) const

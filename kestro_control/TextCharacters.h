@@ -2,12 +2,15 @@
 
 #include "TextRange.h"
 
+#include <QVector>
+
 #include <vector>
 
 namespace kestro {
 
 class HighlightWords;
 class LaidOutText;
+class ShownLines;
 
 // A part of TextItem::toPlainText().
 struct CharacterRange {
@@ -28,6 +31,9 @@ public:
     // The end of the text if the character is beyond the display limit.
     int PositionOf(int index) const;
     TextRange PositionsOf(const CharacterRange& range) const;
+
+    // The index of the first character of each line.
+    QVector<int> LineStarts(const ShownLines& shown) const;
 
     // What occurrences of the words cover.
     std::vector<CharacterRange> RangesOf(const HighlightWords& words) const;

@@ -775,6 +775,11 @@ int TextItem::ShownLineCount() const
     return private_->Shown().Count();
 }
 
+QVector<int> TextItem::ShownLineStarts() const
+{
+    return private_->Characters().LineStarts(private_->Shown());
+}
+
 bool TextItem::IsElided() const
 {
     return private_->Shown().IsElided();

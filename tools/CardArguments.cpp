@@ -33,8 +33,8 @@ struct OptionRow {
 const std::array kOptions = std::to_array<OptionRow>({
     {kDpi, "F",
      "Device pixels per logical pixel that images are\n"
-     "scaled for, 0.01 to 16 (default: that of --scale,\n"
-     "or 1 for a layout)."},
+     "scaled for, 0.01 to 16 (default: those of the\n"
+     "picture, or 1 if there is none)."},
     {kImages, "DIR",
      "The folder of the images. Each image is the file\n"
      "with the name at the end of its URL (default: none)."},

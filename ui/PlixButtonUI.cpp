@@ -80,7 +80,7 @@ bool PlixButtonUI::Init()
 void PlixButtonUI::ApplyLabelWidth()
 {
     if (hasLabelWidth_)
-        setWidth(QFontMetrics(font_).horizontalAdvance(shownPart_) + kLabelPadding);
+        setWidth(neededWidth());
 }
 
 void PlixButtonUI::InitLabel(const PlixDataButton& data)
@@ -173,6 +173,11 @@ QString PlixButtonUI::shownLabel() const
     if (metrics.horizontalAdvance(shownPart_) <= available)
         return shownPart_;
     return metrics.elidedText(shownPart_, Qt::ElideRight, static_cast<int>(available));
+}
+
+double PlixButtonUI::neededWidth() const
+{
+    return QFontMetrics(font_).horizontalAdvance(shownPart_) + kLabelPadding;
 }
 
 double PlixButtonUI::CornerRadius() const

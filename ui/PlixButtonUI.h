@@ -21,6 +21,7 @@ class PlixButtonUI : public PlixWidgetUI, public KestroFontBindSupport {
     Q_OBJECT
     Q_PROPERTY(QString label READ label)
     Q_PROPERTY(QString shownLabel READ shownLabel)
+    Q_PROPERTY(double neededWidth READ neededWidth)
     Q_PROPERTY(QFont labelFont READ labelFont)
 
 public:
@@ -39,6 +40,8 @@ public:
     QString label() const { return label_; }
     // The label as it is drawn: elided if the button is too narrow.
     QString shownLabel() const;
+    // The smallest width of the button in which all of its label is drawn.
+    double neededWidth() const;
     QFont labelFont() const { return font_; }
 
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;

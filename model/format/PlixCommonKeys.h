@@ -98,20 +98,26 @@ template <typename Item> constexpr auto CommonKeys()
             {.name = "offsetStart",
              .rule = PlixValueRule::LengthOrPercent,
              .words = Words<kLengths>(),
-             .description = "Moves it away from the side where lines begin."}),
+             .description = "Its distance from the side where lines begin "
+                            "if absolute (0 counts as none); otherwise moves it away from there."}),
         StringKey<Item, &Item::SetOffsetEnd>(
             {.name = "offsetEnd",
              .rule = PlixValueRule::LengthOrPercent,
              .words = Words<kLengths>(),
-             .description = "Moves it away from the side where lines end."}),
+             .description = "Its distance from the side where lines end "
+                            "if absolute (0 counts as none); otherwise moves it away from there."}),
         StringKey<Item, &Item::SetOffsetTop>({.name = "offsetTop",
                                               .rule = PlixValueRule::LengthOrPercent,
                                               .words = Words<kLengths>(),
-                                              .description = "Moves it down."}),
-        StringKey<Item, &Item::SetOffsetBottom>({.name = "offsetBottom",
-                                                 .rule = PlixValueRule::LengthOrPercent,
-                                                 .words = Words<kLengths>(),
-                                                 .description = "Moves it up."}),
+                                              .description =
+                                                  "Its distance from the upper edge if absolute (0 "
+                                                  "counts as none); otherwise moves it down."}),
+        StringKey<Item, &Item::SetOffsetBottom>(
+            {.name = "offsetBottom",
+             .rule = PlixValueRule::LengthOrPercent,
+             .words = Words<kLengths>(),
+             .description = "Its distance from the lower edge if absolute (0 "
+                            "counts as none); otherwise moves it up."}),
     });
 }
 

@@ -59,6 +59,16 @@ TEST(TextItemLines, AreNoneWithoutText)
     EXPECT_EQ(item.FirstLineAscent(), QFontMetricsF(item.font()).ascent());
 }
 
+TEST(TextItemLines, BeginAtTheseCharacters)
+{
+    TestItem item(kThreeWords + QStringLiteral("\ndelta"));
+    item.SetFixedItemWidth(oneWordWidth(item));
+    EXPECT_EQ(item.ShownLineStarts(), (QVector<int> {0, 6, 11, 17}));
+    item.SetMaxLineCount(2);
+    EXPECT_EQ(item.ShownLineStarts(), (QVector<int> {0, 6}));
+    EXPECT_EQ(TestItem().ShownLineStarts(), QVector<int>());
+}
+
 TEST(TextItemBoundingRect, KeepsTheFixedWidthWithoutText)
 {
     TestItem item;

@@ -83,6 +83,12 @@ CommonColor letterColor(const QImage& letters, const QRect& word)
     return isOneColor ? common : CommonColor();
 }
 
+Contrast contrastOf(QRgb letters, QRgb behind)
+{
+    return {contrastRatio(letters, behind), luminance(letters) > luminance(behind), letters,
+            behind};
+}
+
 } // namespace
 
 double contrastRatio(QRgb one, QRgb other)
@@ -94,16 +100,15 @@ double contrastRatio(QRgb one, QRgb other)
 }
 
 std::optional<Contrast> wordContrast(const QImage& letters, const QRect& word, const QImage& behind,
-                                     const QPoint& offset)
+                                     const QPoint& offset, const std::optional<QRgb>& color)
 {
-    const CommonColor color = letterColor(letters, word);
+    const CommonColor drawn = letterColor(letters, word);
     std::vector<Contrast> contrasts;
     forEachPixel(letters, word, [&](int x, int y, QRgb pixel) {
-        if (color.count == 0 || pixel != color.color)
+        if (drawn.count == 0 || pixel != drawn.color)
             return;
         const QRgb below = behind.pixel(x + offset.x(), y + offset.y());
-        const QRgb shown = over(pixel, below);
-        contrasts.push_back({contrastRatio(shown, below), luminance(shown) > luminance(below)});
+        contrasts.push_back(contrastOf(color.value_or(over(pixel, below)), below));
     });
     if (contrasts.empty())
         return std::nullopt;
@@ -124,9 +129,9 @@ Contrast labelContrast(const QImage& image, const QRect& area)
     const int insetY = area.height() / 8;
     Contrast best;
     forEachPixel(image, area.adjusted(insetX, insetY, -insetX, -insetY), [&](int, int, QRgb pixel) {
-        const double ratio = contrastRatio(pixel, plate);
-        if (ratio > best.ratio)
-            best = {ratio, luminance(pixel) > luminance(plate)};
+        const Contrast contrast = contrastOf(pixel, plate);
+        if (contrast.ratio > best.ratio)
+            best = contrast;
     });
     return best;
 }

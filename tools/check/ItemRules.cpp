@@ -123,6 +123,37 @@ void checkOppositeOffset(const CardItem& item, const Edge& row, KeyNotes& notes)
                        QStringLiteral("a box without padding around it"));
 }
 
+bool isZero(std::string_view length)
+{
+    return pixelsIn(length) == 0 || percentIn(length) == 0;
+}
+
+// The distance from the opposite edge puts an item at the far edge of its box. It is known
+// if both have a size in pixels.
+QString farOffset(const CardItem& item, const Edge& row)
+{
+    const QString key = quoted("offset" + std::string(row.opposite));
+    const std::string_view size = row.edge == "End" ? "width" : "height";
+    if (!hasOwnLength(item, row.edge) && item.has("offset" + std::string(row.opposite)))
+        return quoted(size) + QStringLiteral(": \"100%\"");
+    const int outer = pixelsIn(item.box->text(size)).value_or(0);
+    const int inner = pixelsIn(item.text(size)).value_or(0);
+    return inner > 0 && outer > inner
+        ? QStringLiteral("%1: \"%2px\"").arg(key).arg(outer - inner)
+        : QStringLiteral("%1 with the distance from that edge").arg(key);
+}
+
+// An item that shall be at the far edge is at the near one, unless it reaches from one to
+// the other: a box is stretched across the direction of its box.
+bool countsAsNone(const CardItem& item, const Edge& row)
+{
+    const bool isAcross = (row.edge == "End") != item.isInRow();
+    const bool isStretched = isAcross && !hasOwnLength(item, row.edge);
+    return !isStretched && !row.opposite.empty()
+        && isZero(item.text("offset" + std::string(row.edge)))
+        && !isFilledLength(item.text("offset" + std::string(row.opposite)));
+}
+
 void checkOffsets(const CardItem& item, KeyNotes& notes)
 {
     if (!item.isAbsolute() || !item.box || !item.box->isA("box"))
@@ -131,6 +162,9 @@ void checkOffsets(const CardItem& item, KeyNotes& notes)
         const std::string key = "offset" + std::string(row.edge);
         if (percentIn(item.text(key)) && isPadded(*item.box, row.edge))
             notes.noEffect(key, QStringLiteral("in a box with a padding there, only pixels count"));
+        else if (countsAsNone(item, row))
+            notes.noEffect(key, QStringLiteral("an offset of 0 counts as none"),
+                           farOffset(item, row));
         else if (!row.opposite.empty())
             checkOppositeOffset(item, row, notes);
     }

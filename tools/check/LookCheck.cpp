@@ -5,15 +5,18 @@
 #include "check/Excerpt.h"
 #include "check/Glyphs.h"
 #include "check/LookMends.h"
+#include "check/SplitWord.h"
 #include "check/TextContrast.h"
+#include "check/TextMends.h"
 
 #include <QFont>
 #include <QGraphicsItem>
 #include <QGraphicsObject>
 #include <QVariant>
+#include <QVector>
 
 #include <algorithm>
-#include <cmath>
+#include <cstddef>
 
 namespace plix::tool {
 namespace {
@@ -56,6 +59,12 @@ bool mayBeCut(const CardItem& source)
     const bool hasSpans = source.has("contents");
     const bool hasLimit = source.flag("wrap") && !hasSpans && source.number("maxLines") >= 1;
     return hasLimit || (source.has("wrap") && !source.flag("wrap"));
+}
+
+// In a row or a column, with a size.
+bool isPlaced(const ShownItem& item)
+{
+    return !item.source.isAbsolute() && !isEmptySpace(item) && hasSize(item);
 }
 
 QString pixels(double value)
@@ -116,7 +125,9 @@ void LookCheck::checkItems(const ShownItem& item)
     if (!hasRoom)
         return; // what is inside has no room either
     checkPlace(item);
+    checkLabel(item);
     checkText(item);
+    checkWords(item);
     checkGlyphs(item);
     checkOverlaps(item);
     for (const auto& child : item.children)
@@ -159,26 +170,34 @@ void LookCheck::checkPlace(const ShownItem& item)
          placeMend(item));
 }
 
+void LookCheck::checkLabel(const ShownItem& item)
+{
+    const QString shown = item.object->property("shownLabel").toString();
+    if (item.source.isA("button") && shown != item.text())
+        note(Rule::TextCut, item,
+             QStringLiteral("the label is cut: %1 is shown (the button %2)")
+                 .arg(quoted(shown), roomText(item.neededWidth(), item.place().width())),
+             QStringLiteral("a shorter label, or one button per row"));
+}
+
 void LookCheck::checkText(const ShownItem& item)
 {
-    if (item.source.isA("button")) {
-        if (item.object->property("shownLabel").toString() != item.text())
-            note(Rule::TextCut, item,
-                 QStringLiteral("the label is cut: %1 is shown")
-                     .arg(quoted(item.object->property("shownLabel").toString())),
-                 QStringLiteral("a shorter label, or one button per row"));
-        return;
-    }
     if (!item.isText() || mayBeCut(item.source))
         return;
     if (item.object->property("elided").toBool())
-        note(Rule::TextCut, item,
-             QStringLiteral("the text is cut: %1 does not fit into %2 pixels")
-                 .arg(quoted(item.text()), pixels(item.place().width())),
-             cutMend(item));
+        note(Rule::TextCut, item, cutMessage(item), cutMend(item));
     else if (item.painted().height() > item.place().height() + kRounding)
         note(Rule::TextCut, item, QStringLiteral("the text is higher than its place"),
              QStringLiteral("no \"height\" for the boxes around it"));
+}
+
+void LookCheck::checkWords(const ShownItem& item)
+{
+    if (!item.isText() || !item.source.flag("wrap"))
+        return;
+    const auto lineStarts = item.object->property("lineStarts").value<QVector<int>>();
+    if (const std::optional<SplitWord> word = findSplitWord(item.text(), lineStarts))
+        note(Rule::WordSplit, item, splitMessage(item, *word), splitMend(item, *word));
 }
 
 void LookCheck::checkGlyphs(const ShownItem& item)
@@ -196,23 +215,31 @@ void LookCheck::checkGlyphs(const ShownItem& item)
 
 void LookCheck::checkOverlaps(const ShownItem& box)
 {
-    const auto& children = box.children;
-    const auto isPlaced = [](const ShownItem& item) {
-        return !item.source.isAbsolute() && !isEmptySpace(item) && hasSize(item);
-    };
-    for (std::size_t i = 0; i < children.size(); ++i) {
-        const std::size_t end = std::min(children.size(), i + 1 + kNeighbours);
-        for (std::size_t j = i + 1; j < end; ++j) {
-            if (!isPlaced(*children[i]) || !isPlaced(*children[j]))
-                continue;
-            const QRectF common = children[i]->painted().intersected(children[j]->painted());
-            if (common.width() > kRounding && common.height() > kRounding)
-                note(Rule::Overlap, *children[j],
-                     QStringLiteral("%1 overlaps %2")
-                         .arg(nameOf(*children[j]), children[i]->source.path),
-                     placeMend(*children[j]));
-        }
+    const std::size_t count = box.children.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t end = std::min(count, i + 1 + kNeighbours);
+        for (std::size_t j = i + 1; j < end; ++j)
+            checkOverlap(box, i, j);
     }
+}
+
+void LookCheck::checkOverlap(const ShownItem& box, std::size_t first, std::size_t second)
+{
+    const ShownItem& below = *box.children[first];
+    const ShownItem& above = *box.children[second];
+    if (!isPlaced(below) || !isPlaced(above))
+        return;
+    const QRectF common = below.painted().intersected(above.painted());
+    if (common.width() <= kRounding || common.height() <= kRounding)
+        return;
+    const auto begin = box.children.begin();
+    const bool isPulled = std::any_of(begin + static_cast<std::ptrdiff_t>(first) + 1,
+                                      begin + static_cast<std::ptrdiff_t>(second) + 1,
+                                      [](const auto& item) { return hasNegativeMargin(*item); });
+    QString message = QStringLiteral("%1 overlaps %2").arg(nameOf(above), below.source.path);
+    if (isPulled)
+        message += QStringLiteral(" because of a negative \"margin\"");
+    note(Rule::Overlap, above, message, overlapMend(above, isPulled));
 }
 
 void LookCheck::checkContrast(CardHost& host)
@@ -226,12 +253,7 @@ void LookCheck::checkItemContrast(const ShownItem& item, const TextContrast& con
 {
     const std::optional<ContrastResult> result = contrast.of(item);
     if (result && result->ratio < result->needed)
-        note(Rule::LowContrast, item,
-             QStringLiteral("the contrast with what lies behind it is %1:1, but %2:1 is needed")
-                 .arg(QString::number(std::floor(result->ratio * 10) / 10, 'f', 1),
-                      QString::number(result->needed, 'f', 1)),
-             result->isOnDark ? QStringLiteral("a lighter \"color\", or a darker background")
-                              : QStringLiteral("a darker \"color\", or a lighter background"));
+        note(Rule::LowContrast, item, contrastMessage(item, *result), contrastMend(*result));
     for (const auto& child : item.children)
         checkItemContrast(*child, contrast);
 }

@@ -29,9 +29,12 @@ private:
     void checkItems(const ShownItem& item);
     void checkSize(const ShownItem& item);
     void checkPlace(const ShownItem& item);
+    void checkLabel(const ShownItem& item);
     void checkText(const ShownItem& item);
+    void checkWords(const ShownItem& item);
     void checkGlyphs(const ShownItem& item);
     void checkOverlaps(const ShownItem& box);
+    void checkOverlap(const ShownItem& box, std::size_t first, std::size_t second);
     void checkContrast(CardHost& host);
     void checkItemContrast(const ShownItem& item, const class TextContrast& contrast);
     // Once per item and rule: another language may have the same problem.

@@ -1,5 +1,8 @@
 #include "check/LookMends.h"
 
+#include "check/TextMends.h"
+#include "check/ValueCheck.h"
+
 #include <QGraphicsObject>
 #include <QStringList>
 #include <QVariant>
@@ -121,11 +124,25 @@ QString placeMend(const ShownItem& item)
     return QStringLiteral("a larger \"width\" and \"height\" of the boxes around it, or none");
 }
 
+QString overlapMend(const ShownItem& item, bool hasNegativeMargin)
+{
+    return hasNegativeMargin
+        ? QStringLiteral("no negative margin, or \"position\": \"absolute\" if they shall overlap")
+        : placeMend(item);
+}
+
+bool hasNegativeMargin(const ShownItem& item)
+{
+    return pixelsIn(item.source.text("margin")).value_or(0) < 0;
+}
+
 QString cutMend(const ShownItem& item)
 {
     if (item.source.flag("wrap"))
         return QStringLiteral("a shorter text");
-    QString wrap = QStringLiteral("\"wrap\": true, or \"wrap\": false if it may be cut");
+    const QString more =
+        canWrap(item) ? QStringLiteral("\"wrap\": true") : widthMend(item, item.neededWidth());
+    const QString wrap = more + QStringLiteral(", or \"wrap\": false if it may be cut");
     if (!item.source.isInRow() || !item.box)
         return wrap;
     const auto isNoText = [](const ShownItem& each) { return !each.isText(); };

@@ -17,6 +17,12 @@ QString roomMend(const ShownItem& item);
 // For an item that is outside of its box, or over another one.
 QString placeMend(const ShownItem& item);
 
+// For an item that is over an earlier one of its box.
+QString overlapMend(const ShownItem& item, bool hasNegativeMargin);
+
+// Whether a margin pulls the item over the one before it.
+bool hasNegativeMargin(const ShownItem& item);
+
 // For a text that is cut.
 QString cutMend(const ShownItem& item);
 

@@ -49,6 +49,7 @@ constexpr std::array<RuleDescription, kRuleCount> kRules {
     warning(Rule::OutsideBox, "outside-box", "An item is partly outside its box"),
     warning(Rule::OutsideCard, "outside-card", "An item is partly outside the card"),
     warning(Rule::TextCut, "text-cut", "A text is cut"),
+    warning(Rule::WordSplit, "word-split", "A word is split"),
     warning(Rule::NoRoom, "no-room", "A text has no room"),
     warning(Rule::NoSize, "no-size", "An item has no size"),
     warning(Rule::Overlap, "overlap", "Two items overlap"),

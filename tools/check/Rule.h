@@ -43,6 +43,7 @@ enum class Rule {
     OutsideBox,
     OutsideCard,
     TextCut,
+    WordSplit,
     NoRoom,
     NoSize,
     Overlap,

@@ -109,6 +109,11 @@ QString ShownItem::text() const
     return object->property(isText() ? "plainText" : "label").toString();
 }
 
+double ShownItem::neededWidth() const
+{
+    return object->property("neededWidth").toDouble();
+}
+
 std::vector<std::unique_ptr<ShownItem>> shownItems(const QGraphicsItem& card, const JsonNode& root)
 {
     Items items;

@@ -26,6 +26,8 @@ struct ShownItem {
     QRectF painted() const;
     bool isText() const;
     QString text() const; // of a text or a button
+    // The smallest width in which a text or a label is shown whole, in one line.
+    double neededWidth() const;
 };
 
 // The items of a card, each with its JSON. Skips what is not built.

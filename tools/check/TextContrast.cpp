@@ -2,9 +2,11 @@
 
 #include "CardHost.h"
 #include "CardPainter.h"
+#include "check/BetterColor.h"
 #include "check/Contrast.h"
 #include "check/InkedWords.h"
 
+#include <QColor>
 #include <QFont>
 #include <QGraphicsItem>
 #include <QGraphicsObject>
@@ -45,6 +47,36 @@ void showTexts(const std::vector<std::unique_ptr<ShownItem>>& items, bool shown)
             item->object->setOpacity(shown ? 1 : 0);
         showTexts(item->children, shown);
     }
+}
+
+// The words of a text alone, and what is behind them.
+struct PaintedWords {
+    const QImage& letters;
+    QVector<QRect> places;
+    const QImage& behind;
+    QPoint offset;
+
+    // Of the word with the lowest contrast. `color`: as if all words had that one.
+    Contrast worst(const std::optional<QRgb>& color = std::nullopt) const
+    {
+        Contrast worst {kMaximumContrast};
+        for (const QRect& place : places) {
+            const auto contrast = wordContrast(letters, place, behind, offset, color);
+            if (contrast && contrast->ratio < worst.ratio)
+                worst = *contrast;
+        }
+        return worst;
+    }
+};
+
+// `better` finds a colour that is better than the drawn one.
+template <typename Better>
+ContrastResult resultOf(const Contrast& contrast, double needed, const Better& better)
+{
+    ContrastResult result {contrast.ratio, needed, contrast.isOnDark, contrast.color, {}};
+    if (contrast.ratio < needed)
+        result.better = better();
+    return result;
 }
 
 } // namespace
@@ -88,16 +120,17 @@ ContrastResult TextContrast::ofText(const ShownItem& item) const
     const QImage letters = paintAlone(item, area);
     const int lines = std::max(1, item.object->property("shownLineCount").toInt());
     const int gap = std::max(1, static_cast<int>(font.pixelSize() * kScale / 4));
-    ContrastResult worst {kMaximumContrast, neededRatio(font), false};
-    for (const QRect& word : inkedWords(letters, lines, gap)) {
-        const std::optional<Contrast> contrast =
-            wordContrast(letters, word, behind_, area.topLeft());
-        if (contrast && contrast->ratio < worst.ratio) {
-            worst.ratio = contrast->ratio;
-            worst.isOnDark = contrast->isOnDark;
-        }
-    }
-    return worst;
+    const PaintedWords words {letters, inkedWords(letters, lines, gap), behind_, area.topLeft()};
+    const Contrast worst = words.worst();
+    const double needed = neededRatio(font);
+    return resultOf(worst, needed, [&] {
+        const auto isGood = [&](QRgb color) {
+            const bool isGoodForOne = contrastRatio(color, worst.behind) >= needed; // fast
+            return isGoodForOne && words.worst(color).ratio >= needed;
+        };
+        const bool hasColor = !item.source.text("color").empty() || item.source.has("contents");
+        return hasColor ? betterShade(worst.color, isGood) : betterDefault(isGood);
+    });
 }
 
 QImage TextContrast::paintAlone(const ShownItem& item, const QRect& area) const
@@ -125,9 +158,16 @@ std::optional<ContrastResult> TextContrast::ofButton(const ShownItem& item) cons
     if (item.source.text("color").empty() || area.isEmpty())
         return std::nullopt;
     const Contrast contrast = labelContrast(behind_, area);
-    return ContrastResult {contrast.ratio,
-                           neededRatio(item.object->property("labelFont").value<QFont>()),
-                           contrast.isOnDark};
+    const double needed = neededRatio(item.object->property("labelFont").value<QFont>());
+    // The colour is that of the label or that of the plate.
+    const std::string_view name = item.source.text("color");
+    const QColor color(QString::fromUtf8(name.data(), static_cast<int>(name.size())));
+    const bool isPlate = contrast.behind == color.rgb();
+    const QRgb fixed = isPlate ? contrast.color : contrast.behind;
+    return resultOf(contrast, needed, [&] {
+        const auto isGood = [&](QRgb shade) { return contrastRatio(shade, fixed) >= needed; };
+        return betterShade(isPlate ? contrast.behind : contrast.color, isGood);
+    });
 }
 
 QRect TextContrast::toPixels(const QRectF& rect) const

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QRect>
 #include <QRectF>
+#include <QRgb>
 
 #include <memory>
 #include <optional>
@@ -19,6 +20,9 @@ struct ContrastResult {
     double ratio = 21;
     double needed = 0;
     bool isOnDark = false;
+    QRgb color = 0; // of that word
+    // A value of "color" with enough contrast.
+    std::optional<QRgb> better;
 };
 
 // Compares the letters of a card with what lies behind them, as both are painted.

@@ -253,6 +253,11 @@ void PlixTextUI::InitWidth(const PlixDataText& data, const Place& place)
     markDirty();
 }
 
+double PlixTextUI::neededWidth() const
+{
+    return std::ceil(NaturalLines().width);
+}
+
 double PlixTextUI::NaturalWidth()
 {
     SetMaxLineCount(maxLines_);

@@ -18,6 +18,7 @@ class PlixFocusStop;
 // The "text" component: a text in one format, or in spans.
 class PlixTextUI : public TextItem, public YogaLayoutItem, public PlixBaseUI {
     Q_OBJECT
+    Q_PROPERTY(double neededWidth READ neededWidth)
 
 public:
     PlixTextUI(QGraphicsItem* parent, QGraphicsLayoutItem* parentLayout,
@@ -32,6 +33,9 @@ public:
     void SetClickFunc(const ClickFunc& func) override;
     void SetFrom(int from) override;
     QString PlainText() const override { return toPlainText(); }
+
+    // In whole pixels: the smallest width in which no line is broken or elided.
+    double neededWidth() const;
 
     // Where the Tab key stops. One for the text if it has an action, else one for each
     // mention. A hidden one is skipped; the host may have deleted others.

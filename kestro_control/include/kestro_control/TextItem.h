@@ -119,6 +119,7 @@ class KESTRO_CONTROL_API TextItem : public QGraphicsTextItem,
     Q_INTERFACES(QGraphicsLayoutItem)
     Q_PROPERTY(QString plainText READ toPlainText)
     Q_PROPERTY(int shownLineCount READ ShownLineCount)
+    Q_PROPERTY(QVector<int> lineStarts READ ShownLineStarts)
     Q_PROPERTY(bool elided READ IsElided)
     Q_PROPERTY(QFont font READ font)
     Q_PROPERTY(Qt::TextInteractionFlags textInteractionFlags READ textInteractionFlags WRITE
@@ -286,6 +287,10 @@ public:
 
     // The number of shown lines; 0 for an empty document.
     int ShownLineCount() const;
+
+    // The index of the first character of each shown line. It counts the characters of
+    // toPlainText() from 0.
+    QVector<int> ShownLineStarts() const;
 
     // Whether any shown line ends in an ellipsis.
     bool IsElided() const;

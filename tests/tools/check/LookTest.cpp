@@ -43,6 +43,29 @@ TEST_P(Look, IsReportedWithTheMendThatWorks)
     EXPECT_EQ(mended.exitCode, 0);
 }
 
+const char* const kTimePath = "body.contents[0].contents[0]";
+
+// A text in a narrow column.
+QByteArray narrowText(const QByteArray& text, int width, bool wrap = true)
+{
+    return row(R"({"type": "box", "layout": "vertical", "flex": 0, "width": ")"
+               + QByteArray::number(width) + R"(px", "contents": [{"type": "text", )"
+               + (wrap ? R"("wrap": true, )" : "") + R"("text": ")" + text + R"("}]})");
+}
+
+QByteArray narrowTime(int width, bool wrap)
+{
+    return narrowText("12:30", width, wrap);
+}
+
+QByteArray whiteBox(const QByteArray& color)
+{
+    return cardOf(
+        R"({"type": "box", "layout": "vertical", "backgroundColor": "#FBE9E7", "contents": [
+                      {"type": "text", )"
+        + color + R"("text": "Due today"}]})");
+}
+
 const QByteArray kUrl = R"("url": "https://example.com/a.png")";
 
 INSTANTIATE_TEST_SUITE_P(
@@ -71,15 +94,36 @@ INSTANTIATE_TEST_SUITE_P(
                  row(R"({"type": "image", "size": "sm", )" + kUrl
                      + R"(}, {"type": "image", "size": "sm", )" + kUrl
                      + R"(}, {"type": "image", "size": "sm", )" + kUrl + "}")},
+        LookRow {"TimeInANarrowBox", narrowTime(40, false), "[text-cut]", kTimePath,
+                 R"("12:30" needs 47 pixels, but has 40; try "width": "47px" in body.contents[0],)",
+                 narrowTime(47, false)},
+        LookRow {"SplitTime", narrowTime(40, true), "[word-split]", kTimePath,
+                 R"(into "12:3" and "0"; it needs 47 pixels, but has 40; try "width": "47px")",
+                 narrowTime(47, true)},
+        LookRow {"LastLetterOfALongWord", narrowText("Reconciliations", 110), "[word-split]",
+                 kTimePath, R"(try "\u200b" in the word where it may break)",
+                 narrowText(R"(Recon\u200bciliations)", 110)},
+        LookRow {"NegativeMargin", cardOf(R"({"type": "text", "text": "Lunch"},
+                           {"type": "text", "text": "Soup", "margin": "-12px"})"),
+                 "[overlap]", "body.contents[1]", "try no negative margin",
+                 cardOf(R"({"type": "text", "text": "Lunch"}, {"type": "text", "text": "Soup"})")},
+        LookRow {"CutLabel", cardOf(R"({"type": "button", "style": "secondary",
+                         "action": {"type": "message", "label": "Send all of it to everybody"}})"),
+                 "[text-cut]", "body.contents[0]", "is shown (the button needs ",
+                 cardOf(R"({"type": "button", "style": "secondary",
+                         "action": {"type": "message", "label": "Send it"}})")},
+        LookRow {"NoColour", whiteBox(""), "[low-contrast]", "body.contents[0].contents[0]",
+                 R"try(it has no "color" (#767676 is drawn); try "color": "#1F2A37")try",
+                 whiteBox(R"("color": "#1F2A37", )")},
         LookRow {"DarkOnDark",
                  cardOf(R"({"type": "box", "layout": "vertical", "backgroundColor": "#1F2A37",
                          "contents": [{"type": "text", "text": "Due today", "color": "#B23A3A"}]})"),
-                 "[low-contrast]", "body.contents[0].contents[0]", "a lighter",
+                 "[low-contrast]", "body.contents[0].contents[0]", R"(try "color": "#)",
                  cardOf(R"({"type": "box", "layout": "vertical", "backgroundColor": "#1F2A37",
                          "contents": [{"type": "text", "text": "Due today", "color": "#FFFFFF"}]})")},
         LookRow {"LightButton", cardOf(R"({"type": "button", "style": "primary", "color": "#F7D774",
                          "action": {"type": "message", "label": "Approve"}})"),
-                 "[low-contrast]", "body.contents[0]", "a darker",
+                 "[low-contrast]", "body.contents[0]", R"(try "color": "#)",
                  cardOf(R"({"type": "button", "style": "primary", "color": "#1E6B4C",
                          "action": {"type": "message", "label": "Approve"}})")}),
     [](const auto& row) { return row.param.name; });

@@ -96,6 +96,25 @@ INSTANTIATE_TEST_SUITE_P(
                          {"type": "box", "layout": "vertical", "position": "absolute",
                           "offsetTop": "9px", "offsetBottom": "9px"}]})",
                      {}},
+        NoEffectRow {"BottomOfNothing",
+                     R"({"type": "box", "layout": "vertical", "paddingAll": "0px", "contents": [
+                         {"type": "text", "text": "a", "position": "absolute",
+                          "offsetBottom": "0px"}]})",
+                     {"body.contents[0].offsetBottom"}},
+        NoEffectRow {"EndOfNothing",
+                     R"({"type": "box", "layout": "vertical", "paddingAll": "0px", "contents": [
+                         {"type": "text", "text": "a", "position": "absolute",
+                          "offsetEnd": "0%"}]})",
+                     {"body.contents[0].offsetEnd"}},
+        NoEffectRow {"EndOfNothingOfAStretchedBox",
+                     R"({"type": "box", "layout": "vertical", "paddingAll": "0px", "contents": [
+                         {"type": "box", "layout": "vertical", "position": "absolute",
+                          "height": "9px", "offsetEnd": "0px"}]})",
+                     {}},
+        NoEffectRow {"BottomOfNothingThatIsNotAbsolute",
+                     R"({"type": "box", "layout": "vertical", "contents": [
+                         {"type": "text", "text": "a", "offsetBottom": "0px"}]})",
+                     {}},
         NoEffectRow {"GravityOfAnAbsoluteText",
                      R"({"type": "box", "layout": "vertical", "contents": [
                          {"type": "text", "text": "a", "position": "absolute",
