@@ -67,11 +67,6 @@ bool isPlaced(const ShownItem& item)
     return !item.source.isAbsolute() && !isEmptySpace(item) && hasSize(item);
 }
 
-QString pixels(double value)
-{
-    return QString::number(static_cast<int>(value));
-}
-
 } // namespace
 
 LookCheck::LookCheck(const CardFile& file, const JsonNode& root, const CheckOptions& options,

@@ -15,11 +15,6 @@
 namespace plix::tool {
 namespace {
 
-QString pixels(double value)
-{
-    return QString::number(std::lround(value));
-}
-
 // As the card has it: the item shows no-break spaces as spaces.
 QString writtenText(const ShownItem& item)
 {
@@ -52,6 +47,11 @@ QString colorName(QRgb color)
 }
 
 } // namespace
+
+QString pixels(double value)
+{
+    return QString::number(static_cast<int>(value));
+}
 
 QString roomText(double needed, double available)
 {

@@ -11,6 +11,9 @@ struct ContrastResult;
 
 // What is wrong with a text, and what to change in the card.
 
+// A number of whole pixels.
+QString pixels(double value);
+
 // How much room a text or a label needs, and how much it has.
 QString roomText(double needed, double available);
 

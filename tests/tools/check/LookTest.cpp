@@ -66,6 +66,15 @@ QByteArray whiteBox(const QByteArray& color)
         + color + R"("text": "Due today"}]})");
 }
 
+// A box of 100 pixels with an absolute one of 20 pixels.
+QByteArray pictureWith(const QByteArray& offset)
+{
+    return R"({"type": "bubble", "hero": {"type": "box", "layout": "vertical", "height": "100px",
+               "contents": [{"type": "box", "layout": "vertical", "position": "absolute",
+                             "height": "20px", "backgroundColor": "#1F2A37", "contents": [], )"
+        + offset + "}]}}";
+}
+
 const QByteArray kUrl = R"("url": "https://example.com/a.png")";
 
 INSTANTIATE_TEST_SUITE_P(
@@ -100,6 +109,11 @@ INSTANTIATE_TEST_SUITE_P(
         LookRow {"SplitTime", narrowTime(40, true), "[word-split]", kTimePath,
                  R"(into "12:3" and "0"; it needs 47 pixels, but has 40; try "width": "47px")",
                  narrowTime(47, true)},
+        LookRow {"NumberAndUnit", narrowText(R"(118\u00a0km)", 60, false), "[text-cut]", kTimePath,
+                 R"(try "width": ")", narrowText(R"(118\u00a0km)", 80, false)},
+        LookRow {"CaptionAtTheTop", pictureWith(R"("offsetBottom": "0px")"), "[no-effect]",
+                 "hero.contents[0].offsetBottom", R"(try "offsetTop": "80px")",
+                 pictureWith(R"("offsetTop": "80px")")},
         LookRow {"LastLetterOfALongWord", narrowText("Reconciliations", 110), "[word-split]",
                  kTimePath, R"(try "\u200b" in the word where it may break)",
                  narrowText(R"(Recon\u200bciliations)", 110)},
