@@ -6,18 +6,33 @@
 
 #include <QFile>
 
-#include <cstdio>
+#include <iostream>
+#include <iterator>
 
 namespace plix::tool {
 
-QByteArray readCardText(const QString& path)
+namespace {
+
+QByteArray readFile(const QString& path)
 {
     QFile file(path);
-    const bool isOpen = path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly)
-                                                   : file.open(QIODevice::ReadOnly);
-    QByteArray text = isOpen ? file.readAll() : QByteArray();
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (file.error() != QFileDevice::NoError)
         throw fileError(path, file.errorString());
+    return text;
+}
+
+// On Windows, QFile fails at the end of a pipe.
+QByteArray readStandardInput()
+{
+    return QByteArray::fromStdString({std::istreambuf_iterator<char>(std::cin), {}});
+}
+
+} // namespace
+
+QByteArray readCardText(const QString& path)
+{
+    QByteArray text = path == QLatin1String("-") ? readStandardInput() : readFile(path);
     // A byte order mark is not part of the message.
     if (text.startsWith("\xEF\xBB\xBF"))
         text.remove(0, 3);

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QTextBoundaryFinder>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -33,6 +34,15 @@ QString repeated(const char* unit, int length)
 {
     const QString text = QString::fromUtf8(unit);
     return text.repeated(length / text.size());
+}
+
+// Qt finds the ends of Thai words only where it has a dictionary, which it has not on Windows.
+// There, the text is an unbroken run.
+int minimumOfThai()
+{
+    const QString words = QString::fromUtf8("อาหารเย็น");
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, words);
+    return finder.toNextBoundary() < words.size() ? 15900 : 1900;
 }
 
 struct LimitRow {
@@ -96,7 +106,7 @@ INSTANTIATE_TEST_SUITE_P(
         LimitRow {"MadeEmoji", repeated("❤\uFE0F", kMillion), 380, 400},
         LimitRow {"Keys", repeated("1\uFE0F\u20E3", kMillion), 60, 80},
         LimitRow {"Flags", repeated("\U0001F1E9\U0001F1EA", kMillion), 1400, 1460},
-        LimitRow {"Thai", repeated("อาหารเย็น", kMillion), 15900, 16000}),
+        LimitRow {"Thai", repeated("อาหารเย็น", kMillion), minimumOfThai(), 16000}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(DisplayLimit, ShowsRealTextsInFull)
