@@ -11,7 +11,8 @@ foreach(entry IN LISTS target)
 endforeach()
 execute_process(
     COMMAND ${CMAKE_COMMAND} -G Ninja -S ${SOURCE} -B ${SCRATCH}/build
-        -DCMAKE_BUILD_TYPE=Debug -DPLIX_BUILD_TESTS=OFF -DPLIX_CACHE_DIR=${CACHE}
+        -DCMAKE_BUILD_TYPE=Check -DCMAKE_CXX_FLAGS_CHECK=-fsyntax-only
+        -DPLIX_BUILD_TESTS=OFF -DPLIX_CACHE_DIR=${CACHE}
         -DPLIX_EXTERNAL_KESTRO_CONTROL=ON
         -DKestroControl_DIR=${PREFIX}/${LIBRARY_FOLDER}/cmake/KestroControl ${target_options}
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
