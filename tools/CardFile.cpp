@@ -16,7 +16,7 @@ namespace {
 QByteArray readFile(const QString& path)
 {
     QFile file(path);
-    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (file.error() != QFileDevice::NoError)
         throw fileError(path, file.errorString());
     return text;

@@ -89,6 +89,7 @@ Options readDrawArguments(const DrawCommand& command, const CommandParser& parse
 std::vector<ToolCommand> drawCommands()
 {
     std::vector<ToolCommand> commands;
+    commands.reserve(kCommands.size());
     for (const DrawCommand& command : kCommands) {
         commands.push_back(
             {command.name, command.summary, command.text, command.examples, kDrawExitCodes,

@@ -142,7 +142,7 @@ QString cutMend(const ShownItem& item)
         return QStringLiteral("a shorter text");
     const QString more =
         canWrap(item) ? QStringLiteral("\"wrap\": true") : widthMend(item, item.neededWidth());
-    const QString wrap = more + QStringLiteral(", or \"wrap\": false if it may be cut");
+    QString wrap = more + QStringLiteral(", or \"wrap\": false if it may be cut");
     if (!item.source.isInRow() || !item.box)
         return wrap;
     const auto isNoText = [](const ShownItem& each) { return !each.isText(); };

@@ -74,7 +74,7 @@ bool canWrap(const ShownItem& item)
 
 QString widthMend(const ShownItem& item, double needed)
 {
-    const QString size = QStringLiteral("a smaller \"size\"");
+    QString size = QStringLiteral("a smaller \"size\"");
     const ShownItem* const box = boxWithWidth(item);
     if (!box)
         return size;
@@ -88,8 +88,8 @@ QString splitMessage(const ShownItem& item, const SplitWord& word)
     QStringList parts;
     for (const QString& part : word.parts)
         parts.append(quoted(part));
-    const QString split = QStringLiteral("the word %1 is split into %2")
-                              .arg(quoted(word.text()), parts.join(QStringLiteral(" and ")));
+    QString split = QStringLiteral("the word %1 is split into %2")
+                        .arg(quoted(word.text()), parts.join(QStringLiteral(" and ")));
     // Spans may have other fonts.
     if (item.source.has("contents"))
         return split;
