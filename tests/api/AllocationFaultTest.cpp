@@ -1,6 +1,7 @@
 // Memory that runs out at each point of a card's life.
 #include "api/AllocationFaults.h"
 #include "api/PlixCatchExceptions.h"
+#include "support/LeaksIgnored.h"
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
 #include "ui/CardTree.h"
@@ -209,6 +210,9 @@ private:
         bool hasThrown = false;
         bool hasEscaped = false;
         {
+            std::optional<LeaksIgnored> ignored;
+            if (step.mayThrow)
+                ignored.emplace();
             const AllocationFaults faults(n, kind);
             hasEscaped = !CatchExceptions([&] { (life.*step.run)(); });
             hasThrown = faults.hasThrown();
