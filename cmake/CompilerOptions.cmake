@@ -11,8 +11,10 @@ else()
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
         -Wconversion -Wsign-conversion -Wold-style-cast)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION MATCHES "^12\\.")
-        # GCC 12 warns of overlaps in assignments to a std::string where there are none.
-        target_compile_options(plix_options INTERFACE -Wno-restrict)
+        # GCC 12 warns of overlaps in assignments to a std::string where there are none. For
+        # 32 bits, it believes that an empty std::optional is read.
+        target_compile_options(plix_options INTERFACE
+            -Wno-restrict $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},4>:-Wno-maybe-uninitialized>)
     endif()
     if(PLIX_WARNINGS_AS_ERRORS)
         target_compile_options(plix_options INTERFACE -Werror)
