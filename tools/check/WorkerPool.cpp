@@ -77,7 +77,9 @@ void WorkerPool::giveFile(Worker& worker)
     }
     worker.file = given_++;
     ++worker.checked;
-    worker.process->write(files_.at(*worker.file).toUtf8().toPercentEncoding() + '\n');
+    // On Windows, a program that is missing has failed already.
+    if (worker.process->state() != QProcess::NotRunning)
+        worker.process->write(files_.at(*worker.file).toUtf8().toPercentEncoding() + '\n');
 }
 
 void WorkerPool::readReport(Worker& worker)
