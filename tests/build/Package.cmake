@@ -22,6 +22,8 @@ set_tests_properties(Build.UsesAnInstalledKestroControl PROPERTIES
 
 # Linked into the hosts, here and by windows/package.
 add_library(plix_card_probe OBJECT CardProbe.cpp)
+# windows/package links the object by its name.
+set_target_properties(plix_card_probe PROPERTIES UNITY_BUILD OFF)
 target_link_libraries(plix_card_probe PRIVATE Qt5::Widgets plix_options)
 
 # windows/package does the same for Windows.
