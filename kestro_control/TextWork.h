@@ -19,6 +19,15 @@ struct TextWork {
     // Characters that were shaped: those of paragraphs, and of lines that were tried with
     // an ellipsis.
     int shapedCharacters = 0;
+
+    // What was done between two moments.
+    friend TextWork operator-(const TextWork& after, const TextWork& before)
+    {
+        return {after.documents - before.documents, after.shapings - before.shapings,
+                after.lineBreakings - before.lineBreakings,
+                after.searchedCharacters - before.searchedCharacters,
+                after.shapedCharacters - before.shapedCharacters};
+    }
 };
 
 KESTRO_CONTROL_API TextWork& WorkSoFar();

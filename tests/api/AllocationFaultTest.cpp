@@ -4,6 +4,7 @@
 #include "support/LeaksIgnored.h"
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/CardTree.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
@@ -308,7 +309,7 @@ INSTANTIATE_TEST_SUITE_P(
         CardRow {"Picture",
                  image("still.png", R"("size": "xs", "i18nUrls": {"en": "still.png"},)")},
         CardRow {"Animation", box("baseline", icon("moving.gif") + "," + text("moves"))}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 } // namespace
 } // namespace plix::test

@@ -2,6 +2,7 @@
 #include "Ink.h"
 #include "TextLimits.h"
 #include "TextWork.h"
+#include "support/RowName.h"
 
 #include <kestro_control/KestroControlManager.h>
 #include <kestro_control/KestroControlSupport.h>
@@ -112,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(
         LimitRow {"Keys", [] { return repeated("1\uFE0F\u20E3", kMillion); }, 60, 80},
         LimitRow {"Flags", [] { return repeated("\U0001F1E9\U0001F1EA", kMillion); }, 1400, 1460},
         LimitRow {"Thai", [] { return repeated("อาหารเย็น", kMillion); }, minimumOfThai(), 16000}),
-    [](const auto& row) { return std::string(row.param.name); });
+    plix::test::RowName());
 
 TEST(DisplayLimit, ShowsRealTextsInFull)
 {
@@ -220,8 +221,7 @@ std::vector<PriceRow> prices()
             {"Joiner", "\u200d", 1 + kJoinerCost}};
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, PriceOfAText, testing::ValuesIn(prices()),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Texts, PriceOfAText, testing::ValuesIn(prices()), plix::test::RowName());
 
 TEST(MaximumCost, LeavesAnEllipsisOfATextThatHasNothingLeft)
 {

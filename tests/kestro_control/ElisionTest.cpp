@@ -227,7 +227,7 @@ INSTANTIATE_TEST_SUITE_P(
             "Emoji",
             "👨‍👩‍👧|👍🏽|🇩🇪|🇫🇷|😀|👩🏽‍🚒|1️⃣|❤️",
             Qt::LayoutDirectionAuto, Qt::AlignLeft, false}),
-    plix::test::rowName<ScriptRow>);
+    plix::test::RowName());
 
 TEST(ElisionOfWrappedText, ContinuesTheLastLinePastItsBreak)
 {

@@ -3,6 +3,7 @@
 #include "HighlightWords.h"
 #include "Ink.h"
 #include "TextLimits.h"
+#include "support/RowName.h"
 
 #include <kestro_control/TextItem.h>
 
@@ -272,7 +273,7 @@ INSTANTIATE_TEST_SUITE_P(
         HighlightRow {"LatinInHebrew", "שלום words כאן", "ord|ם w", -1},
         HighlightRow {"NumbersInHebrew", "בשעה 1234 כאן", "23", -1},
         HighlightRow {"Chinese", "晚上一起吃饭吗我们等你", "一起|吃饭吗|等", 110}),
-    [](const auto& row) { return std::string(row.param.name); });
+    plix::test::RowName());
 
 TEST(HighlightOfItem, ReplacesTheEarlierOne)
 {

@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
         MarkupRow {"Flag", R"(<e code="1F1E9-1F1EA"/>)", "emoji 1F1E9-1F1EA[🇩🇪]"},
         MarkupRow {"Keycap", R"(<e code="31-FE0F-20E3"/>)", "emoji 31-FE0F-20E3[1️⃣]"},
         MarkupRow {"SkinTone", R"(<e code="1F44D-1F3FD"/>)", "emoji 1F44D-1F3FD[👍🏽]"}),
-    plix::test::rowName<MarkupRow>);
+    plix::test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     InsideMalformedMarkup, Markup,
@@ -111,7 +111,7 @@ INSTANTIATE_TEST_SUITE_P(
                                R"(text[<m user="1">a]emoji 1F600[😀]text[</m>])"},
                     MarkupRow {"AnElementInATag", R"(<m <m user="2">b</m>)", "text[<m ]user 2[b]"},
                     MarkupRow {"AnEntity", R"(<m user="1">&lt;)", R"(text[<m user="1"><])"}),
-    plix::test::rowName<MarkupRow>);
+    plix::test::RowName());
 
 class MalformedMarkup : public testing::TestWithParam<const char*> { };
 

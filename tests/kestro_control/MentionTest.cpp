@@ -1,6 +1,7 @@
 // Mentions under the mouse: where they are hit, clicks and the mouse cursor. The
 // events go through a view, as the user's do.
 #include "Ink.h"
+#include "support/RowName.h"
 
 #include <kestro_control/TextItem.h>
 
@@ -195,7 +196,7 @@ INSTANTIATE_TEST_SUITE_P(
                 140, 0},
         HitRow {"Arabic", "مرحبا <m user=\"5\">أحمد علي</m> بكم", -1, 0},
         HitRow {"Chinese", "晚上<m user=\"5\">王小明</m>一起吃饭吗", 100, 0}),
-    [](const auto& row) { return std::string(row.param.name); });
+    plix::test::RowName());
 
 TEST(MentionHitInElidedText, ExcludesTheEllipsis)
 {

@@ -4,6 +4,7 @@
 #include "SelectionView.h"
 
 #include "support/LiveView.h"
+#include "support/RowName.h"
 
 #include <kestro_control/KestroControlManager.h>
 #include <kestro_control/KestroControlSupport.h>
@@ -110,7 +111,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PaintRow {"LatinInHebrew", "שלום words כאן", "words", -1},
                     PaintRow {"NumbersInHebrew", "בשעה 1234 כאן", "1234", -1},
                     PaintRow {"Combining", "an e\u0301te\u0301 here", "e\u0301te\u0301", -1}),
-    [](const auto& row) { return std::string(row.param.name); });
+    plix::test::RowName());
 
 using SelectionColor = SelectionColors;
 

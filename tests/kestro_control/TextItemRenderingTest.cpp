@@ -65,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
                         "Emoji",
                         "👨‍👩‍👧👍🏽🇩🇪😀👨‍👩‍👧👍🏽"},
                     RenderedScriptRow {"Mixed", "Dinner ארוחת הערב at 7"}),
-    plix::test::rowName<RenderedScriptRow>);
+    plix::test::RowName());
 
 TEST(TextItemRendering, DrawsOnlyTheLinesWithinTheLimit)
 {
@@ -206,7 +206,7 @@ INSTANTIATE_TEST_SUITE_P(
         AlignmentRow {"HebrewCentre", "םםם", Qt::AlignHCenter, Qt::LayoutDirectionAuto, 0.5},
         AlignmentRow {"HebrewEndsAtTheLeft", "םםם", Qt::AlignRight, Qt::LayoutDirectionAuto, 0},
         AlignmentRow {"HebrewInLeftToRightText", "םםם", Qt::AlignLeft, Qt::LeftToRight, 0}),
-    plix::test::rowName<AlignmentRow>);
+    plix::test::RowName());
 
 TEST(TextItemRendering, DrawsTheTextBelowTheFrameMargin)
 {
@@ -270,7 +270,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SideRow {"TwiceAsLarge", "jar", false, 0, 2, 1, 0},
                     SideRow {"BetweenPixels", "jar", false, 0.5, 1, 0, 1},
                     SideRow {"EmojiInside", "Dinner 😀 is ready", false, 0, 1, 0, 0}),
-    plix::test::rowName<SideRow>);
+    plix::test::RowName());
 
 TEST(TextItemRendering, HasAnInkRectangleOfWhatItDraws)
 {

@@ -249,7 +249,7 @@ INSTANTIATE_TEST_SUITE_P(Scripts, TextItemNaturalWidth,
                                          NamedText {"Arabic", "مرحبا بكم جميعا"},
                                          NamedText {"Hebrew", "שלום לכולם"},
                                          NamedText {"Emoji", "👨‍👩‍👧👍🏽🇩🇪"}),
-                         plix::test::rowName<NamedText>);
+                         plix::test::RowName());
 
 TEST(TextItemText, IsInsertedAtTheEndOrAtTheStart)
 {

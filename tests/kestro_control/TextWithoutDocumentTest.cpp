@@ -244,9 +244,7 @@ kestro::TextWork workIn(const std::function<void()>& steps)
 {
     const kestro::TextWork before = WorkSoFar();
     steps();
-    const kestro::TextWork after = WorkSoFar();
-    return {after.documents - before.documents, after.shapings - before.shapings,
-            after.lineBreakings - before.lineBreakings};
+    return WorkSoFar() - before;
 }
 
 TEST(TextItemDocument, IsNotMadeForATextThatIsOnlyShown)

@@ -4,6 +4,7 @@
 #include "layout/PlixStyleValues.h"
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <QGraphicsWidget>
 
@@ -126,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(
                    &padding<YGEdgeBottom>},
         NumberRow {"PaddingPercent", [](Item& i, double n) { i.setPaddingPercent(n); },
                    &padding<YGEdgeAll>}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     SizeSetters, NumberSetter,
@@ -163,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(
         NumberRow {"PositionBottomPercent",
                    [](Item& i, double n) { i.setPositionBottomPercent(n); },
                    &position<YGEdgeBottom>}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 // ----- What Yoga makes of it
 

@@ -38,7 +38,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PixelRow {"LeadingBlankIsNoWord", " md", 0},
                     PixelRow {"TrailingBlankIsNoWord", "md ", 0},
                     PixelRow {"NulAfterTheWordIsNoWord", std::string("md\0", 3), 0}),
-    plix::test::rowName<PixelRow>);
+    plix::test::RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Numbers, LengthPixels,
@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
                               "\xff\xfe"
                               "9px",
                               0}),
-    plix::test::rowName<PixelRow>);
+    plix::test::RowName());
 
 class Percent : public testing::TestWithParam<PixelRow> { };
 
@@ -69,7 +69,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, Percent,
                                          PixelRow {"Fraction", "50.5%", 0},
                                          PixelRow {"Negative", "-5%", -5},
                                          PixelRow {"Pixels", "5px", 0}, PixelRow {"Empty", "", 0}),
-                         plix::test::rowName<PixelRow>);
+                         plix::test::RowName());
 
 using LengthRow = Row<PlixLength>;
 
@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ParsedLength,
                                          LengthRow {"NegativePixelsAreKept", "-4px", {-4, 0}},
                                          LengthRow {"BareZero", "0", {0, 0}},
                                          LengthRow {"Garbage", "wide", {0, 0}}),
-                         plix::test::rowName<LengthRow>);
+                         plix::test::RowName());
 
 TEST(ParseLength, KeepsAnEarlierPercentageWhenTheNewTextIsInPixels)
 {
@@ -128,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, Spacing,
                                          PixelRow {"NumbersAreZero", "8", 0},
                                          PixelRow {"Empty", "", 0},
                                          PixelRow {"OtherCase", "MD", 0}),
-                         plix::test::rowName<PixelRow>);
+                         plix::test::RowName());
 
 class SpacerSize : public testing::TestWithParam<PixelRow> { };
 
@@ -144,7 +144,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, SpacerSize,
                                          PixelRow {"Empty", "", 8},
                                          PixelRow {"UnknownWord", "huge", 8},
                                          PixelRow {"Pixels", "30px", 8}),
-                         plix::test::rowName<PixelRow>);
+                         plix::test::RowName());
 
 class CornerRadius : public testing::TestWithParam<PixelRow> { };
 
@@ -161,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PixelRow {"Pixels", "20px", 20}, PixelRow {"UpperCaseUnit", "20PX", 20},
                     PixelRow {"Number", "7", 7}, PixelRow {"None", "none", 0},
                     PixelRow {"OtherCase", "XL", 0}, PixelRow {"Negative", "-3px", -3}),
-    plix::test::rowName<PixelRow>);
+    plix::test::RowName());
 
 class BorderWidth : public testing::TestWithParam<PixelRow> { };
 
@@ -178,7 +178,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PixelRow {"None", "none", 0}, PixelRow {"Pixels", "9px", 9},
                     PixelRow {"UpperCaseUnit", "9Px", 9}, PixelRow {"LengthWord", "md", 0},
                     PixelRow {"OtherCase", "Bold", 0}),
-    plix::test::rowName<PixelRow>);
+    plix::test::RowName());
 
 using ImageRow = Row<float>;
 
@@ -198,7 +198,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ImageRow {"FourXl", "4xl", 200}, ImageRow {"FiveXl", "5xl", 220},
                     ImageRow {"FullIsASpecialValue", "full", -2}, ImageRow {"Empty", "", 100},
                     ImageRow {"Pixels", "70px", 100}, ImageRow {"OtherCase", "XL", 100}),
-    plix::test::rowName<ImageRow>);
+    plix::test::RowName());
 
 class BubbleWidth : public testing::TestWithParam<ImageRow> { };
 
@@ -214,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, BubbleWidth,
                                          ImageRow {"Giga", "giga", 500},
                                          ImageRow {"UnknownWord", "tiny", 300},
                                          ImageRow {"Empty", "", 300}),
-                         plix::test::rowName<ImageRow>);
+                         plix::test::RowName());
 
 using ColorRow = Row<QColor>;
 
@@ -244,7 +244,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ColorRow {"FiveDigits", "#22222", QColor()},
                     ColorRow {"NoHexDigit", "#22222G", QColor()}, ColorRow {"Empty", "", QColor()},
                     ColorRow {"BrokenUtf8", "#\xff\xfe", QColor()}),
-    plix::test::rowName<ColorRow>);
+    plix::test::RowName());
 
 using AlphaRow = Row<std::string>;
 
@@ -261,6 +261,6 @@ INSTANTIATE_TEST_SUITE_P(Texts, RgbaToArgb,
                                          AlphaRow {"Name", "red", "red"},
                                          AlphaRow {"NineLetters", "chocolate", "#tehocola"},
                                          AlphaRow {"Empty", "", ""}),
-                         plix::test::rowName<AlphaRow>);
+                         plix::test::RowName());
 
 } // namespace

@@ -1,6 +1,7 @@
 // The callbacks that Yoga makes while it computes a layout.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <cmath>
 #include <limits>
@@ -75,7 +76,7 @@ INSTANTIATE_TEST_SUITE_P(Sizes, MeasuredSize,
                                          SizeRow {"ZeroHeightOnly", {30, 0}, {30, 1}},
                                          SizeRow {"NotANumber", {kNan, kNan}, {1, 1}},
                                          SizeRow {"TooSmallForAFloat", {1e-60, 1e-60}, {1, 1}}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 using LayoutCallbacks = PlixTest;
 

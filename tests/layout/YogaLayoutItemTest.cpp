@@ -71,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
                   YGUnitPoint, 8},
         StyleRow {"Negative", [](Item& i) { i.setMarginTop(-6); }, margin(YGEdgeTop), YGUnitPoint,
                   -6}),
-    rowName<StyleRow>);
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Paddings, StyleSetter,
@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
                               padding(YGEdgeBottom), YGUnitPercent, 40},
                     StyleRow {"OnePercent", [](Item& i) { i.setPaddingPercent(50); },
                               padding(YGEdgeAll), YGUnitPercent, 50}),
-    rowName<StyleRow>);
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Sizes, StyleSetter,
@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(
                               &YGNodeStyleGetHeight, YGUnitPercent, 31},
                     StyleRow {"MaxWidthPercent", [](Item& i) { i.setMaxWidthPercent(90); },
                               &YGNodeStyleGetMaxWidth, YGUnitPercent, 90}),
-    rowName<StyleRow>);
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Offsets, StyleSetter,
@@ -132,7 +132,7 @@ INSTANTIATE_TEST_SUITE_P(
                   YGUnitPercent, 30},
         StyleRow {"BottomPercent", [](Item& i) { i.setPositionBottomPercent(40); },
                   position(YGEdgeBottom), YGUnitPercent, 40}),
-    rowName<StyleRow>);
+    RowName());
 
 struct AlignmentRow {
     const char* name;
@@ -175,7 +175,7 @@ INSTANTIATE_TEST_SUITE_P(
                     AlignmentRow {"VCenter", Qt::AlignVCenter, true, kNoJustify, YGAlignCenter},
                     AlignmentRow {"Baseline", Qt::AlignBaseline, true, kNoJustify, kNoAlign,
                                   YGAlignBaseline}),
-    rowName<AlignmentRow>);
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     OnTheCrossAxis, Alignment,
@@ -186,7 +186,7 @@ INSTANTIATE_TEST_SUITE_P(
                     AlignmentRow {"Bottom", Qt::AlignBottom, false, YGJustifyFlexEnd, kNoAlign},
                     AlignmentRow {"VCenter", Qt::AlignVCenter, false, YGJustifyCenter, kNoAlign},
                     AlignmentRow {"Baseline", Qt::AlignBaseline, false, kNoJustify, kNoAlign}),
-    rowName<AlignmentRow>);
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     OtherValues, Alignment,
@@ -196,7 +196,7 @@ INSTANTIATE_TEST_SUITE_P(
         AlignmentRow {"CombinationAcross", Qt::AlignCenter, false, kNoJustify, kNoAlign},
         AlignmentRow {"Zero", 0, true, kNoJustify, kNoAlign},
         AlignmentRow {"Negative", -1, false, kNoJustify, kNoAlign}),
-    rowName<AlignmentRow>);
+    RowName());
 
 using LayoutItem = PlixTest;
 

@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
         SetterRow {"CalculateLayout", [](Item& i) { i.calculateLayout(10, 10); }},
         SetterRow {"CalculateLayoutUnbounded", [](Item& i) { i.calculateLayout(); }},
         SetterRow {"RelayoutInPlace", [](Item& i) { i.relayoutInPlace(); }}),
-    rowName<SetterRow>);
+    RowName());
 
 struct LengthRow {
     const char* name;
@@ -148,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LengthRow {"PositionEnd", [](const Item& i) { return i.positionEnd(); }},
                     LengthRow {"PositionTop", [](const Item& i) { return i.positionTop(); }},
                     LengthRow {"PositionBottom", [](const Item& i) { return i.positionBottom(); }}),
-    rowName<LengthRow>);
+    RowName());
 
 using ItemWithoutNode = PlixTest;
 

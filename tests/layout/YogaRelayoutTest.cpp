@@ -2,6 +2,7 @@
 // once.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <QGraphicsLayoutItem>
 
@@ -421,7 +422,7 @@ TEST_P(RelayoutTree, NeedsAFewCallsPerItem)
 INSTANTIATE_TEST_SUITE_P(Trees, RelayoutTree,
                          testing::Values(TreeRow {"Wide", 1, 2000}, TreeRow {"Deep", 60, 1},
                                          TreeRow {"DeepAndWide", 30, 10}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 } // namespace
 } // namespace plix::test

@@ -1,6 +1,7 @@
 // Links between layout items, their layout, and what happens when an item is deleted.
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <QGraphicsLayoutItem>
 
@@ -79,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Indices, InsertedChild,
                          testing::Values(IndexRow {"First", 0, 0}, IndexRow {"Middle", 1, 1},
                                          IndexRow {"End", 2, 2}, IndexRow {"BeyondTheEnd", 99, 2},
                                          IndexRow {"Negative", -5, 0}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 TEST_F(LayoutTree, LogsThatANullChildCannotBeAdded)
 {

@@ -7,9 +7,11 @@
 namespace plix::test {
 
 // Names the tests of a suite after the `name` of their rows.
-template <typename Row> std::string rowName(const testing::TestParamInfo<Row>& row)
-{
-    return row.param.name;
-}
+struct RowName {
+    template <typename Row> std::string operator()(const testing::TestParamInfo<Row>& row) const
+    {
+        return row.param.name;
+    }
+};
 
 } // namespace plix::test

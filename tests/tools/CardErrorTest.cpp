@@ -1,4 +1,5 @@
 #include "ToolRun.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(Root, CardError,
                                          notAnObject("Number", "42", "1:1"),
                                          notAnObject("AfterBlankLines", "\n\n  []", "3:3"),
                                          notAnObject("AfterComments", "// a\n/* b */ []", "2:9")),
-                         [](const auto& row) { return row.param.name; });
+                         RowName());
 
 ErrorRow type(const char* name, const QByteArray& card, const char* place)
 {
@@ -70,7 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
                     type("AfterAByteOrderMark", "\xEF\xBB\xBF{\"type\": 1}", "1:10"),
                     type("AfterWindowsLines", "{\r\n\"size\": \"a\",\r\n\"type\": 1}", "3:9"),
                     type("AfterAComment", "{/* 日本 */ \"type\": 1}", "1:19")),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 ErrorRow syntax(const char* name, const QByteArray& card, const char* place, const char* error)
 {
@@ -112,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(
                kColonNeeded),
         syntax("TooDeep", "{\"a\":" + QByteArray(1100, '['), "1:1005",
                "the JSON is nested deeper than 1000 levels")),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 // The first slip in the text is reported, whatever else is found before it.
 TEST(CardFile, ThatHasSeveralSlipsIsRefusedForTheFirstOne)

@@ -1,4 +1,5 @@
 #include "ToolRun.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +46,7 @@ INSTANTIATE_TEST_SUITE_P(
         HelpRow {"Schema", {"schema", "--help"}, {"--output", "Examples:", "Exit codes:"}},
         HelpRow {"View", {"view", "--help"}, {"--images", "--lang", "plix view examples/cards"}},
         HelpRow {"Version", {"--version"}, {"plix " PLIX_VERSION}}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 class EveryOption : public testing::TestWithParam<Arguments> { };
 
@@ -120,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(
         value("WrapModeIsTooLarge", "--wrap-mode", "5", "a whole number from 0 to 4"),
         value("TextHasNoEquals", "--text", "key", "KEY=VALUE"),
         value("TextHasNoKey", "--text", "=value", "KEY=VALUE")),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Usage, Refusal,
@@ -143,7 +144,7 @@ INSTANTIATE_TEST_SUITE_P(
         RefusalRow {"GalleryWithoutOutput", {"gallery", "."}, "-o OUTDIR is missing"},
         RefusalRow {
             "LayoutWithEmptyOutput", {"layout", "card.json", "-o", ""}, "-o OUT.json is missing"}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 } // namespace
 } // namespace plix::test

@@ -1,5 +1,6 @@
 // Images come from the folder of the option --images.
 #include "ToolRun.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -80,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(
         UrlRow {"DataUrl", "data:image/png;base64,iVBORw0KGgo=", "pic.png", false},
         UrlRow {"Hidden", "https://example.com/.pic.png", ".pic.png", false},
         UrlRow {"EncodedNul", "https://example.com/pic.png%00.gif", "pic.png", false}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 TEST(Images, AreNotShownWithoutAFolder)
 {

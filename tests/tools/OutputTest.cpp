@@ -1,4 +1,5 @@
 #include "ToolRun.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -59,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
         OutputRow {"PictureOverAFolder", "render", "folder", "Is a directory"},
         OutputRow {"PictureOnAFullDevice", "render", "/dev/full", "No space left on device"},
         OutputRow {"LayoutOnAFullDevice", "layout", "/dev/full", "No space left on device"}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 TEST(Output, OfAFailedRunKeepsTheOldFile)
 {

@@ -1,4 +1,5 @@
 #include "ToolRun.h"
+#include "support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -141,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(LimitRow {"OfASide", "mega", "40000px", "1", "300 x 32767"},
                     LimitRow {"OfAllPixels", "giga", "3000px", "8", "4000 x 16000"},
                     LimitRow {"WithTheLargestHeight", "nano", "2147483647px", "2", "240 x 32767"}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 } // namespace
 } // namespace plix::test

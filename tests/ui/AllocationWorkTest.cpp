@@ -2,6 +2,7 @@
 // or a copy that was not needed, shows in this count.
 #include "bench/cards/HeapCount.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/CardWork.h"
 #include "ui/ExampleCards.h"
 #include "ui/Hazards.h"
@@ -60,8 +61,7 @@ TEST_P(HazardAllocations, GrowWithTheSizeOnly)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Cards, HazardAllocations, testing::ValuesIn(hazards()),
-                         [](const auto& hazard) { return hazard.param.name; });
+INSTANTIATE_TEST_SUITE_P(Cards, HazardAllocations, testing::ValuesIn(hazards()), RowName());
 
 } // namespace
 } // namespace plix::test

@@ -5,6 +5,7 @@
 #include "model/PlixDataText.h"
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/PlixBoxUI.h"
 #include "ui/PlixWidgetUI.h"
 #include "ui/text/PlixTextUI.h"
@@ -170,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ActionRow {"Separator", component("separator", kOrdinaryAction), true, false},
                     ActionRow {"Filler", component("filler", kOrdinaryAction), true, false},
                     ActionRow {"Spacer", component("spacer", kOrdinaryAction), true, false}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 // ----- Placement
 
@@ -213,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PlacementRow {"None", "vertical", "", 0, 0, false},
                     PlacementRow {"NoneInWords", "vertical", R"("margin": "none",)", 0, 0, true},
                     PlacementRow {"Empty", "vertical", R"("margin": "",)", 0, 0, false}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 using Placement = PlixTest;
 
@@ -312,7 +313,7 @@ INSTANTIATE_TEST_SUITE_P(
                     OffsetRow {"Bottom", "offsetBottom", YGEdgeBottom, YGEdgeBottom},
                     OffsetRow {"Start", "offsetStart", YGEdgeStart, YGEdgeLeft},
                     OffsetRow {"End", "offsetEnd", YGEdgeEnd, YGEdgeEnd}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(Placement, ResolvesPercentagesAgainstTheParent)
 {

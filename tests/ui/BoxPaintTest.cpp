@@ -1,6 +1,7 @@
 // The pixels of boxes and separators.
 #include "support/Picture.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/PlixBoxUI.h"
 
 #include <QGraphicsScene>
@@ -142,7 +143,7 @@ INSTANTIATE_TEST_SUITE_P(
                 component("image", R"("backgroundColor": "#44112233",)"),
                 {50, 50},
                 QColor(0x11, 0x22, 0x33, 0x44)}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(BoxPaint, FillsAnInvalidBackgroundWithBlack)
 {
@@ -190,7 +191,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CornerRow {"OddHeight", "20px", 31, 15}, CornerRow {"JustFits", "15px", 30, 15},
                     CornerRow {"Word", "xxl", 60, 6}, CornerRow {"Zero", "0", 60, 0},
                     CornerRow {"Negative", "-9px", 60, 0}, CornerRow {"NotGiven", "", 60, 0}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(BoxPaint, PassesTheCornersOfABoxOnToTheBoxesInIt)
 {
@@ -240,7 +241,7 @@ INSTANTIATE_TEST_SUITE_P(Widths, BoxBorder,
                                          BorderRow {"Medium", "medium", 2},
                                          BorderRow {"Bold", "bold", 3},
                                          BorderRow {"Pixels", "9px", 5}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 TEST_F(BoxPaint, DrawsNoBorderWithoutAColorOrAWidth)
 {

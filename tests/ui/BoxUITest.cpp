@@ -55,7 +55,7 @@ INSTANTIATE_TEST_SUITE_P(
                     DirectionRow {"Baseline", "baseline", Qt::Horizontal, YGAlignBaseline},
                     DirectionRow {"Empty", "", Qt::Vertical, YGAlignStretch},
                     DirectionRow {"OtherCase", "Horizontal", Qt::Vertical, YGAlignStretch}),
-    rowName<DirectionRow>);
+    RowName());
 
 struct SpacingRow {
     const char* name;
@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Boxes, BoxSpacing,
                                          SpacingRow {"PixelsAddNothing", "vertical", "8px", 0, 0},
                                          SpacingRow {"NoneAddsNothing", "horizontal", "none", 0,
                                                      0}),
-                         rowName<SpacingRow>);
+                         RowName());
 
 using Box = PlixTest;
 
@@ -235,7 +235,7 @@ INSTANTIATE_TEST_SUITE_P(
                  1, YGUnitAuto, 0},
         GrowRow {"RowWithAPercentageKeepsItAndGrows", "horizontal", R"("flex": 1, "width": "30%",)",
                  1, YGUnitPercent, 30}),
-    rowName<GrowRow>);
+    RowName());
 
 TEST_F(Box, HasAnAutomaticWidthAnywhereInAnAbsoluteBox)
 {
@@ -356,7 +356,7 @@ INSTANTIATE_TEST_SUITE_P(
         PaddingRow {"NoBorderWithoutAWidth", R"("borderColor": "#FF0000",)", 0, 0, 0, 0},
         PaddingRow {"NoBorderOfWidthNone", R"("borderWidth": "none", "borderColor": "#FF0000",)", 0,
                     0, 0, 0}),
-    rowName<PaddingRow>);
+    RowName());
 
 struct PercentPaddingRow {
     const char* name;
@@ -387,7 +387,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, PercentPadding,
                                                             YGEdgeBottom},
                                          PercentPaddingRow {"Start", "paddingStart", YGEdgeLeft},
                                          PercentPaddingRow {"End", "paddingEnd", YGEdgeRight}),
-                         rowName<PercentPaddingRow>);
+                         RowName());
 
 TEST_F(Box, InsetsAbsoluteChildrenByItsPaddings)
 {

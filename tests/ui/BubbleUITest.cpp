@@ -5,6 +5,7 @@
 #include "support/LayoutNode.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/PlixBoxUI.h"
 
 #include <QPainterPath>
@@ -55,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(OutlineRow {"High", 200, 12}, OutlineRow {"JustHighEnough", 24, 12},
                     OutlineRow {"JustTooLow", 23, 11}, OutlineRow {"Low", 20, 10},
                     OutlineRow {"LowAndOdd", 19, 9}, OutlineRow {"NoHeight", 0, 0}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 using Bubble = PlixTest;
 
@@ -99,7 +100,7 @@ INSTANTIATE_TEST_SUITE_P(
                     WidthRow {"Kilo", "kilo", 260}, WidthRow {"Micro", "micro", 160},
                     WidthRow {"Nano", "nano", 120}, WidthRow {"Unknown", "tera", 300},
                     WidthRow {"Empty", "", 300}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(Bubble, IsAColumn)
 {
@@ -132,7 +133,7 @@ INSTANTIATE_TEST_SUITE_P(Words, BubbleDirection,
                                          BubbleDirectionRow {"Ltr", "ltr", Qt::LeftToRight},
                                          BubbleDirectionRow {"OtherCase", "RTL", Qt::LeftToRight},
                                          BubbleDirectionRow {"Empty", "", Qt::LeftToRight}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 // ----- Background
 

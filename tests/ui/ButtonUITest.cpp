@@ -7,6 +7,7 @@
 #include "support/Picture.h"
 #include "support/Pixels.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <QCursor>
 #include <QFontMetrics>
@@ -84,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
                   "one two three four five"},
         LabelRow {"Markup", R"("label": "<b>a</b> &lt; <m user=\"7\">b</m>",)", "en",
                   "<b>a</b> &lt; <m user=\"7\">b</m>"}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(Button, WithoutAnActionHasNoLabel)
 {
@@ -254,7 +255,7 @@ INSTANTIATE_TEST_SUITE_P(
         // Qt paints invalid colours black.
         LookRow {"InvalidBackground", kStyles[12].c_str(), Qt::black, Qt::white},
         LookRow {"InvalidLabel", kStyles[13].c_str(), kNone, Qt::black}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(Button, RoundsItsBackground)
 {
@@ -318,7 +319,7 @@ INSTANTIATE_TEST_SUITE_P(Words, ButtonHeight,
                                          HeightRow {"OtherCase", R"("height": "SM",)", 52},
                                          HeightRow {"Empty", R"("height": "",)", 52},
                                          HeightRow {"Pixels", R"("height": "20px",)", 52}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 struct GravityRow {
     const char* name;
@@ -349,7 +350,7 @@ INSTANTIATE_TEST_SUITE_P(Words, ButtonGravity,
                                          GravityRow {"Bottom", "bottom", 100},
                                          GravityRow {"Unknown", "middle", 0},
                                          GravityRow {"Empty", "", 0}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 // Such a box is laid out as a column, but its buttons treat it as a row.
 TEST_F(Button, HasItsGravityInABoxOfAnUnknownLayout)
@@ -469,7 +470,7 @@ INSTANTIATE_TEST_SUITE_P(
         ButtonOffsetRow {
             "PixelsAndShares", R"("offsetTop": "3px", "offsetStart": "50%",)", {100, 3}},
         ButtonOffsetRow {"Negative", R"("offsetTop": "-25%",)", {0, 0}}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 // ----- Font
 
@@ -725,7 +726,7 @@ INSTANTIATE_TEST_SUITE_P(
                     HostileRow {"ManyDirections", [] { return repeated("a\u05D0", 200000); }},
                     HostileRow {"Embeddings", [] { return repeated("\u202E", 300000); }},
                     HostileRow {"Emoji", [] { return repeated("\U0001F600", 200000); }}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(Button, ShowsALabelUpToTheMaximumLength)
 {

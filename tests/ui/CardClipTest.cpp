@@ -5,6 +5,7 @@
 #include "support/LiveView.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
@@ -171,7 +172,7 @@ INSTANTIATE_TEST_SUITE_P(
         ItemRow {"Button",
                  component("button", R"("style": "primary", "action": {"label": "Go"},)")},
         ItemRow {"Separator", component("separator", R"("color": "#FF0000",)")}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 } // namespace
 } // namespace plix::test

@@ -1,4 +1,5 @@
 // The rounded outline of a card.
+#include "support/RowName.h"
 #include "ui/PlixCardOutline.h"
 
 #include <gtest/gtest.h>
@@ -84,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
                     RectRow {"OneCorner", {0, 0, 50, 80}, false, false},
                     RectRow {"BeyondTheCard", {20, 20, 90, 30}, false, false},
                     RectRow {"Empty", {0, 0, 0, 0}, true, false}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 } // namespace
 } // namespace plix::test

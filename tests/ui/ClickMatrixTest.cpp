@@ -4,6 +4,7 @@
 
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <ostream>
 #include <tuple>
@@ -340,8 +341,7 @@ TEST_P(Clickable, IsReportedByHasAction)
     EXPECT_FALSE(Plix_HasAction(card.root())) << "a bubble has no action";
 }
 
-INSTANTIATE_TEST_SUITE_P(Items, Clickable, testing::ValuesIn(rows()),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Items, Clickable, testing::ValuesIn(rows()), RowName());
 
 // ----- From one item to another
 
@@ -438,7 +438,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Drag {"ButtonForAppsToButton", ButtonForApps, Button, ""},
                     Drag {"InnerBoxWithActionToBackground", InnerBoxWithAction, Background, ""},
                     Drag {"InnerBoxWithActionToInnerBox", InnerBoxWithAction, InnerBox, ""}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 // ----- Actions for apps only, with a host that supports them
 
@@ -478,7 +478,7 @@ INSTANTIATE_TEST_SUITE_P(
                     AppItem {"Text", text("words", appAction(kApp))},
                     AppItem {"Image", imageOf(appAction(kApp))},
                     AppItem {"Button", button(appAction(kApp))}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 } // namespace
 } // namespace plix::test

@@ -3,6 +3,7 @@
 
 #include "support/LayoutNode.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <ostream>
 
@@ -53,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
         FillerRow {"CollapsesInARowWithFlexZero", "horizontal", R"("flex": 0,)", 0, 1, 5},
         FillerRow {"OnlyGrowsInABaselineRow", "baseline", "", 1, -1, -1},
         FillerRow {"OnlyCollapsesInABaselineRow", "baseline", R"("flex": 0,)", 0, -1, -1}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 using Filler = PlixTest;
 

@@ -5,6 +5,7 @@
 #include "api/PlixDataMgr.h"
 #include "layout/YogaLayoutItem.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <QApplication>
 #include <QGraphicsScene>
@@ -232,8 +233,7 @@ TEST_P(GeometrySlotInABuildMay, DoAnything)
     EXPECT_GT(number, 8);
 }
 
-INSTANTIATE_TEST_SUITE_P(Hosts, GeometrySlotInABuildMay, testing::ValuesIn(kActions),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Hosts, GeometrySlotInABuildMay, testing::ValuesIn(kActions), RowName());
 
 } // namespace
 } // namespace plix::test

@@ -6,6 +6,7 @@
 #include "support/Mouse.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/PlixFocusStop.h"
 
 #include <kestro_control/KestroControlManager.h>
@@ -376,8 +377,7 @@ TEST_P(ThrowingClickCallback, MayEndTheCardFirst)
     expectClicksToWork(GetParam(), false);
 }
 
-INSTANTIATE_TEST_SUITE_P(Hosts, ThrowingClickCallback, testing::ValuesIn(kSources),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Hosts, ThrowingClickCallback, testing::ValuesIn(kSources), RowName());
 
 TEST_F(ClickCallback, IsNotCalledAfterTheControllerIsFreed)
 {
@@ -763,8 +763,7 @@ TEST_P(ThrowingBuildCallback, MayFreeTheControllerFirst)
     expectClicksToWork();
 }
 
-INSTANTIATE_TEST_SUITE_P(Hosts, ThrowingBuildCallback, testing::ValuesIn(kCalls),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Hosts, ThrowingBuildCallback, testing::ValuesIn(kCalls), RowName());
 
 // So no callback can throw while Qt paints.
 TEST_F(BuildCallback, IsNotCalledWhileACardIsPainted)

@@ -4,6 +4,7 @@
 
 #include "support/Mouse.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <kestro_control/TextItem.h>
 
@@ -139,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(
                              "\xef\xbb\xbf"
                              "a"},
                     EdgeRow {"Pair", R"(\ud83d\ude00)", "😀", "😀"}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 // ----- The text as a whole
 

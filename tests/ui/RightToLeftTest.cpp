@@ -1,6 +1,7 @@
 // Cards of the direction "rtl".
 #include "support/Picture.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/PlixBoxUI.h"
 #include "ui/text/PlixTextUI.h"
 
@@ -127,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(
                     AlignRow {"MirroredCenter", "rtl", "center", kHebrew, Side::Middle},
                     AlignRow {"MirroredLatinStartIsRight", "rtl", "start", "words", Side::Right},
                     AlignRow {"MirroredLatinEndIsLeft", "rtl", "end", "words", Side::Left}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(RightToLeft, SetsTheParagraphDirectionOfTexts)
 {

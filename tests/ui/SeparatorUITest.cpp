@@ -3,6 +3,7 @@
 
 #include "support/Picture.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/PlixBoxUI.h"
 
 #include <ostream>
@@ -81,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
     Words, SeparatorColor,
     testing::Values(ColorRow {"Given", R"("color": "#FF0000",)", QColor(Qt::red)},
                     ColorRow {"Invalid", R"("color": "none",)", QColor(Qt::black)}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(Separator, IsAFaintGreyByDefault)
 {

@@ -2,6 +2,7 @@
 #include "ui/PlixSpacerUI.h"
 
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <ostream>
 
@@ -46,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SpacerRow {"WordInABaselineRow", "baseline", R"("size": "lg",)", 12, -1},
                     SpacerRow {"UnknownWord", "vertical", R"("size": "huge",)", -1, 8},
                     SpacerRow {"Pixels", "vertical", R"("size": "30px",)", -1, 8}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 using Spacer = PlixTest;
 

@@ -6,6 +6,7 @@
 #include "support/Mouse.h"
 #include "support/Pixels.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 
 #include <kestro_control/TextItem.h>
 
@@ -188,27 +189,31 @@ TEST_P(Spoofing, NameMovesNoTextBesideIt)
     }
 }
 
-TEST_P(Spoofing, LabelReachesTheHostAsItIs)
+// What the host gets for a click on the first item of a card with that content.
+std::vector<ST_ACTION> actionsOfAClick(const std::string& content)
 {
-    const std::string& trick = GetParam().text;
     ClickHost host;
     std::vector<ST_ACTION> actions;
     host.onAction = [&](const ST_ACTION& action) { actions.push_back(action); };
-    const TestCard card(
-        bubbleWithBody(box("vertical",
-                           component("button",
-                                     R"("action": {"type": "postback", "label": ")" + escaped(trick)
-                                         + R"(", "data": ")" + escaped(trick) + R"("},)"))),
-        host.setUp());
+    const TestCard card(bubbleWithBody(box("vertical", content)), host.setUp());
     click(*card.root(), card.item({0, 0})->sceneBoundingRect().center());
+    EXPECT_TRUE(staysInside(*card.root()));
+    return actions;
+}
+
+TEST_P(Spoofing, LabelReachesTheHostAsItIs)
+{
+    const std::string& trick = GetParam().text;
+    const std::vector<ST_ACTION> actions =
+        actionsOfAClick(component("button",
+                                  R"("action": {"type": "postback", "label": ")" + escaped(trick)
+                                      + R"(", "data": ")" + escaped(trick) + R"("},)"));
     ASSERT_EQ(actions.size(), 1U);
     EXPECT_EQ(actions[0].label, trick);
     EXPECT_EQ(actions[0].data, trick);
-    EXPECT_TRUE(staysInside(*card.root()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Tricks, Spoofing, testing::ValuesIn(tricks()),
-                         [](const auto& trick) { return std::string(trick.param.name); });
+INSTANTIATE_TEST_SUITE_P(Tricks, Spoofing, testing::ValuesIn(tricks()), RowName());
 
 // ----- Links
 
@@ -217,16 +222,10 @@ class SpoofedLink : public PlixTest, public testing::WithParamInterface<Trick> {
 TEST_P(SpoofedLink, ReachesTheHostAsItIs)
 {
     const std::string& link = GetParam().text;
-    std::vector<ST_ACTION> actions;
-    ClickHost host;
-    host.onAction = [&](const ST_ACTION& action) { actions.push_back(action); };
-    const TestCard card(
-        bubbleWithBody(box("vertical",
-                           text("words",
-                                R"("action": {"type": "uri", "uri": ")" + escaped(link)
-                                    + R"(", "pcUri": ")" + escaped(link) + R"("},)"))),
-        host.setUp());
-    click(*card.root(), card.item({0, 0})->sceneBoundingRect().center());
+    const std::vector<ST_ACTION> actions =
+        actionsOfAClick(text("words",
+                             R"("action": {"type": "uri", "uri": ")" + escaped(link)
+                                 + R"(", "pcUri": ")" + escaped(link) + R"("},)"));
     ASSERT_EQ(actions.size(), 1U);
     EXPECT_EQ(actions[0].uri, link);
     EXPECT_EQ(actions[0].pcUri, link);
@@ -333,7 +332,7 @@ INSTANTIATE_TEST_SUITE_P(
         MarkupRow {"ZeroWidthSpace", "<m\u200b user=\"1\">Ann</m>", 0,
                    "<m\u200b user=\"1\">Ann</m>"},
         MarkupRow {"NameOfNothing", "a<m user=\"1\">\u202e</m>b", 1, "ab"}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 } // namespace
 } // namespace plix::test

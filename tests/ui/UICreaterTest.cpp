@@ -6,6 +6,7 @@
 #include "model/PlixDataBubble.h"
 #include "model/PlixDataText.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/PlixBoxUI.h"
 #include "ui/PlixBubbleUI.h"
 #include "ui/PlixFillerUI.h"
@@ -93,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, CreatedItem,
                                          KindRow {"Filler", PlixKindFiller, &is<PlixFillerUI>},
                                          KindRow {"Separator", PlixKindSeparator,
                                                   &is<PlixSeparatorUI>}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 class UndrawnKind : public PlixTest, public testing::WithParamInterface<int> { };
 

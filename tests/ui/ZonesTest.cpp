@@ -2,6 +2,7 @@
 #include "support/LayoutNode.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/PlixBoxUI.h"
 #include "ui/PlixBubbleUI.h"
 #include "ui/PlixSeparatorUI.h"
@@ -105,7 +106,7 @@ INSTANTIATE_TEST_SUITE_P(
                   {zone("footer"), zone("body"), zone("header")},
                   {style("footer", kLineOn)},
                   "##-#"}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 using Zones = PlixTest;
 
@@ -210,7 +211,7 @@ INSTANTIATE_TEST_SUITE_P(
                     HeroRow {"Button", R"("hero": {"type": "button"})"},
                     HeroRow {"Separator", R"("hero": {"type": "separator"})"},
                     HeroRow {"Text", R"("hero": {"type": "text", "text": "a"})"}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 // ----- Insets
 
@@ -261,7 +262,7 @@ INSTANTIATE_TEST_SUITE_P(
                     InsetRow {"Text", "mega", R"("body": {"type": "text", "text": "a"})", 20, 20},
                     InsetRow {"PaddingAllOfTheBox", "mega",
                               R"("body": {"type": "box", "paddingAll": "3px"})", 3, 3}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(Zones, GiveABoxTheFullWidth)
 {

@@ -1,6 +1,7 @@
 #include "check/JsonParser.h"
 
 #include "CheckedText.h"
+#include "support/RowName.h"
 
 namespace plix::test {
 namespace {
@@ -55,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(
                     JsonRow {"NoType", "{}", {"1:1 not-a-card "}},
                     JsonRow {"AnotherType", R"({"type":"box"})", {"1:9 not-a-card type"}},
                     JsonRow {"Empty", "", {"1:1 syntax "}}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 TEST(JsonParser, ReadsOnAfterAComma)
 {

@@ -1,4 +1,5 @@
 // What looks wrong, and the mend that a finding names.
+#include "support/RowName.h"
 #include "tools/ToolRun.h"
 
 #include <gtest/gtest.h>
@@ -140,7 +141,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "[low-contrast]", "body.contents[0]", R"(try "color": "#)",
                  cardOf(R"({"type": "button", "style": "primary", "color": "#1E6B4C",
                          "action": {"type": "message", "label": "Approve"}})")}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 TEST(LookOptions, EachLanguageIsDrawn)
 {

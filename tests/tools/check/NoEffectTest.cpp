@@ -1,4 +1,5 @@
 #include "CheckedText.h"
+#include "support/RowName.h"
 
 namespace plix::test {
 namespace {
@@ -135,7 +136,7 @@ INSTANTIATE_TEST_SUITE_P(
                          {"type": "spacer"},
                          {"type": "box", "layout": "horizontal", "flex": 2, "width": "20px"}]})",
                      {"body.contents[1].flex"}}),
-    [](const auto& row) { return row.param.name; });
+    RowName());
 
 TEST(NoEffectOfStyles, IsReported)
 {

@@ -1,4 +1,5 @@
 // Files that are cut off, empty, or not pictures.
+#include "support/RowName.h"
 #include "ui/image/AnimationFrames.h"
 #include "ui/image/ChatView.h"
 #include "ui/image/PictureBytes.h"
@@ -67,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(
         BrokenRow {"GifOfNoise", "GIF89a" + QByteArray(2000, '\x5A')},
         BrokenRow {"JpegOfNoise", QByteArray::fromHex("ffd8ffe0") + QByteArray(2000, '\x5A')},
         BrokenRow {"Text", "Not found"}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 } // namespace
 } // namespace plix::test

@@ -1,5 +1,6 @@
 // Files that are made to cost much time or memory.
 #include "layout/PlixLimits.h"
+#include "support/RowName.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
 #include "ui/image/PlixGifPixelCount.h"
@@ -188,7 +189,7 @@ INSTANTIATE_TEST_SUITE_P(
                                           + times(5000, gifFrame({1, 1}, 2)));
                     },
                     kShown}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Png, HostilePicture,
@@ -244,7 +245,7 @@ INSTANTIATE_TEST_SUITE_P(
                 return QByteArray(pngHeader({9, 9}, 1, 0) + bigEndian32(0xFFFFFFFF) + "zTXt");
             },
             kRefused}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Jpeg, HostilePicture,
@@ -274,7 +275,7 @@ INSTANTIATE_TEST_SUITE_P(
                             return QByteArray(withComments(jpegOfScans({100, 100}, 1), 200'000));
                         },
                         kShown}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     Others, HostilePicture,
@@ -320,7 +321,7 @@ INSTANTIATE_TEST_SUITE_P(
                     kRefused},
         HostileRow {"Tiff", [] { return QByteArray(QByteArray::fromHex("49492a0008000000")); },
                     kRefused}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 // ----- Paths that are no files
 
@@ -467,7 +468,7 @@ INSTANTIATE_TEST_SUITE_P(Shapes, ThinPicture,
                          testing::Values(ThinRow {"Wide", {100'000, 1}},
                                          ThinRow {"High", {1, 100'000}},
                                          ThinRow {"OnePixel", {1, 1}}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 // ----- Data that is removed before decoding
 
@@ -577,7 +578,7 @@ INSTANTIATE_TEST_SUITE_P(
                 gifHead({0, 0}) + QByteArray::fromHex("21fe00") + gifFrame({3, 2}, 1)},
         GifRow {"Junk", gifHead({5, 5}) + "x" + gifFrame({3, 2}, 1)},
         GifRow {"EndFirst", gifHead({5, 5}) + ";" + gifFrame({3, 2}, 1)}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 } // namespace
 } // namespace plix::test

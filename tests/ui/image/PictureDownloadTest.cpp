@@ -1,5 +1,6 @@
 // How the files of images get from the host to the items.
 #include "support/LiveView.h"
+#include "support/RowName.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
 #include "ui/image/PlixPictureUI.h"
@@ -108,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LanguageRow {"Default", "ja", R"("ko": "k", "default": "d")", "d"},
                     LanguageRow {"PlainWithoutDefault", "ja", R"("ko": "k")", "plain"},
                     LanguageRow {"PlainWithNothing", "ja", "", "plain"}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(PictureDownload, IsShownByTheNextPaintWhenTheFileIsWrittenLater)
 {
@@ -228,7 +229,7 @@ INSTANTIATE_TEST_SUITE_P(
                     NameRow {"Folder", "https://example.com/a/", ""},
                     NameRow {"NoSlash", "pic.png", "pic.png"}, NameRow {"Empty", "", ""},
                     NameRow {"Dots", "https://example.com/..", ".."}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 } // namespace
 } // namespace plix::test

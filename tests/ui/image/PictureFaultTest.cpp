@@ -1,4 +1,5 @@
 // Files that a host writes, cuts off, replaces or deletes while a card shows them.
+#include "support/RowName.h"
 #include "ui/image/AnimationFrames.h"
 #include "ui/image/ChatView.h"
 #include "ui/image/PictureBytes.h"
@@ -71,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FormatRow {"Jpeg", pictureBytes(filled({8, 8}, Qt::blue), "JPG")},
                     FormatRow {"Gif", gifAnimation({8, 8}, {1, 2})}, FormatRow {"WebP", webP()},
                     FormatRow {"Bmp", pictureBytes(filled({8, 8}, Qt::blue), "BMP")}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 class PictureFault : public PlixTest { };
 

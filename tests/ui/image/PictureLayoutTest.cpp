@@ -1,5 +1,6 @@
 // The sizes and positions of images and icons.
 #include "layout/PlixStyleValues.h"
+#include "support/RowName.h"
 #include "ui/image/PictureCard.h"
 
 #include <QGraphicsWidget>
@@ -53,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SizeRow {"xxxxl", "4xl", 200, 48}, SizeRow {"xxxxxl", "5xl", 220, 74},
                     SizeRow {"None", "", 100, 16}, SizeRow {"Unknown", "huge", 100, 16},
                     SizeRow {"OtherCase", "MD", 100, 16}, SizeRow {"Pixels", "50px", 100, 16}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 using PictureLayout = PlixTest;
 
@@ -155,7 +156,7 @@ INSTANTIATE_TEST_SUITE_P(
                     RatioRow {"TooLargeForANumber", "1e39:1", 1},
                     RatioRow {"QuotientTooLarge", "1e30:1e-30", 1},
                     RatioRow {"QuotientTooSmall", "1e-30:1e30", 1}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(PictureLayout, IsASquareWithoutARatio)
 {
@@ -240,7 +241,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PlaceRow {"ColumnUnknown", "vertical", "ltr", R"("align": "left",)", {0, 0}},
                     PlaceRow {"MirroredStart", "vertical", "rtl", R"("align": "start",)", {160, 0}},
                     PlaceRow {"MirroredEnd", "vertical", "rtl", R"("align": "end",)", {0, 0}}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 } // namespace
 } // namespace plix::test

@@ -1,5 +1,6 @@
 // The pixels of images and icons.
 #include "support/Picture.h"
+#include "support/RowName.h"
 #include "ui/image/PictureBytes.h"
 #include "ui/image/PictureCard.h"
 #include "ui/image/PlixPicturePainter.h"
@@ -101,7 +102,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "ltr",
                 R"("aspectMode": "Cover",)",
                 {50, 0, 100, 100}}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 using PicturePaint = PlixTest;
 
@@ -283,7 +284,7 @@ TEST_P(PictureOnDevice, IsShownPixelForPixelInRoundedBoxes)
 INSTANTIATE_TEST_SUITE_P(Factors, PictureOnDevice,
                          testing::Values(DeviceRow {"One", 1}, DeviceRow {"OneAndAQuarter", 1.25F},
                                          DeviceRow {"OneAndAHalf", 1.5F}, DeviceRow {"Two", 2}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 TEST_F(PicturePaint, FillsTheItemInAViewThatIsScaledOtherwise)
 {
@@ -357,7 +358,7 @@ INSTANTIATE_TEST_SUITE_P(Areas, PictureTarget,
                                          TargetRow {"Halves", {33, 21}, 1.5, {49, 31}},
                                          TargetRow {"Quarters", {33, 23}, 1.25, {41, 28}},
                                          TargetRow {"LessThanAPixel", {0.9, 30}, 1, {0, 30}}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 // ----- The cache
 

@@ -6,6 +6,7 @@
 #include "support/LayoutNode.h"
 #include "support/Picture.h"
 #include "support/PlixTest.h"
+#include "support/RowName.h"
 #include "ui/PlixBoxUI.h"
 
 #include <QFontMetrics>
@@ -272,7 +273,7 @@ INSTANTIATE_TEST_SUITE_P(
             box("horizontal", box("horizontal", text("one"), R"("flex": 0, "width": "90px",)")),
             {0, 0, 0},
             true}),
-    [](const auto& row) { return std::string(row.param.name); });
+    RowName());
 
 using TextWidth = PlixTest;
 
@@ -410,7 +411,7 @@ INSTANTIATE_TEST_SUITE_P(Words, TextGravity,
                                          GravityRow {"Unknown", "middle", false, 0},
                                          GravityRow {"AbsoluteCenter", "center", true, 0},
                                          GravityRow {"AbsoluteBottom", "bottom", true, 0}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         RowName());
 
 TEST_F(TextPlacement, MovesTheLettersByTheGravity)
 {

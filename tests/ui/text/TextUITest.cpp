@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(Words, TextSize,
                                          SizeRow {"FiveXl", "5xl", 74},
                                          SizeRow {"OtherCase", "XL", 16},
                                          SizeRow {"Pixels", "30px", 16}, SizeRow {"Empty", "", 16}),
-                         rowName<SizeRow>);
+                         RowName());
 
 using Text = PlixTest;
 
@@ -179,7 +179,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FontRow {"NoDecoration", "decoration", "none", false, false, false, false},
                     FontRow {"Italic", "style", "italic", false, false, false, true},
                     FontRow {"NormalStyle", "style", "normal", false, false, false, false}),
-    rowName<FontRow>);
+    RowName());
 
 TEST_F(Text, KeepsTheFamilyOfTheItem)
 {
@@ -233,7 +233,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ColorRow {"GivenByTheUser", 1, R"("color": "#FF0000",)", QColor(Qt::red)},
                     ColorRow {"AlphaLast", 0, R"("color": "#FF000080",)", QColor(255, 0, 0, 128)},
                     ColorRow {"Empty", 0, R"("color": "",)", QColor(0x76, 0x76, 0x76)}),
-    rowName<ColorRow>);
+    RowName());
 
 TEST_F(Text, HasAnInvalidColorForUnknownWords)
 {
@@ -289,7 +289,7 @@ INSTANTIATE_TEST_SUITE_P(
         WordsRow {"Default", "ko", R"("i18nTexts": {"en": "other", "default": "d"},)", "d"},
         WordsRow {"PlainWithoutADefault", "ko", R"("i18nTexts": {"en": "other"},)", "plain"},
         WordsRow {"PlainWithoutVariants", "ko", "", "plain"}),
-    rowName<WordsRow>);
+    RowName());
 
 TEST_F(Text, ShowsASpanThatConvertsToNothingAsASpace)
 {
@@ -403,7 +403,7 @@ INSTANTIATE_TEST_SUITE_P(
         LinesRow {"SpansIgnoreTheLimit", spans(span(kFiveLines), R"("wrap": true, "maxLines": 3,)"),
                   5},
         LinesRow {"SpansNotWrapped", spans(span(kFiveLines), R"("maxLines": 3,)"), 1}),
-    rowName<LinesRow>);
+    RowName());
 
 struct WrapRow {
     const char* name;
@@ -449,7 +449,7 @@ INSTANTIATE_TEST_SUITE_P(
                              QTextOption::WrapAtWordBoundaryOrAnywhere},
                     WrapRow {"TooLarge", 5, QTextOption::WrapAtWordBoundaryOrAnywhere},
                     WrapRow {"Negative", -1, QTextOption::WrapAtWordBoundaryOrAnywhere}),
-    rowName<WrapRow>);
+    RowName());
 
 TEST_F(Text, WrapsAtWordsOrAnywhereWithoutAController)
 {
@@ -496,7 +496,7 @@ INSTANTIATE_TEST_SUITE_P(Words, TextAlign,
                                          AlignRow {"Start", "start", Qt::AlignLeft},
                                          AlignRow {"Unknown", "justify", Qt::AlignLeft},
                                          AlignRow {"Empty", "", Qt::AlignLeft}),
-                         rowName<AlignRow>);
+                         RowName());
 
 } // namespace
 } // namespace plix::test

@@ -19,9 +19,7 @@ kestro::TextWork workIn(const std::function<void()>& steps)
 {
     const kestro::TextWork before = kestro::WorkSoFar();
     steps();
-    const kestro::TextWork after = kestro::WorkSoFar();
-    return {after.documents - before.documents, after.shapings - before.shapings,
-            after.lineBreakings - before.lineBreakings};
+    return kestro::WorkSoFar() - before;
 }
 
 int paragraphsOf(QGraphicsItem& root)
